@@ -1,0 +1,15 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+using Action = void (*)(App& app, ControlId id);
+
+// What a click on a control does, or null where nothing is built for it yet.
+Action actionOf(ControlId id);
+
+// Buttons, toggles and menu entries: what is greyed when it has no action.
+bool isClickable(ControlId id);
+
+} // namespace mirtane

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "app/ports.h"
+#include "model/session.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// What a routine of the shell works on.
+struct App {
+    Session& s;
+    Canvas& pic1;
+    Ports& ports;
+};
+
+} // namespace mirtane

@@ -1,0 +1,230 @@
+#include "app/canvas_input.h"
+
+#include "app/construction_line.h"
+#include "app/dispatch.h"
+#include "commands/prompt.h"
+#include "commands/vocabulary.h"
+#include "geometry/angle.h"
+#include "geometry/ortho.h"
+#include "model/insertion.h"
+#include "render/redraw.h"
+#include "render/view.h"
+#include "text/utf8.h"
+
+namespace mirtane {
+namespace {
+
+constexpr int leftButton = 1;
+constexpr int rightButton = 2;
+
+// A parked point lies this far (world units, both ways) from the first one, so that the first click of the
+// next action is not taken for a second click on the same spot.
+constexpr float parkedAway = 200;
+
+bool takesWindow(const Session& s)
+{
+    return zoomWindowIsOn(s) || isWindowFunction(s.curFunc);
+}
+
+void takeWindowCorner(Session& s, Canvas& pic1, Point at)
+{
+    ++s.windowStep;
+    s.window2 = at;
+    if (s.windowStep == 1) s.window1 = at;
+    if (s.windowStep == 2) zoomWindowFinish(s, pic1);
+}
+
+void storeClick(Session& s, Point at)
+{
+    if (s.stepNo == 1) s.pickFirst = at;
+    if (s.stepNo > 1) s.pickLast = at;
+    s.mousePos = at;
+}
+
+void confineClick(Session& s, const FunctionRow& row)
+{
+    if (s.stepNo < 2 || !orthoIsOn(s) || !applies(row.orthoOnClick, s.stepNo)) return;
+    confinePickLast(s, distance(s.pickFirst, s.pickLast));
+}
+
+void confineMove(Session& s, const FunctionRow& row)
+{
+    if (!orthoIsOn(s) || !applies(row.orthoOnMove, s.stepNo)) return;
+    s.liveAngle = directionAngle(s.pickFirst, s.pickLast, s.liveAngle);
+    s.orthoSector = sectorOfDirection(s.liveAngle, s.orthoAngle);
+    confinePickLast(s, distance(s.pickFirst, s.pickLast));
+}
+
+bool isDigit(char32_t code)
+{
+    return code >= U'0' && code <= U'9';
+}
+
+bool isPartOfNumber(char32_t code)
+{
+    return isDigit(code) || code == U'.' || code == U'-' || code == U'\'';
+}
+
+// The rest is typed in entry.
+void passToEntry(Session& s, char32_t code)
+{
+    Control& entry = s.controls["entry"_c];
+    setText(entry, encodeUtf8(code));
+    setCaret(entry, 2);
+    s.controls.focus = "entry"_c;
+}
+
+void passNumberToEntry(Session& s, char32_t code)
+{
+    if (code == U',') code = U'.';
+    if (isPartOfNumber(code)) passToEntry(s, code);
+}
+
+void endSelection(Session& s, Canvas& pic1)
+{
+    changeStat(s.store, Stat::sel, Stat::on);
+    redrawAll(s, pic1);
+    s.editPending = 0;
+}
+
+void offerEdits(Session& s)
+{
+    if (countWithStat(s.store, Stat::sel) == 0) {
+        setText(s.controls["entry"_c], "Nothing selected!");
+    } else {
+        s.controls["frmedit"_c].visible = true;
+    }
+}
+
+} // namespace
+
+bool orthoIsOn(const Session& s)
+{
+    return s.controls["freecurs"_c].caption != "Ortho/Off";
+}
+
+void confinePickLast(Session& s, double d)
+{
+    s.pickLast = pointOnAxis(s.pickFirst, d, s.orthoSector, s.orthoAngle, s.pickLast);
+}
+
+void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
+{
+    setText(s.controls["entry"_c], "");
+    s.controls["frmfilter"_c].visible = false;
+    if (button == rightButton) return cancel(s, pic1, at);
+    s.controls["frmedit"_c].visible = false;
+    if (takesWindow(s)) {
+        if (button == leftButton) takeWindowCorner(s, pic1, at);
+        return;
+    }
+    if (s.curFunc == "Blank Line") {
+        if (button == leftButton) constructionClick(s, pic1, at);
+        return;
+    }
+    const FunctionRow* row = findFunction(s.curFunc);
+    if (row == nullptr) return;
+    if (button == leftButton) ++s.stepNo;
+    storeClick(s, at);
+    s.pointWasSnapped = false;
+    confineClick(s, *row);
+    s.controls["snaplab"_c].caption.clear();
+    if (row->samePointCancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
+    callStep(s, pic1);
+    updateGauge(s);
+}
+
+void cancel(Session& s, Canvas& pic1, Point at)
+{
+    if (zoomWindowIsOn(s)) return zoomWindowCancel(s, pic1);
+    s.ptA = at;
+    s.liveAngle = 0;
+    s.workAngle = 0;
+    s.controls["snaplab"_c].caption.clear();
+    s.controls["blank"_c].caption = "Blank/Off";
+    setText(s.controls["snapbox"_c], "");
+    s.pickLast = {s.pickFirst.x + parkedAway, s.pickFirst.y + parkedAway};
+    s.stepNo = 0;
+    s.windowStep = 0;
+    s.textLength = 0;
+    s.boundaryCount = 0;
+    s.pointWasSnapped = false;
+    setRubberBandPen(pic1);
+    s.curFunc = s.baseFunc;
+    resetPicture(pic1);
+    s.orthoAngle = s.orthoAngleSaved;
+    s.controls["freecurs"_c].caption = s.orthoCaption;
+    setPrompt(s, pic1);
+    if (s.curFunc == "Text Edit" || s.editPending == 1) {
+        endSelection(s, pic1);
+    } else if (!isSelectionFunction(s.curFunc)) {
+        s.controls.focus = "pic1"_c;
+    } else {
+        offerEdits(s);
+    }
+}
+
+void canvasMouseMove(Session& s, Canvas& pic1, Point at)
+{
+    if (takesWindow(s)) {
+        if (s.windowStep == 0) return;
+        s.window2 = at;
+        drawWindowBox(s, pic1);
+        return;
+    }
+    if (s.curFunc == "Blank Line") return constructionMove(s, pic1, at);
+    if (s.stepNo == 0) return;
+    const FunctionRow* row = findFunction(s.curFunc);
+    if (row == nullptr) return;
+    s.pickLast = at;
+    confineMove(s, *row);
+    callBand(s, pic1);
+}
+
+void canvasKeyDown(Session& s, Canvas& pic1, int code)
+{
+    struct Pan {
+        int code;
+        double widths, heights;
+    };
+    static constexpr Pan pans[] = {{37, -0.1, 0}, {38, 0, -0.1}, {39, 0.1, 0}, {40, 0, 0.1}};
+    if (code == 16) s.snapKey = 1;
+    if (code == 17) s.snapKey = 2;
+    for (const Pan& p : pans) {
+        if (p.code == code) pan(s, pic1, p.widths, p.heights);
+    }
+    s.controls.focus = "pic1"_c;
+}
+
+void canvasKeyUp(Session& s)
+{
+    s.snapKey = 0;
+}
+
+void canvasKeyPress(Session& s, Canvas&, char32_t code)
+{
+    const FunctionRow* row = findFunction(s.curFunc);
+    if (row == nullptr) return;
+    switch (row->canvasKeys) {
+    case CanvasKeys::numberOnceBegun:
+        if (s.stepNo > 0) passNumberToEntry(s, code);
+        return;
+    case CanvasKeys::numberOnceBlankLeg:
+        if (s.blankStep > 0) passNumberToEntry(s, code);
+        return;
+    case CanvasKeys::numberAlways:
+        passNumberToEntry(s, code);
+        return;
+    case CanvasKeys::sidesAtStart:
+        if (s.stepNo > 0) passNumberToEntry(s, code);
+        if (s.stepNo == 0 && isDigit(code)) passToEntry(s, code);
+        return;
+    case CanvasKeys::name:
+        if (code >= U' ') passToEntry(s, code);
+        return;
+    case CanvasKeys::liveText:
+        return;
+    }
+}
+
+} // namespace mirtane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// The five numeric fields: angle, textrot, hatrot, assrot, snapper.
+bool isNumericField(ControlId id);
+
+// A key press: digits, ".", "," (which becomes "."), "-" and Backspace pass; m or M starts the match function
+// of angle and textrot; Enter stores a value that the field takes, and gives the focus to the drawing either
+// way.
+void fieldKeyPress(App& app, ControlId id, char32_t code);
+
+// The field lost the focus: shows the stored value again, so that a half-typed one is undone.
+void fieldLeft(Session& s, ControlId id);
+
+// A click clears the field for a new value.
+void fieldClicked(App& app, ControlId id);
+
+} // namespace mirtane

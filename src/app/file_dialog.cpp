@@ -1,0 +1,243 @@
+#include "app/file_dialog.h"
+
+#include "app/file_flows.h"
+#include "app/start_stop.h"
+#include "app/typed_entry.h"
+#include "commands/prompt.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+struct PatternRow {
+    std::string_view pattern;
+    std::string_view extension;
+    std::string_view typeLine;
+    FolderPair FileState::*folders;
+};
+
+constexpr PatternRow patternRows[] = {
+    {"*.mtd", ".mtd", "Mirtane Drawing    *.mtd", &FileState::drawings},
+    {"*.dxf", ".dxf", "DXF Format    *.dxf", &FileState::dxf},
+    {"*.mta", ".mta", "Mirtane Associate    *.mta", &FileState::associates},
+    {"*.mth", ".mth", "Mirtane Hatch    *.mth", &FileState::hatches},
+    {"*.mtm", ".mtm", "Multiple Lines    *.mtm", &FileState::multipleLines},
+};
+
+const PatternRow& patternOf(const Session& s)
+{
+    const auto* const found = std::ranges::find(patternRows, s.filePattern, &PatternRow::pattern);
+    return found == std::end(patternRows) ? patternRows[0] : *found;
+}
+
+std::string& folderShown(Session& s)
+{
+    return s.controls["frmfile.Dir1"_c].text;
+}
+
+// All after the first "." is dropped and the pattern's extension added; nothing of a name without a base.
+std::string normalisedName(const Session& s)
+{
+    const std::string& typed = s.controls["frmfile.Text1"_c].text;
+    const std::string base = typed.substr(0, typed.find('.'));
+    return base.empty() ? base : base + std::string(patternOf(s).extension);
+}
+
+bool isSaving(const Session& s)
+{
+    const std::string& caption = s.controls["frmfile.Command1"_c].caption;
+    return caption == "Save" || caption == "Overwrite?";
+}
+
+// The one overwrite warning: the button says so while the name is that of a file in the list.
+void showWhetherItOverwrites(Session& s)
+{
+    if (!isSaving(s)) return;
+    const std::vector<std::string>& names = s.controls["frmfile.File1"_c].rows;
+    const bool present = std::ranges::find(names, normalisedName(s)) != names.end();
+    s.controls["frmfile.Command1"_c].caption = present ? "Overwrite?" : "Save";
+}
+
+// The drive that the folder shown lies on is the longest that leads to it.
+int driveOf(const std::vector<std::string>& drives, const std::string& folder)
+{
+    int found = -1;
+    std::size_t longest = 0;
+    for (std::size_t i = 0; i < drives.size(); ++i) {
+        if (!folder.starts_with(drives[i]) || drives[i].size() < longest) continue;
+        longest = drives[i].size();
+        found = static_cast<int>(i); // a machine has few drives
+    }
+    return found;
+}
+
+void showFolder(App& app, const std::string& folder)
+{
+    Session& s = app.s;
+    Control& files = s.controls["frmfile.File1"_c];
+    Control& folders = s.controls["frmfile.Dir1"_c];
+    Control& drives = s.controls["frmfile.Drive1"_c];
+    folders.text = folder;
+    folders.rows = app.ports.folders.subfolders(folder);
+    if (folder != "/") folders.rows.insert(folders.rows.begin(), "..");
+    folders.row = -1;
+    files.rows = app.ports.folders.files(folder, std::string(patternOf(s).extension));
+    files.row = -1;
+    drives.rows = app.ports.folders.drives();
+    drives.rows.push_back((s.*patternOf(s).folders).working);
+    drives.row = driveOf(drives.rows, folder);
+}
+
+std::string parentOf(const std::string& folder)
+{
+    const auto slash = folder.rfind('/');
+    return slash == 0 || slash == std::string::npos ? "/" : folder.substr(0, slash);
+}
+
+std::string firstThatExists(App& app, const FolderPair& folders)
+{
+    for (const std::string& folder : {folders.last, folders.working}) {
+        if (app.ports.folders.exists(folder)) return folder;
+    }
+    return app.s.programFolder;
+}
+
+struct Flow {
+    std::string_view caption;
+    std::string_view button;
+    std::string_view pattern;
+};
+
+void openDialog(App& app, const Flow& flow, const std::string& name)
+{
+    Session& s = app.s;
+    s.filePattern = flow.pattern;
+    const PatternRow& pattern = patternOf(s);
+    s.controls["frmfile"_c].caption = flow.caption;
+    s.controls["frmfile.Command1"_c].caption = flow.button;
+    s.controls["frmfile.Command2"_c].caption = "Close";
+    setText(s.controls["frmfile.Text2"_c], std::string(pattern.typeLine));
+    setText(s.controls["frmfile.Text1"_c], name);
+    s.saveFollowUp = follow::nothing;
+    showFolder(app, firstThatExists(app, s.*pattern.folders));
+    s.controls["frmfile"_c].visible = true;
+    s.controls.focus = "frmfile.Text1"_c;
+}
+
+void hideDialog(Session& s)
+{
+    s.controls["frmfile"_c].visible = false;
+    s.controls.focus = "pic1"_c;
+}
+
+// What was asked for before the work was saved or given up.
+void carryOutFollowUp(App& app)
+{
+    const std::int16_t followUp = app.s.saveFollowUp;
+    if (followUp == follow::exit) return endProgram(app);
+    if (followUp == follow::nothing) {
+        setPrompt(app.s, app.pic1);
+        return hideDialog(app.s);
+    }
+    clearDrawing(app);
+    app.s.saveFollowUp = follow::nothing;
+    hideDialog(app.s);
+    if (followUp == follow::openDrawing) openDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
+    if (followUp == follow::openDxf) openDialog(app, {"Open DXF", "Open", "*.dxf"}, "");
+}
+
+} // namespace
+
+void offerToSave(App& app, std::int16_t followUp)
+{
+    openDialog(app, {"Save Changes", "Save", "*.mtd"}, app.s.drawingName);
+    app.s.saveFollowUp = followUp;
+    app.s.controls["frmfile.Command2"_c].caption = followUp == follow::exit ? "End" : "Close";
+}
+
+void openDrawingEntry(App& app, ControlId)
+{
+    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::openDrawing);
+    openDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
+}
+
+void closeDrawingEntry(App& app, ControlId)
+{
+    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::clear);
+    clearDrawing(app);
+}
+
+void saveDrawingEntry(App& app, ControlId)
+{
+    openDialog(app, {"Save File", "Save", "*.mtd"}, app.s.drawingName);
+}
+
+void exitEntry(App& app, ControlId)
+{
+    leaveProgram(app);
+}
+
+void confirmFileDialog(App& app, ControlId)
+{
+    Session& s = app.s;
+    const std::string name = normalisedName(s);
+    if (name.empty()) return;
+    setText(s.controls["frmfile.Text1"_c], name);
+    (s.*patternOf(s).folders).last = folderShown(s);
+    const FileChoice choice{folderShown(s), name, s.controls["frmfile"_c].caption, s.filePattern};
+    if (isSaving(s)) {
+        if (!saveFile(app, choice)) return;
+        carryOutFollowUp(app);
+    } else if (openFile(app, choice)) {
+        hideDialog(s);
+    }
+}
+
+void dismissFileDialog(App& app, ControlId)
+{
+    if (app.s.controls["frmfile"_c].caption == "Save Changes") return carryOutFollowUp(app);
+    closeFileDialog(app);
+}
+
+void closeFileDialog(App& app)
+{
+    app.s.saveFollowUp = follow::nothing;
+    hideDialog(app.s);
+}
+
+void fileNameKeyPress(App& app, char32_t code)
+{
+    if (code == enterKey) return confirmFileDialog(app, "frmfile.Command1"_c);
+    passKey(app.s.controls["frmfile.Text1"_c], code);
+    showWhetherItOverwrites(app.s);
+}
+
+void chooseFile(App& app, int row)
+{
+    Session& s = app.s;
+    Control& files = s.controls["frmfile.File1"_c];
+    files.row = row;
+    setText(s.controls["frmfile.Text1"_c],
+            files.rows[static_cast<std::size_t>(row)]); // the shell checks rows
+    Control& button = s.controls["frmfile.Command1"_c];
+    if (button.caption == "Save") button.caption = "Overwrite?";
+}
+
+void chooseFolder(App& app, int row)
+{
+    const std::string chosen =
+        app.s.controls["frmfile.Dir1"_c].rows[static_cast<std::size_t>(row)]; // checked
+    const std::string shown = folderShown(app.s);
+    showFolder(app, chosen == ".." ? parentOf(shown) : (shown == "/" ? "" : shown) + "/" + chosen);
+    showWhetherItOverwrites(app.s);
+}
+
+void chooseDrive(App& app, int row)
+{
+    showFolder(
+        app, app.s.controls["frmfile.Drive1"_c].rows[static_cast<std::size_t>(row)]); // the shell checks rows
+    showWhetherItOverwrites(app.s);
+}
+
+} // namespace mirtane

@@ -1,0 +1,214 @@
+// app/shell.cpp: events are routed by the control they belong to; what they do stands in the routines called.
+
+#include "app/shell.h"
+
+#include "app/actions.h"
+#include "app/canvas_input.h"
+#include "app/fields.h"
+#include "app/file_dialog.h"
+#include "app/start_stop.h"
+#include "app/typed_entry.h"
+#include "render/redraw.h"
+#include "render/view.h"
+#include "text/numbers.h"
+
+#include <cmath>
+
+namespace mirtane {
+namespace {
+
+bool canBeUsed(const Controls& controls, ControlId id)
+{
+    return controls[id].visible && controls[id].enabled && controls[formOf(id)].visible;
+}
+
+bool hasRow(const Control& list, int row)
+{
+    return row >= 0 && row < std::ssize(list.rows);
+}
+
+struct ListRow {
+    ControlId list;
+    void (*chosen)(App& app, int row);
+};
+
+// Rows that do their work at a click.
+constexpr ListRow listRows[] = {
+    {"frmfile.File1"_c, chooseFile},
+    {"frmfile.Dir1"_c, chooseFolder},
+    {"frmfile.Drive1"_c, chooseDrive},
+};
+
+void rowChosen(App& app, ControlId list, int row)
+{
+    for (const ListRow& candidate : listRows) {
+        if (candidate.list == list) candidate.chosen(app, row);
+    }
+}
+
+void listEnter(App& app, ControlId list)
+{
+    if (list == "frmfile.File1"_c) return confirmFileDialog(app, list);
+    const int row = app.s.controls[list].row;
+    if (hasRow(app.s.controls[list], row)) rowChosen(app, list, row);
+}
+
+void keyToControl(App& app, ControlId id, char32_t code)
+{
+    Session& s = app.s;
+    if (id == "pic1"_c) return canvasKeyPress(s, app.pic1, code);
+    if (id == "entry"_c) return entryKeyPress(s, app.pic1, code);
+    if (id == "frmfile.Text1"_c) return fileNameKeyPress(app, code);
+    if (isNumericField(id)) return fieldKeyPress(app, id, code);
+    if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
+    if (id.row().kind == ControlKind::combo) return passKey(s.controls[id], code);
+    const bool pressed = code == enterKey || code == U' ';
+    if (isClickable(id) && pressed) {
+        if (const Action action = actionOf(id)) action(app, id);
+    }
+}
+
+} // namespace
+
+Shell::Shell(Session& session, Canvas& pic1, Ports ports) : s_(session), pic1_(pic1), ports_(ports) {}
+
+void Shell::start()
+{
+    App app{s_, pic1_, ports_};
+    startProgram(app);
+    settle(s_.controls.focus);
+}
+
+void Shell::mouseDown(int button, Point at)
+{
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    canvasMouseDown(s_, pic1_, button, at);
+    settle(before);
+}
+
+void Shell::mouseMove(Point at)
+{
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    canvasMouseMove(s_, pic1_, at);
+    s_.controls["pointerlab"_c].caption =
+        formatNumber(at.x, NumberFormat::thousandths) + "  " + formatNumber(at.y, NumberFormat::thousandths);
+    settle(before);
+}
+
+void Shell::wheel(double steps, Point at)
+{
+    constexpr double factorOfOneStep = 1.25;
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    zoomAbout(s_, pic1_, at, std::pow(factorOfOneStep, steps));
+    canvasMouseMove(s_, pic1_, at); // the rubber band, if there is one, goes on at the new scale
+    settle(before);
+}
+
+void Shell::keyDown(int code)
+{
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    canvasKeyDown(s_, pic1_, code);
+    settle(before);
+}
+
+void Shell::keyUp(int)
+{
+    if (ended()) return;
+    canvasKeyUp(s_);
+}
+
+void Shell::resized()
+{
+    readViewLimits(s_, pic1_);
+}
+
+void Shell::redraw()
+{
+    redrawAll(s_, pic1_);
+}
+
+void Shell::keyPress(char32_t code)
+{
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    if (!canBeUsed(s_.controls, before)) return;
+    App app{s_, pic1_, ports_};
+    keyToControl(app, before, code);
+    settle(before);
+}
+
+void Shell::click(ControlId id)
+{
+    if (ended() || !canBeUsed(s_.controls, id)) return;
+    const ControlId before = s_.controls.focus;
+    const ControlKind kind = id.row().kind;
+    if (kind == ControlKind::field || kind == ControlKind::display || kind == ControlKind::combo) {
+        s_.controls.focus = id;
+    }
+    App app{s_, pic1_, ports_};
+    if (const Action action = actionOf(id)) action(app, id);
+    settle(before);
+}
+
+void Shell::clickRow(ControlId list, int row)
+{
+    moveToRow(list, row);
+    if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
+    const ControlId before = s_.controls.focus;
+    App app{s_, pic1_, ports_};
+    rowChosen(app, list, row);
+    settle(before);
+}
+
+void Shell::moveToRow(ControlId list, int row)
+{
+    if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
+    const ControlId before = s_.controls.focus;
+    s_.controls[list].row = row;
+    s_.controls.focus = list;
+    App app{s_, pic1_, ports_};
+    if (list == "frmfile.File1"_c) chooseFile(app, row);
+    settle(before);
+}
+
+void Shell::doubleClickRow(ControlId list, int row)
+{
+    if (list != "frmfile.File1"_c) return;
+    clickRow(list, row);
+    keyPress(enterKey);
+}
+
+void Shell::giveFocus(ControlId id)
+{
+    if (ended() || !canBeUsed(s_.controls, id)) return;
+    const ControlId before = s_.controls.focus;
+    s_.controls.focus = id;
+    settle(before);
+}
+
+void Shell::closeForm(ControlId form)
+{
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    App app{s_, pic1_, ports_};
+    if (form == "frmMain"_c) {
+        leaveProgram(app);
+    } else if (form == "frmfile"_c) {
+        closeFileDialog(app);
+    } else {
+        s_.controls[form].visible = false;
+    }
+    settle(before);
+}
+
+void Shell::settle(ControlId focusBefore)
+{
+    if (s_.controls.focus != focusBefore) fieldLeft(s_, focusBefore);
+    s_.controls["promptlab"_c].caption = s_.promptText;
+}
+
+} // namespace mirtane

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "app/ports.h"
+#include "model/session.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// The main object of the program without its window. Every event of the user comes in here, one at a time,
+// and is routed; what the user then sees is in session().controls and on the surface. An event for a control
+// that is greyed, or that stands on a form that is not shown, does nothing.
+class Shell {
+  public:
+    // The surface, its scale set, and the ports must outlive the shell.
+    Shell(Session& session, Canvas& pic1, Ports ports);
+
+    // The start of the program: defaults, settings, function "Line", an empty drawing.
+    void start();
+    bool ended() const { return s_.ended; }
+
+    // On pic1. Buttons: 1 left, 2 right, 4 middle. Points are world coordinates.
+    void mouseDown(int button, Point at);
+    void mouseMove(Point at);
+    // Zooms about a point; steps above 0 zoom in.
+    void wheel(double steps, Point at);
+    // Key codes: 16 Shift, 17 Ctrl, 37 left, 38 up, 39 right, 40 down.
+    void keyDown(int code);
+    void keyUp(int code);
+    // The surface has a new size in pixels; its scale width and height follow at the same units to the pixel.
+    void resized();
+    // Repaints; the window asks for it when a resize has come to rest.
+    void redraw();
+
+    // A key press, to the control that has the focus: a character's code, 13 Enter, 8 Backspace.
+    void keyPress(char32_t code);
+
+    // A click on a button, toggle, menu entry, label or text box.
+    void click(ControlId id);
+    void clickRow(ControlId list, int row);
+    // An arrow key moved to the row of a list.
+    void moveToRow(ControlId list, int row);
+    void doubleClickRow(ControlId list, int row);
+    // The control got the focus; the one that had it gets its lost-focus event.
+    void giveFocus(ControlId id);
+    // The close button of a form's frame.
+    void closeForm(ControlId form);
+
+    Session& session() { return s_; }
+    const Session& session() const { return s_; }
+
+  private:
+    // After each event: the lost-focus event of the control that had the focus before, and the prompt line.
+    void settle(ControlId focusBefore);
+
+    Session& s_;
+    Canvas& pic1_;
+    Ports ports_;
+};
+
+} // namespace mirtane

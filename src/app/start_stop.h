@@ -1,0 +1,23 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// The start of the program: the sixteen layers, the settings, the function "Line" and its prompt. The session
+// is a new one; controls without a routine are greyed.
+void startProgram(App& app);
+
+// The Exit entry and the close button of the window: ends the program, or offers to save unsaved work first.
+void leaveProgram(App& app);
+
+// Writes the settings and ends the program.
+void endProgram(App& app);
+
+bool hasUnsavedWork(const Session& s);
+
+// Closes the drawing: an empty one with sixteen layers and the name "untitled.mtd". Slots keep their fields,
+// libraries their rows.
+void clearDrawing(App& app);
+
+} // namespace mirtane

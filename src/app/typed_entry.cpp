@@ -1,0 +1,139 @@
+#include "app/typed_entry.h"
+
+#include "app/canvas_input.h"
+#include "app/construction_line.h"
+#include "app/dispatch.h"
+#include "commands/polygon.h"
+#include "commands/prompt.h"
+#include "commands/vocabulary.h"
+#include "geometry/angle.h"
+#include "geometry/fault.h"
+#include "text/distance_grammar.h"
+#include "text/numbers.h"
+#include "text/utf8.h"
+
+namespace mirtane {
+namespace {
+
+bool isDigit(char32_t code)
+{
+    return code >= U'0' && code <= U'9';
+}
+
+std::string takeText(Session& s)
+{
+    Control& entry = s.controls["entry"_c];
+    std::string text = entry.text;
+    setText(entry, "");
+    return text;
+}
+
+void backToDrawing(Session& s, Canvas& pic1)
+{
+    setText(s.controls["entry"_c], "");
+    setPrompt(s, pic1);
+    s.controls.focus = "pic1"_c;
+}
+
+void sidesKey(Session& s, Canvas& pic1, char32_t code)
+{
+    Control& entry = s.controls["entry"_c];
+    if (isDigit(code) || code == backspaceKey) return passKey(entry, code);
+    if (code != enterKey) return;
+    const double sides = readNumber(entry.text);
+    if (sides > sidesAbove && sides < sidesBelow) keep(s.polygonSides, sides);
+    backToDrawing(s, pic1);
+}
+
+// pickLast at distance d on the way from pickFirst to where it stands.
+void layAlongLine(Session& s, float d)
+{
+    const Point from = s.pickFirst;
+    const Point to = s.pickLast;
+    const double length = distance(from, to);
+    keep(s.pickLast.x, from.x + d * quotient(to.x - from.x, length));
+    keep(s.pickLast.y, from.y - d * quotient(from.y - to.y, length));
+}
+
+void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
+{
+    constexpr float leastInEmptyDrawing = 0.012F; // a thousandth of an inch
+    if (d < leastInEmptyDrawing && s.store.entCount == 1) return backToDrawing(s, pic1);
+    if (orthoIsOn(s)) {
+        confinePickLast(s, d);
+    } else {
+        layAlongLine(s, d);
+    }
+    ++s.stepNo;
+    if (row.typedDistance == TypedDistance::laysPoint) callStep(s, pic1);
+    s.controls.focus = "pic1"_c;
+}
+
+void takeSize(Session& s, Canvas& pic1, float& size, float d)
+{
+    size = d;
+    s.curFunc = s.baseFunc;
+    s.stepNo = 0;
+    backToDrawing(s, pic1);
+}
+
+void actOnDistance(Session& s, Canvas& pic1, const FunctionRow& row)
+{
+    const float d = readDistance(takeText(s), s.numStyle == "br");
+    switch (row.typedDistance) {
+    case TypedDistance::laysBlankLeg:
+        constructionDistance(s, pic1, d);
+        return;
+    case TypedDistance::setsFilletRadius:
+        s.filletRadius = d;
+        backToDrawing(s, pic1);
+        return;
+    case TypedDistance::setsTextSize:
+        takeSize(s, pic1, s.textSize, d);
+        return;
+    case TypedDistance::setsArrowSize:
+        takeSize(s, pic1, s.arrowSize, d);
+        return;
+    case TypedDistance::offsetsCopy:
+        callStep(s, pic1);
+        return;
+    case TypedDistance::laysPoint:
+    case TypedDistance::discarded:
+        layPoint(s, pic1, row, d);
+        return;
+    }
+}
+
+void distanceKey(Session& s, Canvas& pic1, const FunctionRow& row, char32_t code)
+{
+    Control& entry = s.controls["entry"_c];
+    if (code == U',') code = U'.';
+    const bool passes = isDigit(code) || code == U'+' || code == U'-' || code == U'.' || code == U'\'';
+    if (passes || code == backspaceKey) return passKey(entry, code);
+    if (code != enterKey) return;
+    if (entry.text.empty()) return backToDrawing(s, pic1);
+    actOnDistance(s, pic1, row);
+}
+
+} // namespace
+
+void passKey(Control& control, char32_t code)
+{
+    if (code == backspaceKey) {
+        backspaceIn(control);
+    } else if (code >= U' ') {
+        typeInto(control, encodeUtf8(code));
+    }
+}
+
+void entryKeyPress(Session& s, Canvas& pic1, char32_t code)
+{
+    const FunctionRow* row = findFunction(s.curFunc);
+    if (row == nullptr) return;
+    const bool begun = row->entryKeys == EntryKeys::distanceOnceBlankLeg ? s.blankStep > 0 : s.stepNo > 0;
+    if (row->entryKeys == EntryKeys::sidesAtStart && !begun) return sidesKey(s, pic1, code);
+    if (!begun && row->entryKeys != EntryKeys::distanceAlways) return passKey(s.controls["entry"_c], code);
+    distanceKey(s, pic1, *row, code);
+}
+
+} // namespace mirtane

@@ -1,0 +1,85 @@
+#include "commands/prompt.h"
+
+#include "commands/vocabulary.h"
+#include "geometry/fault.h"
+#include "model/title.h"
+#include "render/redraw.h"
+#include "text/numbers.h"
+
+namespace mirtane {
+namespace {
+
+constexpr double unitsPerInch = 12;
+constexpr double unitsPerCentimetre = 4.7206;
+
+std::string sizeText(const Session& s, float size)
+{
+    const double shown = size / (s.numStyle == "br" ? unitsPerCentimetre : unitsPerInch);
+    const std::string text = formatNumber(shown, NumberFormat::bareThousandths);
+    return s.numComma == 1 ? withComma(text) : text;
+}
+
+std::string filletText(const Session& s)
+{
+    if (s.numStyle == "br") return sizeText(s, s.filletRadius);
+    float radius = 0;
+    keep(radius, s.filletRadius / unitsPerInch);
+    return plainNumber(radius);
+}
+
+std::string currentNumber(const Session& s, PromptNumber number)
+{
+    switch (number) {
+    case PromptNumber::none:
+        return {};
+    case PromptNumber::polygonSides:
+        return plainNumber(s.polygonSides);
+    case PromptNumber::hatchScale:
+        return plainNumber(s.hatchScale);
+    case PromptNumber::filletRadius:
+        return filletText(s);
+    case PromptNumber::textSize:
+        return sizeText(s, s.textSize);
+    case PromptNumber::arrowSize:
+        return sizeText(s, s.arrowSize);
+    }
+    return {};
+}
+
+void showInTitle(Session& s)
+{
+    s.controls["frmMain"_c].caption = mainTitle(s.drawingName, s.curFunc + s.promptText);
+}
+
+} // namespace
+
+void showPromptOfStep(Session& s, std::int16_t stepNo)
+{
+    const FunctionRow* row = findFunction(s.curFunc);
+    const Prompt* prompt = row == nullptr ? nullptr : promptAt(row->prompts, stepNo);
+    if (prompt != nullptr) {
+        s.promptText = prompt->text;
+        if (prompt->number != PromptNumber::none) {
+            setText(s.controls["Text3"_c], currentNumber(s, prompt->number));
+            s.promptText += s.controls["Text3"_c].text;
+            s.promptText += prompt->textBehind;
+        }
+    }
+    showInTitle(s);
+}
+
+void setPrompt(Session& s, Canvas& pic1)
+{
+    showPromptOfStep(s, s.stepNo);
+    s.liveAngle = 0;
+    s.controls["blank"_c].caption = "Blank/Off";
+    s.controls["frmedit"_c].visible = false;
+    if (s.baseFunc == s.lastFunc) return;
+    s.lastFunc = s.baseFunc;
+    if (isSelectionFunction(s.curFunc)) return;
+    setText(s.controls["entry"_c], "");
+    changeStat(s.store, Stat::sel, Stat::on);
+    redrawAll(s, pic1);
+}
+
+} // namespace mirtane

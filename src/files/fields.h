@@ -1,0 +1,47 @@
+#pragma once
+
+// The two streams that a field list is run through. A call takes fields of one sort: numbers, or strings,
+// which are counted, UTF-8 in memory and Windows-1252 in the file ("?" for a character that the code page
+// lacks).
+
+#include "files/bytes.h"
+#include "text/code_page.h"
+
+#include <concepts>
+
+namespace mirtane {
+
+template <class Field>
+concept TextField = std::same_as<Field, std::string>;
+
+// Fills the fields that it is called with, in their order.
+class FieldReader {
+  public:
+    explicit FieldReader(ByteReader& in) : in_(in) {}
+
+    template <class... Number> void operator()(Number&... field) { in_.numbers(field...); }
+    template <TextField... Text> void operator()(Text&... field)
+    {
+        ((field = fromCodePage(in_.counted())), ...);
+    }
+
+  private:
+    ByteReader& in_;
+};
+
+// Writes the fields that it is called with, in their order.
+class FieldWriter {
+  public:
+    explicit FieldWriter(ByteWriter& out) : out_(out) {}
+
+    template <class... Number> void operator()(const Number&... field) { out_.numbers(field...); }
+    template <TextField... Text> void operator()(const Text&... field)
+    {
+        (out_.counted(toCodePage(field)), ...);
+    }
+
+  private:
+    ByteWriter& out_;
+};
+
+} // namespace mirtane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "model/control_table.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace mirtane {
+
+// What a control shows. Routines read and write these values; the window copies them to the screen after each
+// event. Text positions (caret, anchor) count characters; what lies between them is selected.
+struct Control {
+    std::string text;
+    std::string caption;
+    std::vector<std::string> rows;
+    int row = -1; // current row of a list, -1 none
+    int caret = 0;
+    int anchor = 0;
+    bool visible = true;
+    bool enabled = true;
+    bool checked = false;
+    std::int32_t color = 0xFFFFFF; // foreground, 0xBBGGRR
+
+    friend bool operator==(const Control&, const Control&) = default;
+};
+
+class Controls {
+  public:
+    // Every control with its caption and first text; forms but frmMain, and working strings, not visible.
+    Controls();
+
+    Control& operator[](ControlId id) { return controls_[id.index]; }
+    const Control& operator[](ControlId id) const { return controls_[id.index]; }
+
+    ControlId focus = "pic1"_c;
+
+  private:
+    std::array<Control, controlCount> controls_;
+};
+
+// Replaces the text and puts the caret behind its last character.
+void setText(Control& control, std::string text);
+
+// Puts the caret at position (characters, clipped to the text) with nothing selected.
+void setCaret(Control& control, int position);
+
+// What an edit field does with a key that its filter let through: UTF-8 text replaces the selection;
+// Backspace removes the selection or the character before the caret.
+void typeInto(Control& control, std::string_view utf8Character);
+void backspaceIn(Control& control);
+
+// The form that a control stands on: "frmfile" for "frmfile.Text1", "frmMain" for "entry".
+ControlId formOf(ControlId id);
+
+} // namespace mirtane

@@ -1,0 +1,157 @@
+#pragma once
+
+// All that the program knows between two events. A routine takes the smallest of these structs that it needs.
+
+#include "model/controls.h"
+#include "model/entity_store.h"
+#include "model/layers.h"
+#include "model/undo_log.h"
+
+#include <array>
+
+namespace mirtane {
+
+// Given to each new object.
+struct Attributes {
+    std::int16_t workLayer = 1;
+    std::int32_t curColor = 0xFFFFFF; // 0xBBGGRR
+    std::int16_t curStyle = 0;        // 0 solid, 1 dash, 2 dot, 3 dash-dot, 4 dash-dot-dot
+    float textSize = 48;              // world units
+    float arrowSize = 48;             // world units
+    std::int16_t dimStyle = 1;        // 1 closed, 2 open, 3 slash
+    std::int16_t textJust = 0;        // 0 left, 1 right, 2 centre
+    std::string textFont = "Garamond";
+    float dimTol = 0.125F; // fraction step of feet and inches
+    std::int16_t numComma = 0;
+    std::int16_t angFormat = 0;  // 0 three places, 1 degrees-minutes-seconds
+    std::string numStyle = "us"; // "us", "2f", "3i", "br"
+    double textRotation = 0;     // degrees
+    float snapPercentage = 0.25F;
+    float filletRadius = 72; // world units
+    std::int16_t polygonSides = 3;
+    float hatchScale = 1;
+    double hatchRotation = 0;     // radians
+    double associateRotation = 0; // radians
+    std::string associateName{noName};
+    std::string hatchName{noName};
+    std::string multipleLinesName{noName};
+};
+
+struct FunctionState {
+    std::string curFunc = "Line";  // the function that runs
+    std::string baseFunc = "Line"; // the one that a cancel returns to
+    std::string lastFunc = "Line"; // baseFunc as setPrompt last saw it
+    std::int16_t stepNo = 0;       // clicks and entries taken so far
+    std::string promptText;
+    std::int16_t editPending = 0; // 1 while a function chosen from the edit list runs
+};
+
+// Geometry on its way from the commands to the insertion routines. Points are world coordinates.
+struct ScratchPoints {
+    Point pickFirst; // the first click of a function
+    Point pickLast;  // each later click, after ortho and snap, and each move
+    Point mousePos;  // the latest click, before ortho and snap
+    Point ptA, ptB, ptC, ptD, ptE, ptF, ptG, ptH;
+    float workRadius = 0;
+    double workAngle = 0; // 25 while the selection follows the pointer
+    double arcStart = 0;
+    double arcEnd = 0;
+    double dimAngle = 0; // degrees
+    Point bisectorA, bisectorB;
+    double arcAngleOne = 0;
+    double arcAngleTwo = 0;
+    double arcLastAngle = 0;
+    std::int16_t arcWinding = 0;
+    std::int16_t curveFlip = 0;
+    std::int16_t curveSide = 0;
+};
+
+struct CanvasInput {
+    std::int16_t snapKey = 0;     // 1 Shift held, 2 Ctrl held
+    std::int16_t orthoSector = 0; // 1 to 4, as the last move chose it
+    double orthoAngle = 0;        // radians
+    double orthoAngleSaved = 0;   // what a cancel restores
+    std::string orthoCaption = "Ortho/On";
+    double liveAngle = 0; // direction of the rubber band, radians
+    bool pointWasSnapped = false;
+
+    std::int32_t windowStep = 0; // corners taken of a window
+    Point window1, window2;
+
+    std::int16_t blankStep = 0; // points taken of a construction line
+    Point blankStart, blankEnd;
+    std::string blankSavedFunc;
+
+    std::array<std::string, 100> textBuffer; // live typing, one character each
+    std::int32_t textLength = 0;             // goes on rising past the buffer
+
+    std::int32_t boundaryCount = 0; // corners taken of a boundary
+};
+
+// The visible world rectangle: a copy of the surface's scale, for culling.
+struct View {
+    float viewLeft = 0, viewTop = 0, viewRight = 0, viewBottom = 0;
+    std::int16_t wholeViewFlag = 0; // 1 after Zoom All: nothing can lie far outside
+    float pixelOriginX = 0, pixelOriginY = 0;
+    float pixelPerUnitX = 0, pixelPerUnitY = 0;
+    std::string savedPrompt; // caption of snaplab before Zoom Window
+    std::string savedTitle;  // caption of the main window before Zoom Window
+};
+
+// What follows once a drawing with unsaved work has been saved or given up.
+namespace follow {
+inline constexpr std::int16_t nothing = 0;
+inline constexpr std::int16_t exit = 1;
+inline constexpr std::int16_t clear = 2;
+inline constexpr std::int16_t openDrawing = 3;
+inline constexpr std::int16_t openDxf = 4;
+} // namespace follow
+
+// Where files of one pattern are looked for: the last path if it still exists, else the working directory.
+struct FolderPair {
+    std::string working; // UTF-8 paths
+    std::string last;
+};
+
+struct FileState {
+    std::int32_t savedCount = 1; // entCount at the last load or save
+    std::int16_t saveFollowUp = follow::nothing;
+    std::string drawingName = "untitled.mtd";
+    std::string dxfName = "untitled.dxf";
+    std::string filePattern = "*.mtd"; // of the file dialog
+    FolderPair drawings, associates, hatches, multipleLines, dxf;
+    std::string programFolder;
+    std::int32_t dimensionCount = 0; // kinds 7 to 10, counted by a load
+    std::int16_t chosenLayer = 0;    // for naming, loading and saving a layer
+    bool ended = false;
+};
+
+struct FilterValues {
+    std::int16_t filterLayer = -1; // -1 any
+    std::int16_t filterKind = -1;
+    std::int16_t filterStyle = -1;
+    std::int32_t filterColor = 0; // the background of the surface is any
+};
+
+struct PickResults {
+    static constexpr std::int32_t none = 60001;
+    std::int32_t pickedIndex = none;
+    std::int32_t pickedSecond = none;
+    std::int32_t snapBestIndex = -1;
+};
+
+struct Session : Attributes,
+                 FunctionState,
+                 ScratchPoints,
+                 CanvasInput,
+                 View,
+                 FileState,
+                 FilterValues,
+                 PickResults {
+    EntityStore store;
+    UndoLog log;
+    LayerTable layerTable;
+    Controls controls;
+};
+
+} // namespace mirtane

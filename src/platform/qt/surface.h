@@ -1,0 +1,55 @@
+#pragma once
+
+#include "render/raster_canvas.h"
+
+#include <QFont>
+#include <QImage>
+
+#include <string>
+
+namespace mirtane {
+
+// pic1 on an image: the raster draws all but the text, which the toolkit writes into the same pixels. It
+// needs a QGuiApplication and no window.
+//
+// The size of text follows the zoom in whole points: one world unit of size gives as many points as it gives
+// pixels, rounded, and a point is 96/72 pixels of the height of a line, from its highest to its lowest
+// letter.
+class Surface : public RasterCanvas {
+  public:
+    using RasterCanvas::RasterCanvas;
+
+    // The picture, on the surface's own pixels: good until the surface is resized or gone.
+    QImage shown() const;
+
+    void setFontName(std::string_view utf8) override;
+    void setFontSize(float size) override;
+    void setUnderline(bool on) override;
+    // At a size that comes to no whole point, the width that the text would have if there were parts of
+    // points.
+    float textWidth(std::string_view utf8) const override;
+    // Text of no whole point leaves no mark.
+    void text(float x, float y, int degrees, std::string_view utf8) override;
+
+  private:
+    // A font of the toolkit whose lines are so many pixels high once they are enlarged by the factor.
+    struct Face {
+        std::string name;
+        int height = 0;
+        QFont font;
+        double ascent = 0;
+        double enlarged = 1;
+    };
+
+    double exactPoints() const;
+    // The face of that line height in the current font; good until the next call.
+    const Face& faceOf(int height) const;
+    void write(const Face& face, PixelPoint at, int degrees, const QString& text);
+
+    std::string fontName_ = "Garamond";
+    float fontSize_ = 48; // world units
+    bool underline_ = false;
+    mutable Face face_; // the last one used: most texts of a drawing are alike
+};
+
+} // namespace mirtane

@@ -1,0 +1,60 @@
+#include "platform/qt/window/form_window.h"
+
+#include "platform/qt/window/child.h"
+#include "platform/qt/window/file_form.h"
+
+#include <QCloseEvent>
+
+#include <array>
+
+namespace mirtane {
+namespace {
+
+struct FormRow {
+    ControlId form;
+    void (*lay)(const ControlMaker& maker, QWidget& form); // puts the form's controls on it
+};
+
+constexpr std::array<FormRow, 1> forms{{
+    {"frmfile"_c, layFileForm},
+}};
+
+} // namespace
+
+FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
+    : QWidget(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint),
+      gate_(gate), form_(form)
+{
+}
+
+void FormWindow::show(const Control& now)
+{
+    setWindowTitle(QString::fromStdString(now.caption));
+    if (now.visible && isHidden()) moveOverParent();
+    setVisible(now.visible);
+}
+
+void FormWindow::moveOverParent()
+{
+    const QRect below = parentWidget()->geometry();
+    move(below.center() - rect().center());
+}
+
+// Whether the form goes is for the shell to say.
+void FormWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    gate_.send([this](Shell& shell) { shell.closeForm(form_); });
+}
+
+void makeForms(const ControlMaker& maker, QWidget& parent)
+{
+    for (const FormRow& row : forms) {
+        FormWindow& form = childOf<FormWindow>(parent, maker.gate(), row.form);
+        row.lay(maker, form);
+        maker.views().add(row.form, form);
+    }
+}
+
+} // namespace mirtane

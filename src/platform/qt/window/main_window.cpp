@@ -1,0 +1,81 @@
+#include "platform/qt/window/main_window.h"
+
+#include "platform/qt/window/child.h"
+#include "platform/qt/window/form_window.h"
+#include "platform/qt/window/menu_view.h"
+#include "platform/qt/window/side_panel.h"
+#include "platform/qt/window/surface_widget.h"
+#include "platform/qt/window/tool_strip.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace mirtane {
+namespace {
+
+// The line under the drawing: the prompt, which may need all of the width, and the pointer's position.
+QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
+{
+    QWidget& line = childOf<QWidget>(parent);
+    line.setObjectName(QStringLiteral("status"));
+    QHBoxLayout& row = childOf<QHBoxLayout>(line);
+    row.setContentsMargins(12, 5, 12, 5);
+    row.setSpacing(16);
+    row.addWidget(&maker.make("promptlab"_c, line), 3);
+    row.addWidget(&maker.make("pointerlab"_c, line), 2);
+    return line;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(surface)
+{
+    setWindowIcon(QIcon(QStringLiteral(":/icons/mirtane.svg")));
+    fillMenuBar(*menuBar(), "frmMain"_c, gate_, views_);
+    lay(surface);
+    makeForms(ControlMaker(gate_, views_), *this);
+    views_.add("frmMain"_c, *this);
+    gate_.setCopying([this] { copyControls(); });
+    gate_.send([](Shell&) {}); // nothing happens but the copying
+}
+
+void MainWindow::lay(Surface& surface)
+{
+    const ControlMaker maker(gate_, views_);
+    QWidget& whole = childOf<QWidget>(*this);
+    setCentralWidget(&whole);
+    QGridLayout& grid = childOf<QGridLayout>(whole);
+    grid.setContentsMargins(0, 0, 0, 0);
+    grid.setSpacing(0);
+    grid.setColumnStretch(1, 1);
+    grid.setRowStretch(0, 1);
+    SurfaceWidget& drawing = childOf<SurfaceWidget>(whole, gate_, "pic1"_c, surface);
+    views_.add("pic1"_c, drawing);
+    grid.addWidget(&childOf<ToolStrip>(whole, gate_, views_), 0, 0);
+    grid.addWidget(&drawing, 0, 1);
+    grid.addWidget(&childOf<SidePanel>(whole, maker), 0, 2);
+    grid.addWidget(&statusLine(maker, whole), 1, 0, 1, 3);
+}
+
+void MainWindow::show(const Control& now)
+{
+    setWindowTitle(QString::fromStdString(now.caption));
+}
+
+void MainWindow::copyControls()
+{
+    const Shell& shell = gate_.shell();
+    views_.copy(shell.session().controls);
+    surface_.refresh();
+    if (shell.ended()) QApplication::exit();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    gate_.send([](Shell& shell) { shell.closeForm("frmMain"_c); });
+    event->setAccepted(gate_.shell().ended());
+}
+
+} // namespace mirtane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/qt/surface.h"
+#include "platform/qt/window/control_view.h"
+#include "platform/qt/window/event_gate.h"
+
+#include <QTimer>
+
+namespace mirtane {
+
+// The drawing on the screen: shows the picture of a Surface, one of its pixels on one of the screen's, and
+// reports what the user does on it in world coordinates.
+class SurfaceWidget : public QWidget, public ControlView {
+  public:
+    // The surface must outlive the widget, and shows itself through it from now on.
+    SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QWidget* parent);
+    ~SurfaceWidget() override;
+    SurfaceWidget(const SurfaceWidget&) = delete;
+    SurfaceWidget& operator=(const SurfaceWidget&) = delete;
+
+    void show(const Control& now) override;
+    QWidget* focusWidget() override { return this; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+  private:
+    Point worldAt(QPointF at) const;
+    void showPart(const PixelRect& pixels);
+    void fitSurface();
+
+    EventGate& gate_;
+    ControlId id_;
+    Surface& surface_;
+    QTimer sizeAtRest_;
+};
+
+} // namespace mirtane

@@ -1,0 +1,179 @@
+#include "platform/qt/window/text_box.h"
+
+#include "platform/qt/window/typed_keys.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
+
+namespace mirtane {
+namespace {
+
+// The toolkit counts 16-bit units, a Control characters; beyond the first plane the two differ.
+int charactersBefore(const QString& text, int unit)
+{
+    return static_cast<int>(text.left(unit).toUcs4().size()); // texts are short
+}
+
+int unitsBefore(const QString& text, int character)
+{
+    int unit = 0;
+    for (int i = 0; i < character && unit < text.size(); ++i) unit += text.at(unit).isHighSurrogate() ? 2 : 1;
+    return unit;
+}
+
+QColor colorOf(std::int32_t bgr)
+{
+    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
+}
+
+QIcon filledWith(const QColor& color)
+{
+    QPixmap square(64, 64); // scaled down to the size of an icon
+    square.fill(color);
+    return square;
+}
+
+bool isUndoKey(const QKeyEvent& event)
+{
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
+bool movesCaret(const QKeyEvent& event)
+{
+    const int key = event.key();
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End ||
+           event.matches(QKeySequence::SelectAll) || event.matches(QKeySequence::Copy);
+}
+
+} // namespace
+
+TextBox::TextBox(EventGate& gate, ControlId id, QWidget* parent) : QLineEdit(parent), gate_(gate), id_(id)
+{
+    setToolTip(tipOf(id));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setDragEnabled(false);
+    setAcceptDrops(false);
+    // A word in blue on black is hard to read, a patch of blue is not.
+    if (id == "setts"_c) swatch_ = addAction(QIcon(), LeadingPosition);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &TextBox::caretMoved);
+    connect(this, &QLineEdit::selectionChanged, this, &TextBox::caretMoved);
+}
+
+void TextBox::show(const Control& now)
+{
+    const QString shown = QString::fromStdString(now.text);
+    if (text() != shown) setText(shown);
+    const int caret = unitsBefore(shown, now.caret);
+    const int anchor = unitsBefore(shown, now.anchor);
+    if (caret == anchor) {
+        deselect();
+        setCursorPosition(caret);
+    } else {
+        setSelection(anchor, caret - anchor);
+    }
+    showColor(now.color);
+    setEnabled(now.enabled);
+    setVisible(now.visible);
+}
+
+void TextBox::showColor(std::int32_t bgr)
+{
+    if (bgr == color_) return;
+    color_ = bgr;
+    const QColor color = colorOf(bgr);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Active, QPalette::Text, color);
+    colors.setColor(QPalette::Inactive, QPalette::Text, color);
+    setPalette(colors);
+    if (swatch_ != nullptr) swatch_->setIcon(filledWith(color));
+}
+
+bool TextBox::event(QEvent* event)
+{
+    // The box's own undo would be a second history; the keys are the drawing's.
+    if (event->type() == QEvent::ShortcutOverride &&
+        isUndoKey(*static_cast<QKeyEvent*>(event))) { // told by its type
+        event->ignore();
+        return false;
+    }
+    return QLineEdit::event(event);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event)
+{
+    if (movesCaret(*event)) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    edit(*event);
+    event->accept();
+}
+
+void TextBox::edit(const QKeyEvent& event)
+{
+    if (event.matches(QKeySequence::Paste)) {
+        type(typeable(QApplication::clipboard()->text()));
+    } else if (event.matches(QKeySequence::Cut)) {
+        copy();
+        if (hasSelectedText()) type(QChar(key::backspace));
+    } else if (event.key() == Qt::Key_Delete) {
+        deleteForward();
+    } else {
+        type(typedBy(event));
+    }
+}
+
+// Taking away what lies behind the caret is stepping over it and taking away what lies before.
+void TextBox::deleteForward()
+{
+    if (!hasSelectedText()) {
+        if (cursorPosition() == text().size()) return;
+        cursorForward(false);
+    }
+    type(QChar(key::backspace));
+}
+
+void TextBox::inputMethodEvent(QInputMethodEvent* event)
+{
+    type(typeable(event->commitString()));
+    event->accept();
+}
+
+void TextBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (byUser(*event)) gate_.send([this](Shell& shell) { shell.giveFocus(id_); });
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::MiddleButton) {
+        type(typeable(QApplication::clipboard()->text(QClipboard::Selection)));
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && !hasSelectedText() &&
+        rect().contains(event->position().toPoint())) {
+        gate_.send([this](Shell& shell) { shell.click(id_); });
+    }
+}
+
+void TextBox::type(const QString& characters)
+{
+    typeAt(gate_, id_, characters);
+}
+
+void TextBox::caretMoved()
+{
+    if (gate_.closed()) return;
+    const int caret = cursorPosition();
+    const int start = selectionStart();
+    const int anchor = start < 0 ? caret : (start == caret ? selectionEnd() : start);
+    Control& control = gate_.shell().session().controls[id_];
+    control.caret = charactersBefore(text(), caret);
+    control.anchor = charactersBefore(text(), anchor);
+}
+
+} // namespace mirtane

@@ -1,0 +1,69 @@
+#include "platform/qt/window/typed_keys.h"
+
+#include <algorithm>
+#include <array>
+
+namespace mirtane {
+namespace {
+
+struct KeyCode {
+    int key;
+    int code;
+};
+
+constexpr std::array<KeyCode, 9> codes{{
+    {Qt::Key_Backspace, 8},
+    {Qt::Key_Return, 13},
+    {Qt::Key_Enter, 13},
+    {Qt::Key_Shift, 16},
+    {Qt::Key_Control, 17},
+    {Qt::Key_Left, 37},
+    {Qt::Key_Up, 38},
+    {Qt::Key_Right, 39},
+    {Qt::Key_Down, 40},
+}};
+
+// Ctrl or Alt alone makes a key a command; both together are how some keyboards reach a character.
+bool isCommand(Qt::KeyboardModifiers held)
+{
+    const bool ctrl = held.testFlag(Qt::ControlModifier);
+    const bool alt = held.testFlag(Qt::AltModifier);
+    return ctrl != alt || held.testFlag(Qt::MetaModifier);
+}
+
+} // namespace
+
+QString typedBy(const QKeyEvent& event)
+{
+    const int code = codeOf(event);
+    if (isCommand(event.modifiers())) return {};
+    if (code == key::enter || code == key::backspace) return QChar(code);
+    return typeable(event.text());
+}
+
+QString typeable(const QString& text)
+{
+    QString line = text.section(QLatin1Char('\n'), 0, 0);
+    line.removeIf([](QChar c) { return c.unicode() < 32 || c.unicode() == 127; });
+    return line;
+}
+
+void typeAt(EventGate& gate, ControlId id, const QString& text)
+{
+    if (text.isEmpty()) return;
+    if (!(gate.shell().session().controls.focus == id))
+        gate.send([id](Shell& shell) { shell.giveFocus(id); });
+    const QList<uint> characters = text.toUcs4();
+    for (const uint character : characters) {
+        gate.send([character](Shell& shell) { shell.keyPress(character); });
+    }
+}
+
+int codeOf(const QKeyEvent& event)
+{
+    const auto row = std::find_if(codes.begin(), codes.end(),
+                                  [&event](const KeyCode& one) { return one.key == event.key(); });
+    return row == codes.end() ? 0 : row->code;
+}
+
+} // namespace mirtane

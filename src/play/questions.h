@@ -1,0 +1,15 @@
+#pragma once
+
+#include "play/player.h"
+#include "play/words.h"
+
+namespace mirtane::play {
+
+// The answer of a question as one line of JSON, or nothing where the line is none. Throws Refusal for one
+// that can't be answered.
+std::optional<std::string> answer(Stage& stage, std::string_view line);
+
+// The control of that name; throws Refusal where there is none.
+ControlId controlNamed(std::string_view name);
+
+} // namespace mirtane::play

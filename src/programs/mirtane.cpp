@@ -1,0 +1,53 @@
+// The program with its window.
+
+#include "app/shell.h"
+#include "platform/qt/disk.h"
+#include "platform/qt/folders.h"
+#include "platform/qt/settings.h"
+#include "platform/qt/surface.h"
+#include "platform/qt/window/main_window.h"
+#include "platform/qt/window/theme.h"
+
+#include <QApplication>
+#include <QScreen>
+
+namespace {
+
+using namespace mirtane;
+
+constexpr QSize firstSize(1280, 800);
+constexpr float unitsPerPixel = 4; // of the window system: a fine screen shows the same part of the world
+
+// Of any size: the window brings it to its own, at the same units to the pixel.
+Surface firstSurface()
+{
+    constexpr int side = 512;
+    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    Surface surface(side, side, ratio);
+    const auto units = static_cast<float>(side * unitsPerPixel / ratio); // the surface's scale is 32-bit
+    surface.setScale({0, 0, units, units});
+    return surface;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false); // the shell says when it ends
+    applyTheme(application);
+
+    QtDisk disk;
+    QtFolders folders;
+    QtSettings settings;
+    Session session;
+    Surface surface = firstSurface();
+    Shell shell(session, surface,
+                {disk, folders, settings, QCoreApplication::applicationDirPath().toStdString()});
+    shell.start();
+
+    MainWindow window(shell, surface);
+    window.resize(firstSize);
+    window.show();
+    return QApplication::exec();
+}

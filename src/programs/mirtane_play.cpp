@@ -1,0 +1,130 @@
+// The program without its window: reads commands, does what a user would have done, and answers questions.
+
+#include "platform/qt/disk.h"
+#include "platform/qt/folders.h"
+#include "platform/qt/settings.h"
+#include "play/player.h"
+#include "play/words.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+namespace {
+
+using namespace mirtane;
+
+struct Options {
+    Size size{1200, 800};
+    std::string home; // a fresh folder if empty
+    std::string file = "-";
+};
+
+int complain(const std::string& what)
+{
+    std::cerr << what << '\n';
+    return 2;
+}
+
+Size sizeOf(const std::string& text)
+{
+    const auto cross = text.find('x');
+    if (cross == std::string::npos) throw play::Refusal{"not a size: " + text};
+    Size size;
+    play::Words width(std::string_view(text).substr(0, cross));
+    play::Words height(std::string_view(text).substr(cross + 1));
+    size = {width.whole(), height.whole()};
+    constexpr int largest = 20000;
+    const bool fits = size.width > 0 && size.height > 0 && size.width <= largest && size.height <= largest;
+    if (!fits) throw play::Refusal{"not a size: " + text};
+    return size;
+}
+
+Options optionsOf(const std::vector<std::string>& words)
+{
+    Options options;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const bool takesValue = words[i] == "--size" || words[i] == "--home";
+        if (takesValue && i + 1 == words.size()) throw play::Refusal{words[i] + " without its value"};
+        if (words[i] == "--size")
+            options.size = sizeOf(words[++i]);
+        else if (words[i] == "--home")
+            options.home = words[++i];
+        else if (words[i].size() > 1 && words[i].starts_with('-'))
+            throw play::Refusal{"unknown: " + words[i]};
+        else
+            options.file = words[i];
+    }
+    return options;
+}
+
+// A script in a file tells beforehand whether it asks for operations; one that is typed might at any time.
+bool mayAskForOps(const std::string& file)
+{
+    if (file == "-") return true;
+    std::ifstream script(file);
+    for (std::string line; std::getline(script, line);) {
+        if (line.find("ops") != std::string::npos) return true;
+    }
+    return false;
+}
+
+int playAll(play::Stage& stage, std::istream& script, const std::string& name)
+{
+    int number = 0;
+    for (std::string line; std::getline(script, line);) {
+        ++number;
+        if (line.ends_with('\r')) line.pop_back();
+        try {
+            if (const auto answer = play::play(stage, line)) std::cout << *answer << std::endl;
+        } catch (const play::Refusal& refusal) {
+            std::cerr << name << ':' << number << ": " << refusal.reason << '\n';
+            return refusal.status;
+        }
+    }
+    return 0;
+}
+
+int run(const Options& options)
+{
+    constexpr float unitsPerPixel = 4;
+    std::ifstream opened;
+    if (options.file != "-") opened.open(options.file);
+    if (options.file != "-" && !opened) return complain("can't be read: " + options.file);
+    QTemporaryDir fresh;
+    const QString folder = options.home.empty() ? fresh.path() : QString::fromStdString(options.home);
+    if (!QDir().mkpath(folder)) return complain("can't be made: " + options.home);
+    const std::string home = QDir(folder).canonicalPath().toStdString();
+
+    QtDisk disk;
+    QtFolders folders;
+    QtSettings settings(home + "/settings.ini");
+    const auto session = std::make_unique<Session>();
+    Surface surface(options.size.width, options.size.height, 1);
+    surface.setScale({0, 0, static_cast<float>(options.size.width) * unitsPerPixel,
+                      static_cast<float>(options.size.height) * unitsPerPixel}); // below 20,000 pixels
+    RecordingCanvas pic1(&surface);
+    pic1.record(mayAskForOps(options.file));
+    Shell shell(*session, pic1, {disk, folders, settings, home});
+    shell.start();
+    play::Stage stage{shell, surface, pic1};
+    return playAll(stage, options.file == "-" ? std::cin : opened, options.file);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // No window is ever opened, so none of the machine's displays is asked for.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    try {
+        return run(optionsOf(std::vector<std::string>(argv + 1, argv + argc)));
+    } catch (const play::Refusal& refusal) {
+        return complain(refusal.reason);
+    }
+}

@@ -1,0 +1,120 @@
+#include "floors.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace mirtane::architecture {
+
+namespace {
+
+struct Row {
+    const char* what;
+    const char* path;
+    const char* source;
+    std::size_t faults;
+};
+
+void check(const Row& row)
+{
+    const auto found = faults(row.path, row.source);
+    EXPECT_EQ(found.size(), row.faults) << row.what;
+    for (const std::string& fault : found) EXPECT_NE(fault.find(row.path), std::string::npos) << fault;
+}
+
+std::string contentOf(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+bool isSource(const std::filesystem::path& path)
+{
+    return path.extension() == ".h" || path.extension() == ".cpp";
+}
+
+} // namespace
+
+TEST(Architecture, AnArrowThatRunsUpIsSeen)
+{
+    const Row rows[] = {
+        {"the drawing asks the surface", "model/store.cpp", "#include \"render/canvas.h\"\n", 1},
+        {"geometry asks the model", "geometry/arc.h", "#pragma once\n#include \"model/session.h\"", 1},
+        {"a function asks the shell", "commands/line.cpp", "#include \"app/shell.h\"\n", 1},
+        {"a snap asks a function", "snap/near.cpp", "  #  include  \"commands/line.h\"\n", 1},
+        {"the shell asks the toolkit's side", "app/shell.cpp", "#include \"platform/qt/surface.h\"\n", 1},
+        {"the surface asks the window", "platform/qt/surface.cpp", "#include \"platform/qt/window/main.h\"\n",
+         1},
+        {"the window asks the player", "platform/qt/window/main.cpp", "#include \"play/player.h\"\n", 1},
+        {"a neighbour on the floor", "edit/trim.cpp", "#include \"library/hatch.h\"\n", 1},
+        {"geometry asks for text", "geometry/arc.cpp", "#include \"text/number.h\"\n", 1},
+        {"a format asks a function", "files/drawing.cpp", "#include \"edit/trim.h\"\n", 1},
+        {"two in one file", "model/a.h", "#include \"snap/a.h\"\r\n#include \"app/b.h\"\r\n", 2},
+    };
+    for (const Row& row : rows) check(row);
+}
+
+TEST(Architecture, AnArrowThatRunsDownIsTaken)
+{
+    const Row rows[] = {
+        {"its own folder", "model/store.cpp", "#include \"model/store.h\"\n", 0},
+        {"a lower floor", "render/painters.cpp", "#include \"model/session.h\"\n#include <vector>\n", 0},
+        {"text under the fault rule", "text/number.cpp", "#include \"geometry/fault.h\"\n", 0},
+        {"a format asks the tables", "files/hatch.cpp", "#include \"library/tables.h\"\n", 0},
+        {"the toolkit on its own floor", "platform/qt/surface.cpp", "#include <QImage>\n#include <chrono>\n",
+         0},
+        {"what moc writes", "platform/qt/window/main.cpp", "#include \"main.moc\"\n", 0},
+        {"the window asks the surface", "platform/qt/window/main.cpp", "#include \"platform/qt/surface.h\"\n",
+         0},
+        {"a name in a comment", "model/store.cpp", "// not #include \"app/shell.h\"\n", 0},
+        {"a program", "programs/mirtane.cpp", "#include \"platform/qt/window/main.h\"\n", 0},
+    };
+    for (const Row& row : rows) check(row);
+}
+
+TEST(Architecture, BelowThePlatformOnlyTheStandardLibraryIsTaken)
+{
+    const Row rows[] = {
+        {"the toolkit", "render/view.cpp", "#include <QPainter>\n", 1},
+        {"the toolkit, by its folder", "app/shell.cpp", "#include <QtGui/QImage>\n", 1},
+        {"the toolkit, in quotes", "app/shell.cpp", "#include \"QString\"\n", 1},
+        {"a thread", "files/saver.cpp", "#include <thread>\n", 1},
+        {"a lock", "model/store.h", "#include <mutex>\n", 1},
+        {"a clock", "app/shell.cpp", "#include <chrono>\n", 1},
+        {"the older clock", "app/shell.cpp", "#include <ctime>\n", 1},
+        {"the environment", "app/start.cpp", "#include <cstdlib>\n", 1},
+        {"the environment, as C has it", "app/start.cpp", "#include <stdlib.h>\n", 1},
+        {"the system", "files/disk.cpp", "#include <unistd.h>\n", 1},
+        {"a locale", "text/number.cpp", "#include <locale>\n", 1},
+        {"the disk, past its port", "files/drawing.cpp", "#include <fstream>\n", 1},
+    };
+    for (const Row& row : rows) check(row);
+}
+
+TEST(Architecture, AFileOutsideTheHouseIsSeen)
+{
+    const Row rows[] = {
+        {"a folder of no floor", "util/misc.cpp", "", 1},
+        {"no folder", "misc.cpp", "", 1},
+        {"an include with no folder", "model/store.cpp", "#include \"store.h\"\n", 1},
+        {"an include that climbs", "model/store.cpp", "#include \"../geometry/point.h\"\n", 1},
+    };
+    for (const Row& row : rows) check(row);
+}
+
+TEST(Architecture, TheHouseStands)
+{
+    const std::filesystem::path src = std::filesystem::path(MIRTANE_SOURCE_DIR) / "src";
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(src)) {
+        if (!entry.is_regular_file() || !isSource(entry.path())) continue;
+        ++files;
+        const std::string path = entry.path().lexically_relative(src).generic_string();
+        for (const std::string& fault : faults(path, contentOf(entry.path()))) ADD_FAILURE() << fault;
+    }
+    EXPECT_GT(files, 10U) << "too few sources were found in " << src;
+}
+
+} // namespace mirtane::architecture

@@ -1,0 +1,83 @@
+#pragma once
+
+// Records and files for the tests of drawing files.
+
+#include "files/entity_record_codec.h"
+#include "model/session.h"
+
+#include <initializer_list>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace mirtane::samples {
+
+inline constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+inline constexpr float infinite = std::numeric_limits<float>::infinity();
+
+inline EntityRecord object(std::int16_t kind, std::int16_t layer)
+{
+    EntityRecord r;
+    r.kind = kind;
+    r.layer = layer;
+    r.p1 = {static_cast<float>(kind), 1}; // small whole numbers
+    r.p2 = {static_cast<float>(kind + 30), 41};
+    r.color = 0x0000FF;
+    if (kind >= kind::text) r.t1 = "text " + std::to_string(kind);
+    return r;
+}
+
+inline EntityRecord layerName(float layer, std::string name)
+{
+    EntityRecord r;
+    r.kind = kind::layerName;
+    r.p1.x = layer + 2;
+    r.t1 = std::move(name);
+    return r;
+}
+
+inline EntityRecord header()
+{
+    EntityRecord r;
+    r.kind = kind::header;
+    r.p1 = {60, 24};
+    r.p2 = {3, 2};
+    r.p3 = {0.25F, 1};
+    r.p4 = {1, 77};
+    r.a3 = 5;
+    r.t1 = "br";
+    r.t2 = "Courier New";
+    r.layer = 2;
+    r.color = 0x00FF00;
+    r.style = 3;
+    return r;
+}
+
+inline Bytes file(std::initializer_list<EntityRecord> records)
+{
+    Bytes bytes;
+    ByteWriter out(bytes);
+    for (const EntityRecord& r : records) writeRecord(out, r);
+    return bytes;
+}
+
+// Puts an object behind the last one.
+inline std::int32_t add(Session& s, const EntityRecord& r, Stat stat)
+{
+    const std::int32_t slot = s.store.entCount++;
+    s.store.setRecord(slot, r);
+    s.store.setStat(slot, stat);
+    return slot;
+}
+
+// The records of a file.
+inline std::vector<EntityRecord> recordsOf(const Bytes& bytes)
+{
+    std::vector<EntityRecord> records;
+    ByteReader in(bytes);
+    EntityRecord r;
+    while (in.remaining() > 0 && readRecord(in, r)) records.push_back(r);
+    return records;
+}
+
+} // namespace mirtane::samples

@@ -1,0 +1,117 @@
+#include "platform/qt/disk.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace mirtane {
+namespace {
+
+Bytes bytesOf(std::string_view text)
+{
+    return {text.begin(), text.end()};
+}
+
+class DiskTest : public testing::Test {
+  protected:
+    std::string at(const char* name) const { return folder_.filePath(QString::fromUtf8(name)).toStdString(); }
+    QStringList names() const
+    {
+        return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    }
+
+    QTemporaryDir folder_;
+    QtDisk disk_;
+};
+
+// Files can't grow beyond so many bytes while this lives, as on a disk that is full.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        handler_ = std::signal(SIGXFSZ, SIG_IGN); // the write fails instead of ending the program
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit now = before_;
+        now.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &now);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit before_{};
+    void (*handler_)(int) = SIG_DFL;
+};
+
+TEST_F(DiskTest, WhatWasWrittenIsReadAgain)
+{
+    const Bytes bytes = bytesOf(std::string("a\0\r\n\xFF", 5));
+    EXPECT_TRUE(disk_.writeWhole(at("h\u00E4user.mtd"), bytes));
+    EXPECT_EQ(disk_.read(at("h\u00E4user.mtd")), bytes);
+    EXPECT_TRUE(disk_.writeWhole(at("empty.mtd"), {}));
+    EXPECT_EQ(disk_.read(at("empty.mtd")), Bytes{});
+}
+
+TEST_F(DiskTest, NewBytesReplaceAllOfTheOld)
+{
+    ASSERT_TRUE(disk_.writeWhole(at("a.mtd"), bytesOf("a long old drawing")));
+    EXPECT_TRUE(disk_.writeWhole(at("a.mtd"), bytesOf("new")));
+    EXPECT_EQ(disk_.read(at("a.mtd")), bytesOf("new"));
+    EXPECT_EQ(names(), QStringList{"a.mtd"}) << "nothing is left beside it";
+}
+
+TEST_F(DiskTest, FullDiskLeavesTheOldFile)
+{
+    ASSERT_TRUE(disk_.writeWhole(at("a.mtd"), bytesOf("old")));
+    {
+        const FullDisk full(4096);
+        EXPECT_FALSE(disk_.writeWhole(at("a.mtd"), Bytes(100000, 1)));
+    }
+    EXPECT_EQ(disk_.read(at("a.mtd")), bytesOf("old"));
+    EXPECT_EQ(names(), QStringList{"a.mtd"}) << "half a file is not left lying about";
+}
+
+TEST_F(DiskTest, WritingFailsWhereThereIsNoPlace)
+{
+    ASSERT_TRUE(QDir(folder_.path()).mkpath("folder.mtd/inner"));
+    ASSERT_TRUE(disk_.writeWhole(at("file"), bytesOf("x")));
+    for (const char* name : {"missing/a.mtd", "folder.mtd", "file/a.mtd"}) {
+        EXPECT_FALSE(disk_.writeWhole(at(name), bytesOf("x"))) << name;
+    }
+    EXPECT_FALSE(disk_.writeWhole("", bytesOf("x")));
+    EXPECT_EQ(disk_.read(at("file")), bytesOf("x"));
+    EXPECT_TRUE(QDir(folder_.filePath("folder.mtd/inner")).exists());
+}
+
+TEST_F(DiskTest, WhatIsNoFileIsNotRead)
+{
+    ASSERT_TRUE(QDir(folder_.path()).mkpath("folder.mtd"));
+    ASSERT_EQ(mkfifo(at("pipe.mtd").c_str(), 0600), 0);
+    for (const char* name : {"missing.mtd", "folder.mtd", "pipe.mtd"}) {
+        EXPECT_FALSE(disk_.read(at(name)).has_value()) << name;
+    }
+    EXPECT_FALSE(disk_.read("").has_value());
+    EXPECT_FALSE(names().contains("missing.mtd")) << "reading makes no file";
+}
+
+TEST_F(DiskTest, FileTooLargeForMemoryIsNotRead)
+{
+    QFile file(QString::fromStdString(at("huge.mtd")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(QtDisk::largestRead + 1)); // a hole, no bytes
+    EXPECT_FALSE(disk_.read(at("huge.mtd")).has_value());
+}
+
+} // namespace
+} // namespace mirtane

@@ -1,0 +1,192 @@
+#include "platform/qt/surface.h"
+
+#include <QFontDatabase>
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+constexpr int side = 400;
+
+// Pixels that are not black.
+QRect painted(const Surface& surface)
+{
+    const QImage image = surface.shown();
+    QRect all;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != 0xFF000000) all |= QRect(x, y, 1, 1);
+        }
+    }
+    return all;
+}
+
+// Four world units to the pixel.
+Surface surfaceAtStart()
+{
+    Surface surface(side, side);
+    surface.setScale({0, 0, side * 4, side * 4});
+    surface.setColor(white);
+    return surface;
+}
+
+float widthAt(float size)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(size);
+    return surface.textWidth("Mirtane");
+}
+
+TEST(SurfaceText, SizeGoesInWholePoints)
+{
+    EXPECT_EQ(widthAt(48), widthAt(49.9F)) << "12 and 12.475 points";
+    EXPECT_EQ(widthAt(46.1F), widthAt(48)) << "11.525 and 12 points";
+    EXPECT_LT(widthAt(48), widthAt(56)) << "12 and 14 points";
+}
+
+TEST(SurfaceText, LineIsAsHighAsItsPointsAt96ToTheInch)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(240);                 // 60 points, 80 pixels
+    surface.text(400, 400, 0, "dgjpq"); // as high and as low as letters get
+    const QRect marks = painted(surface);
+    EXPECT_GE(marks.top(), 98);
+    EXPECT_LE(marks.bottom(), 100 + 80 + 2);
+    EXPECT_GT(marks.height(), 80 / 2);
+    EXPECT_GE(marks.left(), 98);
+}
+
+TEST(SurfaceText, WidthIsWhereTheTextEnds)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(240);
+    surface.text(40, 400, 0, "HHH");
+    const float width = surface.textWidth("HHH") / 4; // pixels
+    EXPECT_NEAR(painted(surface).right(), 10 + width, 6) << "an H keeps a little room on either side";
+}
+
+struct TurnRow {
+    int degrees;
+    QRect within; // of a line of 40 points, 53 pixels high, at pixel (200, 200)
+};
+
+TEST(SurfaceText, TurnsAboutItsUpperLeftCorner)
+{
+    const TurnRow rows[] = {
+        {0, QRect(198, 198, 202, 58)},
+        {90, QRect(198, 0, 58, 204)},
+        {180, QRect(0, 144, 204, 59)},
+        {270, QRect(144, 198, 59, 202)},
+    };
+    for (const TurnRow& row : rows) {
+        Surface surface = surfaceAtStart();
+        surface.setFontSize(160);
+        surface.text(800, 800, row.degrees, "Hag");
+        const QRect marks = painted(surface);
+        EXPECT_FALSE(marks.isEmpty()) << row.degrees;
+        EXPECT_TRUE(row.within.contains(marks)) << row.degrees << ": " << marks.x() << " " << marks.y() << " "
+                                                << marks.width() << " " << marks.height();
+    }
+}
+
+TEST(SurfaceText, UnderlineRunsUnderTheWholeText)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(240);
+    surface.setUnderline(true);
+    surface.text(40, 40, 0, "i i");
+    const int width = static_cast<int>(surface.textWidth("i i") / 4); // pixels
+    const QImage image = surface.shown();
+    bool found = false;
+    for (int y = 0; y < side && !found; ++y) {
+        int lit = 0;
+        for (int x = 10; x < 10 + width; ++x) lit += image.pixel(x, y) != 0xFF000000 ? 1 : 0;
+        found = lit >= width - 2;
+    }
+    EXPECT_TRUE(found);
+}
+
+TEST(SurfaceText, TextTooSmallToSeeHasAWidthAndLeavesNoMark)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(1); // a quarter of a point
+    surface.text(400, 400, 0, "Mirtane");
+    EXPECT_TRUE(painted(surface).isEmpty());
+    EXPECT_NEAR(surface.textWidth("Mirtane"), widthAt(400) / 400, widthAt(400) / 400 * 0.05F);
+}
+
+TEST(SurfaceText, WhatCanNotBeDrawnIsLeftOut)
+{
+    const float bad = std::numeric_limits<float>::quiet_NaN();
+    const float endless = std::numeric_limits<float>::infinity();
+    for (const float value : {bad, endless, -endless, 3e38F}) {
+        Surface surface = surfaceAtStart();
+        surface.setFontSize(48);
+        surface.text(value, 10, 0, "x");
+        surface.text(10, value, 0, "x");
+        EXPECT_TRUE(painted(surface).isEmpty()) << value;
+        surface.setFontSize(value);
+        surface.text(10, 10, 0, "x");
+        EXPECT_TRUE(std::isfinite(surface.textWidth("x"))) << value;
+    }
+}
+
+TEST(SurfaceText, LettersLargerThanTheScreenAreCutByIt)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(40000); // 10,000 points
+    surface.text(-20000, -30000, 0, "H");
+    EXPECT_NEAR(surface.textWidth("H"), widthAt(400) / 7 * 100, widthAt(400) * 15)
+        << "letters differ in width";
+}
+
+TEST(SurfaceText, LongAndBrokenStringsAreTaken)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(48);
+    EXPECT_GT(surface.textWidth(std::string(65535, 'm')), 65535);
+    surface.text(0, 0, 45, std::string(65535, 'm'));
+    EXPECT_FALSE(painted(surface).isEmpty());
+    surface.text(0, 0, 0, "\xC3\x28\xFF\x00 x");
+    EXPECT_EQ(surface.textWidth(""), 0);
+}
+
+TEST(SurfaceText, IsPartOfThePictureThatIsRestored)
+{
+    Surface surface = surfaceAtStart();
+    surface.snapshot();
+    surface.setFontSize(160);
+    surface.text(800, 800, 30, "Garamond");
+    const QRect marks = painted(surface);
+    const PixelRect dirty = surface.takeDirty();
+    EXPECT_TRUE(
+        QRect(QPoint(dirty.left, dirty.top), QPoint(dirty.right - 1, dirty.bottom - 1)).contains(marks));
+    surface.restoreSnapshot();
+    EXPECT_TRUE(painted(surface).isEmpty());
+}
+
+TEST(SurfaceText, MissingGaramondGivesWayToItsTwin)
+{
+    if (QFontDatabase::hasFamily("Garamond") || !QFontDatabase::hasFamily("EB Garamond")) GTEST_SKIP();
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(400);
+    surface.setFontName("Garamond");
+    const float asked = surface.textWidth("Mirtane");
+    surface.setFontName("EB Garamond");
+    EXPECT_EQ(surface.textWidth("Mirtane"), asked);
+    surface.setFontName("A Font That Nobody Has");
+    EXPECT_NE(surface.textWidth("Mirtane"), asked);
+}
+
+TEST(Surface, LineShowsInItsColour)
+{
+    Surface surface = surfaceAtStart();
+    surface.setColor(0x0080FF);
+    surface.line(40, 40, 80, 40);
+    EXPECT_EQ(surface.shown().pixel(15, 10), 0xFFFF8000);
+    EXPECT_EQ(surface.shown().pixel(15, 11), 0xFF000000);
+}
+
+} // namespace
+} // namespace mirtane

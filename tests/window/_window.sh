@@ -1,0 +1,92 @@
+# For the window tests: starts the program at a known place and size, drives it by pointer and keys, and looks at
+# the pixels of the screen. To be sourced; wants MIRTANE, the program, and OUT_DIR, a folder of its own.
+
+: "${MIRTANE:?the program to test}" "${OUT_DIR:?a folder for what the test writes}"
+mkdir -p "$OUT_DIR"
+cleanup=()
+
+finish() {
+    local status=$?
+    for ((i = ${#cleanup[@]} - 1; i >= 0; --i)); do eval "${cleanup[i]}" || true; done
+    exit $status
+}
+trap finish EXIT
+
+fail() {
+    echo "$*" >&2
+    import -window root "$OUT_DIR/failed.png" || true
+    exit 1
+}
+
+# until_true COMMAND...: waits up to ten seconds for the command to succeed.
+until_true() {
+    local start=$SECONDS
+    until "$@"; do
+        ((SECONDS - start < 10)) || fail "in vain: $*"
+        sleep 0.05
+    done
+}
+
+# A screen of the test's own, unless it was given one; the settings are the test's own in any case.
+open_display() {
+    export HOME=$OUT_DIR XDG_CONFIG_HOME=$OUT_DIR/config XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$OUT_DIR/runtime}
+    mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+    [ -z "${DISPLAY:-}" ] || return 0
+    Xvfb -displayfd 3 -screen 0 1600x1200x24 -dpi 96 3>"$OUT_DIR/display" >/dev/null 2>&1 &
+    cleanup+=("kill $!")
+    until_true test -s "$OUT_DIR/display"
+    DISPLAY=:$(cat "$OUT_DIR/display")
+    export DISPLAY
+}
+
+# Starts the program, in a folder where it may write, with its window at the upper left, 1024 by 700.
+start_program() {
+    cp "$MIRTANE" "$OUT_DIR/mirtane"
+    cleanup+=("rm -f '$OUT_DIR/mirtane'")
+    "$OUT_DIR/mirtane" &
+    program=$!
+    cleanup+=("kill $program 2>/dev/null")
+    until_true find_window
+    xdotool windowsize "$window" 1024 700 windowmove "$window" 0 0
+    until_true window_is_placed
+    sleep 0.3 # the repaint that follows a resize
+}
+
+find_window() {
+    window=$(xdotool search --onlyvisible --pid "$program" --name Mirtane 2>/dev/null | tail -1)
+    [ -n "$window" ]
+}
+
+window_is_placed() {
+    xdotool getwindowgeometry "$window" | tr -d '\n' | grep -q 'Position: 0,0.*Geometry: 1024x700'
+}
+
+title_has() { xdotool getwindowname "$window" | grep -qF -- "$1"; }
+window_called() { xdotool search --onlyvisible --pid "$program" --name "$1" >/dev/null 2>&1; }
+no_window_called() { ! window_called "$1"; }
+program_ended() { ! kill -0 "$program" 2>/dev/null; }
+
+# Screen pixels.
+press() { xdotool mousemove "$1" "$2" click "${3:-1}"; }
+point() { xdotool mousemove "$1" "$2"; }
+
+# menu X ROW: opens the menu that stands at X on the bar, and takes its entry by key.
+menu() {
+    press "$1" 14
+    sleep 0.2
+    for ((i = 0; i < $2; ++i)); do xdotool key Down; done
+    xdotool key Return
+}
+
+# pixels X Y W H: how many pixels of that part of the screen are not black.
+pixels() {
+    import -window root -crop "$3x$4+$1+$2" +repage png:- |
+        convert png:- -fill white +opaque black -format '%[fx:round(mean*w*h)]' info:
+}
+pixels_over() { [ "$(pixels "$1" "$2" "$3" "$4")" -gt "$5" ]; }
+pixels_are() { [ "$(pixels "$1" "$2" "$3" "$4")" = "$5" ]; }
+
+# extent X Y W H: "WxH" of what is not black in that part of the screen.
+extent() {
+    import -window root -crop "$3x$4+$1+$2" +repage png:- | convert png:- -bordercolor black -border 1 -trim -format '%wx%h' info:
+}
