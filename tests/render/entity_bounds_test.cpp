@@ -237,5 +237,12 @@ TEST(FitScale, AWindowWithoutAShapeChangesNothing)
     }
 }
 
+TEST(FitScale, AWindowTooNarrowToHaveAWidthChangesNothing)
+{
+    Scale scale = before;
+    EXPECT_FALSE(fitScale(box(0, 0, 0, 10), 1e-60, scale));
+    expectScale(scale, 1, 2, 3, 4, "as before");
+}
+
 } // namespace
 } // namespace mirtane

@@ -32,6 +32,7 @@ open_display() {
     export HOME=$OUT_DIR XDG_CONFIG_HOME=$OUT_DIR/config XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$OUT_DIR/runtime}
     mkdir -p -m 700 "$XDG_RUNTIME_DIR"
     [ -z "${DISPLAY:-}" ] || return 0
+    rm -f "$OUT_DIR/display"
     Xvfb -displayfd 3 -screen 0 1600x1200x24 -dpi 96 3>"$OUT_DIR/display" >/dev/null 2>&1 &
     cleanup+=("kill $!")
     until_true test -s "$OUT_DIR/display"
@@ -53,7 +54,7 @@ start_program() {
 }
 
 find_window() {
-    window=$(xdotool search --onlyvisible --pid "$program" --name Mirtane 2>/dev/null | tail -1)
+    window=$(xdotool search --all --onlyvisible --pid "$program" --name Mirtane 2>/dev/null | tail -1)
     [ -n "$window" ]
 }
 
@@ -62,7 +63,7 @@ window_is_placed() {
 }
 
 title_has() { xdotool getwindowname "$window" | grep -qF -- "$1"; }
-window_called() { xdotool search --onlyvisible --pid "$program" --name "$1" >/dev/null 2>&1; }
+window_called() { xdotool search --all --onlyvisible --pid "$program" --name "$1" >/dev/null 2>&1; }
 no_window_called() { ! window_called "$1"; }
 program_ended() { ! kill -0 "$program" 2>/dev/null; }
 
@@ -70,11 +71,12 @@ program_ended() { ! kill -0 "$program" 2>/dev/null; }
 press() { xdotool mousemove "$1" "$2" click "${3:-1}"; }
 point() { xdotool mousemove "$1" "$2"; }
 
-# menu X ROW: opens the menu that stands at X on the bar, and takes its entry by key.
+# menu X KEY COUNT: opens the menu that stands at X on the bar and takes the entry that so many presses of Down or
+# Up reach. Greyed entries are passed over.
 menu() {
     press "$1" 14
     sleep 0.2
-    for ((i = 0; i < $2; ++i)); do xdotool key Down; done
+    for ((i = 0; i < $3; ++i)); do xdotool key "$2"; done
     xdotool key Return
 }
 

@@ -7,7 +7,6 @@ set -eu
 drawing="165 28 643 646"
 line_button="27 69"
 file=27 undo=73 redo=125
-open_row=1 close_row=2 save_row=3 exit_row=7
 
 open_display
 start_program
@@ -43,7 +42,7 @@ press $redo 14
 until_true pixels_are $drawing 351
 
 # Save under a name, close, open.
-menu $file $save_row
+menu $file Down 3
 until_true window_called "Save File"
 xdotool key ctrl+a
 xdotool type house
@@ -51,10 +50,10 @@ xdotool key Return
 until_true no_window_called "Save File"
 until_true test -s "$OUT_DIR/house.mtd"
 until_true title_has "house.mtd"
-menu $file $close_row
+menu $file Down 2
 until_true title_has "untitled.mtd"
 until_true pixels_are $drawing 0
-menu $file $open_row
+menu $file Down 1
 until_true window_called "Open Drawing"
 xdotool type house
 xdotool key Return
@@ -69,6 +68,6 @@ difference=$((wide * 3 - high * 4))
 [ "$wide" -gt 300 ] && [ "${difference#-}" -le 8 ] || fail "opened lines have the shape $shape"
 pixels_are $drawing $((wide + high - 1)) || fail "opened lines are not the two that were drawn"
 
-menu $file $exit_row
+menu $file Up 1
 until_true program_ended
 wait "$program" || fail "the program ended with status $?"

@@ -32,6 +32,8 @@ void FormWindow::show(const Control& now)
 {
     setWindowTitle(QString::fromStdString(now.caption));
     if (now.visible && isHidden()) moveOverParent();
+    // Whoever had the keys gives them back, also where no window manager sees to it.
+    if (!now.visible && isActiveWindow()) parentWidget()->activateWindow();
     setVisible(now.visible);
 }
 

@@ -1,0 +1,114 @@
+#include "plain.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace mirtane::bench {
+namespace {
+
+struct Segment {
+    double x1, y1, x2, y2;
+};
+
+// Narrows from..to, shares of a segment, to where p * share <= q. False when nothing is left.
+bool narrow(double p, double q, double& from, double& to)
+{
+    if (p == 0) return q >= 0;
+    const double share = q / p;
+    if (p < 0) from = std::max(from, share);
+    if (p > 0) to = std::min(to, share);
+    return from <= to;
+}
+
+// Liang and Barsky's clipping, to 0..right and 0..bottom.
+bool clip(Segment& s, double right, double bottom)
+{
+    const double dx = s.x2 - s.x1;
+    const double dy = s.y2 - s.y1;
+    double from = 0;
+    double to = 1;
+    if (!narrow(-dx, s.x1, from, to) || !narrow(dx, right - s.x1, from, to)) return false;
+    if (!narrow(-dy, s.y1, from, to) || !narrow(dy, bottom - s.y1, from, to)) return false;
+    s = {s.x1 + from * dx, s.y1 + from * dy, s.x1 + to * dx, s.y1 + to * dy};
+    return true;
+}
+
+void bresenham(Image image, const Segment& s, std::uint32_t color)
+{
+    int x = static_cast<int>(s.x1); // within the image, as it was clipped; so the others
+    int y = static_cast<int>(s.y1);
+    const int lastX = static_cast<int>(s.x2);
+    const int lastY = static_cast<int>(s.y2);
+    const int dx = std::abs(lastX - x);
+    const int dy = -std::abs(lastY - y);
+    const int stepX = x < lastX ? 1 : -1;
+    const int stepY = y < lastY ? 1 : -1;
+    int error = dx + dy;
+    for (;;) {
+        image.pixels[static_cast<std::size_t>(y * image.width + x)] = color; // neither is negative
+        if (x == lastX && y == lastY) return;
+        const int twice = 2 * error;
+        if (twice >= dy) {
+            error += dy;
+            x += stepX;
+        }
+        if (twice <= dx) {
+            error += dx;
+            y += stepY;
+        }
+    }
+}
+
+std::uint32_t argb(std::int32_t color)
+{
+    const auto bgr = static_cast<std::uint32_t>(color); // bits, not a number
+    return 0xFF000000U | (bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF);
+}
+
+// Calls take(segment, slot) for what of each line lies in the image, in pixels.
+template <class Take> void forSegments(const EntityStore& store, const Scale& scale, Image image, Take take)
+{
+    const double perUnitX = image.width / double{scale.width};
+    const double perUnitY = image.height / double{scale.height};
+    const double right = std::nextafter(image.width, 0);
+    const double bottom = std::nextafter(image.height, 0);
+    for (std::size_t i = 1; i < EntityStore::at(store.end()); ++i) {
+        const Point a = store.p1[i];
+        const Point b = store.p2[i];
+        Segment s{(a.x - scale.left) * perUnitX, (a.y - scale.top) * perUnitY,
+                  (b.x - scale.left) * perUnitX, (b.y - scale.top) * perUnitY};
+        if (clip(s, right, bottom)) take(s, i);
+    }
+}
+
+} // namespace
+
+void drawLines(const EntityStore& store, const Scale& scale, Image image)
+{
+    forSegments(store, scale, image,
+                [&](const Segment& s, std::size_t slot) { bresenham(image, s, argb(store.color[slot])); });
+}
+
+double clipLines(const EntityStore& store, const Scale& scale, Image image)
+{
+    double sum = 0;
+    forSegments(store, scale, image,
+                [&](const Segment& s, std::size_t) { sum += s.x1 + s.y1 + s.x2 + s.y2; });
+    return sum;
+}
+
+Limits limitsOf(const EntityStore& store)
+{
+    Limits all{INFINITY, INFINITY, -INFINITY, -INFINITY};
+    for (std::size_t i = 1; i < EntityStore::at(store.end()); ++i) {
+        if (store.stat[i] != Stat::on || store.kind[i] != kind::line) continue;
+        const Point a = store.p1[i];
+        const Point b = store.p2[i];
+        all = {std::min({all.left, a.x, b.x}), std::min({all.top, a.y, b.y}),
+               std::max({all.right, a.x, b.x}), std::max({all.bottom, a.y, b.y})};
+    }
+    return all;
+}
+
+} // namespace mirtane::bench

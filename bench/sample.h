@@ -1,0 +1,18 @@
+#pragma once
+
+// The drawing that is measured, and the ground it is drawn on.
+
+#include "model/session.h"
+
+namespace mirtane::bench {
+
+inline constexpr int width = 1600;
+inline constexpr int height = 1000;
+inline constexpr std::int32_t lineCount = 60000;
+
+// 60,000 lines, the same at each run, one world unit to the pixel: each begins within 1600 by 1000 units and
+// goes off in any direction; of five, four are 5 to 75 units long and one 200 to 1,500. The colours change
+// from line to line.
+void fillWithLines(Session& s);
+
+} // namespace mirtane::bench

@@ -1,0 +1,14 @@
+#pragma once
+
+// Arcs run counter-clockwise on the screen from a1 to a2 (radians, 0 to a full turn). a2 below a1 means that the arc
+// passes through angle 0; there is no direction flag.
+
+namespace mirtane {
+
+// The angle that the arc covers, 0 to a full turn.
+double sweep(double a1, double a2);
+
+// The direction of the arc's middle, 0 to a full turn.
+double middleAngle(double a1, double a2);
+
+} // namespace mirtane
