@@ -21,9 +21,6 @@ struct Image {
 // method.
 void drawLines(const EntityStore& store, const Scale& scale, Image image);
 
-// The same without the drawing. Gives the sum of the clipped ends, so that it isn't left out.
-double clipLines(const EntityStore& store, const Scale& scale, Image image);
-
 // Row by row. The part must lie in both images, which are of one size.
 void copyPart(std::span<const std::uint32_t> from, Image to, const PixelRect& part);
 
@@ -39,5 +36,9 @@ bool writeFile(const std::filesystem::path& target, std::span<const std::uint8_t
 
 // All bytes of a file; none on any fault.
 Bytes readFile(const std::filesystem::path& path);
+
+// Takes the records of a drawing file into the table, each field copied as it lies in the file. Nothing is
+// tested: the file must be whole, and have no more records than the table slots.
+void takeRecords(std::span<const std::uint8_t> file, EntityStore& store);
 
 } // namespace mirtane::bench

@@ -22,6 +22,19 @@ class File {
     int handle_;
 };
 
+template <class... Number> void take(const std::uint8_t*& from, Number&... field)
+{
+    ((std::memcpy(&field, from, sizeof(Number)), from += sizeof(Number)), ...);
+}
+
+void takeText(const std::uint8_t*& from, std::string& text)
+{
+    std::uint16_t length = 0;
+    take(from, length);
+    text.assign(from, from + length);
+    from += length;
+}
+
 } // namespace
 
 void copyPart(std::span<const std::uint32_t> from, Image to, const PixelRect& part)
@@ -57,6 +70,20 @@ Bytes readFile(const std::filesystem::path& path)
     const File file(path, O_RDONLY);
     if (::read(file.handle(), bytes.data(), bytes.size()) != std::ssize(bytes)) return {};
     return bytes;
+}
+
+void takeRecords(std::span<const std::uint8_t> file, EntityStore& store)
+{
+    const std::uint8_t* from = file.data();
+    const std::uint8_t* const end = from + file.size();
+    for (std::size_t i = 0; from < end; ++i) {
+        take(from, store.p1[i], store.p2[i], store.p3[i], store.p4[i], store.p5[i]);
+        take(from, store.s1[i], store.s2[i], store.rad[i], store.a1[i], store.a2[i], store.a3[i]);
+        take(from, store.color[i], store.layer[i], store.style[i], store.kind[i]);
+        takeText(from, store.t1[i]);
+        takeText(from, store.t2[i]);
+        store.stat[i] = Stat::on;
+    }
 }
 
 } // namespace mirtane::bench

@@ -7,6 +7,9 @@
 namespace mirtane::bench {
 namespace {
 
+// Of a pixel: an end clipped to less than this from the edge can't be rounded onto the next pixel.
+constexpr double roundingRoom = 1e-6;
+
 struct Segment {
     double x1, y1, x2, y2;
 };
@@ -66,36 +69,21 @@ std::uint32_t argb(std::int32_t color)
     return 0xFF000000U | (bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF);
 }
 
-// Calls take(segment, slot) for what of each line lies in the image, in pixels.
-template <class Take> void forSegments(const EntityStore& store, const Scale& scale, Image image, Take take)
-{
-    const double perUnitX = image.width / double{scale.width};
-    const double perUnitY = image.height / double{scale.height};
-    const double right = std::nextafter(image.width, 0);
-    const double bottom = std::nextafter(image.height, 0);
-    for (std::size_t i = 1; i < EntityStore::at(store.end()); ++i) {
-        const Point a = store.p1[i];
-        const Point b = store.p2[i];
-        Segment s{(a.x - scale.left) * perUnitX, (a.y - scale.top) * perUnitY,
-                  (b.x - scale.left) * perUnitX, (b.y - scale.top) * perUnitY};
-        if (clip(s, right, bottom)) take(s, i);
-    }
-}
-
 } // namespace
 
 void drawLines(const EntityStore& store, const Scale& scale, Image image)
 {
-    forSegments(store, scale, image,
-                [&](const Segment& s, std::size_t slot) { bresenham(image, s, argb(store.color[slot])); });
-}
-
-double clipLines(const EntityStore& store, const Scale& scale, Image image)
-{
-    double sum = 0;
-    forSegments(store, scale, image,
-                [&](const Segment& s, std::size_t) { sum += s.x1 + s.y1 + s.x2 + s.y2; });
-    return sum;
+    const double perUnitX = image.width / double{scale.width};
+    const double perUnitY = image.height / double{scale.height};
+    const double right = image.width - roundingRoom;
+    const double bottom = image.height - roundingRoom;
+    for (std::size_t i = 1; i < EntityStore::at(store.end()); ++i) {
+        const Point a = store.p1[i];
+        const Point b = store.p2[i];
+        Segment s{(a.x - scale.left) * perUnitX, (a.y - scale.top) * perUnitY, (b.x - scale.left) * perUnitX,
+                  (b.y - scale.top) * perUnitY};
+        if (clip(s, right, bottom)) bresenham(image, s, argb(store.color[i]));
+    }
 }
 
 Limits limitsOf(const EntityStore& store)
@@ -105,8 +93,8 @@ Limits limitsOf(const EntityStore& store)
         if (store.stat[i] != Stat::on || store.kind[i] != kind::line) continue;
         const Point a = store.p1[i];
         const Point b = store.p2[i];
-        all = {std::min({all.left, a.x, b.x}), std::min({all.top, a.y, b.y}),
-               std::max({all.right, a.x, b.x}), std::max({all.bottom, a.y, b.y})};
+        all = {std::min({all.left, a.x, b.x}), std::min({all.top, a.y, b.y}), std::max({all.right, a.x, b.x}),
+               std::max({all.bottom, a.y, b.y})};
     }
     return all;
 }

@@ -5,6 +5,8 @@
 #include "app/dispatch.h"
 #include "app/fields.h"
 #include "app/file_dialog.h"
+#include "app/file_menus.h"
+#include "app/help.h"
 #include "app/starters.h"
 #include "commands/vocabulary.h"
 #include "render/redraw.h"
@@ -45,10 +47,17 @@ struct ActionRow {
 };
 
 constexpr ActionRow actionRows[] = {
-    {"fil4"_c, openDrawingEntry},
-    {"fil5"_c, closeDrawingEntry},
-    {"fil7"_c, saveDrawingEntry},
-    {"fil14"_c, exitEntry},
+    {"fil4"_c, openFileFlow},
+    {"fil5"_c, closeDrawing},
+    {"fil7"_c, openFileFlow},
+    {"fil9"_c, openFileFlow},
+    {"dd2"_c, openFileFlow},
+    {"dd4"_c, openFileFlow},
+    {"ass10"_c, openFileFlow},
+    {"ht8"_c, openFileFlow},
+    {"ml6"_c, openFileFlow},
+    {"fil14"_c, exitProgram},
+    {"hlp3"_c, showHelp},
     {"undu"_c, undoAction<undo>},
     {"redu"_c, undoAction<redo>},
     {"Command42"_c, zoomAction<zoomAll>},

@@ -103,13 +103,9 @@ std::string firstThatExists(App& app, const FolderPair& folders)
     return app.s.programFolder;
 }
 
-struct Flow {
-    std::string_view caption;
-    std::string_view button;
-    std::string_view pattern;
-};
+} // namespace
 
-void openDialog(App& app, const Flow& flow, const std::string& name)
+void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
 {
     Session& s = app.s;
     s.filePattern = flow.pattern;
@@ -124,6 +120,8 @@ void openDialog(App& app, const Flow& flow, const std::string& name)
     s.controls["frmfile"_c].visible = true;
     s.controls.focus = "frmfile.Text1"_c;
 }
+
+namespace {
 
 void hideDialog(Session& s)
 {
@@ -143,39 +141,17 @@ void carryOutFollowUp(App& app)
     clearDrawing(app);
     app.s.saveFollowUp = follow::nothing;
     hideDialog(app.s);
-    if (followUp == follow::openDrawing) openDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
-    if (followUp == follow::openDxf) openDialog(app, {"Open DXF", "Open", "*.dxf"}, "");
+    if (followUp == follow::openDrawing) openFileDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
+    if (followUp == follow::openDxf) openFileDialog(app, {"Open DXF", "Open", "*.dxf"}, "");
 }
 
 } // namespace
 
 void offerToSave(App& app, std::int16_t followUp)
 {
-    openDialog(app, {"Save Changes", "Save", "*.mtd"}, app.s.drawingName);
+    openFileDialog(app, {"Save Changes", "Save", "*.mtd"}, app.s.drawingName);
     app.s.saveFollowUp = followUp;
     app.s.controls["frmfile.Command2"_c].caption = followUp == follow::exit ? "End" : "Close";
-}
-
-void openDrawingEntry(App& app, ControlId)
-{
-    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::openDrawing);
-    openDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
-}
-
-void closeDrawingEntry(App& app, ControlId)
-{
-    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::clear);
-    clearDrawing(app);
-}
-
-void saveDrawingEntry(App& app, ControlId)
-{
-    openDialog(app, {"Save File", "Save", "*.mtd"}, app.s.drawingName);
-}
-
-void exitEntry(App& app, ControlId)
-{
-    leaveProgram(app);
 }
 
 void confirmFileDialog(App& app, ControlId)
@@ -186,10 +162,10 @@ void confirmFileDialog(App& app, ControlId)
     setText(s.controls["frmfile.Text1"_c], name);
     (s.*patternOf(s).folders).last = folderShown(s);
     const FileChoice choice{folderShown(s), name, s.controls["frmfile"_c].caption, s.filePattern};
-    if (isSaving(s)) {
-        if (!saveFile(app, choice)) return;
-        carryOutFollowUp(app);
-    } else if (openFile(app, choice)) {
+    if (!isSaving(s)) {
+        if (openFile(app, choice)) hideDialog(s);
+    } else if (saveFile(app, choice)) {
+        if (savesWholeDrawing(choice)) return carryOutFollowUp(app);
         hideDialog(s);
     }
 }

@@ -7,11 +7,15 @@ namespace mirtane {
 // The one dialog of all file work, frmfile. Its caption, buttons and pattern are what tells it what to do
 // when it is confirmed.
 
-// File menu entries.
-void openDrawingEntry(App& app, ControlId);
-void closeDrawingEntry(App& app, ControlId);
-void saveDrawingEntry(App& app, ControlId);
-void exitEntry(App& app, ControlId);
+// What the dialog says it is for.
+struct FileFlow {
+    std::string_view caption;
+    std::string_view button; // "Open" or "Save"
+    std::string_view pattern;
+};
+
+// Shows the dialog in the folder of the flow's pattern, with a name to begin with. Nothing follows the flow.
+void openFileDialog(App& app, const FileFlow& flow, const std::string& name);
 
 // "Save Changes": asks what to do with unsaved work before what followUp names.
 void offerToSave(App& app, std::int16_t followUp);

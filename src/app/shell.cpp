@@ -201,6 +201,7 @@ void Shell::closeForm(ControlId form)
         closeFileDialog(app);
     } else {
         s_.controls[form].visible = false;
+        if (formOf(before) == form) s_.controls.focus = "pic1"_c;
     }
     settle(before);
 }

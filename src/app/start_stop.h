@@ -8,7 +8,7 @@ namespace mirtane {
 // is a new one; controls without a routine are greyed.
 void startProgram(App& app);
 
-// The Exit entry and the close button of the window: ends the program, or offers to save unsaved work first.
+// The close button of the window: ends the program, or offers to save unsaved work first.
 void leaveProgram(App& app);
 
 // Writes the settings and ends the program.

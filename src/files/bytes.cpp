@@ -4,10 +4,10 @@
 
 namespace mirtane {
 
-std::string ByteReader::counted()
+std::string_view ByteReader::counted()
 {
     const std::span<const std::uint8_t> taken = take(number<std::uint16_t>());
-    return std::string(taken.begin(), taken.end());
+    return {reinterpret_cast<const char*>(taken.data()), taken.size()}; // bytes are read as characters
 }
 
 void ByteWriter::counted(std::string_view text)

@@ -47,7 +47,7 @@ class ByteReader {
     }
 
     // The bytes behind a 16-bit count; empty when fewer are left than it says.
-    std::string counted();
+    std::string_view counted();
 
   private:
     // The next count bytes, or none and not ok() any more.

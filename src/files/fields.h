@@ -22,10 +22,18 @@ class FieldReader {
     template <class... Number> void operator()(Number&... field) { in_.numbers(field...); }
     template <TextField... Text> void operator()(Text&... field)
     {
-        ((field = fromCodePage(in_.counted())), ...);
+        (take(field), ...);
     }
 
   private:
+    // Most texts of a drawing are empty: those cost no conversion.
+    void take(std::string& field)
+    {
+        const std::string_view bytes = in_.counted();
+        field.clear();
+        if (!bytes.empty()) field = fromCodePage(bytes);
+    }
+
     ByteReader& in_;
 };
 

@@ -3,6 +3,11 @@
 #include "geometry/angle.h"
 
 namespace mirtane {
+namespace {
+
+constexpr double hundredth = 0.01;
+
+} // namespace
 
 double sweep(double a1, double a2)
 {
@@ -14,6 +19,19 @@ double middleAngle(double a1, double a2)
 {
     const double middle = sweep(a1, a2) / 2 + a1;
     return middle > fullTurn ? middle - fullTurn : middle;
+}
+
+bool onSweep(double angle, double a1, double a2)
+{
+    // Off the arc the two parts come to a full turn more than the whole. The hundredth takes up their
+    // rounding.
+    return sweep(a1, angle) + sweep(angle, a2) <= sweep(a1, a2) * (1 + hundredth);
+}
+
+bool onSweepOrJustBeyond(double angle, double a1, double a2)
+{
+    const double room = sweep(a1, a2) * hundredth;
+    return onSweep(angle, a1, a2) || sweep(angle, a1) <= room || sweep(a2, angle) <= room;
 }
 
 } // namespace mirtane

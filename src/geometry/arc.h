@@ -1,7 +1,7 @@
 #pragma once
 
-// Arcs run counter-clockwise on the screen from a1 to a2 (radians, 0 to a full turn). a2 below a1 means that the arc
-// passes through angle 0; there is no direction flag.
+// Arcs run counter-clockwise on the screen from a1 to a2 (radians, 0 to a full turn). a2 below a1 means that
+// the arc passes through angle 0; there is no direction flag.
 
 namespace mirtane {
 
@@ -10,5 +10,12 @@ double sweep(double a1, double a2);
 
 // The direction of the arc's middle, 0 to a full turn.
 double middleAngle(double a1, double a2);
+
+// Whether angle (radians, 0 to a full turn) lies on the arc, its ends included.
+bool onSweep(double angle, double a1, double a2);
+
+// The same, and also a hundredth of the sweep before the start and behind the end, so that a click on the
+// very end hits it.
+bool onSweepOrJustBeyond(double angle, double a1, double a2);
 
 } // namespace mirtane

@@ -215,6 +215,8 @@ inline constexpr ControlRow controlTable[] = {
     {"frmfile.Text2", ControlKind::display, "", "", "", ""},
     {"frmfile.Command1", ControlKind::button, "", "Open", "", ""},
     {"frmfile.Command2", ControlKind::button, "", "Close", "", ""},
+
+    {"frmhelp.Text1", ControlKind::display, "", "", "", ""},
 };
 // clang-format on
 

@@ -42,7 +42,8 @@ void resetLayers(LayerTable& table)
 
 void markUsed(LayerTable& table, std::int32_t number)
 {
-    if (Layer* row = table.find(number)) row->layerUsed = layer::inUse;
+    Layer* row = table.find(number);
+    if (row != nullptr && row->layerUsed != layer::inUse) row->layerUsed = layer::inUse;
 }
 
 } // namespace mirtane

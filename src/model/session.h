@@ -66,6 +66,11 @@ struct ScratchPoints {
     std::int16_t curveSide = 0;
 };
 
+// One side of a boundary under way.
+struct BoundaryLeg {
+    Point from, to;
+};
+
 struct CanvasInput {
     std::int16_t snapKey = 0;     // 1 Shift held, 2 Ctrl held
     std::int16_t orthoSector = 0; // 1 to 4, as the last move chose it
@@ -85,7 +90,8 @@ struct CanvasInput {
     std::array<std::string, 100> textBuffer; // live typing, one character each
     std::int32_t textLength = 0;             // goes on rising past the buffer
 
-    std::int32_t boundaryCount = 0; // corners taken of a boundary
+    std::int32_t boundaryCount = 0; // legs taken of a boundary, also those past the table
+    std::array<BoundaryLeg, 100> boundary;
 };
 
 // The visible world rectangle: a copy of the surface's scale, for culling.
@@ -137,7 +143,9 @@ struct PickResults {
     static constexpr std::int32_t none = 60001;
     std::int32_t pickedIndex = none;
     std::int32_t pickedSecond = none;
-    std::int32_t snapBestIndex = -1;
+    std::int32_t snapBestIndex = -1;   // -1 none
+    std::int32_t snapSecondIndex = -1; // the second object of an intersection
+    float snapRadius = 0;              // the distance to the last object found, world units
 };
 
 struct Session : Attributes,

@@ -48,7 +48,7 @@ TEST(SurfaceText, SizeGoesInWholePoints)
 TEST(SurfaceText, LineIsAsHighAsItsPointsAt96ToTheInch)
 {
     Surface surface = surfaceAtStart();
-    surface.setFontSize(240);                 // 60 points, 80 pixels
+    surface.setFontSize(240);           // 60 points, 80 pixels
     surface.text(400, 400, 0, "dgjpq"); // as high and as low as letters get
     const QRect marks = painted(surface);
     EXPECT_GE(marks.top(), 98);

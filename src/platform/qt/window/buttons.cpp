@@ -11,6 +11,7 @@ StripButton::StripButton(EventGate& gate, ControlId id, QWidget* parent)
     : QToolButton(parent), gate_(gate), id_(id)
 {
     setToolTip(tipOf(id));
+    setAccessibleName(tipOf(id));
     setCheckable(true);
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QToolButton::clicked, this,

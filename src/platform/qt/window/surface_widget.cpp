@@ -37,12 +37,16 @@ SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QW
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMinimumSize(240, 180);
     surface_.setRefreshHook([this] { showPart(surface_.takeDirty()); });
     sizeAtRest_.setSingleShot(true);
     sizeAtRest_.setInterval(rest);
     connect(&sizeAtRest_, &QTimer::timeout, this, [this] {
         fitSurface();
-        gate_.send([](Shell& shell) { shell.redraw(); });
+        gate_.send([](Shell& shell) {
+            shell.resized(); // again, for a size that changed while the gate was closed
+            shell.redraw();
+        });
     });
 }
 
@@ -58,6 +62,8 @@ void SurfaceWidget::show(const Control& now)
 
 void SurfaceWidget::paintEvent(QPaintEvent*)
 {
+    if (surface_.ratio() != devicePixelRatioF())
+        sizeAtRest_.start(); // the window was taken to another screen
     QImage image = surface_.shown();
     image.setDevicePixelRatio(devicePixelRatioF());
     QPainter(this).drawImage(QPoint(0, 0), image);
@@ -77,7 +83,8 @@ void SurfaceWidget::fitSurface()
 {
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
     const Size now = surface_.getPixelSize();
-    if (pixels.isEmpty() || (pixels.width() == now.width && pixels.height() == now.height)) return;
+    const bool fits = pixels == QSize(now.width, now.height) && surface_.ratio() == devicePixelRatioF();
+    if (pixels.isEmpty() || fits) return;
     surface_.resizePixels(pixels.width(), pixels.height(), devicePixelRatioF());
     gate_.send([](Shell& shell) { shell.resized(); });
 }

@@ -1,0 +1,43 @@
+// Measures what a user waits for, beside the plain work under it, in one run. Takes the options of Google
+// Benchmark.
+
+#include "measures.h"
+#include "table.h"
+
+#include <QGuiApplication>
+
+#include <iostream>
+
+namespace {
+
+// The repetitions of all measures are shuffled, so that what else the machine does meets all alike.
+std::vector<std::string> withDefaults(std::span<char*> given)
+{
+    std::vector<std::string> args(given.begin(), given.begin() + 1);
+    args.insert(args.end(), {"--benchmark_repetitions=7", "--benchmark_enable_random_interleaving=true",
+                             "--benchmark_min_time=0.1"});
+    args.insert(args.end(), given.begin() + 1, given.end());
+    return args;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QGuiApplication application(argc, argv);
+    std::vector<std::string> args = withDefaults({argv, static_cast<std::size_t>(argc)}); // at least 1
+    std::vector<char*> raw;
+    for (std::string& arg : args) raw.push_back(arg.data());
+    int count = static_cast<int>(raw.size()); // as many as there were, and three
+    benchmark::Initialize(&count, raw.data());
+    if (benchmark::ReportUnrecognizedArguments(count, raw.data())) return 1;
+
+    mirtane::bench::Bench bench;
+    mirtane::bench::registerMeasures(bench);
+    mirtane::bench::Collector collector;
+    std::cout << "60,000 lines on 1600 x 1000 pixels; medians. This takes a quarter of a minute or more.\n"
+              << std::flush;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    collector.print(std::cout, mirtane::bench::comparisons());
+    return 0;
+}

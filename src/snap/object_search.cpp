@@ -1,0 +1,162 @@
+// snap/object_search.cpp: nearly all objects lie far off, and the limits round the point tell so before
+// anything is worked out.
+
+#include "snap/object_search.h"
+
+#include "geometry/angle.h"
+#include "geometry/arc.h"
+#include "geometry/fault.h"
+#include "geometry/nearest.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace mirtane {
+namespace {
+
+constexpr double twipsOfRadius = 360;
+
+// The square round a point in which all points within a radius lie, a little larger, so that no rounding
+// counts.
+struct Limits {
+    Limits(Point p, float radius)
+        : room(radius + (radius + std::abs(p.x) + std::abs(p.y)) * 1e-6F), left(p.x - room), top(p.y - room),
+          right(p.x + room), bottom(p.y + room)
+    {
+    }
+
+    // No branch for each side: where an object lies can't be foretold.
+    bool meetsBox(Point a, Point b) const
+    {
+        const bool inX = (std::min(a.x, b.x) <= right) & (std::max(a.x, b.x) >= left);
+        const bool inY = (std::min(a.y, b.y) <= bottom) & (std::max(a.y, b.y) >= top);
+        return inX & inY;
+    }
+
+    float room, left, top, right, bottom;
+};
+
+class Scan {
+  public:
+    Scan(const EntityStore& store, const ObjectSearch& search)
+        : store_(store), search_(search), limits_(search.from, search.radius)
+    {
+        hit_.distance = search.radius;
+    }
+
+    ObjectHit run()
+    {
+        const auto end = EntityStore::at(store_.end());
+        for (std::size_t i = 1; i < end; ++i) {
+            if (takesPart(store_.stat[i], store_.kind[i])) test(i);
+        }
+        return hit_;
+    }
+
+  private:
+    bool takesPart(Stat stat, std::int16_t kind) const
+    {
+        const bool drawn = kind >= kind::line && kind <= kind::lastDrawn;
+        return drawn && (search_.stats >> static_cast<unsigned>(stat) & search_.kinds >> kind & 1U) != 0;
+    }
+
+    void test(std::size_t i)
+    {
+        switch (store_.kind[i]) {
+        case kind::line:
+            return testLine(i);
+        case kind::circle:
+        case kind::arc:
+            return testCircle(i);
+        case kind::ellipse:
+            return testEllipse(i);
+        case kind::point:
+        case kind::text:
+            return offerPoint(i, store_.p1[i]);
+        case kind::leader:
+            return offerPoint(i, store_.p2[i]);
+        default:
+            return offerPoint(i, store_.p5[i]);
+        }
+    }
+
+    void testLine(std::size_t i)
+    {
+        const Point a = store_.p1[i];
+        const Point b = store_.p2[i];
+        if (!limits_.meetsBox(a, b)) return;
+        if (const auto foot = nearestOnSegment(search_.from, a, b)) offer(i, *foot);
+    }
+
+    void testCircle(std::size_t i)
+    {
+        const Point centre = store_.p1[i];
+        const float radius = store_.rad[i];
+        if (!mayMeetRing(centre, std::abs(radius), std::abs(radius))) return;
+        if (store_.kind[i] == kind::arc && !seesArc(i)) return;
+        offer(i, nearestOnCircle(search_.from, centre, radius));
+    }
+
+    void testEllipse(std::size_t i)
+    {
+        const Ellipse e{store_.p1[i], store_.p2[i], store_.p3[i].x};
+        const HalfAxes axes = halfAxes(e);
+        if (mayMeetRing(e.centre, axes.shorter, axes.longer)) offer(i, nearestOnEllipse(search_.from, e));
+    }
+
+    // Whether a figure between two radii about centre can come within the limits. The centre itself stands
+    // for a circle seen from there.
+    bool mayMeetRing(Point centre, double inner, double outer) const
+    {
+        const double dx =
+            static_cast<double>(search_.from.x) - centre.x; // widened: no rounding near the ring
+        const double dy = static_cast<double>(search_.from.y) - centre.y;
+        const double squared = dx * dx + dy * dy;
+        const double most = outer + limits_.room;
+        const double least = std::max(0.0, inner - limits_.room);
+        return (squared <= most * most && squared >= least * least) || squared == 0;
+    }
+
+    bool seesArc(std::size_t i) const
+    {
+        if (search_.arcs == ArcReach::wholeCircle) return true;
+        const double angle = directionAngle(store_.p1[i], search_.from, 0);
+        return search_.arcs == ArcReach::sweep ? onSweep(angle, store_.a1[i], store_.a2[i])
+                                               : onSweepOrJustBeyond(angle, store_.a1[i], store_.a2[i]);
+    }
+
+    void offerPoint(std::size_t i, Point at)
+    {
+        if (limits_.meetsBox(at, at)) offer(i, at);
+    }
+
+    void offer(std::size_t i, Point at)
+    {
+        const auto slot = static_cast<std::int32_t>(i); // below the table's end
+        const float d = reach(search_.from, at);
+        if (!(d <= hit_.distance) || slot == search_.passOver) return;
+        hit_ = {slot, at, d};
+        limits_ = Limits(search_.from, d);
+    }
+
+    const EntityStore& store_;
+    const ObjectSearch& search_;
+    Limits limits_;
+    ObjectHit hit_;
+};
+
+} // namespace
+
+float searchRadius(const Canvas& pic1)
+{
+    float radius = 0;
+    keep(radius, quotient(pic1.getScale().width * twipsOfRadius, pic1.getOuterSize().width));
+    return radius;
+}
+
+ObjectHit nearestObject(const EntityStore& store, const ObjectSearch& search)
+{
+    return Scan(store, search).run();
+}
+
+} // namespace mirtane

@@ -1,0 +1,92 @@
+#include "snap/point_search.h"
+
+#include "geometry/nearest.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+class Scan {
+  public:
+    Scan(Point from, float limit) : from_(from), least_(limit), leastSquared_(squareOf(limit)) {}
+
+    Point best() const { return best_; }
+
+    void offer(Point p)
+    {
+        const double dx = p.x - from_.x;
+        const double dy = p.y - from_.y;
+        if (!(dx * dx + dy * dy < leastSquared_)) return;
+        const float d = reach(from_, p);
+        if (!(d < least_)) return;
+        best_ = p;
+        least_ = d;
+        leastSquared_ = squareOf(d);
+    }
+
+    void offerObject(const EntityStore& store, std::size_t i)
+    {
+        switch (store.kind[i]) {
+        case kind::line:
+        case kind::text: // its second pair is its size and justification, and is offered as it stands
+            offer(store.p1[i]);
+            return offer(store.p2[i]);
+        case kind::circle:
+        case kind::point:
+            return offer(store.p1[i]);
+        case kind::arc:
+            offer(store.p1[i]);
+            offer(store.p2[i]);
+            return offer(store.p3[i]);
+        case kind::ellipse:
+            return offerEllipse(store, i);
+        case kind::leader:
+            offer(store.p5[i]);
+            offer(store.p1[i]);
+            return offer(store.p2[i]);
+        default:
+            return;
+        }
+    }
+
+  private:
+    static double squareOf(double d) { return d * d; }
+
+    void offerEllipse(const EntityStore& store, std::size_t i)
+    {
+        for (const Point p : axisEnds({store.p1[i], store.p2[i], store.p3[i].x})) offer(p);
+    }
+
+    Point from_;
+    float least_;
+    double leastSquared_; // what is not below it is not below least_ either
+    Point best_;
+};
+
+} // namespace
+
+Point nearestObjectPoint(const Session& s, float limit)
+{
+    Scan scan(s.mousePos, limit);
+    const auto end = EntityStore::at(s.store.end());
+    for (std::size_t i = 1; i < end; ++i) {
+        const Stat stat = s.store.stat[i];
+        if (stat == Stat::on || stat == Stat::sel) scan.offerObject(s.store, i);
+    }
+    if (s.curFunc == "Place Hatch" || s.curFunc == "Measure Area") {
+        for (std::size_t i = 0; i < boundaryLegs(s); ++i) {
+            scan.offer(s.boundary[i].from);
+            scan.offer(s.boundary[i].to);
+        }
+    }
+    return scan.best();
+}
+
+std::size_t boundaryLegs(const Session& s)
+{
+    const auto most = static_cast<std::int32_t>(s.boundary.size());        // 100
+    return static_cast<std::size_t>(std::clamp(s.boundaryCount, 0, most)); // not negative
+}
+
+} // namespace mirtane

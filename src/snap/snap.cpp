@@ -1,0 +1,77 @@
+#include "snap/snap.h"
+
+#include "snap/snap_routines.h"
+#include "snap/snapped_point.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+using Routine = void (*)(Session&, const Canvas&);
+
+constexpr auto always = [](const Session&) { return true; };
+
+bool legIsUnderWay(const Session& s)
+{
+    return s.stepNo != 0 && !drawsConstructionLine(s);
+}
+
+bool tangentIsPossible(const Session& s)
+{
+    const EntityStore& store = s.store;
+    for (std::int32_t i = 1; i < store.end(); ++i) {
+        const std::int16_t kind = store.kind[EntityStore::at(i)];
+        if ((kind == kind::circle || kind == kind::arc) && store.isShown(i)) return legIsUnderWay(s);
+    }
+    return false;
+}
+
+struct SnapRow {
+    ControlId button;
+    std::string_view code;
+    std::string_view label;
+    Routine run;
+    bool (*canBeArmed)(const Session&);
+    bool onConstructionLine;
+};
+
+constexpr SnapRow snapRows[] = {
+    {"Command35"_c, "sp", "Snap Point is on:", snapPoint, always, true},
+    {"Command36"_c, "so", "Snap Object is on:", snapObject, always, true},
+    {"Command37"_c, "si", "Snap Intersection is on:", snapIntersection, always, true},
+    {"Command38"_c, "sf", "Snap Percentage is on:", snapPercentage, always, true},
+    {"Command39"_c, "sn", "Snap Perpendicular is on:", snapPerpendicular, legIsUnderWay, false},
+    {"Command40"_c, "st", "Snap Tangent is on:", snapTangent, tangentIsPossible, false},
+    {"Command21"_c, "sm", "Snap Midpoint is on:", snapMidpoint, always, true},
+};
+
+} // namespace
+
+void holdSnap(Session& s, const Canvas& pic1)
+{
+    if (s.snapKey == 2) snapPoint(s, pic1);
+    if (s.snapKey == 1) snapObject(s, pic1);
+}
+
+void oneShotSnap(Session& s, const Canvas& pic1)
+{
+    Control& snapbox = s.controls["snapbox"_c];
+    const auto* const row = std::ranges::find(snapRows, snapbox.text, &SnapRow::code);
+    if (row == std::end(snapRows)) return;
+    if (drawsConstructionLine(s) && !row->onConstructionLine) return;
+    setText(snapbox, "");
+    row->run(s, pic1);
+}
+
+void pressSnapButton(Session& s, ControlId button)
+{
+    const auto isPressed = [button](const SnapRow& row) { return row.button.index == button.index; };
+    const auto* const row = std::ranges::find_if(snapRows, isPressed);
+    s.controls.focus = "pic1"_c;
+    if (row == std::end(snapRows) || !row->canBeArmed(s)) return;
+    setText(s.controls["snapbox"_c], std::string(row->code));
+    s.controls["snaplab"_c].caption = row->label;
+}
+
+} // namespace mirtane

@@ -1,0 +1,23 @@
+#pragma once
+
+// Exact points. A snap replaces the point of the click under way by one taken from the drawing, found near
+// mousePos. It runs after the click has been stored and confined. One that finds nothing leaves the click as
+// it was, but for Snap Point, which then gives (0, 0).
+
+#include "model/session.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// The snap of the key that is held: Snap Point for Ctrl, Snap Object for Shift.
+void holdSnap(Session& s, const Canvas& pic1);
+
+// The snap that its button armed for this one click, by the code in snapbox; it is disarmed. An unknown code
+// stays, and so do those that a construction line does not take.
+void oneShotSnap(Session& s, const Canvas& pic1);
+
+// A press of one of the seven snap buttons: arms its snap, or does nothing where that snap has no use, and
+// gives the drawing the focus.
+void pressSnapButton(Session& s, ControlId button);
+
+} // namespace mirtane

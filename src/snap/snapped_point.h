@@ -1,0 +1,30 @@
+#pragma once
+
+// Where the point that a snap found goes: into the click under way, which is a point of the construction line
+// while one is drawn, and otherwise pickFirst at step 1 and pickLast above it. Whatever is written sets
+// pointWasSnapped.
+
+#include "model/session.h"
+
+#include <optional>
+
+namespace mirtane {
+
+// A leg under way, from the click before to the one that is snapped.
+struct Leg {
+    Point from, to;
+};
+
+bool drawsConstructionLine(const Session& s);
+
+// The leg that Snap Point and Snap Midpoint keep to: they give the foot of their point on it. None while
+// ortho is off, and for functions that take the point itself.
+std::optional<Leg> legKeptByPoint(const Session& s);
+
+// The leg that Snap Object follows to the object. Other functions than above take the point itself.
+std::optional<Leg> legKeptByObject(const Session& s);
+
+// Writes a point as it is. At step 0 there is no click to write to.
+void writeSnapped(Session& s, Point p);
+
+} // namespace mirtane

@@ -1,0 +1,85 @@
+#include "snap/window_selection.h"
+
+#include "geometry/ellipse.h"
+#include "render/canvas.h"
+#include "render/view.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+constexpr std::int16_t any = -1;
+
+struct Window {
+    Point from, to; // the left upper and the right lower corner
+
+    bool holds(Point p) const { return (p.x >= from.x) & (p.x <= to.x) & (p.y >= from.y) & (p.y <= to.y); }
+
+    bool holdsCircle(Point centre, float radius) const
+    {
+        return holds({centre.x - radius, centre.y - radius}) && holds({centre.x + radius, centre.y + radius});
+    }
+
+    bool holdsEllipse(const Ellipse& e) const
+    {
+        return std::ranges::all_of(axisEnds(e), [this](Point p) { return holds(p); });
+    }
+};
+
+bool liesIn(const Window& w, const EntityStore& store, std::size_t i)
+{
+    switch (store.kind[i]) {
+    case kind::line:
+        return w.holds(store.p1[i]) && w.holds(store.p2[i]);
+    case kind::circle:
+        return w.holdsCircle(store.p1[i], store.rad[i]);
+    case kind::arc: // its centre counts for nothing
+        return w.holds(store.p2[i]) && w.holds(store.p3[i]) && w.holds(store.p4[i]);
+    case kind::ellipse:
+        return w.holdsEllipse({store.p1[i], store.p2[i], store.p3[i].x});
+    case kind::point:
+    case kind::text:
+        return w.holds(store.p1[i]);
+    case kind::linearDimension:
+        return w.holds(store.p3[i]) && w.holds(store.p4[i]) && w.holds(store.p5[i]);
+    case kind::radialDimension:
+        return w.holds(store.p2[i]) && w.holds(store.p5[i]);
+    case kind::leader:
+        return w.holds(store.p2[i]) && w.holds(store.p3[i]);
+    case kind::angularDimension:
+        return w.holds(store.p4[i]) && w.holds(store.p5[i]);
+    default:
+        return false;
+    }
+}
+
+bool isOfKind(std::int16_t kind, std::int16_t wanted)
+{
+    return wanted == kind::linearDimension ? kind >= wanted : kind == wanted;
+}
+
+bool passes(const FilterValues& f, const EntityStore& store, std::size_t i)
+{
+    if (f.filterLayer != any && store.layer[i] != f.filterLayer) return false;
+    if (f.filterKind != any && !isOfKind(store.kind[i], f.filterKind)) return false;
+    if (f.filterColor != black && store.color[i] != f.filterColor) return false; // black as the surface: any
+    return f.filterStyle == any || store.style[i] == f.filterStyle;
+}
+
+} // namespace
+
+void selectInWindow(Session& s, bool filtered)
+{
+    sortWindowCorners(s);
+    const Window window{s.window1, s.window2};
+    EntityStore& store = s.store;
+    const auto end = EntityStore::at(store.end());
+    for (std::size_t i = 1; i < end; ++i) {
+        if (store.stat[i] != Stat::on) continue;
+        if (filtered && !passes(s, store, i)) continue;
+        if (liesIn(window, store, i)) store.stat[i] = Stat::sel;
+    }
+}
+
+} // namespace mirtane

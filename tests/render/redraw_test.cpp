@@ -1,0 +1,222 @@
+#include "render/redraw.h"
+
+#include "ops_text.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <memory>
+
+namespace mirtane {
+namespace {
+
+using fake::Ops;
+
+// A view of 1000 by 800 with its corner at the origin.
+struct Redraw : testing::Test {
+    Redraw()
+    {
+        pic1.setScale({0, 0, 1000, 800});
+        readViewLimits(s, pic1);
+    }
+
+    void add(std::int16_t kind, Point p1, Point p2 = {}, float rad = 0, Stat stat = Stat::on)
+    {
+        EntityRecord r;
+        r.kind = kind;
+        r.p1 = p1;
+        r.p2 = p2;
+        r.rad = rad;
+        r.color = 255;
+        r.style = 1;
+        if (kind == kind::ellipse) r.p3.x = 0.5F;
+        if (kind == kind::arc) r.a2 = 1;
+        s.store.setRecord(s.store.entCount, r);
+        s.store.setStat(s.store.entCount, stat);
+        ++s.store.entCount;
+    }
+
+    Ops painted()
+    {
+        pic1.takeOps();
+        redrawAll(s, pic1);
+        return fake::opsOn(pic1);
+    }
+
+    std::unique_ptr<Session> session = std::make_unique<Session>();
+    Session& s = *session;
+    RecordingCanvas pic1{Size{500, 200}};
+};
+
+TEST_F(Redraw, OfAnEmptyDrawingJustClearsAndKeepsThePicture)
+{
+    const Ops expected = {"clear", "snapshot", "setColor 16777215", "setStyle 2"};
+    EXPECT_EQ(painted(), expected);
+}
+
+TEST_F(Redraw, PaintsInSlotOrderEachInItsOwnPen)
+{
+    add(kind::line, {0, 0}, {10, 5});
+    add(kind::circle, {100, 100}, {}, 50);
+    add(kind::point, {7, 8});
+    const Ops ops = painted();
+    ASSERT_GE(ops.size(), 7U);
+    const Ops line(ops.begin(), ops.begin() + 4);
+    const Ops expected = {"clear", "setColor 255", "setStyle 1", "line 0 0 10 5"};
+    EXPECT_EQ(line, expected);
+    const Ops order = {"line 0 0 10 5", "circle 100 100 50", "point 7 8"};
+    EXPECT_EQ(fake::marks(ops), order);
+    EXPECT_EQ(ops.back(), "setStyle 2");
+    EXPECT_EQ(ops[ops.size() - 2], "setColor 16777215");
+    EXPECT_EQ(ops[ops.size() - 3], "snapshot");
+    EXPECT_TRUE(fake::only(ops, "refresh").empty()); // its callers do that
+}
+
+TEST_F(Redraw, NeverPaintsHiddenDeletedOrForeignSlots)
+{
+    add(kind::line, {0, 0}, {10, 5}, 0, Stat::off);
+    add(kind::line, {0, 0}, {10, 5}, 0, Stat::out);
+    for (const std::int16_t other : {11, 12, 15, 20, 24, 25, 30, 35, 0, -1, 32767}) add(other, {0, 0}, {10, 5}, 5);
+    EXPECT_TRUE(fake::marks(painted()).empty());
+}
+
+TEST_F(Redraw, NeverPaintsTheHeader)
+{
+    EntityRecord r;
+    r.kind = kind::line;
+    r.p2 = {10, 10};
+    s.store.setRecord(0, r);
+    s.store.setStat(0, Stat::on);
+    add(kind::point, {7, 8});
+    EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});
+}
+
+TEST_F(Redraw, ShowsTheSelectionDottedWhiteAndEllipsesAShadeYellower)
+{
+    add(kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
+    add(kind::ellipse, {150, 100}, {100, 100}, 0, Stat::sel);
+    const Ops ops = painted();
+    const Ops colors = {"setColor 16777215", "setColor 1703935", "setColor 16777215"};
+    EXPECT_EQ(fake::only(ops, "setColor"), colors);
+    EXPECT_EQ(1703935, 255 + 255 * 256 + 25 * 65536);
+    const Ops styles = {"setStyle 2", "setStyle 2", "setStyle 2"};
+    EXPECT_EQ(fake::only(ops, "setStyle"), styles);
+}
+
+TEST_F(Redraw, LeavesOutTheSelectionWhileItFollowsThePointer)
+{
+    add(kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
+    add(kind::point, {7, 8});
+    s.workAngle = 25;
+    EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});
+    s.workAngle = 24.9;
+    EXPECT_EQ(fake::marks(painted()).size(), 2U);
+}
+
+struct CullRow {
+    const char* what;
+    std::int16_t kind;
+    Point p1, p2;
+    float rad;
+    bool painted;
+};
+
+TEST_F(Redraw, SkipsWhatLiesWhollyBeyondOneSideAndCountsTheEdgeAsInside)
+{
+    const CullRow rows[] = {
+        {"a line on the left edge", kind::line, {-5, 10}, {0, 10}, 0, true},
+        {"a line on the right edge", kind::line, {1000, 10}, {1200, 10}, 0, true},
+        {"a line on the top edge", kind::line, {5, -10}, {5, 0}, 0, true},
+        {"a line on the bottom edge", kind::line, {5, 800}, {5, 900}, 0, true},
+        {"a line left of it", kind::line, {-5, 10}, {-0.1F, 20}, 0, false},
+        {"a line right of it", kind::line, {1000.1F, 10}, {1200, 20}, 0, false},
+        {"a line above it", kind::line, {5, -10}, {9, -0.1F}, 0, false},
+        {"a line below it", kind::line, {5, 800.1F}, {9, 900}, 0, false},
+        {"a line that passes outside a corner", kind::line, {-100, 10}, {10, -100}, 0, true},
+        {"a circle that touches the left edge", kind::circle, {-10, 10}, {}, 10, true},
+        {"a circle beyond it", kind::circle, {-10.5F, 10}, {}, 10, false},
+        {"a circle that touches the bottom", kind::circle, {10, 810}, {}, 10, true},
+        {"a circle beyond it", kind::circle, {10, 811}, {}, 10, false},
+        {"an arc by its whole circle", kind::arc, {-9, 10}, {}, 10, true},
+        {"an arc beyond", kind::arc, {-11, 10}, {}, 10, false},
+        {"a point outside is painted all the same", kind::point, {-50, -50}, {}, 0, true},
+        {"an ellipse beyond", kind::ellipse, {-20, 100}, {-50, 100}, 0, false},
+    };
+    for (const CullRow& row : rows) {
+        s.store.entCount = 1;
+        add(row.kind, row.p1, row.p2, row.rad);
+        EXPECT_EQ(!fake::marks(painted()).empty(), row.painted) << row.what;
+    }
+}
+
+TEST_F(Redraw, CullsAnEllipseByItsFirstAxisAboutItsCentre)
+{
+    add(kind::ellipse, {-20, 100}, {10, 100}); // radius 30 about (10, 100)
+    EXPECT_FALSE(fake::marks(painted()).empty());
+    s.store.entCount = 1;
+    add(kind::ellipse, {-20, 100}, {-60, 100}); // radius 40 about (-60, 100): it ends at -20
+    EXPECT_TRUE(fake::marks(painted()).empty());
+}
+
+TEST_F(Redraw, GoesStraightToTheSurfaceAfterZoomAllForLinesAndCirclesAlone)
+{
+    add(kind::line, {-10000, 10}, {10000, 10});
+    add(kind::circle, {500, 400}, {}, 450);
+    s.wholeViewFlag = 1;
+    const Ops expected = {"line -10000 10 10000 10", "circle 500 400 450"};
+    EXPECT_EQ(fake::marks(painted()), expected);
+    s.wholeViewFlag = 0;
+    EXPECT_GT(fake::marks(painted()).size(), 2U);
+    s.store.entCount = 1;
+    add(kind::arc, {500, 400}, {}, 850);
+    s.wholeViewFlag = 1;
+    EXPECT_TRUE(fake::only(painted(), "arc").empty()); // its painter is used as ever
+}
+
+TEST_F(Redraw, SkipsAnObjectWhoseCullFaultsAndGoesOn)
+{
+    const float largest = std::numeric_limits<float>::max();
+    add(kind::circle, {largest, 400}, {}, largest); // its right end can't be had
+    add(kind::point, {7, 8});
+    EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});
+}
+
+TEST_F(Redraw, OfWildNumbersGoesOn)
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float infinite = std::numeric_limits<float>::infinity();
+    for (const float wild : {nan, infinite, -infinite, std::numeric_limits<float>::max()}) {
+        for (std::int16_t k = 1; k <= 10; ++k) {
+            add(k, {wild, 10}, {500, wild}, wild);
+            add(k, {500, 400}, {wild, wild}, 1);
+        }
+    }
+    add(kind::point, {7, 8});
+    EXPECT_EQ(fake::marks(painted()).back(), "point 7 8");
+}
+
+TEST_F(Redraw, TakesThePixelFactorsFromTheSurface)
+{
+    pic1.setScale({100, 50, 1000, 800});
+    painted();
+    EXPECT_EQ(s.pixelOriginX, 100);
+    EXPECT_EQ(s.pixelOriginY, 50);
+    EXPECT_EQ(s.pixelPerUnitX, 0.5F);
+    EXPECT_EQ(s.pixelPerUnitY, 0.25F);
+}
+
+TEST_F(Redraw, AfterDeselectingRefreshesToo)
+{
+    add(kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
+    add(kind::line, {0, 0}, {10, 5}, 0, Stat::off);
+    pic1.takeOps();
+    deselectAll(s, pic1);
+    EXPECT_EQ(s.store.stat[1], Stat::on);
+    EXPECT_EQ(s.store.stat[2], Stat::off);
+    const Ops ops = fake::opsOn(pic1);
+    EXPECT_EQ(ops.front(), "clear");
+    EXPECT_EQ(ops.back(), "refresh");
+}
+
+} // namespace
+} // namespace mirtane

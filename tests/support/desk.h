@@ -1,0 +1,95 @@
+#pragma once
+
+// The whole program without a window, at its start, with everything about it in memory.
+
+#include "app/shell.h"
+#include "memory_ports.h"
+#include "ops_text.h"
+#include "text/utf8.h"
+
+#include <memory>
+
+namespace mirtane::fake {
+
+inline constexpr const char* home = "/home/user";
+
+class Desk {
+  public:
+    explicit Desk(const std::map<std::string, std::string>& stored = {})
+    {
+        settings.values = stored;
+        folders.folders = {"/", "/home", home};
+        pic1.setScale({0, 0, 4800, 3200});
+        shell.start();
+        pic1.takeOps();
+    }
+
+    void press(ControlId id) { shell.click(id); }
+    void move(float x, float y) { shell.mouseMove({x, y}); }
+    void down(int button, float x, float y) { shell.mouseDown(button, {x, y}); }
+    void click(float x, float y)
+    {
+        move(x, y);
+        down(1, x, y);
+    }
+    void cancel(float x = 0, float y = 0) { down(2, x, y); }
+    void type(std::string_view text)
+    {
+        for (const std::string& c : utf8Characters(text)) shell.keyPress(firstCharacter(c).code);
+    }
+    void enter() { shell.keyPress(13); }
+    void backspace() { shell.keyPress(8); }
+    // Types a name over what stands in the file dialog.
+    void name(const std::string& typed)
+    {
+        setText(s.controls["frmfile.Text1"_c], "");
+        shell.giveFocus("frmfile.Text1"_c);
+        type(typed);
+    }
+    void saveAs(const std::string& typed)
+    {
+        press("fil7"_c);
+        name(typed);
+        enter();
+    }
+    void open(const std::string& typed)
+    {
+        press("fil4"_c);
+        name(typed);
+        enter();
+    }
+    void drawLine(float x1, float y1, float x2, float y2)
+    {
+        press("Command1"_c);
+        down(1, x1, y1);
+        shell.mouseMove({x2, y2});
+        down(1, x2, y2);
+        cancel();
+    }
+
+    const std::string& text(ControlId id) const { return session->controls[id].text; }
+    const std::string& caption(ControlId id) const { return session->controls[id].caption; }
+    bool visible(ControlId id) const { return session->controls[id].visible; }
+    bool enabled(ControlId id) const { return session->controls[id].enabled; }
+    std::string_view focused() const { return session->controls.focus.row().name; }
+    std::string_view title() const { return caption("frmMain"_c); }
+    Stat stat(std::int32_t slot) const { return session->store.stat[EntityStore::at(slot)]; }
+    EntityRecord slot(std::int32_t number) const { return session->store.record(number); }
+    Ops ops() { return opsOn(pic1); }
+
+    MemoryDisk disk;
+    MemoryFolders folders{disk};
+    MemorySettings settings;
+    std::unique_ptr<Session> session = std::make_unique<Session>();
+    Session& s = *session;
+    RecordingCanvas pic1{Size{1200, 800}};
+    Shell shell{*session, pic1, Ports{disk, folders, settings, home}};
+};
+
+inline std::string titleOf(std::string_view doing, std::string_view drawing = "untitled.mtd")
+{
+    return "Mirtane 4.00    Drawing Name: " + std::string(drawing) +
+           "    Current Function: " + std::string(doing);
+}
+
+} // namespace mirtane::fake

@@ -1,0 +1,82 @@
+#pragma once
+
+// What the shell asks of the platform, in memory, so that a test sees all of it and can make it fail.
+
+#include "app/ports.h"
+
+#include <algorithm>
+#include <set>
+
+namespace mirtane::fake {
+
+class MemoryDisk : public Disk {
+  public:
+    std::optional<Bytes> read(const std::string& path) override
+    {
+        const auto found = files.find(path);
+        if (found == files.end()) return std::nullopt;
+        return found->second;
+    }
+
+    bool writeWhole(const std::string& path, const Bytes& bytes) override
+    {
+        ++writesTried;
+        if (refusesWrites) return false;
+        files[path] = bytes;
+        return true;
+    }
+
+    std::map<std::string, Bytes> files; // by full path
+    bool refusesWrites = false;
+    int writesTried = 0;
+};
+
+// The folders that were made, and in them the files of the disk.
+class MemoryFolders : public Folders {
+  public:
+    explicit MemoryFolders(const MemoryDisk& disk) : disk_(disk) {}
+
+    std::vector<std::string> files(const std::string& folder, const std::string& extension) override
+    {
+        std::vector<std::string> names;
+        for (const auto& [path, bytes] : disk_.files) {
+            const std::string name = path.substr(path.rfind('/') + 1);
+            if (path == folder + "/" + name && name.ends_with(extension)) names.push_back(name);
+        }
+        return names;
+    }
+
+    std::vector<std::string> subfolders(const std::string& folder) override
+    {
+        std::vector<std::string> names;
+        for (const std::string& known : folders) {
+            const std::string name = known.substr(known.rfind('/') + 1);
+            if (known == folder + "/" + name) names.push_back(name);
+        }
+        return names;
+    }
+
+    std::vector<std::string> drives() override { return {"/"}; }
+    bool exists(const std::string& folder) override { return folders.contains(folder); }
+
+    std::set<std::string> folders; // full paths
+
+  private:
+    const MemoryDisk& disk_;
+};
+
+class MemorySettings : public SettingsStore {
+  public:
+    std::map<std::string, std::string> read() override { return values; }
+
+    void write(const std::map<std::string, std::string>& written) override
+    {
+        ++writes;
+        values = written;
+    }
+
+    std::map<std::string, std::string> values;
+    int writes = 0;
+};
+
+} // namespace mirtane::fake
