@@ -124,7 +124,7 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
     }
     const FunctionRow* row = findFunction(s.curFunc);
     if (row == nullptr) return;
-    if (button == leftButton) ++s.stepNo;
+    if (button == leftButton) countStep(s);
     storeClick(s, at);
     s.pointWasSnapped = false;
     confineClick(s, *row);

@@ -30,7 +30,7 @@ void turnOff(Session& s, Canvas& pic1)
 {
     s.controls["blank"_c].caption = "Blank/Off";
     resetPicture(pic1);
-    ++s.stepNo;
+    countStep(s);
     if (s.stepNo == 1) s.pickFirst = s.blankStart;
     if (s.stepNo > 1) s.pickLast = s.blankStart;
     s.mousePos = s.blankStart;

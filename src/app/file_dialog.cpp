@@ -44,6 +44,26 @@ std::string normalisedName(const Session& s)
     return base.empty() ? base : base + std::string(patternOf(s).extension);
 }
 
+bool sameButForCase(std::string_view a, std::string_view b)
+{
+    const auto lower = [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+    }; // a letter
+    return std::ranges::equal(a, b, {}, lower, lower);
+}
+
+// The list shows extensions in either case, so a file is opened by the name that it has on the disk.
+std::string nameInList(const Session& s, const std::string& name)
+{
+    const std::vector<std::string>& names = s.controls["frmfile.File1"_c].rows;
+    if (std::ranges::find(names, name) != names.end()) return name;
+    const std::size_t base = name.size() - patternOf(s).extension.size();
+    const auto found = std::ranges::find_if(names, [&](const std::string& row) {
+        return row.starts_with(name.substr(0, base)) && sameButForCase(row, name);
+    });
+    return found == names.end() ? name : *found;
+}
+
 bool isSaving(const Session& s)
 {
     const std::string& caption = s.controls["frmfile.Command1"_c].caption;
@@ -85,7 +105,8 @@ void showFolder(App& app, const std::string& folder)
     files.rows = app.ports.folders.files(folder, std::string(patternOf(s).extension));
     files.row = -1;
     drives.rows = app.ports.folders.drives();
-    drives.rows.push_back((s.*patternOf(s).folders).working);
+    const std::string& working = (s.*patternOf(s).folders).working;
+    if (std::ranges::find(drives.rows, working) == drives.rows.end()) drives.rows.push_back(working);
     drives.row = driveOf(drives.rows, folder);
 }
 
@@ -157,8 +178,9 @@ void offerToSave(App& app, std::int16_t followUp)
 void confirmFileDialog(App& app, ControlId)
 {
     Session& s = app.s;
-    const std::string name = normalisedName(s);
+    std::string name = normalisedName(s);
     if (name.empty()) return;
+    if (!isSaving(s)) name = nameInList(s, name);
     setText(s.controls["frmfile.Text1"_c], name);
     (s.*patternOf(s).folders).last = folderShown(s);
     const FileChoice choice{folderShown(s), name, s.controls["frmfile"_c].caption, s.filePattern};

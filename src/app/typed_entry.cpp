@@ -64,7 +64,7 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
     } else {
         layAlongLine(s, d);
     }
-    ++s.stepNo;
+    countStep(s);
     if (row.typedDistance == TypedDistance::laysPoint) callStep(s, pic1);
     s.controls.focus = "pic1"_c;
 }

@@ -191,7 +191,8 @@ void replaceDrawing(Session& s, const Bytes& file)
     if (hasHeader) takeHeader(s);
     rebuildLayers(s);
     nameAndMarkLayers(s);
-    ++s.layerTable.layerCount;
+    constexpr std::int32_t highestCount = 32767; // it counts in 16 bits
+    s.layerTable.layerCount = std::min(s.layerTable.layerCount + 1, highestCount);
 }
 
 // A layer name is written like the others, but the next record takes its slot.

@@ -16,6 +16,7 @@ enum class ControlKind : std::uint8_t {
     option,
     field,       // text box that takes keys
     display,     // text box that gives the focus back to the drawing at once
+    page,        // long text that is read
     workingText, // hidden text box that serves as a working string
     label,
     list,
@@ -164,11 +165,11 @@ inline constexpr ControlRow controlTable[] = {
     {"dim7", ControlKind::entry, "dim1", "Arrow Size", "", "", true},
     {"dim11", ControlKind::entry, "dim1", "Move Dimension Text", "", "", true},
     {"dtol1", ControlKind::menu, "dim1", "Tolerance", "", "", true},
-    {"dtol2", ControlKind::checkedEntry, "dtol1", "1/4", "", ""},
-    {"dtol3", ControlKind::checkedEntry, "dtol1", "1/8", "", ""},
-    {"dtol4", ControlKind::checkedEntry, "dtol1", "1/16", "", ""},
-    {"dtol5", ControlKind::checkedEntry, "dtol1", "1/32", "", ""},
-    {"dtol6", ControlKind::checkedEntry, "dtol1", "1/64", "", ""},
+    {"dtol2", ControlKind::checkedEntry, "dtol1", "1/4\"", "", ""},
+    {"dtol3", ControlKind::checkedEntry, "dtol1", "1/8\"", "", ""},
+    {"dtol4", ControlKind::checkedEntry, "dtol1", "1/16\"", "", ""},
+    {"dtol5", ControlKind::checkedEntry, "dtol1", "1/32\"", "", ""},
+    {"dtol6", ControlKind::checkedEntry, "dtol1", "1/64\"", "", ""},
     {"tk1", ControlKind::menu, "", "Text", "", ""},
     {"tk3", ControlKind::entry, "tk1", "Size", "", ""},
     {"tk5", ControlKind::entry, "tk1", "Font", "", "", true},
@@ -216,7 +217,7 @@ inline constexpr ControlRow controlTable[] = {
     {"frmfile.Command1", ControlKind::button, "", "Open", "", ""},
     {"frmfile.Command2", ControlKind::button, "", "Close", "", ""},
 
-    {"frmhelp.Text1", ControlKind::display, "", "", "", ""},
+    {"frmhelp.Text1", ControlKind::page, "", "", "", ""},
 };
 // clang-format on
 

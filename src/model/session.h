@@ -2,6 +2,7 @@
 
 // All that the program knows between two events. A routine takes the smallest of these structs that it needs.
 
+#include "geometry/fault.h"
 #include "model/controls.h"
 #include "model/entity_store.h"
 #include "model/layers.h"
@@ -45,6 +46,12 @@ struct FunctionState {
     std::string promptText;
     std::int16_t editPending = 0; // 1 while a function chosen from the edit list runs
 };
+
+// One click or entry more. At the end of its 16 bits the count stays as it is.
+inline void countStep(FunctionState& state)
+{
+    keep(state.stepNo, state.stepNo + 1);
+}
 
 // Geometry on its way from the commands to the insertion routines. Points are world coordinates.
 struct ScratchPoints {

@@ -47,6 +47,7 @@ std::string_view valuesOf(ControlKind kind)
     case ControlKind::field:
     case ControlKind::display:
         return "text color";
+    case ControlKind::page:
     case ControlKind::workingText:
         return "text";
     case ControlKind::list:

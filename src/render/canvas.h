@@ -27,9 +27,9 @@ inline constexpr std::int16_t dashDot = 3;
 inline constexpr std::int16_t dashDotDot = 4;
 } // namespace pen
 
-// A drawing surface with a retained image and one clean picture to go back to. Coordinates are world units under
-// the current scale, angles radians counter-clockwise on the screen. Anything may be passed, also NaN and
-// coordinates far outside: what can't be drawn is left out.
+// A drawing surface with a retained image and one clean picture to go back to. Coordinates are world units
+// under the current scale, angles radians counter-clockwise on the screen. Anything may be passed, also NaN
+// and coordinates far outside: what can't be drawn is left out.
 class Canvas {
   public:
     virtual ~Canvas() = default;
@@ -39,8 +39,9 @@ class Canvas {
     virtual void setStyle(std::int16_t style) = 0; // 0 to 4, others draw solid
     virtual void line(float x1, float y1, float x2, float y2) = 0;
     virtual void circle(float cx, float cy, float r) = 0;
-    virtual void arc(float cx, float cy, float r, double a1, double a2) = 0; // counter-clockwise from a1 to a2
-    virtual void point(float x, float y) = 0;                                // one pixel
+    virtual void arc(float cx, float cy, float r, double a1,
+                     double a2) = 0;          // counter-clockwise from a1 to a2
+    virtual void point(float x, float y) = 0; // one pixel
 
     virtual Scale getScale() const = 0;
     virtual void setScale(const Scale& scale) = 0;
@@ -52,8 +53,8 @@ class Canvas {
     virtual void setUnderline(bool on) = 0;
     // Width in world units of a string in the current font.
     virtual float textWidth(std::string_view utf8) const = 0;
-    // Writes a string in the current font and colour, (x, y) its upper left corner before it is turned by whole
-    // degrees about that corner.
+    // Writes a string in the current font and colour, (x, y) its upper left corner before it is turned by
+    // whole degrees about that corner.
     virtual void text(float x, float y, int degrees, std::string_view utf8) = 0;
 
     virtual void snapshot() = 0;        // the image becomes the clean picture

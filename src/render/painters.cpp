@@ -5,6 +5,7 @@
 
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "render/chords.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,62 +18,11 @@ double viewHeight(const Canvas& pic1)
     return pic1.getScale().height;
 }
 
-void drawIfInView(Canvas& pic1, const View& view, Point a, Point b)
+Point movedRight(Point centre, double r)
 {
-    if (pieceInView(view, a, b)) pic1.line(a.x, a.y, b.x, b.y);
-}
-
-Point moved(Point from, double dx, double dy)
-{
-    Point p = from;
-    keep(p.x, from.x + dx);
-    keep(p.y, from.y + dy);
+    Point p = centre;
+    keep(p.x, centre.x + r);
     return p;
-}
-
-// More pieces than this would keep the user waiting; the surface clips for itself, so such an object goes to
-// it whole.
-constexpr std::int32_t mostPieces = 200000;
-
-void drawLinePieces(Canvas& pic1, const View& view, Point a, Point b, double length)
-{
-    std::int32_t pieces = 0;
-    keep(pieces, quotient(length, 2 * viewHeight(pic1)));
-    if (pieces > mostPieces) {
-        pic1.line(a.x, a.y, b.x, b.y);
-        return;
-    }
-    const double pieceLength = quotient(length, pieces);
-    const double ux = quotient(b.x - a.x, length);
-    const double uy = quotient(a.y - b.y, length);
-    for (std::int32_t k = 1; k <= pieces; ++k) {
-        const Point next = moved(a, pieceLength * ux, -pieceLength * uy);
-        drawIfInView(pic1, view, a, next);
-        a = next;
-    }
-}
-
-struct Chords {
-    Point centre;
-    Point start;
-    double r;
-    double firstAngle;
-    double sweep;
-    std::int32_t count;
-};
-
-void drawChords(Canvas& pic1, const View& view, const Chords& chords)
-{
-    if (!std::isfinite(chords.r) || !std::isfinite(chords.sweep)) return;
-    const double step = chords.sweep / chords.count;
-    double angle = chords.firstAngle;
-    Point previous = chords.start;
-    for (std::int32_t k = 1; k <= chords.count; ++k) {
-        angle += step;
-        const Point next = moved(chords.centre, chords.r * std::cos(angle), -chords.r * std::sin(angle));
-        drawIfInView(pic1, view, previous, next);
-        previous = next;
-    }
 }
 
 // Past 32,767 pieces the count faults, and the least number serves.
@@ -89,7 +39,7 @@ constexpr std::int32_t leastArcChords = 3;
 void drawCircleChords(Canvas& pic1, const View& view, Point centre, float r)
 {
     const std::int32_t count = chordCount(2 * r * halfTurn, viewHeight(pic1) / 6, leastCircleChords);
-    drawChords(pic1, view, {centre, moved(centre, r, 0), r, 0, fullTurn, count});
+    drawChords(pic1, view, {centre, movedRight(centre, r), r, 0, fullTurn, count});
 }
 
 double sweepOf(double a1, double a2)
@@ -100,19 +50,10 @@ double sweepOf(double a1, double a2)
 
 } // namespace
 
-bool pieceInView(const View& view, Point a, Point b)
-{
-    const bool beyond =
-        (a.x < view.viewLeft && b.x < view.viewLeft) || (a.x > view.viewRight && b.x > view.viewRight) ||
-        (a.y < view.viewTop && b.y < view.viewTop) || (a.y > view.viewBottom && b.y > view.viewBottom);
-    return !beyond;
-}
-
 bool circleInView(const View& view, Point centre, float r)
 {
-    const bool beyond = centre.x + r < view.viewLeft || centre.x - r > view.viewRight ||
-                        centre.y - r > view.viewBottom || centre.y + r < view.viewTop;
-    return !beyond;
+    return centre.x + r >= view.viewLeft && centre.x - r <= view.viewRight &&
+           centre.y - r <= view.viewBottom && centre.y + r >= view.viewTop;
 }
 
 void paintLine(Canvas& pic1, const View& view, Point a, Point b)
@@ -122,7 +63,9 @@ void paintLine(Canvas& pic1, const View& view, Point a, Point b)
         pic1.line(a.x, a.y, b.x, b.y);
         return;
     }
-    drawLinePieces(pic1, view, a, b, length);
+    std::int32_t pieces = 0;
+    keep(pieces, quotient(length, 2 * viewHeight(pic1)));
+    if (pieces > 0) drawPieces(pic1, view, {a, b, pieces});
 }
 
 void paintCircle(Canvas& pic1, const View& view, Point centre, float r)
@@ -146,33 +89,17 @@ void paintArc(Canvas& pic1, const View& view, Point centre, Point start, float r
     const double length = 2 * r * halfTurn * (sweep / fullTurn);
     std::int32_t count = 0;
     keep(count, quotient(length, height / 16));
-    if (count > mostPieces) {
-        pic1.arc(centre.x, centre.y, r, a1, a2);
-        return;
-    }
     drawChords(pic1, view, {centre, start, r, a1, sweep, std::max(count, leastArcChords)});
 }
 
 void paintEllipse(Canvas& pic1, const View& view, Point axisEnd, Point centre, float ratio)
 {
-    const double dx = axisEnd.x - centre.x;
-    const double dy = centre.y - axisEnd.y;
     const double r = distance(axisEnd, centre);
-    const double ux = quotient(dx, r);
-    const double uy = quotient(dy, r);
+    const double ux = quotient(axisEnd.x - centre.x, r);
+    const double uy = quotient(centre.y - axisEnd.y, r);
     if (!std::isfinite(ux * uy * ratio)) return;
     const std::int32_t count = chordCount(2 * r * halfTurn, viewHeight(pic1) / 6, leastCircleChords);
-    const double step = fullTurn / count;
-    Point previous = axisEnd;
-    double theta = 0;
-    for (std::int32_t k = 1; k <= count; ++k) {
-        theta += step;
-        const double c = r * std::cos(theta);
-        const double s = r * std::sin(theta) * ratio;
-        const Point next = moved(centre, c * ux - s * uy, -c * uy - s * ux);
-        drawIfInView(pic1, view, previous, next);
-        previous = next;
-    }
+    drawChords(pic1, view, {centre, axisEnd, r, 0, fullTurn, count, ux, uy, ratio});
 }
 
 void paintLineSegment(Canvas& pic1, const View& view, Point a, Point b)

@@ -10,9 +10,6 @@ namespace mirtane {
 // bounded at any zoom: a long line or a large circle is cut into pieces, and only pieces in view are drawn.
 // An end on the view's edge counts as inside. Radii and lengths of 0, and numbers that fault, draw nothing.
 
-// Whether a piece with these ends is not wholly beyond one side of the view.
-bool pieceInView(const View& view, Point a, Point b);
-
 // Whether a circle's box is not wholly beyond one side of the view.
 bool circleInView(const View& view, Point centre, float r);
 

@@ -2,6 +2,7 @@
 
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "render/chords.h"
 #include "render/painters.h"
 
 #include <iterator>

@@ -5,6 +5,7 @@
 #include "platform/qt/window/label_view.h"
 #include "platform/qt/window/list_box.h"
 #include "platform/qt/window/text_box.h"
+#include "platform/qt/window/text_page.h"
 
 #include <QVBoxLayout>
 
@@ -28,6 +29,8 @@ QWidget& ControlMaker::make(ControlId id, QWidget& parent) const
         return entered<ListBox>(id, parent);
     case ControlKind::button:
         return entered<FormButton>(id, parent);
+    case ControlKind::page:
+        return entered<TextPage>(id, parent);
     default:
         return entered<TextBox>(id, parent);
     }

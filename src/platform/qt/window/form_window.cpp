@@ -2,6 +2,7 @@
 
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/file_form.h"
+#include "platform/qt/window/help_form.h"
 
 #include <QCloseEvent>
 
@@ -15,9 +16,13 @@ struct FormRow {
     void (*lay)(const ControlMaker& maker, QWidget& form); // puts the form's controls on it
 };
 
-constexpr std::array<FormRow, 1> forms{{
+constexpr std::array<FormRow, 2> forms{{
     {"frmfile"_c, layFileForm},
+    {"frmhelp"_c, layHelpForm},
 }};
+
+// How much smaller than the main window the form with the manual is: 1000 and 700 twips, 15 to the pixel.
+constexpr QSize helpSmallerBy(67, 47);
 
 } // namespace
 
@@ -40,6 +45,7 @@ void FormWindow::show(const Control& now)
 void FormWindow::moveOverParent()
 {
     const QRect below = parentWidget()->geometry();
+    if (form_ == "frmhelp"_c) resize(below.size() - helpSmallerBy);
     move(below.center() - rect().center());
 }
 
