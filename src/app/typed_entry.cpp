@@ -9,6 +9,7 @@
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "text/distance_grammar.h"
+#include "text/measure.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
 
@@ -69,9 +70,9 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
     s.controls.focus = "pic1"_c;
 }
 
-void takeSize(Session& s, Canvas& pic1, float& size, float d)
+void takeSize(Session& s, Canvas& pic1, float& size, float typed)
 {
-    size = d;
+    size = typed;
     s.curFunc = s.baseFunc;
     s.stepNo = 0;
     backToDrawing(s, pic1);
@@ -79,7 +80,9 @@ void takeSize(Session& s, Canvas& pic1, float& size, float d)
 
 void actOnDistance(Session& s, Canvas& pic1, const FunctionRow& row)
 {
-    const float d = readDistance(takeText(s), s.numStyle == "br");
+    const std::string text = takeText(s);
+    const float d = readDistance(text, s.numStyle == "br");
+    const float size = readSize(text, numStyleOf(s.numStyle));
     switch (row.typedDistance) {
     case TypedDistance::laysBlankLeg:
         constructionDistance(s, pic1, d);
@@ -89,10 +92,10 @@ void actOnDistance(Session& s, Canvas& pic1, const FunctionRow& row)
         backToDrawing(s, pic1);
         return;
     case TypedDistance::setsTextSize:
-        takeSize(s, pic1, s.textSize, d);
+        takeSize(s, pic1, s.textSize, size);
         return;
     case TypedDistance::setsArrowSize:
-        takeSize(s, pic1, s.arrowSize, d);
+        takeSize(s, pic1, s.arrowSize, size);
         return;
     case TypedDistance::offsetsCopy:
         callStep(s, pic1);

@@ -4,19 +4,17 @@
 #include "geometry/fault.h"
 #include "model/title.h"
 #include "render/redraw.h"
+#include "text/measure.h"
 #include "text/numbers.h"
 
 namespace mirtane {
 namespace {
 
 constexpr double unitsPerInch = 12;
-constexpr double unitsPerCentimetre = 4.7206;
 
 std::string sizeText(const Session& s, float size)
 {
-    const double shown = size / (s.numStyle == "br" ? unitsPerCentimetre : unitsPerInch);
-    const std::string text = formatNumber(shown, NumberFormat::bareThousandths);
-    return s.numComma == 1 ? withComma(text) : text;
+    return formatSize(size, {numStyleOf(s.numStyle), s.dimTol, s.numComma == 1});
 }
 
 std::string filletText(const Session& s)

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <numeric>
 #include <utility>
@@ -29,11 +30,11 @@ constexpr double squareFeetPerSquareMetre = 10.74008;
 constexpr double centimetresPerMetre = 100;
 
 // How many wholes of that size value has, where a value that misses the next one by no more than slack counts
-// as having it.
+// as having it. 0 when there are more than Whole can count.
 template <class Whole> Whole wholesIn(double value, double size, double slack)
 {
     Whole count = 0;
-    keep(count, quotient(value, size));
+    if (!keep(count, quotient(value, size))) return 0;
     if (value + slack < count * size) keep(count, count - 1.0);
     return count;
 }
@@ -59,18 +60,20 @@ std::string feetAndInchesText(std::int32_t feet, std::int32_t inches, const std:
     return front + std::to_string(inches) + (fraction.empty() ? "\"" : " " + fraction);
 }
 
-std::string feetAndInches(double length, double tolerance)
+// A file may hold a tolerance that no menu offers: its sign is no matter, and above an inch it is an inch.
+std::string feetAndInches(double length, double anyTolerance)
 {
+    const double tolerance = std::min(1.0, std::fabs(anyTolerance));
     const double halfStep = tolerance * unitsPerInch / 2;
     const auto feet = wholesIn<std::int32_t>(length, unitsPerFoot, halfStep);
-    double rest = 0;
-    keep(rest, length - feet * unitsPerFoot);
-    const auto inches = wholesIn<std::int32_t>(rest, unitsPerInch, halfStep);
-    rest = (rest - inches * unitsPerInch) / unitsPerInch; // inches from here on
+    double overFeet = 0;
+    keep(overFeet, length - feet * unitsPerFoot);
+    const auto inches = wholesIn<std::int32_t>(overFeet, unitsPerInch, halfStep);
+    const double partOfInch = (overFeet - inches * unitsPerInch) / unitsPerInch; // may lie just below 0
 
     std::int16_t steps = 0;
-    keep(steps, quotient(rest, tolerance));
-    if (steps * tolerance > 1) keep(steps, steps - 1.0); // an odd tolerance alone can bring this about
+    keep(steps, quotient(partOfInch, tolerance));
+    if (steps * tolerance > 1) --steps; // a fraction is below an inch
     return feetAndInchesText(feet, inches, fractionText(steps * tolerance));
 }
 

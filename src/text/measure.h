@@ -23,7 +23,7 @@ NumStyle numStyleOf(std::string_view name);
 // How numbers are shown: the same for all measures of a drawing.
 struct NumberDisplay {
     NumStyle style = NumStyle::feetAndInches;
-    float dimTol = 0.125F; // the step of the fraction in feet and inches, in inches; any value is borne
+    float dimTol = 0.125F; // the step of the fraction in feet and inches, in inches
     bool comma = false;    // the decimal point shows as ","
 };
 
@@ -40,9 +40,10 @@ struct Measure {
 //   metric           3m 12.500cm  or 12.500cm
 // Decimal feet and inches are cut behind their last place, and raised by one there if the digit cut off was
 // above 5.
-// Never fails. NaN and infinity show as nothing does. Feet, metres or steps of the tolerance beyond the whole
-// numbers count as 0: a length from 2^31 feet on is "0", with a tolerance of 0 no fraction is shown, and from
-// 2^31 metres on all is centimetres.
+// Never fails. NaN and infinity show as nothing does. A count that its whole number can't hold is 0: a length
+// from 2^31 feet on is "0", from 2^31 metres on all of it is centimetres, and there is no fraction where the
+// tolerance is 0 or so small that the fraction has more than 32767 steps of it. A tolerance below 0 counts as
+// if it were above, one above an inch as an inch.
 std::string formatMeasure(const Measure& measure);
 
 // The sweep, in radians, as degrees to three places with no sign behind: "90.000". A zero angle, and one that
@@ -51,8 +52,9 @@ std::string angleDigits(double sweep);
 inline constexpr std::string_view zeroAngle = ".000";
 
 // The sweep, in radians, as an angular dimension shows it: angleDigits() and the degree sign when angFormat
-// is 0, otherwise whole degrees, minutes and seconds of the unrounded angle: 89° 59' 60", as seconds don't
-// carry. Degrees that don't fit 16 bits count as 0. Never fails.
+// is 0, otherwise whole degrees, minutes and seconds of the unrounded angle. Seconds may come to 60 and do
+// not carry: a right angle is a little short of 90 and shows 89, 59' and 60". Degrees that don't fit 16 bits
+// count as 0. Never fails.
 std::string formatAngle(double sweep, std::int16_t angFormat);
 
 // A text or arrow size, in world units, as prompts show it: inches, or centimetres when metric, to three
