@@ -163,10 +163,14 @@ struct SectorRow {
 TEST(Ortho, ChoosesTheSectorByTheDirection)
 {
     const SectorRow rows[] = {
-        {"right", 500, 0, 1, {1500, 1000}},      {"right, a little up", 400, -300, 1, {1500, 1000}},
-        {"up", 0, -500, 2, {1000, 500}},         {"up, a little left", -300, -400, 2, {1000, 500}},
-        {"left", -500, 0, 3, {500, 1000}},       {"left, a little down", -400, 300, 3, {500, 1000}},
-        {"down", 0, 500, 4, {1000, 1500}},       {"down, a little right", 300, 400, 4, {1000, 1500}},
+        {"right", 500, 0, 1, {1500, 1000}},
+        {"right, a little up", 400, -300, 1, {1500, 1000}},
+        {"up", 0, -500, 2, {1000, 500}},
+        {"up, a little left", -300, -400, 2, {1000, 500}},
+        {"left", -500, 0, 3, {500, 1000}},
+        {"left, a little down", -400, 300, 3, {500, 1000}},
+        {"down", 0, 500, 4, {1000, 1500}},
+        {"down, a little right", 300, 400, 4, {1000, 1500}},
         {"right, a little down", 400, 300, 1, {1500, 1000}},
     };
     for (const SectorRow& row : rows) {
@@ -309,6 +313,22 @@ TEST(Cancel, OfZoomWindowLeavesTheRunningFunctionAndTheArmedSnap)
     EXPECT_EQ(desk.s.windowStep, 0);
 }
 
+TEST(ArmedSnap, SurvivesTheClicksOfAWindowAndAChangeOfFunction)
+{
+    Desk desk;
+    desk.s.controls["snapbox"_c].text = "sp";
+    desk.s.controls["snaplab"_c].caption = "Snap Point is on:";
+    desk.press("Command43"_c);
+    desk.down(1, 700, 500);
+    desk.down(1, 1300, 900);
+    desk.press("Command8"_c);
+    EXPECT_EQ(desk.text("snapbox"_c), "sp");
+    EXPECT_EQ(desk.caption("snaplab"_c), "Snap Point is on:");
+    desk.cancel();
+    EXPECT_EQ(desk.text("snapbox"_c), "");
+    EXPECT_EQ(desk.caption("snaplab"_c), "");
+}
+
 TEST(EscapeKey, DoesNothingAnywhere)
 {
     Desk desk;
@@ -394,7 +414,8 @@ TEST(KeysOnTheDrawing, BeginANumberInEntryOnceTheFunctionHasBegun)
         const char* key;
         const char* entry;
     };
-    const Row rows[] = {{"7", "7"}, {".", "."}, {"-", "-"}, {"'", "'"}, {",", "."}, {"a", ""}, {"+", ""}, {" ", ""}};
+    const Row rows[] = {{"7", "7"}, {".", "."}, {"-", "-"}, {"'", "'"},
+                        {",", "."}, {"a", ""},  {"+", ""},  {" ", ""}};
     for (const Row& row : rows) {
         Desk desk;
         desk.click(100, 100);
@@ -412,6 +433,22 @@ TEST(KeysOnTheDrawing, ReplaceWhatStoodInEntryAndTypingGoesOnBehind)
     setText(desk.s.controls["entry"_c], "old");
     desk.type("12'6");
     EXPECT_EQ(desk.text("entry"_c), "12'6");
+}
+
+TEST(KeysOnTheDrawing, OfANameAllGoToEntryAtAnyStepButControlCharacters)
+{
+    for (const char* name : {"Create Multiple Lines", "Create Hatch", "Create Associate"}) {
+        Desk desk;
+        desk.s.curFunc = name;
+        desk.enter();
+        desk.backspace();
+        EXPECT_EQ(desk.focused(), "pic1") << name;
+        desk.type("B");
+        EXPECT_EQ(desk.text("entry"_c), "B") << name;
+        EXPECT_EQ(desk.focused(), "entry") << name;
+        desk.type("rick 1");
+        EXPECT_EQ(desk.text("entry"_c), "Brick 1") << name;
+    }
 }
 
 TEST(KeysOnTheDrawing, EnterAndBackspaceAreLost)

@@ -30,7 +30,8 @@ TEST_F(ConstructionLine, SuspendsTheRunningFunction)
     EXPECT_EQ(desk.s.stepNo, 1);
     EXPECT_EQ(desk.focused(), "pic1");
     EXPECT_EQ(desk.title(), fake::titleOf("Line(Enter ending point of line:)")); // the previous prompt stays
-    EXPECT_TRUE(fake::only(desk.ops(), "snapshot").empty()); // the rubber band never reaches the clean picture
+    EXPECT_TRUE(
+        fake::only(desk.ops(), "snapshot").empty()); // the rubber band never reaches the clean picture
 }
 
 TEST_F(ConstructionLine, LaysConfinedLegsOneBehindTheOther)

@@ -26,8 +26,9 @@ TEST(Dispatch, HasOneRowForEachFunctionOfTheVocabulary)
 // The functions that take clicks by other roads than a counted step, or take none.
 bool needsNoStep(std::string_view name)
 {
-    return name == "Blank Line" || isWindowFunction(name) || name == "Concentric Copy" || name == "Text Size" ||
-           name == "Arrow Size" || name == "Hatch Scale" || name == "Object Select" || name == "Change";
+    return name == "Blank Line" || isWindowFunction(name) || name == "Concentric Copy" ||
+           name == "Text Size" || name == "Arrow Size" || name == "Hatch Scale" || name == "Object Select" ||
+           name == "Change";
 }
 
 TEST(Dispatch, HasAStepForEachFunctionThatIsBuilt)
@@ -91,6 +92,7 @@ TEST(Starters, ResetWhatTheFunctionBeforeHadBegun)
 {
     fake::Desk desk;
     desk.click(100, 100);
+    desk.move(150, 100);
     desk.s.windowStep = 1;
     desk.s.textLength = 3;
     desk.s.boundaryCount = 2;
@@ -107,7 +109,7 @@ TEST(Starters, ResetWhatTheFunctionBeforeHadBegun)
     EXPECT_EQ(desk.caption("freecurs"_c), "Ortho/On");
     EXPECT_EQ(desk.text("snapbox"_c), "sp");
     EXPECT_EQ(desk.s.pickFirst, (Point{100, 100}));
-    EXPECT_EQ(desk.s.pickLast, (Point{100, 100}));
+    EXPECT_EQ(desk.s.pickLast, (Point{150, 100})); // not parked
     EXPECT_EQ(desk.s.curFunc, "Point");
     EXPECT_EQ(desk.s.baseFunc, "Point");
     EXPECT_EQ(desk.title(), fake::titleOf("Point(Enter point:)"));

@@ -120,11 +120,25 @@ TEST(Start, LeavesTheRubberBandPen)
 
 TEST(Start, TakesEachStoredValue)
 {
-    const Desk desk({{"tnam", "Courier New"}, {"tsize", "36.5"}, {"asize", "24"},  {"dstyle", "3"},
-                     {"tjust", "2"},          {"ntol", "0.25"},  {"ncom", "1"},    {"acom", "1"},
-                     {"nstyle", "br"},        {"wkd", "/d"},     {"wkmtad", "/e"}, {"wkmthd", "/f"},
-                     {"wkmtmd", "/g"},        {"wkdxfd", "/h"},  {"wkp", "/i"},    {"wkmtap", "/j"},
-                     {"wkmthp", "/k"},        {"wkmtmp", "/l"},  {"wkdxfp", "/m"}});
+    const Desk desk({{"tnam", "Courier New"},
+                     {"tsize", "36.5"},
+                     {"asize", "24"},
+                     {"dstyle", "3"},
+                     {"tjust", "2"},
+                     {"ntol", "0.25"},
+                     {"ncom", "1"},
+                     {"acom", "1"},
+                     {"nstyle", "br"},
+                     {"wkd", "/d"},
+                     {"wkmtad", "/e"},
+                     {"wkmthd", "/f"},
+                     {"wkmtmd", "/g"},
+                     {"wkdxfd", "/h"},
+                     {"wkp", "/i"},
+                     {"wkmtap", "/j"},
+                     {"wkmthp", "/k"},
+                     {"wkmtmp", "/l"},
+                     {"wkdxfp", "/m"}});
     const Session& s = desk.s;
     EXPECT_EQ(s.textFont, "Courier New");
     EXPECT_EQ(s.textSize, 36.5F);
@@ -136,8 +150,8 @@ TEST(Start, TakesEachStoredValue)
     EXPECT_EQ(s.angFormat, 1);
     EXPECT_EQ(s.numStyle, "br");
     EXPECT_EQ(s.drawings.working + s.associates.working + s.hatches.working + s.multipleLines.working +
-                  s.dxf.working + s.drawings.last + s.associates.last + s.hatches.last + s.multipleLines.last +
-                  s.dxf.last,
+                  s.dxf.working + s.drawings.last + s.associates.last + s.hatches.last +
+                  s.multipleLines.last + s.dxf.last,
               "/d/e/f/g/h/i/j/k/l/m");
     EXPECT_TRUE(s.controls["dim3"_c].checked);
     EXPECT_TRUE(s.controls["tk8"_c].checked);
@@ -182,7 +196,7 @@ TEST(LineColor, IsThatOfTheMenuAndNoObjectIsRepainted)
                                {"lw6"_c, 0x0000FF}, {"lw7"_c, 0xFF00FF}, {"lw8"_c, 0x0080FF},
                                {"lw9"_c, 0x00FFFF}, {"lw10"_c, 0xFFFFFF}};
     Desk desk;
-    desk.drawLine(0, 0, 10, 0);
+    desk.drawLine(2, 0, 10, 0);
     desk.ops();
     for (const PaletteRow& row : rows) {
         desk.shell.giveFocus("angle"_c);

@@ -36,7 +36,7 @@ TEST(TypedDistances, AreReadAsFeetAndInches)
                                 {"'6", 72},     {".25", 3},    {"1'6.5", 222}, {"2-", 24}};
     for (const DistanceRow& row : rows) {
         Desk desk;
-        desk.drawLine(0, 0, 10, 0); // so that a negative one counts
+        desk.drawLine(2, 0, 10, 0); // so that a negative one counts
         desk.click(1000, 1000);
         desk.move(1300, 1000);
         desk.type(row.typed);
@@ -54,7 +54,7 @@ TEST(TypedDistances, AreReadAsMetresAndCentimetresInMetric)
                                 {"-2", static_cast<float>(-12 * 2 / 2.5419542)}};
     for (const DistanceRow& row : rows) {
         Desk desk;
-        desk.drawLine(0, 0, 10, 0);
+        desk.drawLine(2, 0, 10, 0);
         desk.s.numStyle = "br";
         desk.click(1000, 1000);
         desk.move(1300, 1000);
@@ -169,7 +169,7 @@ TEST_F(TypedDistanceTest, LeavesTheFlagOfASnappedPoint)
 TEST(TypedDistances, AreDiscardedByOtherFunctionsThoughTheStepIsCounted)
 {
     Desk desk;
-    desk.drawLine(0, 0, 10, 0);
+    desk.drawLine(2, 0, 10, 0);
     desk.press("angle"_c);
     desk.type("m");
     desk.click(1000, 1000);
@@ -202,7 +202,7 @@ TEST(Entry, GivesTheFocusBackAtAClick)
 
 TEST(Fillet, TakesADistanceAtEveryStepAsItsRadius)
 {
-    for (const std::int16_t step : {0, 1}) {
+    for (const std::int16_t step : {std::int16_t{0}, std::int16_t{1}}) {
         Desk desk;
         desk.s.curFunc = "Fillet";
         desk.s.stepNo = step;

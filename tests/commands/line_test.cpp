@@ -40,8 +40,8 @@ TEST(Line, CommitsInThePenOfTheCurrentAttributesAndKeepsThePicture)
     desk.move(400, 300);
     desk.ops();
     desk.down(1, 400, 300);
-    const Ops expected = {"setStyle 2",   "setColor 255", "restoreSnapshot",   "line 100 100 400 300",
-                          "snapshot",     "setColor 16777215", "setStyle 2"};
+    const Ops expected = {"setStyle 2", "setColor 255",      "restoreSnapshot", "line 100 100 400 300",
+                          "snapshot",   "setColor 16777215", "setStyle 2"};
     EXPECT_EQ(desk.ops(), expected);
     EXPECT_EQ(desk.slot(1).color, 0x0000FF);
     EXPECT_EQ(desk.slot(1).style, 2);
@@ -121,7 +121,7 @@ TEST(PointFunction, MakesOnePointAClick)
     desk.press("lw5"_c);
     desk.ops();
     desk.down(1, 70, 90);
-    const Ops expected = {"setStyle 2", "setColor 16776960",  "restoreSnapshot", "point 70 90",
+    const Ops expected = {"setStyle 2", "setColor 16776960", "restoreSnapshot", "point 70 90",
                           "snapshot",   "setColor 16777215", "setStyle 2"};
     EXPECT_EQ(desk.ops(), expected);
     EXPECT_EQ(desk.slot(1).kind, kind::point);

@@ -23,8 +23,7 @@ struct Polygon : testing::Test {
 
 TEST_F(Polygon, PromptsForSidesWithTheCurrentNumber)
 {
-    EXPECT_EQ(desk.title(),
-              fake::titleOf("Polygon(Enter number of sides (3) or enter center of polygon:"));
+    EXPECT_EQ(desk.title(), fake::titleOf("Polygon(Enter number of sides (3) or enter center of polygon:"));
 }
 
 TEST_F(Polygon, TakesThreeToSixtyFourSidesAndClearsTheTextEitherWay)

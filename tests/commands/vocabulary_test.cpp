@@ -34,7 +34,12 @@ const std::vector<const char*> matchPrompts = {"(Enter beginning point of match 
 const Expected functions[] = {
     {"Line", "Command1", atOnce, true, linePrompts, false},
     {"Measure Distance", "ut3", atOnce, false, linePrompts, false},
-    {"2pt. Circle", "Command2", atOnce, true, {"(Enter center of circle:)", "(Enter radius of circle:)"}, false},
+    {"2pt. Circle",
+     "Command2",
+     atOnce,
+     true,
+     {"(Enter center of circle:)", "(Enter radius of circle:)"},
+     false},
     {"3pt. Circle",
      "Command3",
      atOnce,
@@ -53,7 +58,12 @@ const Expected functions[] = {
      true,
      {"(Enter first point on arc:)", "(Enter second point on arc:)", "(Enter last point on arc:)"},
      false},
-    {"Curve", "Command6", atOnce, true, {"(Enter first point on curve:)", "(Enter next point on curve:)"}, true},
+    {"Curve",
+     "Command6",
+     atOnce,
+     true,
+     {"(Enter first point on curve:)", "(Enter next point on curve:)"},
+     true},
     {"Ellipse",
      "Command7",
      atOnce,
@@ -125,7 +135,8 @@ const Expected functions[] = {
      "ht5",
      atOnce,
      false,
-     {"(Enter new hatch name:)", "(Enter upper-left corner of hatch:)", "(Enter lower-right corner of hatch:)"},
+     {"(Enter new hatch name:)", "(Enter upper-left corner of hatch:)",
+      "(Enter lower-right corner of hatch:)"},
      false},
     {"Hatch Scale", "ht10", atOnce, false, {"(Current hatch scale is (1) Enter new hatch scale:"}, true},
     {"Place Associate",
@@ -153,7 +164,12 @@ const Expected functions[] = {
      false,
      {"(Enter beginning of mirror line:)", "(Enter end of mirror line:)"},
      false},
-    {"Rotate", "List1", fromEdits, false, {"(Enter center of rotation:)", "(Enter number of degrees:)"}, false},
+    {"Rotate",
+     "List1",
+     fromEdits,
+     false,
+     {"(Enter center of rotation:)", "(Enter number of degrees:)"},
+     false},
     {"Scale",
      "List1",
      fromEdits,
@@ -167,14 +183,20 @@ const Expected functions[] = {
      {"(Enter center of rotation:)", "(Enter total number of degrees:)", "(Enter total number of copies:)"},
      false},
     {"Concentric Copy", "List1", fromEdits, false, {"(Enter off-set distance:)"}, true},
-    {"Break", "List1", fromEdits, false, {"(Enter first break point:)", "(Enter second break point:)"}, false},
+    {"Break",
+     "List1",
+     fromEdits,
+     false,
+     {"(Enter first break point:)", "(Enter second break point:)"},
+     false},
     {"Trim", "List1", fromEdits, false, {"(Click near object to which to trim:)"}, true},
     {"Fillet", "List1", fromEdits, false, {"(Enter new radius (6) or click near inside of radius:"}, true},
     {"Stretch",
      "List1",
      fromEdits,
      false,
-     {"(Place window around points to be moved:)", "", "(Enter reference point:)", "(Enter new reference point:)"},
+     {"(Place window around points to be moved:)", "", "(Enter reference point:)",
+      "(Enter new reference point:)"},
      false},
     {"Change", "List1", fromEdits, false, {}, false},
     {"Text Size", "tk3", atOnce, false, {"(Current text size is (4.000) Enter new text size:"}, true},
@@ -259,15 +281,31 @@ TEST(Vocabulary, FunctionsThatTakeAValueOrALocationAtOnceStartAtStepOne)
     EXPECT_EQ(names, expected);
 }
 
-const std::vector<std::string> freeOnClick = {
-    "3pt. Circle",   "3pt. Arc",           "Curve",           "Point",           "Ortho Angle Match",
-    "Place Text",    "Text Rotation Match", "Radial Dimension", "Leader",         "Angular Dimension",
-    "Text Edit",     "Create Hatch",       "Place Associate", "Create Associate", "Break",
-    "Trim",          "Radial Copy",        "Rotate",          "Scale",           "Fillet",
-    "Measure Area",  "Move Dimension Text"};
+const std::vector<std::string> freeOnClick = {"3pt. Circle",
+                                              "3pt. Arc",
+                                              "Curve",
+                                              "Point",
+                                              "Ortho Angle Match",
+                                              "Place Text",
+                                              "Text Rotation Match",
+                                              "Radial Dimension",
+                                              "Leader",
+                                              "Angular Dimension",
+                                              "Text Edit",
+                                              "Create Hatch",
+                                              "Place Associate",
+                                              "Create Associate",
+                                              "Break",
+                                              "Trim",
+                                              "Radial Copy",
+                                              "Rotate",
+                                              "Scale",
+                                              "Fillet",
+                                              "Measure Area",
+                                              "Move Dimension Text"};
 const std::vector<std::string> freeOnMove = {
-    "3pt. Circle", "3pt. Arc",          "Curve",           "Ortho Angle Match", "Text Rotation Match",
-    "Place Text",  "Radial Dimension",  "Leader",          "Angular Dimension", "Place Associate",
+    "3pt. Circle",  "3pt. Arc",           "Curve",  "Ortho Angle Match", "Text Rotation Match",
+    "Place Text",   "Radial Dimension",   "Leader", "Angular Dimension", "Place Associate",
     "Measure Area", "Move Dimension Text"};
 
 bool isIn(const std::vector<std::string>& names, std::string_view name)
@@ -292,8 +330,9 @@ TEST(Vocabulary, ConfinesClicksByTheLongerListAndMovesByTheShorter)
 
 TEST(Vocabulary, TakesATypedDistanceInTenFunctionsAlone)
 {
-    const std::vector<std::string> taking = {"Line",           "2pt. Circle",     "2pt. Arc", "Ellipse", "Polygon",
-                                             "Multiple Lines", "Ortho Dimension", "Copy",     "Move",    "Stretch"};
+    const std::vector<std::string> taking = {"Line",    "2pt. Circle",    "2pt. Arc",        "Ellipse",
+                                             "Polygon", "Multiple Lines", "Ortho Dimension", "Copy",
+                                             "Move",    "Stretch"};
     for (const FunctionRow& row : vocabulary()) {
         EXPECT_EQ(row.typedDistance == TypedDistance::laysPoint, isIn(taking, row.name)) << row.name;
     }

@@ -67,8 +67,8 @@ TEST(ControlTable, GivesEachButtonItsToolTip)
 
 TEST(ControlTable, GivesEachFieldItsFirstText)
 {
-    const TipRow rows[] = {{"angle", "000.000"},  {"snapper", "025.000"}, {"memy", "000.000"},
-                           {"textrot", "000.000"}, {"hatrot", "000.000"}, {"assrot", "000.000"},
+    const TipRow rows[] = {{"angle", "000.000"},   {"snapper", "025.000"}, {"memy", "000.000"},
+                           {"textrot", "000.000"}, {"hatrot", "000.000"},  {"assrot", "000.000"},
                            {"setts", "Solid"},     {"entry", ""}};
     const Controls controls;
     for (const TipRow& row : rows) {
@@ -135,7 +135,7 @@ TEST(ControlTable, HoldsTheMenuBarInOrder)
         {"dim1", "Dimensions",
          "dim3 Slash Style|dim4 Open Arrow Style|dim5 Closed Arrow Style|-dim7 Arrow Size|-dim11 Move "
          "Dimension Text|-dtol1 Tolerance|"},
-        {"dtol1", "Tolerance", "dtol2 1/4|dtol3 1/8|dtol4 1/16|dtol5 1/32|dtol6 1/64|"},
+        {"dtol1", "Tolerance", "dtol2 1/4\"|dtol3 1/8\"|dtol4 1/16\"|dtol5 1/32\"|dtol6 1/64\"|"},
         {"tk1", "Text",
          "tk3 Size|-tk5 Font|-tk7 Left Justification|tk8 Center Justification|tk9 Right "
          "Justification|-tk12 Underlined Text|-tk14 Change Select Font|"},
@@ -163,7 +163,8 @@ TEST(ControlTable, HoldsTheMenuBarInOrder)
     }
     std::string bar;
     for (const ControlRow& row : controlTable) {
-        const bool onBar = (row.kind == ControlKind::menu || row.kind == ControlKind::entry) && row.parent.empty();
+        const bool onBar =
+            (row.kind == ControlKind::menu || row.kind == ControlKind::entry) && row.parent.empty();
         if (onBar) bar += std::string(row.name) + " ";
     }
     EXPECT_EQ(bar, "fil1 undu redu ut1 ml1 ht1 ass1 dim1 tk1 ly1 flt1 lw1 ls1 hlp1 ");

@@ -1,6 +1,7 @@
 #include "platform/qt/surface.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 
 #include <gtest/gtest.h>
 
@@ -55,6 +56,17 @@ TEST(SurfaceText, LineIsAsHighAsItsPointsAt96ToTheInch)
     EXPECT_LE(marks.bottom(), 100 + 80 + 2);
     EXPECT_GT(marks.height(), 80 / 2);
     EXPECT_GE(marks.left(), 98);
+}
+
+TEST(SurfaceText, WidthIsThatOfAFaceWhoseLineHasThatHeight)
+{
+    QFont font;
+    font.setFamilies({"Garamond", "EB Garamond"});
+    font.setPixelSize(1000);
+    const QFontMetricsF metrics(font);
+    const double expected =
+        metrics.horizontalAdvance("Mirtane") * 80 / (metrics.ascent() + metrics.descent());
+    EXPECT_NEAR(widthAt(240) / 4, expected, expected * 0.02) << "60 points, 80 pixels";
 }
 
 TEST(SurfaceText, WidthIsWhereTheTextEnds)

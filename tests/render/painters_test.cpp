@@ -13,7 +13,8 @@ namespace {
 
 using fake::Ops;
 
-// The window is 600 high and so wide and so far to the left that all pieces lie in it, unless a test says else.
+// The window is 600 high and so wide and so far to the left that all pieces lie in it, unless a test says
+// else.
 struct Painters : testing::Test {
     Painters() { look({-100000, -100000, 300000, 600}); }
 
@@ -59,9 +60,9 @@ struct LineRow {
 TEST_F(Painters, CutALineLongerThanTwiceTheWindowsHeight)
 {
     const LineRow rows[] = {
-        {"twice the height", 1200, 1},      {"2.5 heights: 1.25 rounds to one", 1500, 1},
-        {"1.5 rounds to even", 1800, 2},    {"2.5 rounds to even", 3000, 2},
-        {"3.5 rounds to even", 4200, 4},    {"ten", 12000, 10},
+        {"twice the height", 1200, 1},   {"2.5 heights: 1.25 rounds to one", 1500, 1},
+        {"1.5 rounds to even", 1800, 2}, {"2.5 rounds to even", 3000, 2},
+        {"3.5 rounds to even", 4200, 4}, {"ten", 12000, 10},
     };
     lookEverywhere();
     for (const LineRow& row : rows) {

@@ -76,7 +76,8 @@ TEST_F(Redraw, NeverPaintsHiddenDeletedOrForeignSlots)
 {
     add(kind::line, {0, 0}, {10, 5}, 0, Stat::off);
     add(kind::line, {0, 0}, {10, 5}, 0, Stat::out);
-    for (const std::int16_t other : {11, 12, 15, 20, 24, 25, 30, 35, 0, -1, 32767}) add(other, {0, 0}, {10, 5}, 5);
+    constexpr std::int16_t others[] = {11, 12, 15, 20, 24, 25, 30, 35, 0, -1, 32767};
+    for (const std::int16_t other : others) add(other, {0, 0}, {10, 5}, 5);
     EXPECT_TRUE(fake::marks(painted()).empty());
 }
 

@@ -139,7 +139,7 @@ TEST(ZoomOut, LeavesTheWholeViewFlag)
 struct ZoomWindow : testing::Test {
     ZoomWindow()
     {
-        desk.drawLine(0, 0, 300, 0);
+        desk.drawLine(2, 0, 300, 0);
         desk.press("Command43"_c);
         desk.ops();
     }

@@ -1,0 +1,157 @@
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::Desk;
+
+const std::string houseFile = "/home/user/house.mtd";
+
+struct NameRow {
+    const char* typed;
+    const char* file;
+};
+
+TEST(FileNames, KeepThePartBeforeTheFirstPoint)
+{
+    const NameRow rows[] = {{"house", "house.mtd"},
+                            {"house.mtd", "house.mtd"},
+                            {"a.b.c", "a.mtd"},
+                            {"house.dxf", "house.mtd"},
+                            {"my house", "my house.mtd"}};
+    for (const NameRow& row : rows) {
+        Desk desk;
+        desk.saveAs(row.typed);
+        EXPECT_TRUE(desk.disk.files.contains(std::string(fake::home) + "/" + row.file)) << row.typed;
+        EXPECT_EQ(desk.text("frmfile.Text1"_c), row.file) << row.typed;
+        EXPECT_EQ(desk.s.drawingName, row.file) << row.typed;
+    }
+}
+
+TEST(FileNames, WithoutABaseConfirmNothing)
+{
+    for (const char* typed : {"", ".", ".mtd", "..x"}) {
+        Desk desk;
+        desk.saveAs(typed);
+        EXPECT_EQ(desk.disk.writesTried, 0) << typed;
+        EXPECT_TRUE(desk.visible("frmfile"_c)) << typed;
+    }
+}
+
+TEST(FileNames, StayAsTypedUntilTheyAreConfirmed)
+{
+    Desk desk;
+    desk.press("fil7"_c);
+    desk.name("a.b");
+    EXPECT_EQ(desk.text("frmfile.Text1"_c), "a.b");
+}
+
+TEST(FileNames, ThatExistTurnTheButtonToOverwriteAndBack)
+{
+    Desk desk;
+    desk.disk.files[houseFile] = {};
+    desk.press("fil7"_c);
+    desk.name("hous");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
+    desk.type("e");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Overwrite?");
+    desk.type("s");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
+    desk.backspace();
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Overwrite?");
+    desk.enter();
+    EXPECT_FALSE(desk.disk.files[houseFile].empty()); // it confirms at once
+}
+
+TEST(FileNames, OfAnOpenDialogNeverTurnItsButton)
+{
+    Desk desk;
+    desk.disk.files[houseFile] = {};
+    desk.press("fil4"_c);
+    desk.name("house");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Open");
+    desk.type("s");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Open");
+    desk.shell.clickRow("frmfile.File1"_c, 0);
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Open");
+    EXPECT_EQ(desk.text("frmfile.Text1"_c), "house.mtd");
+}
+
+TEST(FileNames, ProposedOpenAsSaveEvenWhereTheFileExists)
+{
+    Desk desk;
+    desk.disk.files["/home/user/untitled.mtd"] = {};
+    desk.press("fil7"_c);
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
+}
+
+TEST(FileNames, PickedFromTheListAreCopiedAndWarned)
+{
+    Desk desk;
+    desk.disk.files[houseFile] = {};
+    desk.press("fil7"_c);
+    desk.shell.clickRow("frmfile.File1"_c, 0);
+    EXPECT_EQ(desk.text("frmfile.Text1"_c), "house.mtd");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Overwrite?");
+}
+
+TEST(FileNames, AreComparedCaseAsStored)
+{
+    Desk desk;
+    desk.disk.files[houseFile] = {};
+    desk.press("fil7"_c);
+    desk.name("House");
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
+}
+
+TEST(FileNames, DoNotLeadToAnotherFolder)
+{
+    Desk desk;
+    desk.saveAs("../evil");
+    EXPECT_TRUE(desk.disk.files.empty());
+    EXPECT_FALSE(desk.shell.ended());
+}
+
+// Folders
+
+TEST(FileFolders, ShownIsTheLastPathThenTheWorkingOneThenTheProgramsOwn)
+{
+    struct Row {
+        const char* last;
+        const char* working;
+        const char* shown;
+    };
+    const Row rows[] = {
+        {"/plans", "/jobs", "/plans"}, {"/gone", "/jobs", "/jobs"}, {"/gone", "/lost", fake::home}};
+    for (const Row& row : rows) {
+        Desk desk({{"wkp", row.last}, {"wkd", row.working}});
+        desk.folders.folders.insert({"/plans", "/jobs"});
+        desk.press("fil4"_c);
+        EXPECT_EQ(desk.text("frmfile.Dir1"_c), row.shown);
+    }
+}
+
+TEST(FileFolders, ConfirmedAreRememberedOnSaveAndOnOpen)
+{
+    Desk desk;
+    desk.folders.folders.insert("/home/user/plans");
+    desk.disk.files["/home/user/plans/house.mtd"] = {};
+    desk.press("fil4"_c);
+    desk.shell.clickRow("frmfile.Dir1"_c, 1); // ".." first
+    EXPECT_EQ(desk.text("frmfile.Dir1"_c), "/home/user/plans");
+    EXPECT_EQ(desk.s.controls["frmfile.File1"_c].rows, std::vector<std::string>{"house.mtd"});
+    desk.shell.clickRow("frmfile.File1"_c, 0);
+    desk.press("frmfile.Command1"_c);
+    EXPECT_EQ(desk.s.drawings.last, "/home/user/plans");
+    EXPECT_EQ(desk.s.drawings.working, fake::home);
+    desk.drawLine(2, 0, 10, 0);
+    desk.press("fil7"_c);
+    EXPECT_EQ(desk.text("frmfile.Dir1"_c), "/home/user/plans");
+    desk.press("frmfile.Command1"_c);
+    EXPECT_FALSE(desk.disk.files["/home/user/plans/house.mtd"].empty());
+}
+
+} // namespace
+} // namespace mirtane

@@ -1,0 +1,200 @@
+#include "snap/window_selection.h"
+
+#include "click_desk.h"
+
+namespace mirtane {
+namespace {
+
+using fake::ClickDesk;
+using fake::Object;
+
+bool isSelected(ClickDesk& desk, bool filtered = false)
+{
+    selectInWindow(desk.s, filtered);
+    return desk.s.store.stat[1] == Stat::sel;
+}
+
+void placeWindow(ClickDesk& desk, Point a, Point b)
+{
+    desk.s.window1 = a;
+    desk.s.window2 = b;
+}
+
+TEST(WindowSelection, EachKindMustLieInByItsOwnPoints)
+{
+    struct Row {
+        const char* what;
+        Object object;
+        bool selected; // by the window from (100, 100) to (300, 300)
+    };
+    const Point in{200, 200};
+    const Point out{500, 500};
+    const auto pairs = [](std::int16_t kind, Point a, Point b, Point c, Point d, Point e) {
+        return Object{.p1 = a, .p2 = b, .p3 = c, .p4 = d, .p5 = e, .kind = kind};
+    };
+    const auto circle = [](Point centre, float radius) {
+        return Object{.p1 = centre, .rad = radius, .kind = kind::circle};
+    };
+    const auto ellipse = [](Point axisEnd, Point centre, float ratio) {
+        return Object{.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = kind::ellipse};
+    };
+    const Row rows[] = {
+        {"line within", pairs(1, in, {210, 210}, out, out, out), true},
+        {"line from edge to edge", pairs(1, {100, 100}, {300, 300}, out, out, out), true},
+        {"line half out", pairs(1, in, {300.5f, 200}, in, in, in), false},
+        {"line that crosses", pairs(1, {50, 200}, {350, 200}, in, in, in), false},
+        {"circle that fits", circle({200, 200}, 100), true},
+        {"circle a little too large", circle({200, 200}, 100.5f), false},
+        {"circle out on the right", circle({250, 200}, 60), false},
+        {"circle out on the left", circle({150, 200}, 60), false},
+        {"circle out above", circle({200, 150}, 60), false},
+        {"circle out below", circle({200, 250}, 60), false},
+        {"arc, its centre outside", pairs(3, out, in, in, in, out), true},
+        {"arc, its start outside", pairs(3, in, out, in, in, in), false},
+        {"arc, its end outside", pairs(3, in, in, out, in, in), false},
+        {"arc, its middle outside", pairs(3, in, in, in, out, in), false},
+        {"ellipse that fits", ellipse({300, 200}, {200, 200}, 1), true},
+        {"its stored end outside", ellipse({301, 200}, {200, 200}, 0.5f), false},
+        {"its mirrored end outside", ellipse({280, 200}, {185, 200}, 0.5f), false},
+        {"its second axis outside", ellipse({250, 200}, {200, 200}, 2.1f), false},
+        {"its second axis outside below only", ellipse({250, 260}, {200, 260}, 1), false},
+        {"its second axis outside above only", ellipse({250, 140}, {200, 140}, 1), false},
+        {"point", pairs(5, in, out, out, out, out), true},
+        {"point outside", pairs(5, out, in, in, in, in), false},
+        {"text where it was entered", pairs(6, in, out, out, out, out), true},
+        {"text entered outside", pairs(6, out, in, in, in, in), false},
+        {"linear dimension", pairs(7, out, out, in, in, in), true},
+        {"linear dimension, p3 outside", pairs(7, in, in, out, in, in), false},
+        {"linear dimension, p4 outside", pairs(7, in, in, in, out, in), false},
+        {"linear dimension, text outside", pairs(7, in, in, in, in, out), false},
+        {"radial dimension", pairs(8, out, in, out, out, in), true},
+        {"radial dimension, elbow outside", pairs(8, in, out, in, in, in), false},
+        {"radial dimension, text outside", pairs(8, in, in, in, in, out), false},
+        {"leader", pairs(9, out, in, in, out, out), true},
+        {"leader, shoulder outside", pairs(9, in, out, in, in, in), false},
+        {"leader, end of shoulder outside", pairs(9, in, in, out, in, in), false},
+        {"angular dimension", pairs(10, out, out, out, in, in), true},
+        {"angular dimension, arc outside", pairs(10, in, in, in, out, in), false},
+        {"angular dimension, text outside", pairs(10, in, in, in, in, out), false},
+        {"piece of an associate", pairs(11, in, in, in, in, in), false},
+        {"header", pairs(24, in, in, in, in, in), false},
+        {"name of a layer", pairs(25, in, in, in, in, in), false},
+        {"kinds of an import", pairs(30, in, in, in, in, in), false},
+        {"and the other", pairs(35, in, in, in, in, in), false},
+    };
+    for (const Row& row : rows) {
+        ClickDesk desk;
+        desk.add(row.object);
+        placeWindow(desk, {100, 100}, {300, 300});
+        EXPECT_EQ(isSelected(desk), row.selected) << row.what;
+    }
+}
+
+TEST(WindowSelection, AnyTwoOppositeCornersMakeTheSameWindow)
+{
+    const Point corners[][2] = {{{100, 100}, {300, 300}},
+                                {{300, 300}, {100, 100}},
+                                {{100, 300}, {300, 100}},
+                                {{300, 100}, {100, 300}}};
+    for (const auto& pair : corners) {
+        ClickDesk desk;
+        desk.line({110, 120}, {290, 280});
+        desk.line({110, 120}, {310, 280});
+        placeWindow(desk, pair[0], pair[1]);
+        EXPECT_TRUE(isSelected(desk));
+        EXPECT_EQ(desk.s.store.stat[2], Stat::on);
+        EXPECT_EQ(desk.s.window1, (Point{100, 100}));
+        EXPECT_EQ(desk.s.window2, (Point{300, 300}));
+    }
+}
+
+TEST(WindowSelection, OnlyWhatIsOnIsMarkedAndMarksStay)
+{
+    ClickDesk desk;
+    const Stat before[] = {Stat::on, Stat::sel, Stat::off, Stat::out};
+    const Stat after[] = {Stat::sel, Stat::sel, Stat::off, Stat::out};
+    for (const Stat stat : before) desk.point({200, 200}, stat);
+    desk.point({900, 200}, Stat::sel);
+    desk.s.store.p5[1] = {7, 8};
+    placeWindow(desk, {100, 100}, {300, 300});
+    selectInWindow(desk.s, false);
+    for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(desk.s.store.stat[i + 1], after[i]) << i;
+    EXPECT_EQ(desk.s.store.stat[5], Stat::sel) << "outside, marked before";
+    EXPECT_EQ(desk.s.store.p5[1], (Point{7, 8})) << "no click is remembered";
+}
+
+TEST(WindowSelection, TheFilter)
+{
+    struct Row {
+        const char* what;
+        FilterValues filter;
+        int kind;
+        bool selected; // an object of layer 3, style 2, yellow
+    };
+    const FilterValues none;
+    const auto with = [](std::int16_t layer, std::int16_t kind, std::int16_t style, std::int32_t color) {
+        FilterValues f;
+        f.filterLayer = layer;
+        f.filterKind = kind;
+        f.filterStyle = style;
+        f.filterColor = color;
+        return f;
+    };
+    const std::int32_t yellow = 0x00FFFF;
+    const Row rows[] = {
+        {"no criterion", none, 5, true},
+        {"its layer", with(3, -1, -1, 0), 5, true},
+        {"another layer", with(4, -1, -1, 0), 5, false},
+        {"layer 0 is a layer", with(0, -1, -1, 0), 5, false},
+        {"its kind", with(-1, 5, -1, 0), 5, true},
+        {"another kind", with(-1, 6, -1, 0), 5, false},
+        {"dimensions: linear", with(-1, 7, -1, 0), 7, true},
+        {"dimensions: radial", with(-1, 7, -1, 0), 8, true},
+        {"dimensions: leader", with(-1, 7, -1, 0), 9, true},
+        {"dimensions: angular", with(-1, 7, -1, 0), 10, true},
+        {"dimensions: no text", with(-1, 7, -1, 0), 6, false},
+        {"dimensions: no name of a layer", with(-1, 7, -1, 0), 25, false},
+        {"its style", with(-1, -1, 2, 0), 5, true},
+        {"another style", with(-1, -1, 1, 0), 5, false},
+        {"solid is a style", with(-1, -1, 0, 0), 5, false},
+        {"its colour", with(-1, -1, -1, yellow), 5, true},
+        {"another colour", with(-1, -1, -1, 0xFFFFFF), 5, false},
+        {"the surface's black is no criterion", with(-1, -1, -1, 0x000000), 5, true},
+        {"all four", with(3, 5, 2, yellow), 5, true},
+        {"all but the last", with(3, 5, 1, yellow), 5, false},
+    };
+    for (const Row& row : rows) {
+        for (const bool filtered : {true, false}) {
+            ClickDesk desk;
+            const Point in{200, 200};
+            desk.add({.p1 = in,
+                      .p2 = in,
+                      .p3 = in,
+                      .p4 = in,
+                      .p5 = in,
+                      .color = yellow,
+                      .layer = 3,
+                      .style = 2,
+                      .kind = static_cast<std::int16_t>(row.kind)}); // 5 to 25
+            static_cast<FilterValues&>(desk.s) = row.filter;         // to its part that holds the filter
+            placeWindow(desk, {100, 100}, {300, 300});
+            const bool wanted = row.kind <= 10 && (row.selected || !filtered);
+            EXPECT_EQ(isSelected(desk, filtered), wanted) << row.what << (filtered ? "" : ", not filtered");
+        }
+    }
+}
+
+TEST(WindowSelection, SelectionsAddUp)
+{
+    ClickDesk desk;
+    desk.point({200, 200});
+    desk.point({600, 200});
+    placeWindow(desk, {100, 100}, {300, 300});
+    selectInWindow(desk.s, false);
+    placeWindow(desk, {500, 100}, {700, 300});
+    selectInWindow(desk.s, false);
+    EXPECT_EQ(countWithStat(desk.s.store, Stat::sel), 2);
+}
+
+} // namespace
+} // namespace mirtane
