@@ -26,12 +26,12 @@ inline constexpr KindSet circleOrArc = kindsBetween(kind::circle, kind::arc);
 // A set of states.
 using StatSet = std::uint32_t;
 
-constexpr StatSet only(Stat stat)
+constexpr StatSet inStat(Stat stat)
 {
     return 1U << static_cast<unsigned>(stat); // the enumerators count from 0
 }
 
-inline constexpr StatSet shown = only(Stat::on) | only(Stat::sel);
+inline constexpr StatSet shownStats = inStat(Stat::on) | inStat(Stat::sel);
 
 // How much of its circle an arc is hit on. A point is seen from the centre in a direction, 0 from the centre
 // itself.
@@ -43,7 +43,7 @@ struct ObjectSearch {
     KindSet kinds = 0;
     ArcReach arcs = ArcReach::wholeCircle;
     std::int32_t passOver = -1; // a slot that is not looked at
-    StatSet stats = shown;
+    StatSet stats = shownStats;
 };
 
 struct ObjectHit {

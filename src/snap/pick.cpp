@@ -2,6 +2,8 @@
 
 #include "snap/object_search.h"
 
+#include <utility>
+
 namespace mirtane {
 namespace {
 

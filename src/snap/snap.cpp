@@ -66,8 +66,7 @@ void oneShotSnap(Session& s, const Canvas& pic1)
 
 void pressSnapButton(Session& s, ControlId button)
 {
-    const auto isPressed = [button](const SnapRow& row) { return row.button.index == button.index; };
-    const auto* const row = std::ranges::find_if(snapRows, isPressed);
+    const auto* const row = std::ranges::find(snapRows, button, &SnapRow::button);
     s.controls.focus = "pic1"_c;
     if (row == std::end(snapRows) || !row->canBeArmed(s)) return;
     setText(s.controls["snapbox"_c], std::string(row->code));
