@@ -86,6 +86,7 @@ void actOnDistance(Session& s, Canvas& pic1, const FunctionRow& row)
     switch (row.typedDistance) {
     case TypedDistance::laysBlankLeg:
         constructionDistance(s, pic1, d);
+        s.controls.focus = "pic1"_c;
         return;
     case TypedDistance::setsFilletRadius:
         s.filletRadius = d;

@@ -179,18 +179,21 @@ void closeCommand(Stage& stage, Words&)
     stage.shell.closeForm("frmMain"_c);
 }
 
+constexpr std::size_t anyNumber = static_cast<std::size_t>(-1); // of words: the line ends in a text
+
 struct CommandRow {
     std::string_view name;
     void (*run)(Stage& stage, Words& words);
+    std::size_t words; // behind the name
 };
 
 constexpr CommandRow commandRows[] = {
-    {"move", moveCommand},     {"down", downCommand},       {"click", clickCommand},
-    {"cancel", cancelCommand}, {"keydown", keyDownCommand}, {"keyup", keyUpCommand},
-    {"type", typeCommand},     {"enter", enterCommand},     {"backspace", backspaceCommand},
-    {"put", putCommand},       {"press", pressCommand},     {"focus", focusCommand},
-    {"pick", pickCommand},     {"scale", scaleCommand},     {"resize", resizeCommand},
-    {"close", closeCommand},
+    {"move", moveCommand, 2},         {"down", downCommand, 3},       {"click", clickCommand, 2},
+    {"cancel", cancelCommand, 2},     {"keydown", keyDownCommand, 1}, {"keyup", keyUpCommand, 1},
+    {"type", typeCommand, anyNumber}, {"enter", enterCommand, 0},     {"backspace", backspaceCommand, 0},
+    {"put", putCommand, anyNumber},   {"press", pressCommand, 1},     {"focus", focusCommand, 1},
+    {"pick", pickCommand, anyNumber}, {"scale", scaleCommand, 4},     {"resize", resizeCommand, 2},
+    {"close", closeCommand, 0},
 };
 
 void runCommand(Stage& stage, std::string_view line)
@@ -199,8 +202,9 @@ void runCommand(Stage& stage, std::string_view line)
     const std::string_view name = words.word();
     const auto* const row = std::ranges::find(commandRows, name, &CommandRow::name);
     if (row == std::end(commandRows)) throw Refusal{"unknown command: " + std::string(name)};
+    if (row->words != anyNumber && words.count() != row->words)
+        throw Refusal{"not " + std::to_string(row->words) + " words"};
     row->run(stage, words);
-    words.end();
 }
 
 void refuseAfterTheEnd(const Stage& stage, std::string_view command)

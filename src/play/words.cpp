@@ -51,6 +51,14 @@ bool Words::atEnd()
     return left_.empty();
 }
 
+std::size_t Words::count() const
+{
+    Words copy = *this;
+    std::size_t words = 0;
+    for (; !copy.atEnd(); ++words) copy.word();
+    return words;
+}
+
 std::string_view Words::word()
 {
     if (atEnd()) throw Refusal{"a word is missing"};

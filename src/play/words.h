@@ -19,6 +19,7 @@ class Words {
     explicit Words(std::string_view line) : left_(line) {}
 
     bool atEnd();
+    std::size_t count() const; // words left
     std::string_view word();
     double number();
     float coordinate();

