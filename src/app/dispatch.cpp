@@ -1,5 +1,9 @@
 #include "app/dispatch.h"
 
+#include "commands/arc.h"
+#include "commands/circle.h"
+#include "commands/curve.h"
+#include "commands/ellipse.h"
 #include "commands/line.h"
 #include "commands/match.h"
 #include "commands/polygon.h"
@@ -16,18 +20,18 @@ constexpr DispatchRow notBuilt(std::string_view name)
 
 constexpr DispatchRow rows[] = {
     {"Line", lineStep, lineBand},
+    {"2pt. Circle", circleTwoStep, circleTwoBand},
+    {"3pt. Circle", circleThreeStep, circleThreeBand},
+    {"2pt. Arc", arcTwoStep, arcTwoBand},
+    {"3pt. Arc", arcThreeStep, arcThreeBand},
+    {"Curve", curveStep, curveBand},
+    {"Ellipse", ellipseStep, ellipseBand},
     {"Point", pointStep, nullptr},
     {"Polygon", polygonStep, polygonBand},
     {"Ortho Angle Match", matchStep, matchBand},
     {"Text Rotation Match", matchStep, matchBand},
     {"Blank Line", nullptr, nullptr}, // the construction line takes its clicks before they are counted
     notBuilt("Measure Distance"),
-    notBuilt("2pt. Circle"),
-    notBuilt("3pt. Circle"),
-    notBuilt("2pt. Arc"),
-    notBuilt("3pt. Arc"),
-    notBuilt("Curve"),
-    notBuilt("Ellipse"),
     notBuilt("Multiple Lines"),
     notBuilt("Create Multiple Lines"),
     notBuilt("Ortho Dimension"),
