@@ -3,14 +3,19 @@
 #include "app/attribute_controls.h"
 #include "app/construction_line.h"
 #include "app/dispatch.h"
+#include "app/edit_list.h"
 #include "app/fields.h"
 #include "app/file_dialog.h"
 #include "app/file_menus.h"
+#include "app/filter_dialog.h"
 #include "app/help.h"
+#include "app/layer_menus.h"
+#include "app/selection.h"
 #include "app/starters.h"
 #include "commands/vocabulary.h"
 #include "render/redraw.h"
 #include "render/view.h"
+#include "snap/snap.h"
 
 namespace mirtane {
 namespace {
@@ -33,6 +38,11 @@ void toggleOrtho(App& app, ControlId freecurs)
     caption = caption == "Ortho/On" ? "Ortho/Off" : "Ortho/On";
     app.s.orthoCaption = caption;
     app.s.controls.focus = "pic1"_c;
+}
+
+void snapButton(App& app, ControlId button)
+{
+    pressSnapButton(app.s, button);
 }
 
 // Boxes that only display take no click.
@@ -65,6 +75,69 @@ constexpr ActionRow actionRows[] = {
     {"Command44"_c, zoomAction<zoomOut>},
     {"blank"_c, toggleConstructionLine},
     {"freecurs"_c, toggleOrtho},
+    {"Command17"_c, selectLastObjects},
+    {"Command18"_c, startSelection},
+    {"Command19"_c, startSelection},
+    {"Command20"_c, startSelection},
+    {"Command35"_c, snapButton},
+    {"Command36"_c, snapButton},
+    {"Command37"_c, snapButton},
+    {"Command38"_c, snapButton},
+    {"Command39"_c, snapButton},
+    {"Command40"_c, snapButton},
+    {"Command21"_c, snapButton},
+    {"flt1"_c, showFilterDialog},
+    {"frmfilter.rst1"_c, resetFilter},
+    {"frmfilter.Command1"_c, acceptFilter},
+    {"frmfilter.Command2"_c, cancelFilter},
+    {"frmfilter.ob5"_c, takeFilterKind},
+    {"frmfilter.ob6"_c, takeFilterKind},
+    {"frmfilter.ob7"_c, takeFilterKind},
+    {"frmfilter.ob8"_c, takeFilterKind},
+    {"frmfilter.ob9"_c, takeFilterKind},
+    {"frmfilter.ob10"_c, takeFilterKind},
+    {"frmfilter.ob11"_c, takeFilterKind},
+    {"frmfilter.cu5"_c, takeFilterColor},
+    {"frmfilter.cu6"_c, takeFilterColor},
+    {"frmfilter.cu7"_c, takeFilterColor},
+    {"frmfilter.cu8"_c, takeFilterColor},
+    {"frmfilter.cu9"_c, takeFilterColor},
+    {"frmfilter.cu10"_c, takeFilterColor},
+    {"frmfilter.cu11"_c, takeFilterColor},
+    {"frmfilter.cu12"_c, takeFilterColor},
+    {"frmfilter.st5"_c, takeFilterStyle},
+    {"frmfilter.st6"_c, takeFilterStyle},
+    {"frmfilter.st7"_c, takeFilterStyle},
+    {"frmfilter.st8"_c, takeFilterStyle},
+    {"frmfilter.st9"_c, takeFilterStyle},
+    {"frmfilter.Text1"_c, showAllInBox},
+    {"frmfilter.Text2"_c, showAllInBox},
+    {"frmfilter.Text3"_c, showAllInBox},
+    {"frmfilter.Text4"_c, showAllInBox},
+    {"frmedit.Command1"_c, startEditFromButton},
+    {"frmedit.Command2"_c, startEditFromButton},
+    {"frmedit.Command3"_c, startEditFromButton},
+    {"frmedit.Command4"_c, startEditFromButton},
+    {"frmedit.Command5"_c, startEditFromButton},
+    {"frmedit.Command6"_c, startEditFromButton},
+    {"frmedit.Command7"_c, startEditFromButton},
+    {"frmedit.Command8"_c, startEditFromButton},
+    {"frmedit.Command9"_c, startEditFromButton},
+    {"frmedit.Command10"_c, startEditFromButton},
+    {"frmedit.Command11"_c, startEditFromButton},
+    {"frmedit.Command12"_c, deselectFromButton},
+    {"frmedit.Command13"_c, startEditFromButton},
+    {"frmedit.Command14"_c, startEditFromButton},
+    {"frmedit.Command15"_c, closeEditsForm},
+    {"ly3"_c, showLayerList},
+    {"ly7"_c, showLayerList},
+    {"ly9"_c, showLayerList},
+    {"ly9a"_c, showLayerList},
+    {"ly13"_c, showLayerList},
+    {"ly15"_c, showLayerList},
+    {"ly11"_c, addLayerMenu},
+    {"ly5"_c, hideAllLayers},
+    {"ly6"_c, displayAllLayers},
     {"lw3"_c, takeLineColor},
     {"lw4"_c, takeLineColor},
     {"lw5"_c, takeLineColor},

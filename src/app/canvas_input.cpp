@@ -2,6 +2,7 @@
 
 #include "app/construction_line.h"
 #include "app/dispatch.h"
+#include "app/selection.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
 #include "geometry/angle.h"
@@ -9,6 +10,7 @@
 #include "model/insertion.h"
 #include "render/redraw.h"
 #include "render/view.h"
+#include "snap/snap.h"
 #include "text/utf8.h"
 
 namespace mirtane {
@@ -31,7 +33,13 @@ void takeWindowCorner(Session& s, Canvas& pic1, Point at)
     ++s.windowStep;
     s.window2 = at;
     if (s.windowStep == 1) s.window1 = at;
-    if (s.windowStep == 2) zoomWindowFinish(s, pic1);
+    if (zoomWindowIsOn(s)) {
+        if (s.windowStep == 2) zoomWindowFinish(s, pic1);
+    } else if (s.windowStep == 2) {
+        selectByWindow(s, pic1);
+    } else {
+        showPromptOfStep(s, 1); // the corners of a window are no steps
+    }
 }
 
 void storeClick(Session& s, Point at)
@@ -87,15 +95,6 @@ void endSelection(Session& s, Canvas& pic1)
     s.editPending = 0;
 }
 
-void offerEdits(Session& s)
-{
-    if (countWithStat(s.store, Stat::sel) == 0) {
-        setText(s.controls["entry"_c], "Nothing selected!");
-    } else {
-        s.controls["frmedit"_c].visible = true;
-    }
-}
-
 } // namespace
 
 bool orthoIsOn(const Session& s)
@@ -126,8 +125,11 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
     if (row == nullptr) return;
     if (button == leftButton) countStep(s);
     storeClick(s, at);
+    if (s.curFunc == "Object Select") return pickClick(s, pic1);
     s.pointWasSnapped = false;
     confineClick(s, *row);
+    holdSnap(s, pic1);
+    oneShotSnap(s, pic1);
     s.controls["snaplab"_c].caption.clear();
     if (row->samePointCancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
     callStep(s, pic1);

@@ -4,6 +4,7 @@
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
 #include "render/redraw.h"
+#include "snap/snap.h"
 
 namespace mirtane {
 namespace {
@@ -47,7 +48,6 @@ void confineLeg(Session& s)
 
 void nextLeg(Session& s)
 {
-    disarmSnap(s);
     s.blankStart = s.blankEnd;
     s.blankStep = 1;
 }
@@ -65,18 +65,17 @@ void toggleConstructionLine(App& app, ControlId blank)
     s.controls.focus = "pic1"_c;
 }
 
-void constructionClick(Session& s, Canvas&, Point at)
+void constructionClick(Session& s, Canvas& pic1, Point at)
 {
     ++s.blankStep;
     s.mousePos = at;
-    if (s.blankStep == 1) {
-        s.blankStart = at;
-        disarmSnap(s);
-        return;
-    }
-    s.blankEnd = at;
-    confineLeg(s);
-    nextLeg(s);
+    const bool begins = s.blankStep == 1;
+    (begins ? s.blankStart : s.blankEnd) = at;
+    if (!begins) confineLeg(s);
+    holdSnap(s, pic1);
+    oneShotSnap(s, pic1);
+    disarmSnap(s);
+    if (!begins) nextLeg(s);
 }
 
 void constructionMove(Session& s, Canvas& pic1, Point at)
@@ -93,6 +92,7 @@ void constructionMove(Session& s, Canvas& pic1, Point at)
 void constructionDistance(Session& s, Canvas&, float d)
 {
     s.blankEnd = pointOnAxis(s.blankStart, d, s.orthoSector, s.orthoAngle, s.blankEnd);
+    disarmSnap(s);
     nextLeg(s);
 }
 

@@ -7,6 +7,10 @@
 #include "commands/line.h"
 #include "commands/match.h"
 #include "commands/polygon.h"
+#include "edit/mirror.h"
+#include "edit/move_copy.h"
+#include "edit/rotate.h"
+#include "edit/scale.h"
 
 #include <algorithm>
 
@@ -30,7 +34,19 @@ constexpr DispatchRow rows[] = {
     {"Polygon", polygonStep, polygonBand},
     {"Ortho Angle Match", matchStep, matchBand},
     {"Text Rotation Match", matchStep, matchBand},
-    {"Blank Line", nullptr, nullptr}, // the construction line takes its clicks before they are counted
+    {"Copy", editMoveCopy, drawSelectionGhost},
+    {"Move", editMoveCopy, drawSelectionGhost},
+    {"Mirror Copy", editMirror, mirrorBand},
+    {"Rotate", editRotate, nullptr},
+    {"Scale", editScale, nullptr},
+    {"Radial Copy", editRotate, nullptr},
+    // These have no routine for a click.
+    {"Blank Line", nullptr, nullptr},
+    {"Concentric Copy", nullptr, nullptr}, // takes a typed distance
+    {"Change", nullptr, nullptr},          // is a dialog
+    {"Object Select", nullptr, nullptr},
+    {"Window Select", nullptr, nullptr},
+    {"Window Select Filtered", nullptr, nullptr},
     notBuilt("Measure Distance"),
     notBuilt("Multiple Lines"),
     notBuilt("Create Multiple Lines"),
@@ -40,26 +56,15 @@ constexpr DispatchRow rows[] = {
     notBuilt("Leader"),
     notBuilt("Place Text"),
     notBuilt("Text Edit"),
-    notBuilt("Object Select"),
-    notBuilt("Window Select"),
-    notBuilt("Window Select Filtered"),
     notBuilt("Place Hatch"),
     notBuilt("Create Hatch"),
     notBuilt("Hatch Scale"),
     notBuilt("Place Associate"),
     notBuilt("Create Associate"),
-    notBuilt("Copy"),
-    notBuilt("Move"),
-    notBuilt("Mirror Copy"),
-    notBuilt("Rotate"),
-    notBuilt("Scale"),
-    notBuilt("Radial Copy"),
-    notBuilt("Concentric Copy"),
     notBuilt("Break"),
     notBuilt("Trim"),
     notBuilt("Fillet"),
     notBuilt("Stretch"),
-    notBuilt("Change"),
     notBuilt("Text Size"),
     notBuilt("Arrow Size"),
     notBuilt("Measure Area"),

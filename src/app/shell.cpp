@@ -6,10 +6,14 @@
 #include "app/canvas_input.h"
 #include "app/fields.h"
 #include "app/file_dialog.h"
+#include "app/filter_dialog.h"
+#include "app/layer_menus.h"
+#include "app/list_modes.h"
 #include "app/start_stop.h"
 #include "app/typed_entry.h"
 #include "render/redraw.h"
 #include "render/view.h"
+#include "snap/snap.h"
 #include "text/numbers.h"
 
 #include <cmath>
@@ -34,8 +38,8 @@ struct ListRow {
 
 // Rows that do their work at a click.
 constexpr ListRow listRows[] = {
-    {"frmfile.File1"_c, chooseFile},
-    {"frmfile.Dir1"_c, chooseFolder},
+    {"List1"_c, listRowClicked},       {"frmfilter.List1"_c, chooseFilterLayer},
+    {"frmfile.File1"_c, chooseFile},   {"frmfile.Dir1"_c, chooseFolder},
     {"frmfile.Drive1"_c, chooseDrive},
 };
 
@@ -61,6 +65,7 @@ void keyToControl(App& app, ControlId id, char32_t code)
     if (id == "frmfile.Text1"_c) return fileNameKeyPress(app, code);
     if (isNumericField(id)) return fieldKeyPress(app, id, code);
     if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
+    if (id == "Combo3"_c && code == enterKey) return layerNameEntered(app);
     if (id.row().kind == ControlKind::combo) return passKey(s.controls[id], code);
     const bool pressed = code == enterKey || code == U' ';
     if (isClickable(id) && pressed) {
@@ -119,6 +124,7 @@ void Shell::keyUp(int)
 {
     if (ended()) return;
     canvasKeyUp(s_);
+    settle(s_.controls.focus);
 }
 
 void Shell::resized()
@@ -199,6 +205,8 @@ void Shell::closeForm(ControlId form)
         leaveProgram(app);
     } else if (form == "frmfile"_c) {
         closeFileDialog(app);
+    } else if (form == "frmfilter"_c) {
+        cancelFilter(app, form);
     } else {
         s_.controls[form].visible = false;
         if (formOf(before) == form) s_.controls.focus = "pic1"_c;
@@ -210,6 +218,7 @@ void Shell::settle(ControlId focusBefore)
 {
     if (s_.controls.focus != focusBefore) fieldLeft(s_, focusBefore);
     s_.controls["promptlab"_c].caption = s_.promptText;
+    showArmedSnap(s_);
 }
 
 } // namespace mirtane

@@ -33,7 +33,6 @@ void greyWhatHasNoRoutine(Controls& controls)
         const ControlId id{static_cast<std::uint16_t>(i)}; // the table has a few hundred rows
         if (isClickable(id)) controls[id].enabled = actionOf(id) != nullptr;
     }
-    for (const ControlId id : {"List1"_c, "Combo3"_c}) controls[id].enabled = false;
 }
 
 constexpr ControlId laterForms[] = {"frmfile"_c, "frmfilter"_c, "frmedit"_c, "frmprintset"_c, "frmhelp"_c};

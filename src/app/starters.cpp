@@ -15,6 +15,10 @@ void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
     s.orthoAngle = s.orthoAngleSaved;
     s.controls["freecurs"_c].caption = s.orthoCaption;
     s.curFunc = row.name;
+    if (s.workAngle == selectionFollowsPointer) { // the clean picture lacks the selection
+        s.workAngle = 0;
+        redrawAll(s, pic1);
+    }
     if (row.setsBase) s.baseFunc = row.name;
     resetPicture(pic1);
     setPrompt(s, pic1);

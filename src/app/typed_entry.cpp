@@ -6,12 +6,15 @@
 #include "commands/polygon.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
+#include "edit/concentric.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "text/distance_grammar.h"
 #include "text/measure.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
+
+#include <algorithm>
 
 namespace mirtane {
 namespace {
@@ -99,7 +102,9 @@ void actOnDistance(Session& s, Canvas& pic1, const FunctionRow& row)
         takeSize(s, pic1, s.arrowSize, size);
         return;
     case TypedDistance::offsetsCopy:
-        callStep(s, pic1);
+        s.offsetDistance = d;
+        editConcentric(s, pic1);
+        s.controls.focus = "pic1"_c;
         return;
     case TypedDistance::laysPoint:
     case TypedDistance::discarded:
@@ -117,6 +122,55 @@ void distanceKey(Session& s, Canvas& pic1, const FunctionRow& row, char32_t code
     if (code != enterKey) return;
     if (entry.text.empty()) return backToDrawing(s, pic1);
     actOnDistance(s, pic1, row);
+}
+
+double heldWithinTurn(double degrees)
+{
+    return std::clamp(degrees, -360.0, 360.0);
+}
+
+// What Enter does with a number at a step of an edit function.
+struct EditNumber {
+    EntryKeys keys;
+    std::int16_t step;
+    void (*take)(Session& s, double value);
+    std::int16_t steps; // that it counts
+    bool runs;          // the function has all it needs
+};
+
+constexpr EditNumber editNumbers[] = {
+    {EntryKeys::radialCopy, 1, [](Session& s, double v) { s.editDegrees = heldWithinTurn(v); }, 1, false},
+    {EntryKeys::radialCopy, 2,
+     [](Session& s, double v) {
+         keep(s.radialCount, v);
+         s.radialCount = std::clamp(s.radialCount, 2, 64);
+     },
+     1, true},
+    {EntryKeys::rotate, 1, [](Session& s, double v) { s.editDegrees = heldWithinTurn(v); }, 2, true},
+    {EntryKeys::scale, 1, [](Session& s, double v) { keep(s.editDX, v); }, 1, false},
+    {EntryKeys::scale, 2, [](Session& s, double v) { keep(s.editDY, v); }, 1, true},
+};
+
+const EditNumber* editNumberAt(EntryKeys keys, std::int16_t stepNo)
+{
+    const auto* const found = std::ranges::find_if(
+        editNumbers, [&](const EditNumber& row) { return row.keys == keys && row.step == stepNo; });
+    return found == std::end(editNumbers) ? nullptr : found;
+}
+
+void editNumberKey(Session& s, Canvas& pic1, const EditNumber& row, char32_t code)
+{
+    constexpr char32_t firstPassing = 45; // "-", ".", "/" and the digits
+    constexpr char32_t lastPassing = 57;
+    Control& entry = s.controls["entry"_c];
+    if ((code >= firstPassing && code <= lastPassing) || code == backspaceKey) return passKey(entry, code);
+    if (code != enterKey || entry.text.empty()) return;
+    row.take(s, readNumber(takeText(s)));
+    for (std::int16_t i = 0; i < row.steps; ++i) countStep(s);
+    if (!row.runs) return setPrompt(s, pic1);
+    s.editPending = 0;
+    callStep(s, pic1);
+    s.controls.focus = "pic1"_c;
 }
 
 } // namespace
@@ -137,6 +191,9 @@ void entryKeyPress(Session& s, Canvas& pic1, char32_t code)
     const bool begun = row->entryKeys == EntryKeys::distanceOnceBlankLeg ? s.blankStep > 0 : s.stepNo > 0;
     if (row->entryKeys == EntryKeys::sidesAtStart && !begun) return sidesKey(s, pic1, code);
     if (!begun && row->entryKeys != EntryKeys::distanceAlways) return passKey(s.controls["entry"_c], code);
+    if (const EditNumber* number = editNumberAt(row->entryKeys, s.stepNo)) {
+        return editNumberKey(s, pic1, *number, code);
+    }
     distanceKey(s, pic1, *row, code);
 }
 

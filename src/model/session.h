@@ -6,6 +6,7 @@
 #include "model/controls.h"
 #include "model/entity_store.h"
 #include "model/layers.h"
+#include "model/library_tables.h"
 #include "model/undo_log.h"
 
 #include <array>
@@ -97,8 +98,9 @@ struct CanvasInput {
     std::array<std::string, 100> textBuffer; // live typing, one character each
     std::int32_t textLength = 0;             // goes on rising past the buffer
 
-    std::int32_t boundaryCount = 0; // legs taken of a boundary, also those past the table
+    std::int32_t boundaryCount = 0; // legs taken of a boundary, up to the index of the last one
     std::array<BoundaryLeg, 100> boundary;
+    bool boundaryFull = false; // the last leg is taken too: further ones have no place
 };
 
 // The visible world rectangle: a copy of the surface's scale, for culling.
@@ -155,6 +157,16 @@ struct PickResults {
     float snapRadius = 0;              // the distance to the last object found, world units
 };
 
+// What an edit of the selection works with on its way through its steps.
+struct EditState {
+    float editDX = 0, editDY = 0;         // offset of the copies being made; the two factors of a scale
+    float editStepX = 0, editStepY = 0;   // the first offset of "Copy", which each further copy repeats
+    double editAngle = 0;                 // rotation of the copies being made, radians
+    double editDegrees = 0;               // as typed
+    std::int32_t radialCount = 0;         // as typed, the source object included
+    float offsetDistance = 0;             // added to the radius by "Concentric Copy", world units
+};
+
 struct Session : Attributes,
                  FunctionState,
                  ScratchPoints,
@@ -162,10 +174,13 @@ struct Session : Attributes,
                  View,
                  FileState,
                  FilterValues,
-                 PickResults {
+                 PickResults,
+                 EditState {
     EntityStore store;
     UndoLog log;
     LayerTable layerTable;
+    HatchLibrary hatchLibrary;
+    MultipleLinesLibrary multipleLinesLibrary;
     Controls controls;
 };
 

@@ -73,4 +73,11 @@ void pressSnapButton(Session& s, ControlId button)
     s.controls["snaplab"_c].caption = row->label;
 }
 
+void showArmedSnap(Session& s)
+{
+    const std::string& armed = s.controls["snapbox"_c].text;
+    for (const SnapRow& row : snapRows) s.controls[row.button].checked = row.code == armed;
+    s.controls["pic1"_c].checked = !armed.empty() || s.snapKey != 0;
+}
+
 } // namespace mirtane

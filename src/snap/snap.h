@@ -20,4 +20,7 @@ void oneShotSnap(Session& s, const Canvas& pic1);
 // gives the drawing the focus.
 void pressSnapButton(Session& s, ControlId button);
 
+// Shows the button of the armed snap pressed and the others not, and on pic1 whether the next click will snap.
+void showArmedSnap(Session& s);
+
 } // namespace mirtane

@@ -23,7 +23,7 @@ struct Window {
 
     bool holdsEllipse(const Ellipse& e) const
     {
-        return std::ranges::all_of(axisEnds(e), [this](Point p) { return holds(p); });
+        return holds(e.axisEnd) && std::ranges::all_of(axisEnds(e), [this](Point p) { return holds(p); });
     }
 };
 

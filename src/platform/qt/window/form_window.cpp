@@ -1,7 +1,9 @@
 #include "platform/qt/window/form_window.h"
 
 #include "platform/qt/window/child.h"
+#include "platform/qt/window/edit_form.h"
 #include "platform/qt/window/file_form.h"
+#include "platform/qt/window/filter_form.h"
 #include "platform/qt/window/help_form.h"
 
 #include <QCloseEvent>
@@ -16,8 +18,10 @@ struct FormRow {
     void (*lay)(const ControlMaker& maker, QWidget& form); // puts the form's controls on it
 };
 
-constexpr std::array<FormRow, 2> forms{{
+constexpr std::array<FormRow, 4> forms{{
+    {"frmedit"_c, layEditForm},
     {"frmfile"_c, layFileForm},
+    {"frmfilter"_c, layFilterForm},
     {"frmhelp"_c, layHelpForm},
 }};
 

@@ -25,6 +25,23 @@ int numberOf(Qt::MouseButton button)
     return button == Qt::MiddleButton ? 4 : 0;
 }
 
+// A cross with a box about its middle: the next click will be on an exact point.
+QCursor snapCursor()
+{
+    constexpr int side = 25;
+    constexpr int middle = side / 2;
+    constexpr int box = 5;
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setPen(QColor(90, 180, 255));
+    painter.drawLine(0, middle, side - 1, middle);
+    painter.drawLine(middle, 0, middle, side - 1);
+    painter.drawRect(middle - box, middle - box, 2 * box, 2 * box);
+    painter.end();
+    return QCursor(picture, middle, middle);
+}
+
 } // namespace
 
 SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QWidget* parent)
@@ -58,6 +75,7 @@ SurfaceWidget::~SurfaceWidget()
 void SurfaceWidget::show(const Control& now)
 {
     setEnabled(now.enabled);
+    setCursor(now.checked ? snapCursor() : QCursor(Qt::CrossCursor));
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent*)

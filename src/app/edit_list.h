@@ -1,0 +1,16 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// The edit functions, by a row of List1 or a button of the Edits form. Without a selection they only say so.
+void startEdit(App& app, const std::string& name);
+void startEditFromRow(App& app, int row);
+void startEditFromButton(App& app, ControlId button);
+
+// The two buttons of the Edits form that start nothing.
+void deselectFromButton(App& app, ControlId);
+void closeEditsForm(App& app, ControlId);
+
+} // namespace mirtane

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// The menus that show the layers in List1 and wait for a click on one; what the click does follows the
+// caption of Label3, and lasts until another menu changes it.
+void showLayerList(App& app, ControlId menu);
+void addLayerMenu(App& app, ControlId);
+void hideAllLayers(App& app, ControlId);
+void displayAllLayers(App& app, ControlId);
+
+// A click on row r of List1.
+void setWorkingLayer(App& app, int r);
+void hideOrDisplayLayer(App& app, int r);
+void chooseLayerToName(App& app, int r);
+void unnameLayer(App& app, int r);
+void loadLayer(App& app, int r);
+void saveLayer(App& app, int r);
+
+// Enter in Combo3: names the chosen layer or adds one.
+void layerNameEntered(App& app);
+
+} // namespace mirtane

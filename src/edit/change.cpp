@@ -1,0 +1,46 @@
+#include "edit/change.h"
+
+#include "edit/selection_run.h"
+#include "render/redraw.h"
+
+namespace mirtane {
+
+bool somethingSelected(Session& s)
+{
+    if (countWithStat(s.store, Stat::sel) > 0) return true;
+    setText(s.controls["entry"_c], "Nothing selected!");
+    return false;
+}
+
+void deleteSelection(Session& s, Canvas& pic1)
+{
+    if (!somethingSelected(s)) return;
+    s.stepNo = 0;
+    s.editPending = 0;
+    s.workAngle = 0; // of a move given up, so that what is selected next is shown
+    turnSources(s, selectedSlots(s.store), Sources::goOut);
+    --s.savedCount; // no slot was added, yet there is something to save
+    closeGroup(s, pic1);
+    s.controls.focus = "pic1"_c;
+}
+
+void deselect(Session& s, Canvas& pic1)
+{
+    s.workAngle = 0;
+    deselectAll(s, pic1);
+    s.controls.focus = "pic1"_c;
+}
+
+void changeSelection(Session& s, Canvas& pic1, const Changes& changes)
+{
+    runOnSelection(s, Sources::goOut, [&changes](EntityRecord r) {
+        r.layer = changes.layer.value_or(r.layer);
+        r.color = changes.color.value_or(r.color);
+        const bool hasLineStyle = r.kind >= kind::line && r.kind <= kind::ellipse;
+        if (hasLineStyle) r.style = changes.style.value_or(r.style);
+        return r;
+    });
+    endRun(s, pic1);
+}
+
+} // namespace mirtane

@@ -1,0 +1,97 @@
+#include "edit/mirror.h"
+
+#include "commands/prompt.h"
+#include "edit/selection_run.h"
+#include "edit/text_baseline.h"
+#include "geometry/angle.h"
+#include "geometry/fault.h"
+#include "render/redraw.h"
+
+#include <limits>
+#include <utility>
+
+namespace mirtane {
+namespace {
+
+constexpr double noAngle = std::numeric_limits<double>::quiet_NaN();
+
+class MirrorLine {
+  public:
+    MirrorLine(Point from, Point to)
+        : from_(from), dx_(static_cast<double>(to.x) - from.x), // widened before the difference
+          dy_(static_cast<double>(to.y) - from.y)               // widened before the difference
+    {
+    }
+
+    // A point on the line stays there; a line of no length leaves every point where it is.
+    Point of(Point p) const { return imageAbout(from_, p); }
+
+    // The image of a direction, radians; NaN if there is none.
+    double of(double radians) const
+    {
+        return directionAngle({}, imageAbout({}, polarPoint({}, 1, radians)), noAngle);
+    }
+
+  private:
+    // In the parallel of the line through a point.
+    Point imageAbout(Point through, Point p) const
+    {
+        const double vx = static_cast<double>(p.x) - through.x; // widened before the difference
+        const double vy = static_cast<double>(p.y) - through.y; // widened before the difference
+        const double across = quotient(dx_ * vy - dy_ * vx, dx_ * dx_ + dy_ * dy_);
+        keep(p.x, p.x + 2 * across * dy_);
+        keep(p.y, p.y - 2 * across * dx_);
+        return p;
+    }
+
+    Point from_;
+    double dx_, dy_;
+};
+
+// Start and end change places, so that the arc still runs counter-clockwise.
+void mirrorSweep(EntityRecord& r, const MirrorLine& line)
+{
+    const double oldStart = r.a1;
+    std::swap(r.p2, r.p3);
+    keep(r.a1, line.of(r.a2));
+    keep(r.a2, line.of(oldStart));
+}
+
+// The new text starts at the image of the old end, and reads towards the image of the old start.
+void layMirroredText(EntityRecord& r, const MirrorLine& line, const Baseline& old, double degrees)
+{
+    const double image = line.of(degrees * radiansPerDegree);
+    layText(r, {line.of(old.end), line.of(old.start)}, withinTurn(image + halfTurn) * degreesPerRadian);
+}
+
+EntityRecord mirrored(Canvas& pic1, const MirrorLine& line, EntityRecord r)
+{
+    const KindRow* row = kindRow(r.kind);
+    if (row == nullptr) return r;
+    const Baseline old = baselineUnder(pic1, r, r.t1);
+    mapPairs(r, row->mapped, [&line](Point p) { return line.of(p); });
+    if (row->sweeps) mirrorSweep(r, line);
+    if (r.kind == kind::angularDimension) r.p4 = polarPoint(r.p1, r.rad, r.a1);
+    if (row->rotation != nullptr) layMirroredText(r, line, old, r.*row->rotation);
+    return r;
+}
+
+} // namespace
+
+void editMirror(Session& s, Canvas& pic1)
+{
+    if (s.stepNo == 1) setPrompt(s, pic1);
+    if (s.stepNo != 2) return;
+    const MirrorLine line(s.pickFirst, s.pickLast);
+    runOnSelection(s, Sources::comeOn, [&](EntityRecord r) { return mirrored(pic1, line, std::move(r)); });
+    endRun(s, pic1);
+}
+
+void mirrorBand(Session& s, Canvas& pic1)
+{
+    if (s.stepNo != 1) return;
+    restorePicture(pic1);
+    pic1.line(s.pickFirst.x, s.pickFirst.y, s.pickLast.x, s.pickLast.y);
+}
+
+} // namespace mirtane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "model/session.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// The step of "Mirror Copy": copies of the selection on the other side of the line from the first click to
+// the second. Texts still read forwards, which turns a level one upside down at a level line.
+void editMirror(Session& s, Canvas& pic1);
+
+// Its band: the mirror line alone.
+void mirrorBand(Session& s, Canvas& pic1);
+
+} // namespace mirtane

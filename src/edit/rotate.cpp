@@ -1,0 +1,53 @@
+#include "edit/rotate.h"
+
+#include "commands/prompt.h"
+#include "edit/selection_run.h"
+#include "geometry/angle.h"
+#include "geometry/fault.h"
+
+namespace mirtane {
+namespace {
+
+void turnSelection(Session& s, Sources sources)
+{
+    const Turn turn(s.pickFirst, s.editAngle);
+    runOnSelection(s, sources, [&turn](EntityRecord r) {
+        turn.apply(r);
+        return r;
+    });
+}
+
+// Of copies spread over a whole turn the last would lie on the source object; over less, the last lies on the
+// end of the angle.
+void makeRing(Session& s)
+{
+    const bool wholeTurn = s.editDegrees == 360 || s.editDegrees == -360;
+    if (!wholeTurn) --s.radialCount;
+    double step = 0;
+    keep(step, quotient(s.editDegrees, s.radialCount));
+    step *= radiansPerDegree;
+    const std::int32_t passes = wholeTurn ? s.radialCount - 1 : s.radialCount;
+    s.editAngle = step;
+    for (std::int32_t pass = 0; pass < passes; ++pass) {
+        turnSelection(s, Sources::stay);
+        s.editAngle += step;
+    }
+    turnSources(s, selectedSlots(s.store), Sources::comeOn);
+}
+
+} // namespace
+
+void editRotate(Session& s, Canvas& pic1)
+{
+    if (s.stepNo == 1) setPrompt(s, pic1);
+    if (s.stepNo != 3) return;
+    if (s.curFunc == "Radial Copy") {
+        makeRing(s);
+    } else {
+        s.editAngle = s.editDegrees * radiansPerDegree;
+        turnSelection(s, Sources::goOut);
+    }
+    endRun(s, pic1);
+}
+
+} // namespace mirtane

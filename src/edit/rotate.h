@@ -1,0 +1,13 @@
+#pragma once
+
+#include "model/session.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// The step of "Rotate" and "Radial Copy". The first click is the centre; the routine runs at step 3, with the
+// typed numbers in editDegrees and, for "Radial Copy", radialCount, which counts the source object.
+// Positive degrees run counter-clockwise.
+void editRotate(Session& s, Canvas& pic1);
+
+} // namespace mirtane

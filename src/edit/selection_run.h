@@ -1,0 +1,53 @@
+#pragma once
+
+// No edit changes an object where it stands. Each gives a rule, and this writes what the rule makes of every
+// selected object as a new object, turns the old ones where the edit moves rather than copies, and logs both
+// in one group, so that undo needs nothing from any edit.
+
+#include "model/insertion.h"
+#include "model/kind_table.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// What becomes of the selected objects themselves.
+enum class Sources {
+    stay,   // selected
+    comeOn, // "on", which is no action that undo would take back
+    goOut,  // deleted, logged in the group
+};
+
+// The slots that are "sel", of kinds 1 to 10 alone, in their order.
+std::vector<std::int32_t> selectedSlots(const EntityStore& store);
+
+// Writes the fields of the object's kind into the next slot, "on", and commits it in the group under way.
+// Past the table's end the object is lost without a word, and entCount grows all the same.
+void addObject(Session& s, const EntityRecord& r);
+
+void turnSources(Session& s, const std::vector<std::int32_t>& selected, Sources to);
+
+// rule gives the changed object for each selected one that takes, a test of the kind, says yes to.
+// All selected objects then become what sources says. The group stays open.
+template <class Rule>
+void runOnSelection(Session& s, Sources sources, Rule rule, bool (*takes)(std::int16_t) = isDrawnKind)
+{
+    const std::vector<std::int32_t> selected = selectedSlots(s.store);
+    for (const std::int32_t slot : selected) {
+        if (!takes(s.store.kind[EntityStore::at(slot)])) continue;
+        if (EntityStore::holds(s.store.entCount)) {
+            addObject(s, rule(s.store.record(slot)));
+        } else {
+            commitInGroup(s); // no slot takes it: nothing is worked out
+        }
+    }
+    turnSources(s, selected, sources);
+}
+
+// Ends the group, also one in which nothing was written, and shows the gauge and the whole picture.
+void closeGroup(Session& s, Canvas& pic1);
+
+// The common end of an edit: closes the group, brings a selection that followed the pointer back, and returns
+// to the function that the edit was chosen in.
+void endRun(Session& s, Canvas& pic1);
+
+} // namespace mirtane

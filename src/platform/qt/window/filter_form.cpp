@@ -1,0 +1,57 @@
+#include "platform/qt/window/filter_form.h"
+
+#include "platform/qt/window/child.h"
+#include "platform/qt/window/menu_view.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace mirtane {
+namespace {
+
+struct LabelledBox {
+    ControlId label;
+    ControlId box;
+};
+
+constexpr LabelledBox boxes[] = {
+    {"frmfilter.Label2"_c, "frmfilter.Text1"_c},
+    {"frmfilter.Label3"_c, "frmfilter.Text2"_c},
+    {"frmfilter.Label4"_c, "frmfilter.Text3"_c},
+    {"frmfilter.Label5"_c, "frmfilter.Text4"_c},
+};
+
+QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
+{
+    QWidget& row = childOf<QWidget>(form);
+    QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
+    buttons.setContentsMargins(0, 0, 0, 0);
+    buttons.addStretch();
+    buttons.addWidget(&maker.make("frmfilter.Command1"_c, row));
+    buttons.addWidget(&maker.make("frmfilter.Command2"_c, row));
+    return row;
+}
+
+} // namespace
+
+void layFilterForm(const ControlMaker& maker, QWidget& form)
+{
+    form.resize(460, 400);
+    QGridLayout& grid = childOf<QGridLayout>(form);
+    grid.setContentsMargins(14, 12, 14, 14);
+    grid.setSpacing(10);
+    grid.setColumnStretch(0, 1);
+    grid.setColumnStretch(1, 1);
+    QMenuBar& bar = childOf<QMenuBar>(form);
+    bar.setNativeMenuBar(false);
+    fillMenuBar(bar, "frmfilter"_c, maker.gate(), maker.views());
+    grid.setMenuBar(&bar);
+    int row = 0;
+    for (const LabelledBox& one : boxes)
+        grid.addWidget(&maker.makeLabelled(one.label, one.box, form), row++, 1);
+    grid.setRowStretch(row, 1);
+    grid.addWidget(&maker.makeLabelled("frmfilter.Label1"_c, "frmfilter.List1"_c, form), 0, 0, row + 1, 1);
+    grid.addWidget(&buttonRow(maker, form), row + 1, 0, 1, 2);
+}
+
+} // namespace mirtane

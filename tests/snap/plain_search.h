@@ -1,0 +1,41 @@
+#pragma once
+
+// The rules of the searches said again, as plainly as they can be: every object is worked out in full, in
+// double, by the long way round.
+
+#include "model/entity_store.h"
+
+#include <optional>
+#include <vector>
+
+namespace mirtane::plain {
+
+enum class Arcs { whole, onSweep, onSweepAndABit };
+
+struct Near {
+    Point at;
+    float distance;
+};
+
+// Where an object is nearest to p, if it is met at all.
+std::optional<Near> nearestOf(const EntityStore& store, std::size_t i, Point p, Arcs arcs);
+
+struct Rule {
+    Point from;
+    float radius;
+    int firstKind, lastKind;
+    Arcs arcs;
+    std::int32_t skipped = -1;
+    bool limitCounts = false; // an object at the very radius is a hit: so in a pick, not in a snap
+};
+
+// The slot of the nearest object, the last of equals, or -1.
+std::int32_t search(const EntityStore& store, const Rule& rule);
+
+// The points that an object offers, in their order.
+std::vector<Point> offeredPoints(const EntityStore& store, std::size_t i);
+
+// The points of an object that must lie in a window; none for kinds that no window selects.
+std::vector<Point> windowPoints(const EntityStore& store, std::size_t i);
+
+} // namespace mirtane::plain
