@@ -1,12 +1,16 @@
 // Measures what a user waits for, beside the plain work under it, in one run. Takes the options of Google
 // Benchmark.
 
+#include "dxf_bench.h"
+#include "edit_bench.h"
 #include "measures.h"
+#include "snap_bench.h"
 #include "table.h"
 
 #include <QGuiApplication>
 
 #include <iostream>
+#include <memory>
 
 namespace {
 
@@ -32,12 +36,20 @@ int main(int argc, char* argv[])
     benchmark::Initialize(&count, raw.data());
     if (benchmark::ReportUnrecognizedArguments(count, raw.data())) return 1;
 
-    mirtane::bench::Bench bench;
-    mirtane::bench::registerMeasures(bench);
-    mirtane::bench::Collector collector;
+    using namespace mirtane::bench;
+    Bench bench;
+    registerMeasures(bench);
+    const auto snaps = std::make_unique<SnapBench>();
+    registerSnapMeasures(*snaps);
+    registerEditMeasures();
+    const auto dxf = std::make_unique<DxfBench>();
+    registerDxfMeasures(*dxf);
+    Collector collector;
     std::cout << "60,000 lines on 1600 x 1000 pixels; medians. This takes a quarter of a minute or more.\n"
               << std::flush;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    collector.print(std::cout, mirtane::bench::comparisons());
+    for (const auto rows : {comparisons(), snapComparisons(), editComparisons(), dxfComparisons()}) {
+        collector.print(std::cout, rows);
+    }
     return 0;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ports.h"
+#include "dxf/scratch.h"
 #include "model/session.h"
 #include "render/canvas.h"
 
@@ -11,6 +12,7 @@ struct App {
     Session& s;
     Canvas& pic1;
     Ports& ports;
+    DxfScratch& dxfScratch; // of all DXF files that this run writes
 };
 
 } // namespace mirtane

@@ -3,6 +3,8 @@
 #include "app/attribute_controls.h"
 #include "app/open_drawing.h"
 #include "commands/prompt.h"
+#include "dxf/dxf_names.h"
+#include "dxf/dxf_writer.h"
 #include "files/drawing_file.h"
 #include "model/insertion.h"
 #include "render/redraw.h"
@@ -61,6 +63,51 @@ bool openDrawingFile(App& app, const FileChoice& choice)
     return true;
 }
 
+bool saveDxfFile(App& app, const FileChoice& choice)
+{
+    Session& s = app.s;
+    const DxfFile file = dxfFile(s.store, app.dxfScratch);
+    if (!app.ports.disk.writeWhole(pathOf(choice), file.bytes)) return false;
+    s.dxfName = choice.name;
+    if (!file.whole) return true; // what can't be written ends the export there, and the selection stays
+    changeStat(s.store, Stat::sel, Stat::on);
+    redrawAll(s, app.pic1);
+    return true;
+}
+
+bool openDxfFile(App& app, const FileChoice& choice)
+{
+    Session& s = app.s;
+    const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
+    if (!file) return false;
+    s.dxfName = choice.name;
+    s.drawingName = drawingNameOf(choice.name);
+    s.drawings.last = s.dxf.last; // so that the drawing is saved beside the file that it came from
+    openDxf(app, *file);
+    setPrompt(s, app.pic1);
+    return true;
+}
+
+struct PatternRoutines {
+    std::string_view pattern;
+    bool (*save)(App& app, const FileChoice& choice);
+    bool (*open)(App& app, const FileChoice& choice);
+    std::string_view notSaved;
+};
+
+bool saveDrawingPattern(App& app, const FileChoice& choice)
+{
+    return saveDrawingFile(app, choice, whatIsSaved(choice));
+}
+
+constexpr PatternRoutines patternRoutines[] = {
+    {"*.mtd", saveDrawingPattern, openDrawingFile, "Drawing not saved!"},
+    {"*.dxf", saveDxfFile, openDxfFile, "File not saved!"},
+    {"*.mta", nullptr, nullptr, "File not saved!"},
+    {"*.mth", nullptr, nullptr, "File not saved!"},
+    {"*.mtm", nullptr, nullptr, "File not saved!"},
+};
+
 } // namespace
 
 bool savesWholeDrawing(const FileChoice& choice)
@@ -70,16 +117,21 @@ bool savesWholeDrawing(const FileChoice& choice)
 
 bool saveFile(App& app, const FileChoice& choice)
 {
-    const bool isDrawing = choice.pattern == "*.mtd";
-    if (isDrawing && isPlainName(choice.name) && saveDrawingFile(app, choice, whatIsSaved(choice)))
-        return true;
-    setText(app.s.controls["entry"_c], isDrawing ? "Drawing not saved!" : "File not saved!");
+    for (const PatternRoutines& row : patternRoutines) {
+        if (row.pattern != choice.pattern) continue;
+        if (isPlainName(choice.name) && row.save != nullptr && row.save(app, choice)) return true;
+        setText(app.s.controls["entry"_c], std::string(row.notSaved));
+    }
     return false;
 }
 
 bool openFile(App& app, const FileChoice& choice)
 {
-    return choice.pattern == "*.mtd" && isPlainName(choice.name) && openDrawingFile(app, choice);
+    for (const PatternRoutines& row : patternRoutines) {
+        if (row.pattern != choice.pattern || !isPlainName(choice.name)) continue;
+        return row.open != nullptr && row.open(app, choice);
+    }
+    return false;
 }
 
 } // namespace mirtane

@@ -2,6 +2,7 @@
 
 #include "app/file_dialog.h"
 #include "app/start_stop.h"
+#include "dxf/dxf_names.h"
 
 #include <algorithm>
 
@@ -20,7 +21,7 @@ std::string nameOfDrawing(const Session& s)
 
 std::string nameOfDxf(const Session& s)
 {
-    return s.dxfName;
+    return dxfNameOf(s.drawingName);
 }
 
 std::string nameOfSelection(const Session&)

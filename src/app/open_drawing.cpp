@@ -1,6 +1,7 @@
 #include "app/open_drawing.h"
 
 #include "app/attribute_controls.h"
+#include "dxf/dxf_reader.h"
 #include "files/drawing_file.h"
 #include "geometry/fault.h"
 #include "model/insertion.h"
@@ -19,6 +20,19 @@ void fitView(Session& s, Canvas& pic1)
     readViewLimits(s, pic1);
 }
 
+void showTakenAttributes(App& app)
+{
+    showLineSettings(app.s);
+    showCheckMarks(app.s);
+    app.pic1.setFontName(app.s.textFont);
+}
+
+void showTakenLayers(Session& s)
+{
+    s.controls["Label3"_c].caption = "Set Working Layer";
+    showLayers(s);
+}
+
 } // namespace
 
 void openDrawing(App& app, const Bytes& file)
@@ -26,16 +40,29 @@ void openDrawing(App& app, const Bytes& file)
     Session& s = app.s;
     replaceDrawing(s, file);
     fitView(s, app.pic1);
-    showLineSettings(s);
-    showCheckMarks(s);
-    app.pic1.setFontName(s.textFont);
+    showTakenAttributes(app);
     setTextAnchors(s.store, textWidthOn(app.pic1));
-    s.controls["Label3"_c].caption = "Set Working Layer";
-    showLayers(s);
+    showTakenLayers(s);
     redrawAll(s, app.pic1);
     updateGauge(s);
     fixUpLinesAndCircles(s.store);
     s.stepNo = 0;
+    s.controls.focus = "pic1"_c;
+}
+
+void openDxf(App& app, const Bytes& file)
+{
+    Session& s = app.s;
+    forgetOwners(s.store);
+    readDxf(s, file, textWidthOn(app.pic1));
+    s.stepNo = 0;
+    redrawAll(s,
+              app.pic1); // an empty drawing has nothing to zoom to, and the old one must go from the screen
+    zoomAll(s, app.pic1);
+    showTakenAttributes(app);
+    showTakenLayers(s);
+    finishDxf(s);
+    updateGauge(s);
     s.controls.focus = "pic1"_c;
 }
 

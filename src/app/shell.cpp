@@ -79,7 +79,7 @@ Shell::Shell(Session& session, Canvas& pic1, Ports ports) : s_(session), pic1_(p
 
 void Shell::start()
 {
-    App app{s_, pic1_, ports_};
+    App app{s_, pic1_, ports_, dxfScratch_};
     startProgram(app);
     settle(s_.controls.focus);
 }
@@ -142,7 +142,7 @@ void Shell::keyPress(char32_t code)
     if (ended()) return;
     const ControlId before = s_.controls.focus;
     if (!canBeUsed(s_.controls, before)) return;
-    App app{s_, pic1_, ports_};
+    App app{s_, pic1_, ports_, dxfScratch_};
     keyToControl(app, before, code);
     settle(before);
 }
@@ -155,7 +155,7 @@ void Shell::click(ControlId id)
     if (kind == ControlKind::field || kind == ControlKind::display || kind == ControlKind::combo) {
         s_.controls.focus = id;
     }
-    App app{s_, pic1_, ports_};
+    App app{s_, pic1_, ports_, dxfScratch_};
     if (const Action action = actionOf(id)) action(app, id);
     settle(before);
 }
@@ -165,7 +165,7 @@ void Shell::clickRow(ControlId list, int row)
     moveToRow(list, row);
     if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
     const ControlId before = s_.controls.focus;
-    App app{s_, pic1_, ports_};
+    App app{s_, pic1_, ports_, dxfScratch_};
     rowChosen(app, list, row);
     settle(before);
 }
@@ -176,7 +176,7 @@ void Shell::moveToRow(ControlId list, int row)
     const ControlId before = s_.controls.focus;
     s_.controls[list].row = row;
     s_.controls.focus = list;
-    App app{s_, pic1_, ports_};
+    App app{s_, pic1_, ports_, dxfScratch_};
     if (list == "frmfile.File1"_c) chooseFile(app, row);
     settle(before);
 }
@@ -200,7 +200,7 @@ void Shell::closeForm(ControlId form)
 {
     if (ended()) return;
     const ControlId before = s_.controls.focus;
-    App app{s_, pic1_, ports_};
+    App app{s_, pic1_, ports_, dxfScratch_};
     if (form == "frmMain"_c) {
         leaveProgram(app);
     } else if (form == "frmfile"_c) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ports.h"
+#include "dxf/scratch.h"
 #include "model/session.h"
 #include "render/canvas.h"
 
@@ -55,6 +56,7 @@ class Shell {
     Session& s_;
     Canvas& pic1_;
     Ports ports_;
+    DxfScratch dxfScratch_;
 };
 
 } // namespace mirtane

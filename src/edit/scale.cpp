@@ -49,40 +49,38 @@ void scaleCircle(const Scaling& scaling, EntityRecord& r)
 }
 
 // The construction runs at this many times the size, for the sake of its 32-bit steps.
-constexpr double finer = 10000;
+constexpr float finer = 10000;
 
 Point enlarged(Point p)
 {
-    keep(p.x, p.x * finer);
-    keep(p.y, p.y * finer);
-    return p;
+    return {p.x * finer, p.y * finer};
 }
 
 Point reduced(Point p)
 {
-    keep(p.x, p.x / finer);
-    keep(p.y, p.y / finer);
-    return p;
+    return {p.x / finer, p.y / finer};
 }
 
-bool onOneLine(Point a, Point b, Point c)
+// Not if they lie on one line, nor if they fault or overflow.
+bool makeAnArc(Point a, Point b, Point c)
 {
     const double abx = static_cast<double>(b.x) - a.x; // widened before the difference, as below
     const double aby = static_cast<double>(b.y) - a.y;
     const double acx = static_cast<double>(c.x) - a.x;
     const double acy = static_cast<double>(c.y) - a.y;
-    return abx * acy == aby * acx;
+    const double across = abx * acy - aby * acx;
+    return std::isfinite(across) && across != 0;
 }
 
 // The arc through the images of start, middle and end, by the construction that draws arcs, which also
-// settles the direction. Three images on one line make no arc: the old one stays as it is.
+// settles the direction. Where three images make no arc, the old one stays as it is.
 void scaleArc(const Scaling& scaling, EntityRecord& r)
 {
     ScratchPoints through;
     through.ptA = enlarged(scaling.of(r.p2));
     through.ptB = enlarged(scaling.of(r.p4));
     through.ptC = enlarged(scaling.of(r.p3));
-    if (onOneLine(through.ptA, through.ptB, through.ptC)) return;
+    if (!makeAnArc(through.ptA, through.ptB, through.ptC)) return;
     through.ptF = enlarged(r.p1);
     through.arcStart = r.a1;
     through.arcEnd = r.a2;
