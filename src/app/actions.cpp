@@ -10,6 +10,7 @@
 #include "app/filter_dialog.h"
 #include "app/help.h"
 #include "app/layer_menus.h"
+#include "app/print_dialog.h"
 #include "app/selection.h"
 #include "app/starters.h"
 #include "commands/vocabulary.h"
@@ -68,6 +69,11 @@ constexpr ActionRow actionRows[] = {
     {"ml6"_c, openFileFlow},
     {"fil14"_c, exitProgram},
     {"hlp3"_c, showHelp},
+    {"prtstp"_c, setUpPrinter},
+    {"picset"_c, askForPrintScale},
+    {"frmprintset.Text1"_c, emptyPrintScale},
+    {"frmprintset.Command1"_c, confirmPrint},
+    {"frmprintset.Command2"_c, cancelPrint},
     {"undu"_c, undoAction<undo>},
     {"redu"_c, undoAction<redo>},
     {"Command42"_c, zoomAction<zoomAll>},

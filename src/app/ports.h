@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/disk.h"
+#include "print/printer.h"
 
 #include <map>
 #include <string>
@@ -38,6 +39,7 @@ struct Ports {
     Folders& folders;
     SettingsStore& settings;
     std::string programFolder;
+    Printer* printer = nullptr; // not owned; null where nothing can be printed
 };
 
 } // namespace mirtane

@@ -9,6 +9,7 @@
 #include "app/filter_dialog.h"
 #include "app/layer_menus.h"
 #include "app/list_modes.h"
+#include "app/print_dialog.h"
 #include "app/start_stop.h"
 #include "app/typed_entry.h"
 #include "render/redraw.h"
@@ -63,6 +64,7 @@ void keyToControl(App& app, ControlId id, char32_t code)
     if (id == "pic1"_c) return canvasKeyPress(s, app.pic1, code);
     if (id == "entry"_c) return entryKeyPress(s, app.pic1, code);
     if (id == "frmfile.Text1"_c) return fileNameKeyPress(app, code);
+    if (id == "frmprintset.Text1"_c) return printScaleKeyPress(app, code);
     if (isNumericField(id)) return fieldKeyPress(app, id, code);
     if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
     if (id == "Combo3"_c && code == enterKey) return layerNameEntered(app);
@@ -207,6 +209,8 @@ void Shell::closeForm(ControlId form)
         closeFileDialog(app);
     } else if (form == "frmfilter"_c) {
         cancelFilter(app, form);
+    } else if (form == "frmprintset"_c) {
+        cancelPrint(app, form);
     } else {
         s_.controls[form].visible = false;
         if (formOf(before) == form) s_.controls.focus = "pic1"_c;

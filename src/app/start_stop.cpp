@@ -45,6 +45,10 @@ void startProgram(App& app)
     setFolders(s, app.ports.programFolder);
     newLayers(s);
     greyWhatHasNoRoutine(s.controls);
+    if (const Printer* printer = app.ports.printer) {
+        s.pageWidth = printer->pageWidth();
+        s.pageHeight = printer->pageHeight();
+    }
     readViewLimits(s, app.pic1);
     computePixelMapping(s, app.pic1);
     app.pic1.clear();

@@ -11,6 +11,7 @@ namespace mirtane {
 enum class ControlKind : std::uint8_t {
     form,
     surface, // pic1
+    picture, // drawn by the window
     button,
     toggle, // its caption is its state
     option,
@@ -42,7 +43,7 @@ inline constexpr ControlRow controlTable[] = {
     {"frmfile", ControlKind::form, "", "", "", ""},
     {"frmfilter", ControlKind::form, "", "", "", ""},
     {"frmedit", ControlKind::form, "", "Edits", "", ""},
-    {"frmprintset", ControlKind::form, "", "", "", ""},
+    {"frmprintset", ControlKind::form, "", "Print", "", ""},
     {"frmhelp", ControlKind::form, "", "Mirtane 4.00 Help", "", ""},
 
     {"pic1", ControlKind::surface, "", "", "", ""},
@@ -273,6 +274,15 @@ inline constexpr ControlRow controlTable[] = {
     {"frmfilter.Text5", ControlKind::workingText, "", "", "", "Text5"},
     {"frmfilter.Command1", ControlKind::button, "", "Accept", "", ""},
     {"frmfilter.Command2", ControlKind::button, "", "Cancel", "", ""},
+
+    {"frmprintset.Label1", ControlKind::label, "",
+     "The fitted scale value is displayed below. Click on the text box to enter a new value. This value must be greater than the fitted value.",
+     "", ""},
+    {"frmprintset.Picture1", ControlKind::picture, "", "", "", ""}, // the page at the scale in text
+    {"frmprintset.Text1", ControlKind::field, "", "", "", ""},
+    {"frmprintset.Text2", ControlKind::display, "", "", "", ""},
+    {"frmprintset.Command1", ControlKind::button, "", "Print", "", ""},
+    {"frmprintset.Command2", ControlKind::button, "", "Cancel", "", ""},
 
     {"frmhelp.Text1", ControlKind::page, "", "", "", ""},
 };

@@ -167,6 +167,15 @@ struct EditState {
     float offsetDistance = 0;             // added to the radius by "Concentric Copy", world units
 };
 
+// The page under way; lengths on paper are twips.
+struct PrintState {
+    float pageWidth = 0, pageHeight = 0; // as they were when the program started
+    float printMinX = 0, printMinY = 0, printMaxX = 0, printMaxY = 0; // bounds of the selection, world units
+    float printFactor = 1;                                           // the user's reduction
+    float printScale = 1;                                            // twips to the world unit
+    float printOriginX = 0, printOriginY = 0;
+};
+
 struct Session : Attributes,
                  FunctionState,
                  ScratchPoints,
@@ -175,7 +184,8 @@ struct Session : Attributes,
                  FileState,
                  FilterValues,
                  PickResults,
-                 EditState {
+                 EditState,
+                 PrintState {
     EntityStore store;
     UndoLog log;
     LayerTable layerTable;

@@ -48,6 +48,7 @@ std::string_view valuesOf(ControlKind kind)
     case ControlKind::display:
         return "text color";
     case ControlKind::page:
+    case ControlKind::picture:
     case ControlKind::workingText:
         return "text";
     case ControlKind::list:

@@ -4,6 +4,7 @@
 
 #include "app/shell.h"
 #include "platform/qt/surface.h"
+#include "print/recording_printer.h"
 #include "render/recording_canvas.h"
 
 #include <optional>
@@ -15,6 +16,7 @@ struct Stage {
     Shell& shell;
     Surface& surface;
     RecordingCanvas& pic1; // the surface, every operation written down
+    const RecordingPrinter& printer;
 };
 
 // Carries out one line. The answer of a question comes back; a command and an expect that holds give nothing.

@@ -120,6 +120,22 @@ std::string opsAnswer(Stage& stage, Words&)
     return jsonArray(ops);
 }
 
+std::string printOpArray(const PrintOp& op)
+{
+    std::vector<std::string> elements = {json(op.name)};
+    for (const PrintOp::Arg& arg : op.args) {
+        elements.push_back(std::visit([](const auto& value) { return json(value); }, arg));
+    }
+    return jsonArray(elements);
+}
+
+std::string printedAnswer(Stage& stage, Words&)
+{
+    std::vector<std::string> ops;
+    for (const PrintOp& op : stage.printer.printed()) ops.push_back(printOpArray(op));
+    return jsonArray(ops);
+}
+
 std::string widthAnswer(Stage& stage, Words& words)
 {
     const float size = words.coordinate();
@@ -156,6 +172,7 @@ constexpr QuestionRow questionRows[] = {
     {"get", getAnswer},       {"focused", focusedAnswer}, {"slot", slotAnswer}, {"slots", slotsAnswer},
     {"layers", layersAnswer}, {"undolog", undoLogAnswer}, {"ops", opsAnswer},   {"width", widthAnswer},
     {"image", imageAnswer},   {"alive", aliveAnswer},
+    {"printed", printedAnswer},
 };
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "platform/qt/settings.h"
 #include "platform/qt/surface.h"
 #include "platform/qt/window/main_window.h"
+#include "platform/qt/window/system_printer.h"
 #include "platform/qt/window/theme.h"
 
 #include <QApplication>
@@ -42,8 +43,9 @@ int main(int argc, char* argv[])
     QtSettings settings;
     Session session;
     Surface surface = firstSurface();
+    const std::unique_ptr<Printer> printer = systemPrinter();
     Shell shell(session, surface,
-                {disk, folders, settings, QCoreApplication::applicationDirPath().toStdString()});
+                {disk, folders, settings, QCoreApplication::applicationDirPath().toStdString(), printer.get()});
     shell.start();
 
     MainWindow window(shell, surface);

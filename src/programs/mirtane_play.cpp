@@ -109,9 +109,10 @@ int run(const Options& options)
                       static_cast<float>(options.size.height) * unitsPerPixel}); // below 20,000 pixels
     RecordingCanvas pic1(&surface);
     pic1.record(mayAskForOps(options.file));
-    Shell shell(*session, pic1, {disk, folders, settings, home});
+    RecordingPrinter printer;
+    Shell shell(*session, pic1, {disk, folders, settings, home, &printer});
     shell.start();
-    play::Stage stage{shell, surface, pic1};
+    play::Stage stage{shell, surface, pic1, printer};
     return playAll(stage, options.file == "-" ? std::cin : opened, options.file);
 }
 

@@ -62,8 +62,9 @@ class Theatre {
     std::unique_ptr<Session> session = std::make_unique<Session>();
     Surface surface{1200, 800, 1};
     RecordingCanvas pic1{&surface};
-    Shell shell{*session, pic1, Ports{disk, folders, settings, folder.path().toStdString()}};
-    play::Stage stage{shell, surface, pic1};
+    RecordingPrinter printer;
+    Shell shell{*session, pic1, Ports{disk, folders, settings, folder.path().toStdString(), &printer}};
+    play::Stage stage{shell, surface, pic1, printer};
 };
 
 } // namespace mirtane::fake

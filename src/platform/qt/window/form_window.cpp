@@ -5,6 +5,7 @@
 #include "platform/qt/window/file_form.h"
 #include "platform/qt/window/filter_form.h"
 #include "platform/qt/window/help_form.h"
+#include "platform/qt/window/print_form.h"
 
 #include <QCloseEvent>
 
@@ -18,11 +19,12 @@ struct FormRow {
     void (*lay)(const ControlMaker& maker, QWidget& form); // puts the form's controls on it
 };
 
-constexpr std::array<FormRow, 4> forms{{
+constexpr std::array<FormRow, 5> forms{{
     {"frmedit"_c, layEditForm},
     {"frmfile"_c, layFileForm},
     {"frmfilter"_c, layFilterForm},
     {"frmhelp"_c, layHelpForm},
+    {"frmprintset"_c, layPrintForm},
 }};
 
 // How much smaller than the main window the form with the manual is: 1000 and 700 twips, 15 to the pixel.
@@ -35,6 +37,7 @@ FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
                           Qt::WindowCloseButtonHint),
       gate_(gate), form_(form)
 {
+    if (form == "frmprintset"_c) setWindowModality(Qt::WindowModal);
 }
 
 void FormWindow::show(const Control& now)

@@ -1,0 +1,138 @@
+#include "app/print_dialog.h"
+
+#include "app/typed_entry.h"
+#include "geometry/fault.h"
+#include "print/page.h"
+#include "render/redraw.h"
+#include "text/numbers.h"
+
+namespace mirtane {
+namespace {
+
+void dropSelection(App& app)
+{
+    changeStat(app.s.store, Stat::sel, Stat::on);
+    redrawAll(app.s, app.pic1);
+}
+
+void hideDialog(Session& s)
+{
+    s.controls["frmprintset"_c].visible = false;
+    s.controls.focus = "pic1"_c;
+}
+
+double typedScale(const Session& s)
+{
+    return readNumber(s.controls["frmprintset.Text1"_c].text);
+}
+
+double fittedScaleShown(const Session& s)
+{
+    return readNumber(s.controls["frmprintset.Text2"_c].text);
+}
+
+// A drawing is printed beside the place where it is kept.
+std::string fileOfPage(const Session& s, std::string& name)
+{
+    name = s.drawingName.substr(0, s.drawingName.find('.')) + ".pdf";
+    return s.drawings.last + "/" + name;
+}
+
+bool putPageOut(Session& s, Printer& printer, const std::string& file)
+{
+    if (!printer.beginPage(file)) return false;
+    drawPage(s.store, pageMapping(s, s.store), s.pageHeight, printer);
+    return printer.endPage();
+}
+
+void printSelection(App& app)
+{
+    Session& s = app.s;
+    Printer* printer = app.ports.printer;
+    if (printer != nullptr && s.pageWidth > 0 && s.pageHeight > 0) {
+        std::string name;
+        const std::string file = fileOfPage(s, name);
+        const bool done = putPageOut(s, *printer, file);
+        if (printer->printsToFile()) setText(s.controls["entry"_c], done ? name : "File not saved!");
+    }
+    dropSelection(app);
+}
+
+// The picture of the page follows the value typed.
+void showScaleOfPicture(Session& s)
+{
+    setText(s.controls["frmprintset.Picture1"_c], s.controls["frmprintset.Text1"_c].text);
+}
+
+} // namespace
+
+void askForPrintScale(App& app, ControlId)
+{
+    Session& s = app.s;
+    s.stepNo = 0;
+    s.printFactor = 1;
+    if (countWithStat(s.store, Stat::sel) == 0) {
+        setText(s.controls["entry"_c], "Nothing selected!");
+        return;
+    }
+    const std::string fitted = plainNumber(fittedScale(s, s.store));
+    setText(s.controls["frmprintset.Text1"_c], fitted);
+    setText(s.controls["frmprintset.Text2"_c], fitted);
+    showScaleOfPicture(s);
+    s.controls["frmprintset"_c].visible = true;
+    s.controls.focus = "frmprintset.Text1"_c;
+}
+
+void setUpPrinter(App& app, ControlId)
+{
+    if (app.ports.printer != nullptr) app.ports.printer->setup();
+}
+
+void confirmPrint(App& app, ControlId)
+{
+    Session& s = app.s;
+    if (s.controls["frmprintset.Text1"_c].text.empty()) return;
+    const double typed = typedScale(s);
+    const double fitted = fittedScaleShown(s);
+    if (typed < fitted) return;
+    keep(s.printFactor, quotient(fitted, typed));
+    s.stepNo = 0;
+    printSelection(app);
+    hideDialog(s);
+}
+
+void cancelPrint(App& app, ControlId)
+{
+    dropSelection(app);
+    hideDialog(app.s);
+}
+
+void emptyPrintScale(App& app, ControlId box)
+{
+    setText(app.s.controls[box], "");
+    showScaleOfPicture(app.s);
+}
+
+void printScaleKeyPress(App& app, char32_t code)
+{
+    if (code == enterKey) return confirmPrint(app, "frmprintset.Command1"_c);
+    if (code == U',') code = U'.';
+    const bool isDigit = code >= U'0' && code <= U'9';
+    if (!isDigit && code != U'.' && code != U'-' && code != backspaceKey) return;
+    passKey(app.s.controls["frmprintset.Text1"_c], code);
+    showScaleOfPicture(app.s);
+}
+
+std::vector<PrintOp> pagePreview(const Session& s)
+{
+    const double typed = typedScale(s);
+    const double fitted = fittedScaleShown(s);
+    if (!(s.pageWidth > 0 && s.pageHeight > 0) || typed < fitted) return {};
+    PrintState page = s;
+    keep(page.printFactor, quotient(fitted, typed));
+    RecordingPrinter recording(s.pageWidth, s.pageHeight);
+    drawPage(s.store, pageMapping(page, s.store), s.pageHeight, recording);
+    return recording.printed();
+}
+
+} // namespace mirtane

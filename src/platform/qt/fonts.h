@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <QStringList>
+
+namespace mirtane {
+
+// The face of a name, cut at 31 characters; a face that is not there gives way without a word, and EB
+// Garamond stands in for Garamond.
+QFont faceOf(const QString& name);
+
+} // namespace mirtane

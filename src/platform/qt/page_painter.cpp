@@ -1,0 +1,170 @@
+#include "platform/qt/page_painter.h"
+
+#include "platform/qt/disk.h"
+#include "platform/qt/fonts.h"
+
+#include <QBuffer>
+#include <QLocale>
+#include <QPdfWriter>
+
+#include <cmath>
+
+namespace mirtane {
+namespace {
+
+constexpr double twipsPerInch = 1440;
+constexpr double twipsPerPoint = 20;
+constexpr double pdfDotsPerInch = 600;
+constexpr double degreesPerRadian = 57.29577951308232; // the toolkit's own degrees, not those of the drawing
+constexpr double sixteenthsPerDegree = 16;
+
+Qt::PenStyle penStyleOf(std::int16_t style)
+{
+    constexpr Qt::PenStyle styles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
+                                       Qt::DashDotDotLine};
+    return style >= 0 && style < std::ssize(styles) ? styles[style] : Qt::SolidLine;
+}
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); // texts are short
+}
+
+QPageSize paperOfCountry()
+{
+    const bool imperial = QLocale::system().measurementSystem() != QLocale::MetricSystem;
+    return QPageSize(imperial ? QPageSize::Letter : QPageSize::A4);
+}
+
+float twips(double points)
+{
+    return static_cast<float>(points * twipsPerPoint); // paper is a few thousand twips wide
+}
+
+int sixteenths(double radians)
+{
+    return static_cast<int>(
+        std::lround(radians * degreesPerRadian * sixteenthsPerDegree)); // within a turn or two
+}
+
+} // namespace
+
+bool PagePainter::beginOn(QPaintDevice& device, double unitsPerTwip)
+{
+    unitsPerTwip_ = unitsPerTwip;
+    if (!painter_.begin(&device)) return false;
+    painter_.setPen(QPen(Qt::black, 1));
+    painter_.setBrush(Qt::NoBrush);
+    return true;
+}
+
+void PagePainter::font(std::string_view name, double points)
+{
+    fontName_ = textOf(name);
+    fontPoints_ = points;
+}
+
+void PagePainter::text(double x, double y, std::string_view utf8)
+{
+    rotatedText(x, y, fontPoints_ * twipsPerPoint, 0, false, utf8);
+}
+
+void PagePainter::pen(std::int16_t style, int width)
+{
+    painter_.setPen(QPen(Qt::black, width, penStyleOf(style), Qt::FlatCap, Qt::RoundJoin));
+}
+
+void PagePainter::line(double x1, double y1, double x2, double y2)
+{
+    painter_.drawLine(at(x1, y1), at(x2, y2));
+}
+
+void PagePainter::circle(double x, double y, double r)
+{
+    painter_.drawEllipse(at(x, y), r * unitsPerTwip_, r * unitsPerTwip_);
+}
+
+void PagePainter::arc(double x, double y, double r, double a1, double a2)
+{
+    constexpr int fullTurn = 360 * 16;
+    const double d = r * unitsPerTwip_;
+    if (!std::isfinite(a1) || !std::isfinite(a2)) return;
+    int span = sixteenths(std::remainder(a2 - a1, 2 * M_PI));
+    if (span < 0) span += fullTurn;
+    const int start = sixteenths(std::remainder(a1, 2 * M_PI));
+    painter_.drawArc(QRectF(at(x, y) - QPointF(d, d), QSizeF(2 * d, 2 * d)), start, span);
+}
+
+void PagePainter::point(double x, double y)
+{
+    painter_.drawPoint(at(x, y));
+}
+
+void PagePainter::rotatedText(double x, double y, double height, int degrees, bool underline,
+                              std::string_view utf8)
+{
+    constexpr double largestEm = 100000;
+    const double em = height * unitsPerTwip_;
+    if (!(em >= 1 && em < largestEm)) return;
+    QFont face = faceOf(fontName_);
+    face.setPixelSize(static_cast<int>(std::lround(em))); // within the limits above
+    face.setUnderline(underline);
+    painter_.save();
+    painter_.setPen(QPen(Qt::black, 1));
+    painter_.setFont(face);
+    painter_.translate(at(x, y));
+    painter_.rotate(-degrees);
+    painter_.drawText(QPointF(0, QFontMetricsF(face, painter_.device()).ascent()), textOf(utf8));
+    painter_.restore();
+}
+
+bool PagePainter::endPage()
+{
+    return painter_.end();
+}
+
+PdfPrinter::PdfPrinter() : PdfPrinter(paperOfCountry()) {}
+
+PdfPrinter::PdfPrinter(const QPageSize& paper)
+    : PagePainter(twips(paper.sizePoints().width()), twips(paper.sizePoints().height())), paper_(paper)
+{
+}
+
+bool PdfPrinter::beginPage(const std::string& file)
+{
+    file_ = file;
+    bytes_.clear();
+    auto buffer = std::make_unique<QBuffer>(&bytes_);
+    if (!buffer->open(QIODevice::WriteOnly)) return false;
+    auto writer = std::make_unique<QPdfWriter>(buffer.get());
+    writer->setPageSize(paper_);
+    writer->setPageMargins(QMarginsF(0, 0, 0, 0));
+    writer->setResolution(static_cast<int>(pdfDotsPerInch)); // whole
+    writer->setCreator(QStringLiteral("Mirtane 4.00"));
+    buffer_ = std::move(buffer);
+    device_ = std::move(writer);
+    return beginOn(*device_, pdfDotsPerInch / twipsPerInch);
+}
+
+// The file is put on the disk whole, as all files of the program are.
+bool PdfPrinter::endPage()
+{
+    const bool drawn = PagePainter::endPage();
+    device_.reset();
+    buffer_.reset();
+    return drawn && QtDisk().writeWhole(file_, Bytes(bytes_.begin(), bytes_.end()));
+}
+
+PicturePrinter::PicturePrinter(QPaintDevice& device, float width, float height, double pixelsPerTwip)
+    : PagePainter(width, height), device_(device), pixelsPerTwip_(pixelsPerTwip)
+{
+}
+
+bool PicturePrinter::beginPage(const std::string&)
+{
+    const bool begun = beginOn(device_, pixelsPerTwip_);
+    painter().setRenderHint(QPainter::Antialiasing);
+    return begun;
+}
+
+} // namespace mirtane

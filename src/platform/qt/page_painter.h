@@ -1,0 +1,83 @@
+#pragma once
+
+#include "print/printer.h"
+
+#include <QIODevice>
+#include <QPagedPaintDevice>
+#include <QPainter>
+
+#include <memory>
+
+namespace mirtane {
+
+// A page on one of the toolkit's paged devices: a PDF file or a printer.
+class PagePainter : public Printer {
+  public:
+    // The printable area in twips.
+    PagePainter(float width, float height) : width_(width), height_(height) {}
+
+    float pageWidth() const override { return width_; }
+    float pageHeight() const override { return height_; }
+    void font(std::string_view name, double points) override;
+    void text(double x, double y, std::string_view utf8) override;
+    void pen(std::int16_t style, int width) override;
+    void line(double x1, double y1, double x2, double y2) override;
+    void circle(double x, double y, double r) override;
+    void arc(double x, double y, double r, double a1, double a2) override;
+    void point(double x, double y) override;
+    void rotatedText(double x, double y, double height, int degrees, bool underline,
+                     std::string_view utf8) override;
+    bool endPage() override;
+
+  protected:
+    // Draws on a device from now on, with so many of its units to the twip.
+    bool beginOn(QPaintDevice& device, double unitsPerTwip);
+    QPainter& painter() { return painter_; }
+
+  private:
+    QPointF at(double x, double y) const { return {x * unitsPerTwip_, y * unitsPerTwip_}; }
+
+    float width_;
+    float height_;
+    double unitsPerTwip_ = 1;
+    QString fontName_;
+    double fontPoints_ = 8;
+    QPainter painter_;
+};
+
+// The page as a PDF file.
+class PdfPrinter : public PagePainter {
+  public:
+    // On A4 or letter paper, as the user's country has it.
+    PdfPrinter();
+    explicit PdfPrinter(const QPageSize& paper);
+
+    bool printsToFile() const override { return true; }
+    void setup() override {}
+    bool beginPage(const std::string& file) override;
+    bool endPage() override;
+
+  private:
+    QPageSize paper_;
+    std::string file_;
+    QByteArray bytes_;
+    std::unique_ptr<QPagedPaintDevice> device_;
+    std::unique_ptr<QIODevice> buffer_;
+};
+
+// The page as a picture, on whatever the painter stands on.
+class PicturePrinter : public PagePainter {
+  public:
+    // The device shows width x height twips on pixels.
+    PicturePrinter(QPaintDevice& device, float width, float height, double pixelsPerTwip);
+
+    bool printsToFile() const override { return false; }
+    void setup() override {}
+    bool beginPage(const std::string& file) override;
+
+  private:
+    QPaintDevice& device_;
+    double pixelsPerTwip_;
+};
+
+} // namespace mirtane

@@ -1,0 +1,50 @@
+#include "platform/qt/window/print_form.h"
+
+#include "platform/qt/window/child.h"
+#include "platform/qt/window/page_picture.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace mirtane {
+namespace {
+
+QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
+{
+    QWidget& row = childOf<QWidget>(form);
+    QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
+    buttons.setContentsMargins(0, 0, 0, 0);
+    buttons.addStretch();
+    buttons.addWidget(&maker.make("frmprintset.Command1"_c, row));
+    buttons.addWidget(&maker.make("frmprintset.Command2"_c, row));
+    return row;
+}
+
+} // namespace
+
+void layPrintForm(const ControlMaker& maker, QWidget& form)
+{
+    constexpr int textWidth = 260;
+    form.resize(640, 480);
+    QGridLayout& grid = childOf<QGridLayout>(form);
+    grid.setContentsMargins(14, 12, 14, 14);
+    grid.setSpacing(10);
+    grid.setColumnStretch(0, 1);
+    grid.setRowStretch(3, 1);
+    PagePicture& picture = childOf<PagePicture>(form, maker.gate());
+    maker.views().add("frmprintset.Picture1"_c, picture);
+    grid.addWidget(&picture, 0, 0, 5, 1);
+    QWidget& words = maker.make("frmprintset.Label1"_c, form);
+    if (auto* const label = qobject_cast<QLabel*>(&words)) {
+        label->setWordWrap(true);
+        label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    }
+    words.setFixedWidth(textWidth);
+    grid.addWidget(&words, 0, 1);
+    grid.addWidget(&maker.make("frmprintset.Text1"_c, form), 1, 1);
+    grid.addWidget(&maker.make("frmprintset.Text2"_c, form), 2, 1);
+    grid.addWidget(&buttonRow(maker, form), 4, 1);
+}
+
+} // namespace mirtane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace mirtane {
+
+// A printer as the page needs it. Coordinates and lengths are twips (1440 to the inch) from the upper left of
+// the printable area, y down; angles are counter-clockwise. Everything is printed in black.
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    // The printable area in twips, as it was when the program started; 0 for a printer that can't print.
+    virtual float pageWidth() const = 0;
+    virtual float pageHeight() const = 0;
+    // Whether pages become a file, for want of a printer.
+    virtual bool printsToFile() const = 0;
+    // The user's choice of printer and paper. What has been read of the page stays.
+    virtual void setup() = 0;
+
+    // A page begins; file is where it goes if it becomes one (absolute, UTF-8). False if it can't be begun.
+    virtual bool beginPage(const std::string& file) = 0;
+    virtual void font(std::string_view name, double points) = 0;
+    virtual void text(double x, double y, std::string_view utf8) = 0; // (x, y) its upper left
+    virtual void pen(std::int16_t style, int width) = 0; // style as on the surface, width in device pixels
+    virtual void line(double x1, double y1, double x2, double y2) = 0;
+    virtual void circle(double x, double y, double r) = 0;
+    virtual void arc(double x, double y, double r, double a1, double a2) = 0; // radians, from a1 to a2
+    virtual void point(double x, double y) = 0;
+    // In the current font, turned about its upper left; height is the em in twips, degrees are whole.
+    virtual void rotatedText(double x, double y, double height, int degrees, bool underline,
+                             std::string_view utf8) = 0;
+    // False if the page could not be put out.
+    virtual bool endPage() = 0;
+};
+
+} // namespace mirtane
