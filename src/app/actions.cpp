@@ -10,9 +10,12 @@
 #include "app/filter_dialog.h"
 #include "app/help.h"
 #include "app/layer_menus.h"
+#include "app/library_menus.h"
 #include "app/print_dialog.h"
 #include "app/selection.h"
 #include "app/starters.h"
+#include "app/text_menus.h"
+#include "commands/live_text.h"
 #include "commands/vocabulary.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -24,6 +27,7 @@ namespace {
 template <void (*zoom)(Session&, Canvas&)> void zoomAction(App& app, ControlId)
 {
     zoom(app.s, app.pic1);
+    repaintTextPreview(app.s, app.pic1);
 }
 
 template <bool (*flip)(EntityStore&, UndoLog&)> void undoAction(App& app, ControlId)
@@ -144,6 +148,44 @@ constexpr ActionRow actionRows[] = {
     {"ly11"_c, addLayerMenu},
     {"ly5"_c, hideAllLayers},
     {"ly6"_c, displayAllLayers},
+    {"Command10"_c, listLibrary},
+    {"ml9"_c, listLibrary},
+    {"ml5"_c, listLibrary},
+    {"ht3"_c, listLibrary},
+    {"ht11"_c, listLibrary},
+    {"ht7"_c, listLibrary},
+    {"ass3"_c, listLibrary},
+    {"ass21"_c, listLibrary},
+    {"ass9"_c, listLibrary},
+    {"ml3"_c, createInLibrary},
+    {"ht5"_c, createInLibrary},
+    {"ass7"_c, createInLibrary},
+    {"ht10"_c, startWhenIdle},
+    {"ass5"_c, toggleCheckMark},
+    {"num1"_c, takeAttribute},
+    {"num2"_c, takeAttribute},
+    {"num3"_c, takeAttribute},
+    {"num4"_c, takeAttribute},
+    {"num5"_c, takeAttribute},
+    {"ang1"_c, takeAttribute},
+    {"ang2"_c, takeAttribute},
+    {"dim3"_c, takeAttribute},
+    {"dim4"_c, takeAttribute},
+    {"dim5"_c, takeAttribute},
+    {"dtol2"_c, takeAttribute},
+    {"dtol3"_c, takeAttribute},
+    {"dtol4"_c, takeAttribute},
+    {"dtol5"_c, takeAttribute},
+    {"dtol6"_c, takeAttribute},
+    {"tk7"_c, takeAttribute},
+    {"tk8"_c, takeAttribute},
+    {"tk9"_c, takeAttribute},
+    {"tk3"_c, startWhenIdle},
+    {"dim7"_c, startWhenIdle},
+    {"dim11"_c, startWhenIdle},
+    {"tk5"_c, listFonts},
+    {"tk12"_c, toggleCheckMark},
+    {"tk14"_c, listFontsForSelection},
     {"lw3"_c, takeLineColor},
     {"lw4"_c, takeLineColor},
     {"lw5"_c, takeLineColor},

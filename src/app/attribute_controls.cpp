@@ -93,6 +93,7 @@ void showLineSettings(Session& s)
 {
     Control& setts = s.controls["setts"_c];
     setts.color = s.curColor;
+    setts.font = s.textFont;
     for (const StyleRow& row : styleRows) {
         if (row.style == s.curStyle) setText(setts, std::string(row.menu.row().caption));
     }

@@ -3,10 +3,12 @@
 #include "app/construction_line.h"
 #include "app/dispatch.h"
 #include "app/selection.h"
+#include "commands/live_text.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
+#include "library/boundary.h"
 #include "model/insertion.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -34,7 +36,11 @@ void takeWindowCorner(Session& s, Canvas& pic1, Point at)
     s.window2 = at;
     if (s.windowStep == 1) s.window1 = at;
     if (zoomWindowIsOn(s)) {
-        if (s.windowStep == 2) zoomWindowFinish(s, pic1);
+        if (s.windowStep == 2) {
+            zoomWindowFinish(s, pic1);
+            repaintTextPreview(s, pic1);
+            s.controls.focus = "pic1"_c;
+        }
     } else if (s.windowStep == 2) {
         selectByWindow(s, pic1);
     } else {
@@ -149,7 +155,7 @@ void cancel(Session& s, Canvas& pic1, Point at)
     s.stepNo = 0;
     s.windowStep = 0;
     s.textLength = 0;
-    s.boundaryCount = 0;
+    dropBoundary(s);
     s.pointWasSnapped = false;
     setRubberBandPen(pic1);
     s.curFunc = s.baseFunc;
@@ -193,7 +199,9 @@ void canvasKeyDown(Session& s, Canvas& pic1, int code)
     if (code == 16) s.snapKey = 1;
     if (code == 17) s.snapKey = 2;
     for (const Pan& p : pans) {
-        if (p.code == code) pan(s, pic1, p.widths, p.heights);
+        if (p.code != code) continue;
+        pan(s, pic1, p.widths, p.heights);
+        repaintTextPreview(s, pic1);
     }
     s.controls.focus = "pic1"_c;
 }
@@ -203,7 +211,7 @@ void canvasKeyUp(Session& s)
     s.snapKey = 0;
 }
 
-void canvasKeyPress(Session& s, Canvas&, char32_t code)
+void canvasKeyPress(Session& s, Canvas& pic1, char32_t code)
 {
     const FunctionRow* row = findFunction(s.curFunc);
     if (row == nullptr) return;
@@ -225,7 +233,7 @@ void canvasKeyPress(Session& s, Canvas&, char32_t code)
         if (code >= U' ') passToEntry(s, code);
         return;
     case CanvasKeys::liveText:
-        return;
+        return liveTextKey(s, pic1, code);
     }
 }
 

@@ -1,26 +1,38 @@
 #include "app/dispatch.h"
 
+#include "commands/angular_dimension.h"
 #include "commands/arc.h"
 #include "commands/circle.h"
 #include "commands/curve.h"
 #include "commands/ellipse.h"
+#include "commands/leader.h"
 #include "commands/line.h"
+#include "commands/linear_dimension.h"
 #include "commands/match.h"
+#include "commands/measure_distance.h"
+#include "commands/multiple_lines.h"
 #include "commands/polygon.h"
+#include "commands/radial_dimension.h"
+#include "commands/text.h"
+#include "commands/text_edit.h"
+#include "edit/break.h"
+#include "edit/fillet.h"
 #include "edit/mirror.h"
 #include "edit/move_copy.h"
+#include "edit/move_dimension_text.h"
 #include "edit/rotate.h"
 #include "edit/scale.h"
+#include "edit/stretch.h"
+#include "edit/trim.h"
+#include "library/associates.h"
+#include "library/boundary.h"
+#include "library/hatch.h"
+#include "library/measure_area.h"
 
 #include <algorithm>
 
 namespace mirtane {
 namespace {
-
-constexpr DispatchRow notBuilt(std::string_view name)
-{
-    return {name, nullptr, nullptr, false};
-}
 
 constexpr DispatchRow rows[] = {
     {"Line", lineStep, lineBand},
@@ -40,35 +52,35 @@ constexpr DispatchRow rows[] = {
     {"Rotate", editRotate, nullptr},
     {"Scale", editScale, nullptr},
     {"Radial Copy", editRotate, nullptr},
+    {"Multiple Lines", multipleLinesStep, multipleLinesBand},
+    {"Create Multiple Lines", createMultipleLinesStep, nullptr},
+    {"Place Hatch", placeHatchStep, boundaryBand},
+    {"Create Hatch", createHatchStep, nullptr},
+    {"Place Associate", placeAssociateStep, placeAssociateBand},
+    {"Create Associate", createAssociateStep, nullptr},
+    {"Measure Area", measureAreaStep, boundaryBand},
+    {"Place Text", placeTextStep, placeTextBand},
+    {"Text Edit", textEditStep, nullptr},
+    {"Measure Distance", measureDistanceStep, measureDistanceBand},
+    {"Ortho Dimension", linearDimensionStep, linearDimensionBand},
+    {"Radial Dimension", radialDimensionStep, radialDimensionBand},
+    {"Angular Dimension", angularDimensionStep, angularDimensionBand},
+    {"Leader", leaderStep, leaderBand},
+    {"Move Dimension Text", editMoveDimText, drawDimTextGhost},
+    {"Break", editBreak, nullptr},
+    {"Trim", editTrim, nullptr},
+    {"Fillet", editFillet, nullptr},
+    {"Stretch", editStretch, stretchBand},
     // These have no routine for a click.
     {"Blank Line", nullptr, nullptr},
     {"Concentric Copy", nullptr, nullptr}, // takes a typed distance
-    {"Change", nullptr, nullptr},          // is a dialog
+    {"Hatch Scale", nullptr, nullptr},     // takes a typed number
+    {"Text Size", nullptr, nullptr},
+    {"Arrow Size", nullptr, nullptr},
+    {"Change", nullptr, nullptr}, // is a dialog
     {"Object Select", nullptr, nullptr},
     {"Window Select", nullptr, nullptr},
     {"Window Select Filtered", nullptr, nullptr},
-    notBuilt("Measure Distance"),
-    notBuilt("Multiple Lines"),
-    notBuilt("Create Multiple Lines"),
-    notBuilt("Ortho Dimension"),
-    notBuilt("Radial Dimension"),
-    notBuilt("Angular Dimension"),
-    notBuilt("Leader"),
-    notBuilt("Place Text"),
-    notBuilt("Text Edit"),
-    notBuilt("Place Hatch"),
-    notBuilt("Create Hatch"),
-    notBuilt("Hatch Scale"),
-    notBuilt("Place Associate"),
-    notBuilt("Create Associate"),
-    notBuilt("Break"),
-    notBuilt("Trim"),
-    notBuilt("Fillet"),
-    notBuilt("Stretch"),
-    notBuilt("Text Size"),
-    notBuilt("Arrow Size"),
-    notBuilt("Measure Area"),
-    notBuilt("Move Dimension Text"),
 };
 
 } // namespace

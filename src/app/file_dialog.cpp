@@ -99,6 +99,7 @@ void showFolder(App& app, const std::string& folder)
     Control& folders = s.controls["frmfile.Dir1"_c];
     Control& drives = s.controls["frmfile.Drive1"_c];
     folders.text = folder;
+    s.controls["frmfile.Label3"_c].caption = folder;
     folders.rows = app.ports.folders.subfolders(folder);
     if (folder != "/") folders.rows.insert(folders.rows.begin(), "..");
     folders.row = -1;
@@ -119,7 +120,8 @@ std::string parentOf(const std::string& folder)
 std::string firstThatExists(App& app, const FolderPair& folders)
 {
     for (const std::string& folder : {folders.last, folders.working}) {
-        if (app.ports.folders.exists(folder)) return folder;
+        const bool isAbsolute = folder.starts_with('/'); // the process's own directory counts for nothing
+        if (isAbsolute && app.ports.folders.exists(folder)) return folder;
     }
     return app.s.programFolder;
 }

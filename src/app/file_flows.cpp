@@ -1,6 +1,7 @@
 #include "app/file_flows.h"
 
 #include "app/attribute_controls.h"
+#include "app/library_menus.h"
 #include "app/open_drawing.h"
 #include "commands/prompt.h"
 #include "dxf/dxf_names.h"
@@ -103,9 +104,9 @@ bool saveDrawingPattern(App& app, const FileChoice& choice)
 constexpr PatternRoutines patternRoutines[] = {
     {"*.mtd", saveDrawingPattern, openDrawingFile, "Drawing not saved!"},
     {"*.dxf", saveDxfFile, openDxfFile, "File not saved!"},
-    {"*.mta", nullptr, nullptr, "File not saved!"},
-    {"*.mth", nullptr, nullptr, "File not saved!"},
-    {"*.mtm", nullptr, nullptr, "File not saved!"},
+    {"*.mta", saveLibraryFile, openLibraryFile, "File not saved!"},
+    {"*.mth", saveLibraryFile, openLibraryFile, "File not saved!"},
+    {"*.mtm", saveLibraryFile, openLibraryFile, "File not saved!"},
 };
 
 } // namespace
@@ -119,7 +120,7 @@ bool saveFile(App& app, const FileChoice& choice)
 {
     for (const PatternRoutines& row : patternRoutines) {
         if (row.pattern != choice.pattern) continue;
-        if (isPlainName(choice.name) && row.save != nullptr && row.save(app, choice)) return true;
+        if (isPlainName(choice.name) && row.save(app, choice)) return true;
         setText(app.s.controls["entry"_c], std::string(row.notSaved));
     }
     return false;
@@ -129,7 +130,7 @@ bool openFile(App& app, const FileChoice& choice)
 {
     for (const PatternRoutines& row : patternRoutines) {
         if (row.pattern != choice.pattern || !isPlainName(choice.name)) continue;
-        return row.open != nullptr && row.open(app, choice);
+        return row.open(app, choice);
     }
     return false;
 }

@@ -9,22 +9,24 @@
 namespace mirtane {
 namespace {
 
-std::string noNameYet(const Session&)
+std::string noNameYet(Session&)
 {
     return {};
 }
 
-std::string nameOfDrawing(const Session& s)
+std::string nameOfDrawing(Session& s)
 {
     return s.drawingName;
 }
 
-std::string nameOfDxf(const Session& s)
+// An export is named after the drawing.
+std::string nameOfDxf(Session& s)
 {
-    return dxfNameOf(s.drawingName);
+    s.dxfName = dxfNameOf(s.drawingName);
+    return s.dxfName;
 }
 
-std::string nameOfSelection(const Session&)
+std::string nameOfSelection(Session&)
 {
     return "selected.mtd";
 }
@@ -32,7 +34,7 @@ std::string nameOfSelection(const Session&)
 struct FlowRow {
     ControlId entry;
     FileFlow flow;
-    std::string (*name)(const Session& s);
+    std::string (*name)(Session& s);
     bool needsSelection = false;
     std::int16_t afterUnsavedWork =
         follow::nothing; // what throws the drawing away says what is to follow a save

@@ -2,6 +2,8 @@
 
 #include "app/edit_list.h"
 #include "app/layer_menus.h"
+#include "app/library_menus.h"
+#include "app/text_menus.h"
 
 #include <algorithm>
 
@@ -20,7 +22,18 @@ constexpr ModeRow modeRows[] = {
     {"Un-name Layer", unnameLayer},
     {"Load Layer", loadLayer},
     {"Save Layer", saveLayer},
+    {"Select Multiple Lines", chooseFromLibrary},
+    {"Remove Multiple Lines", removeFromLibrary},
+    {"Save Multiple Lines", saveFromLibrary},
+    {"Select Hatch", chooseFromLibrary},
+    {"Remove Hatch", removeFromLibrary},
+    {"Save Hatch", saveFromLibrary},
+    {"Select Associate", chooseFromLibrary},
+    {"Remove Associate", removeFromLibrary},
+    {"Save Associate", saveFromLibrary},
     {"Edit Functions", startEditFromRow},
+    {"Select Font", showFontSample},
+    {"Change Selected Font", [](App&, int) {}}, // Enter acts on the row
 };
 
 } // namespace

@@ -23,6 +23,14 @@ class Folders {
     virtual bool exists(const std::string& folder) = 0;
 };
 
+// The names of the fonts that the screen has, sorted.
+class Fonts {
+  public:
+    virtual ~Fonts() = default;
+
+    virtual std::vector<std::string> names() = 0;
+};
+
 // The per-user store of string values.
 class SettingsStore {
   public:
@@ -40,6 +48,7 @@ struct Ports {
     SettingsStore& settings;
     std::string programFolder;
     Printer* printer = nullptr; // not owned; null where nothing can be printed
+    Fonts* fonts = nullptr;     // not owned; null where there are none
 };
 
 } // namespace mirtane

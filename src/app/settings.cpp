@@ -3,15 +3,19 @@
 #include "geometry/fault.h"
 #include "text/numbers.h"
 
+#include <charconv>
+#include <cmath>
+
 namespace mirtane {
 namespace {
 
+// The whole text is one number.
 bool isNumber(const std::string& text)
 {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string::npos) return false;
-    const auto digit = text.find_first_not_of("+-.", first);
-    return digit != std::string::npos && digit - first <= 2 && text[digit] >= '0' && text[digit] <= '9';
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stopped, fault] = std::from_chars(text.data(), end, value);
+    return fault == std::errc{} && stopped == end && std::isfinite(value);
 }
 
 struct SettingRow {

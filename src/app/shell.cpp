@@ -11,7 +11,9 @@
 #include "app/list_modes.h"
 #include "app/print_dialog.h"
 #include "app/start_stop.h"
+#include "app/text_menus.h"
 #include "app/typed_entry.h"
+#include "commands/live_text.h"
 #include "render/redraw.h"
 #include "render/view.h"
 #include "snap/snap.h"
@@ -51,8 +53,15 @@ void rowChosen(App& app, ControlId list, int row)
     }
 }
 
+bool listsFonts(const Session& s)
+{
+    const std::string& mode = s.controls["Label3"_c].caption;
+    return mode == "Select Font" || mode == "Change Selected Font";
+}
+
 void listEnter(App& app, ControlId list)
 {
+    if (list == "List1"_c && listsFonts(app.s)) return fontEntered(app);
     if (list == "frmfile.File1"_c) return confirmFileDialog(app, list);
     const int row = app.s.controls[list].row;
     if (hasRow(app.s.controls[list], row)) rowChosen(app, list, row);
@@ -110,6 +119,7 @@ void Shell::wheel(double steps, Point at)
     if (ended()) return;
     const ControlId before = s_.controls.focus;
     zoomAbout(s_, pic1_, at, std::pow(factorOfOneStep, steps));
+    repaintTextPreview(s_, pic1_);
     canvasMouseMove(s_, pic1_, at); // the rubber band, if there is one, goes on at the new scale
     settle(before);
 }
@@ -137,6 +147,7 @@ void Shell::resized()
 void Shell::redraw()
 {
     redrawAll(s_, pic1_);
+    repaintTextPreview(s_, pic1_);
 }
 
 void Shell::keyPress(char32_t code)
@@ -185,7 +196,8 @@ void Shell::moveToRow(ControlId list, int row)
 
 void Shell::doubleClickRow(ControlId list, int row)
 {
-    if (list != "frmfile.File1"_c) return;
+    const bool takesSecondClick = list == "frmfile.File1"_c || (list == "List1"_c && listsFonts(s_));
+    if (!takesSecondClick) return;
     clickRow(list, row);
     keyPress(enterKey);
 }

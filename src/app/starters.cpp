@@ -2,20 +2,24 @@
 
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
+#include "library/boundary.h"
 #include "render/redraw.h"
 
 namespace mirtane {
 
 void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
 {
+    const bool leavesTextInEdit = s.curFunc == "Text Edit" && s.stepNo > 0;
     s.stepNo = row.firstStep;
     s.windowStep = 0;
     s.textLength = 0;
-    s.boundaryCount = 0;
+    dropBoundary(s);
     s.orthoAngle = s.orthoAngleSaved;
     s.controls["freecurs"_c].caption = s.orthoCaption;
     s.curFunc = row.name;
-    if (s.workAngle == selectionFollowsPointer) { // the clean picture lacks the selection
+    if (leavesTextInEdit) changeStat(s.store, Stat::sel, Stat::on);
+    // Either way the clean picture lacks what was hidden.
+    if (leavesTextInEdit || s.workAngle == selectionFollowsPointer) {
         s.workAngle = 0;
         redrawAll(s, pic1);
     }

@@ -3,6 +3,7 @@
 #include "app/canvas_input.h"
 #include "app/construction_line.h"
 #include "app/dispatch.h"
+#include "app/library_menus.h"
 #include "commands/polygon.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
@@ -18,6 +19,9 @@
 
 namespace mirtane {
 namespace {
+
+constexpr double hatchScaleAbove = 0.1;
+constexpr double hatchScaleBelow = 64;
 
 bool isDigit(char32_t code)
 {
@@ -47,6 +51,24 @@ void sidesKey(Session& s, Canvas& pic1, char32_t code)
     const double sides = readNumber(entry.text);
     if (sides > sidesAbove && sides < sidesBelow) keep(s.polygonSides, sides);
     backToDrawing(s, pic1);
+}
+
+void hatchScaleKey(Session& s, Canvas& pic1, char32_t code)
+{
+    Control& entry = s.controls["entry"_c];
+    if (code == U',') code = U'.';
+    if (isDigit(code) || code == U'.' || code == backspaceKey) return passKey(entry, code);
+    if (code != enterKey) return;
+    const double scale = readNumber(entry.text);
+    if (scale > hatchScaleAbove && scale < hatchScaleBelow) keep(s.hatchScale, scale);
+    s.stepNo = 0;
+    backToDrawing(s, pic1);
+}
+
+void nameKey(Session& s, Canvas& pic1, char32_t code)
+{
+    if (code == enterKey) return libraryNameEntered(s, pic1);
+    passKey(s.controls["entry"_c], code);
 }
 
 // pickLast at distance d on the way from pickFirst to where it stands.
@@ -190,6 +212,8 @@ void entryKeyPress(Session& s, Canvas& pic1, char32_t code)
     if (row == nullptr) return;
     const bool begun = row->entryKeys == EntryKeys::distanceOnceBlankLeg ? s.blankStep > 0 : s.stepNo > 0;
     if (row->entryKeys == EntryKeys::sidesAtStart && !begun) return sidesKey(s, pic1, code);
+    if (row->entryKeys == EntryKeys::hatchScale) return hatchScaleKey(s, pic1, code);
+    if (row->entryKeys == EntryKeys::name) return nameKey(s, pic1, code);
     if (!begun && row->entryKeys != EntryKeys::distanceAlways) return passKey(s.controls["entry"_c], code);
     if (const EditNumber* number = editNumberAt(row->entryKeys, s.stepNo)) {
         return editNumberKey(s, pic1, *number, code);

@@ -15,12 +15,16 @@ void paintScratchEllipse(const Session& s, Canvas& pic1)
     paintEllipse(pic1, s, s.ptB, s.ptC, s.ptF.x);
 }
 
-Point between(Point a, Point b, Point held)
+// The point at a share of the way from a to b. Points that are one have no direction, and it is a.
+Point onTheWay(Point a, Point b, double share, Point held)
 {
     const double length = distance(a, b);
-    const double half = length / 2;
-    keep(held.x, a.x + half * quotient(b.x - a.x, length));
-    keep(held.y, a.y - half * quotient(a.y - b.y, length));
+    double ux = 0;
+    double uy = 0;
+    keep(ux, quotient(b.x - a.x, length));
+    keep(uy, quotient(a.y - b.y, length));
+    keep(held.x, a.x + share * length * ux);
+    keep(held.y, a.y - share * length * uy);
     return held;
 }
 
@@ -28,7 +32,7 @@ void takeFirstAxis(Session& s, Canvas& pic1)
 {
     setPrompt(s, pic1);
     s.ptB = s.pickLast;
-    s.ptC = between(s.ptA, s.ptB, s.ptC);
+    s.ptC = onTheWay(s.ptA, s.ptB, 0.5, s.ptC);
     s.pickFirst = s.ptC;
     s.orthoAngle = directionAngle(s.ptA, s.ptB, s.orthoAngle);
     s.orthoCaption = s.controls["freecurs"_c].caption;
@@ -75,9 +79,7 @@ void ellipseBand(Session& s, Canvas& pic1)
         pic1.line(s.ptA.x, s.ptA.y, s.ptB.x, s.ptB.y);
     } else if (s.stepNo == 2) {
         s.ptD = s.pickLast;
-        const double length = distance(s.ptC, s.ptD);
-        keep(s.ptE.x, s.ptC.x - length * quotient(s.ptD.x - s.ptC.x, length));
-        keep(s.ptE.y, s.ptC.y + length * quotient(s.ptC.y - s.ptD.y, length));
+        s.ptE = onTheWay(s.ptC, s.ptD, -1, s.ptE);
         drawAxes(s, pic1);
     }
 }

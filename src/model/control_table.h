@@ -213,6 +213,7 @@ inline constexpr ControlRow controlTable[] = {
     {"frmfile.File1", ControlKind::list, "", "", "", ""},
     {"frmfile.Dir1", ControlKind::list, "", "", "", ""},
     {"frmfile.Drive1", ControlKind::list, "", "", "", ""},
+    {"frmfile.Label3", ControlKind::label, "", "", "", ""}, // the folder shown
     {"frmfile.Label2", ControlKind::label, "", "File Type", "", ""},
     {"frmfile.Text2", ControlKind::display, "", "", "", ""},
     {"frmfile.Command1", ControlKind::button, "", "Open", "", ""},

@@ -21,6 +21,7 @@ struct Control {
     bool enabled = true;
     bool checked = false;
     std::int32_t color = 0xFFFFFF; // foreground, 0xBBGGRR
+    std::string font;              // of a box that shows a font's sample, else empty
 
     friend bool operator==(const Control&, const Control&) = default;
 };

@@ -165,6 +165,9 @@ struct EditState {
     double editDegrees = 0;               // as typed
     std::int32_t radialCount = 0;         // as typed, the source object included
     float offsetDistance = 0;             // added to the radius by "Concentric Copy", world units
+    float stretchLeft = 0, stretchTop = 0; // the window of "Stretch", edges included
+    float stretchRight = 0, stretchBottom = 0;
+    Point moveText;                       // where "Move Dimension Text" leaves the text
 };
 
 // The page under way; lengths on paper are twips.

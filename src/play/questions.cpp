@@ -136,6 +136,55 @@ std::string printedAnswer(Stage& stage, Words&)
     return jsonArray(ops);
 }
 
+std::string hatchObject(const HatchRow& r)
+{
+    return jsonObject({{"hatchName", json(r.hatchName)},
+                       {"hx1", json(r.h1.x)},
+                       {"hy1", json(r.h1.y)},
+                       {"hx2", json(r.h2.x)},
+                       {"hy2", json(r.h2.y)},
+                       {"hx3", json(r.h3.x)},
+                       {"hy3", json(r.h3.y)},
+                       {"hx4", json(r.h4.x)},
+                       {"hy4", json(r.h4.y)},
+                       {"hatchTileW", json(r.hatchTileW)},
+                       {"hatchTileH", json(r.hatchTileH)},
+                       {"hatchRad", json(r.hatchRad)},
+                       {"hatchA1", json(r.hatchA1)},
+                       {"hatchA2", json(r.hatchA2)},
+                       {"hatchColor", json(r.hatchColor)},
+                       {"hatchStyle", json(r.hatchStyle)},
+                       {"hatchKind", json(r.hatchKind)}});
+}
+
+std::string multipleLineObject(const MultipleLine& r)
+{
+    return jsonObject({{"m1", json(r.m1)},
+                       {"m2", json(r.legStart.x)},
+                       {"m3", json(r.legStart.y)},
+                       {"m4", json(r.legEnd.x)},
+                       {"m5", json(r.legEnd.y)},
+                       {"colour", json(r.colour)},
+                       {"style", json(r.style)},
+                       {"name", json(r.name)}});
+}
+
+std::string hatchesAnswer(Stage& stage, Words&)
+{
+    std::vector<std::string> rows;
+    for (const HatchRow& row : stage.shell.session().hatchLibrary.used()) rows.push_back(hatchObject(row));
+    return jsonArray(rows);
+}
+
+std::string multipleLinesAnswer(Stage& stage, Words&)
+{
+    std::vector<std::string> rows;
+    for (const MultipleLine& row : stage.shell.session().multipleLinesLibrary.used()) {
+        rows.push_back(multipleLineObject(row));
+    }
+    return jsonArray(rows);
+}
+
 std::string widthAnswer(Stage& stage, Words& words)
 {
     const float size = words.coordinate();
@@ -169,10 +218,19 @@ struct QuestionRow {
 };
 
 constexpr QuestionRow questionRows[] = {
-    {"get", getAnswer},       {"focused", focusedAnswer}, {"slot", slotAnswer}, {"slots", slotsAnswer},
-    {"layers", layersAnswer}, {"undolog", undoLogAnswer}, {"ops", opsAnswer},   {"width", widthAnswer},
-    {"image", imageAnswer},   {"alive", aliveAnswer},
+    {"get", getAnswer},
+    {"focused", focusedAnswer},
+    {"slot", slotAnswer},
+    {"slots", slotsAnswer},
+    {"layers", layersAnswer},
+    {"undolog", undoLogAnswer},
+    {"ops", opsAnswer},
+    {"width", widthAnswer},
+    {"image", imageAnswer},
+    {"alive", aliveAnswer},
     {"printed", printedAnswer},
+    {"hatches", hatchesAnswer},
+    {"mlines", multipleLinesAnswer},
 };
 
 } // namespace

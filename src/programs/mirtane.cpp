@@ -3,6 +3,7 @@
 #include "app/shell.h"
 #include "platform/qt/disk.h"
 #include "platform/qt/folders.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/settings.h"
 #include "platform/qt/surface.h"
 #include "platform/qt/window/main_window.h"
@@ -41,11 +42,12 @@ int main(int argc, char* argv[])
     QtDisk disk;
     QtFolders folders;
     QtSettings settings;
+    QtFonts fonts;
     Session session;
     Surface surface = firstSurface();
     const std::unique_ptr<Printer> printer = systemPrinter();
     Shell shell(session, surface,
-                {disk, folders, settings, QCoreApplication::applicationDirPath().toStdString(), printer.get()});
+                {disk, folders, settings, QCoreApplication::applicationDirPath().toStdString(), printer.get(), &fonts});
     shell.start();
 
     MainWindow window(shell, surface);

@@ -2,6 +2,7 @@
 
 #include "platform/qt/disk.h"
 #include "platform/qt/folders.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/settings.h"
 #include "play/player.h"
 #include "play/words.h"
@@ -110,7 +111,8 @@ int run(const Options& options)
     RecordingCanvas pic1(&surface);
     pic1.record(mayAskForOps(options.file));
     RecordingPrinter printer;
-    Shell shell(*session, pic1, {disk, folders, settings, home, &printer});
+    QtFonts fonts;
+    Shell shell(*session, pic1, {disk, folders, settings, home, &printer, &fonts});
     shell.start();
     play::Stage stage{shell, surface, pic1, printer};
     return playAll(stage, options.file == "-" ? std::cin : opened, options.file);

@@ -1,7 +1,9 @@
 #include "render/entity_painter.h"
 
 #include "model/kind_table.h"
+#include "render/dimension_painters.h"
 #include "render/painters.h"
+#include "render/text_painter.h"
 
 #include <iterator>
 
@@ -35,14 +37,25 @@ void paintPointRecord(Canvas& pic1, const View&, const EntityRecord& r)
     pic1.point(r.p1.x, r.p1.y);
 }
 
-// By kind, from 1; text and dimensions have no painter yet.
+void paintTextRecord(Canvas& pic1, const View&, const EntityRecord& r)
+{
+    paintText(pic1, textLettering(r));
+}
+
+void paintDimensionRecord(Canvas& pic1, const View& view, const EntityRecord& r)
+{
+    paintDimension(pic1, view, shapeOf(r));
+    paintDimText(pic1, dimLettering(r));
+}
+
+// By kind, from 1.
 constexpr EntityPainter painters[] = {
-    paintLineRecord, paintCircleRecord, paintArcRecord, paintEllipseRecord, paintPointRecord,
-    nullptr, // text
-    nullptr, // linear dimension
-    nullptr, // radial dimension
-    nullptr, // leader
-    nullptr, // angular dimension
+    paintLineRecord,      paintCircleRecord, paintArcRecord,
+    paintEllipseRecord,   paintPointRecord,  paintTextRecord,
+    paintDimensionRecord, // linear
+    paintDimensionRecord, // radial
+    paintDimensionRecord, // leader
+    paintDimensionRecord, // angular
 };
 
 static_assert(std::size(painters) == kind::lastDrawn);
@@ -52,8 +65,7 @@ static_assert(std::size(painters) == kind::lastDrawn);
 void paintEntity(Canvas& pic1, const View& view, const EntityRecord& r)
 {
     if (!isDrawnKind(r.kind)) return;
-    const EntityPainter painter = painters[r.kind - 1];
-    if (painter != nullptr) painter(pic1, view, r);
+    painters[r.kind - 1](pic1, view, r);
 }
 
 } // namespace mirtane

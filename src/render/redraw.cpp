@@ -3,8 +3,11 @@
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "render/chords.h"
+#include "render/dimension_painters.h"
 #include "render/painters.h"
+#include "render/text_painter.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace mirtane {
@@ -16,6 +19,7 @@ struct Slot {
     const View& view;
     const EntityStore& store;
     std::size_t at;
+    bool textInEdit = false; // it is shown by the edit's own preview
 };
 
 bool lineInView(const Slot& slot)
@@ -85,6 +89,31 @@ void drawPointSlot(const Slot& slot)
     slot.pic1.point(p.x, p.y);
 }
 
+// Whether not all of a linear dimension lies beyond one side; its arrows may reach a little further.
+bool dimensionInView(const Slot& slot)
+{
+    const EntityStore& e = slot.store;
+    const std::size_t i = slot.at;
+    const Point points[] = {e.p1[i], e.p2[i], e.p3[i], e.p4[i], e.p5[i]};
+    const View& view = slot.view;
+    const auto all = [&points](auto beyond) { return std::ranges::all_of(points, beyond); };
+    return !all([&view](Point p) { return p.x < view.viewLeft; }) &&
+           !all([&view](Point p) { return p.x > view.viewRight; }) &&
+           !all([&view](Point p) { return p.y < view.viewTop; }) &&
+           !all([&view](Point p) { return p.y > view.viewBottom; });
+}
+
+void drawTextSlot(const Slot& slot)
+{
+    if (!slot.textInEdit) paintText(slot.pic1, textLetteringAt(slot.store, slot.at));
+}
+
+void drawDimensionSlot(const Slot& slot)
+{
+    paintDimension(slot.pic1, slot.view, shapeAt(slot.store, slot.at));
+    if (!slot.textInEdit) paintDimText(slot.pic1, dimLetteringAt(slot.store, slot.at));
+}
+
 // Selected ellipses are a shade yellower than other selected objects.
 constexpr std::int32_t selectedEllipse = 0x19FFFF;
 
@@ -95,7 +124,7 @@ struct KindRow {
     std::int32_t selectedColor;
 };
 
-// By kind; text and dimensions have no painter yet.
+// By kind. What stands in the style field of a text or a dimension is no line style.
 constexpr KindRow kindRows[] = {
     {nullptr, nullptr, false, white},
     {lineInView, drawLineSlot, true, white},
@@ -103,7 +132,14 @@ constexpr KindRow kindRows[] = {
     {roundInView, drawArcSlot, true, white},
     {ellipseInView, drawEllipseSlot, true, selectedEllipse},
     {alwaysInView, drawPointSlot, true, white},
+    {roundInView, drawTextSlot, false, white},
+    {dimensionInView, drawDimensionSlot, false, white},
+    {alwaysInView, drawDimensionSlot, false, white},
+    {alwaysInView, drawDimensionSlot, false, white},
+    {alwaysInView, drawDimensionSlot, false, white},
 };
+
+static_assert(std::size(kindRows) == kind::lastDrawn + 1);
 
 void drawSlot(const Slot& slot)
 {
@@ -164,10 +200,12 @@ void redrawAll(Session& s, Canvas& pic1)
     computePixelMapping(s, pic1);
     pic1.clear();
     const bool hideSelection = s.workAngle == selectionFollowsPointer;
+    const bool editsText = s.curFunc == "Text Edit";
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         if (!s.store.isShown(i)) continue;
-        if (hideSelection && s.store.stat[EntityStore::at(i)] == Stat::sel) continue;
-        drawSlot({pic1, s, s.store, EntityStore::at(i)});
+        const bool selected = s.store.stat[EntityStore::at(i)] == Stat::sel;
+        if (hideSelection && selected) continue;
+        drawSlot({pic1, s, s.store, EntityStore::at(i), editsText && selected});
     }
     pic1.snapshot();
     setRubberBandPen(pic1);

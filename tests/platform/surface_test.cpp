@@ -39,11 +39,54 @@ float widthAt(float size)
     return surface.textWidth("Mirtane");
 }
 
+QRect marksAt(float size)
+{
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(size);
+    surface.text(400, 400, 0, "Mirtane");
+    return painted(surface);
+}
+
 TEST(SurfaceText, SizeGoesInWholePoints)
 {
-    EXPECT_EQ(widthAt(48), widthAt(49.9F)) << "12 and 12.475 points";
-    EXPECT_EQ(widthAt(46.1F), widthAt(48)) << "11.525 and 12 points";
-    EXPECT_LT(widthAt(48), widthAt(56)) << "12 and 14 points";
+    EXPECT_EQ(marksAt(48), marksAt(49.9F)) << "12 and 12.475 points";
+    EXPECT_EQ(marksAt(46.1F), marksAt(48)) << "11.525 and 12 points";
+    EXPECT_EQ(marksAt(50), marksAt(48)) << "12.5 points go to the even 12";
+    EXPECT_EQ(marksAt(54), marksAt(56)) << "13.5 points go to the even 14";
+    EXPECT_LT(marksAt(48).width(), marksAt(56).width()) << "12 and 14 points";
+}
+
+TEST(SurfaceText, WidthIsTheSameAtEveryZoomAndGrowsWithTheSize)
+{
+    const float width = widthAt(48);
+    Surface surface = surfaceAtStart();
+    surface.setFontSize(48);
+    for (const float unitsPerPixel : {0.001F, 0.1F, 1.0F, 3.7F, 100.0F, 1e6F}) {
+        surface.setScale({5, 6, side * unitsPerPixel, side * unitsPerPixel});
+        EXPECT_EQ(surface.textWidth("Mirtane"), width) << unitsPerPixel;
+    }
+    EXPECT_FLOAT_EQ(widthAt(96), 2 * width);
+    EXPECT_FLOAT_EQ(widthAt(49.9F), 49.9F / 48 * width);
+}
+
+TEST(SurfaceText, ManyFontsInTurnAreEachTheirOwn)
+{
+    const auto marksOf = [](Surface& surface, int size) {
+        surface.clear();
+        surface.setFontSize(static_cast<float>(size)); // whole numbers
+        surface.text(400, 400, 0, "Mirtane");
+        return painted(surface);
+    };
+    std::vector<QRect> alone;
+    for (int size = 48; size < 48 + 4 * 40; size += 4) {
+        Surface surface = surfaceAtStart();
+        alone.push_back(marksOf(surface, size));
+    }
+    Surface surface = surfaceAtStart();
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < 40; ++i)
+            EXPECT_EQ(marksOf(surface, 48 + 4 * i), alone[static_cast<std::size_t>(i)]) << i; // not negative
+    }
 }
 
 TEST(SurfaceText, LineIsAsHighAsItsPointsAt96ToTheInch)

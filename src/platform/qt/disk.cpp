@@ -55,6 +55,8 @@ bool QtDisk::writeWhole(const std::string& path, const Bytes& bytes)
     file.setDirectWriteFallback(false); // writing into the old file itself could leave half of one
     if (!file.open(QIODevice::WriteOnly)) return false;
     if (file.write(charsOf(bytes), std::ssize(bytes)) != std::ssize(bytes)) return false;
+    // commit() does not tell of a flush that failed, and would put an empty file in the old one's place.
+    if (!file.flush()) return false;
     return file.commit();
 }
 

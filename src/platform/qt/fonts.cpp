@@ -1,5 +1,7 @@
 #include "platform/qt/fonts.h"
 
+#include <QFontDatabase>
+
 namespace mirtane {
 
 QFont faceOf(const QString& name)
@@ -11,6 +13,13 @@ QFont faceOf(const QString& name)
                                                          : QStringList{family});
     font.setHintingPreference(QFont::PreferNoHinting); // widths in proportion at every size
     return font;
+}
+
+std::vector<std::string> QtFonts::names()
+{
+    std::vector<std::string> names;
+    for (const QString& family : QFontDatabase::families()) names.push_back(family.toStdString());
+    return names;
 }
 
 } // namespace mirtane

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/ports.h"
+
 #include <QFont>
 #include <QString>
 #include <QStringList>
@@ -9,5 +11,11 @@ namespace mirtane {
 // The face of a name, cut at 31 characters; a face that is not there gives way without a word, and EB
 // Garamond stands in for Garamond.
 QFont faceOf(const QString& name);
+
+// The fonts of this machine's screen.
+class QtFonts : public Fonts {
+  public:
+    std::vector<std::string> names() override;
+};
 
 } // namespace mirtane

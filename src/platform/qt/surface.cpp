@@ -1,7 +1,11 @@
 #include "platform/qt/surface.h"
 
+#include "geometry/fault.h"
+#include "platform/qt/fonts.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextLayout>
 #include <QTransform>
 
 #include <algorithm>
@@ -10,9 +14,9 @@
 namespace mirtane {
 namespace {
 
-constexpr qsizetype longestFontName = 31;
 constexpr double largestPoints = 100000; // letters of which a screen shows the inside alone
 constexpr int largestFace = 1024;        // pixels; higher letters are enlarged
+constexpr int measuredFace = 256;        // pixels; the longest string of twice as high letters overflows
 constexpr double farthestPixel = 1e6;
 
 QString textOf(std::string_view utf8)
@@ -20,19 +24,12 @@ QString textOf(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); // texts are short
 }
 
+constexpr int pixelsPerInch = 96;
+constexpr int pointsPerInch = 72;
+
 int pixelsOf(int points)
 {
-    return points * 96 / 72;
-}
-
-QFont fontOf(const std::string& name)
-{
-    const QString family = textOf(name).left(longestFontName);
-    QFont font;
-    font.setFamilies(family == QLatin1String("Garamond") ? QStringList{family, QStringLiteral("EB Garamond")}
-                                                         : QStringList{family});
-    font.setHintingPreference(QFont::PreferNoHinting); // widths in proportion at every zoom
-    return font;
+    return points * pixelsPerInch / pointsPerInch;
 }
 
 double lineHeightOf(const QFont& font)
@@ -80,42 +77,46 @@ void Surface::setUnderline(bool on)
     underline_ = on;
 }
 
-// 0 for a size that can't be had.
-double Surface::exactPoints() const
+// Of the letters as written; 0 for none.
+int Surface::lineHeight() const
 {
-    const double points = pixelsPerUnitX() * fontSize_;
-    return points > 0 ? std::min(points, largestPoints) : 0;
+    std::int32_t points = 0;
+    keep(points, std::clamp(pixelsPerUnitX() * fontSize_, 0.0, largestPoints));
+    return pixelsOf(points);
 }
 
-const Surface::Face& Surface::faceOf(int height) const
+const Surface::Face& Surface::sizedFace(int height) const
 {
-    if (face_.height == height && face_.name == fontName_) return face_;
-    QFont font = fontOf(fontName_);
+    for (const Face& face : faces_) {
+        if (face.height == height && face.name == fontName_) return face;
+    }
+    QFont font = faceOf(textOf(fontName_));
     setLineHeight(font, std::min(height, largestFace));
     const double enlarged =
         height > largestFace ? static_cast<double>(height) / largestFace : 1.0; // whole numbers
-    face_ = {fontName_, height, font, QFontMetricsF(font).ascent(), enlarged};
-    return face_;
+    Face& face = faces_[oldestFace_];
+    oldestFace_ = (oldestFace_ + 1) % faces_.size();
+    face = {fontName_, height, font, QFontMetricsF(font).ascent(), lineHeightOf(font), enlarged};
+    return face;
 }
 
 float Surface::textWidth(std::string_view utf8) const
 {
-    const double exact = exactPoints();
-    if (exact == 0) return 0;
-    const int points = static_cast<int>(std::lround(exact)); // at most largestPoints
-    const int measured = points > 0 ? points : 100;
-    const Face& face = faceOf(pixelsOf(measured));
-    const double pixels = QFontMetricsF(face.font).horizontalAdvance(textOf(utf8)) * face.enlarged;
-    const double shrunk = points > 0 ? pixels : pixels * exact / measured;
-    return static_cast<float>(shrunk / pixelsPerUnitX()); // world units are 32-bit
+    if (!(fontSize_ > 0)) return 0;
+    constexpr double heightPerSize = static_cast<double>(pixelsPerInch) / pointsPerInch;
+    const Face& face = sizedFace(measuredFace);
+    const double advance = QFontMetricsF(face.font).horizontalAdvance(textOf(utf8));
+    float width = 0;
+    keep(width, quotient(advance * fontSize_ * heightPerSize, face.line));
+    return width;
 }
 
 void Surface::text(float x, float y, int degrees, std::string_view utf8)
 {
-    const int height = pixelsOf(static_cast<int>(std::lround(exactPoints()))); // at most largestPoints
+    const int height = lineHeight();
     const PixelPoint at = pixelAt({x, y});
     if (height == 0 || !isNear(at)) return;
-    write(faceOf(height), {std::round(at.x), std::round(at.y)}, degrees, textOf(utf8));
+    write(sizedFace(height), {std::nearbyint(at.x), std::nearbyint(at.y)}, degrees, textOf(utf8));
 }
 
 void Surface::write(const Face& face, PixelPoint at, int degrees, const QString& text)
@@ -125,8 +126,13 @@ void Surface::write(const Face& face, PixelPoint at, int degrees, const QString&
     turned.scale(face.enlarged, face.enlarged);
     QFont font = face.font;
     font.setUnderline(underline_);
-    const double width = QFontMetricsF(font).horizontalAdvance(text);
-    const double line = lineHeightOf(font);
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine words = layout.createLine();
+    layout.endLayout();
+    if (!words.isValid()) return;
+    const double width = words.naturalTextWidth();
+    const double line = face.line;
     // Slanted and swash letters reach beyond their own width.
     const QRectF covered = turned.mapRect(QRectF(-line / 2, -line / 2, width + line, line * 2));
     touch(covered.left(), covered.top(), covered.right(), covered.bottom());
@@ -137,9 +143,9 @@ void Surface::write(const Face& face, PixelPoint at, int degrees, const QString&
     QPainter painter(&pixels);
     painter.setClipRect(pixels.rect());
     painter.setTransform(turned);
-    painter.setFont(font);
     painter.setPen(QColor::fromRgb(color()));
-    painter.drawText(QPointF(0, face.ascent), text);
+    // Letters that another font lends may be higher; they must not push the line down.
+    layout.draw(&painter, QPointF(0, face.ascent - words.ascent()));
 }
 
 } // namespace mirtane

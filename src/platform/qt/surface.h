@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QImage>
 
+#include <array>
 #include <string>
 
 namespace mirtane {
@@ -25,8 +26,8 @@ class Surface : public RasterCanvas {
     void setFontName(std::string_view utf8) override;
     void setFontSize(float size) override;
     void setUnderline(bool on) override;
-    // At a size that comes to no whole point, the width that the text would have if there were parts of
-    // points.
+    // The width that the text would have if there were parts of points: in proportion to the size, so that
+    // what is worked out from it and stored is the same at every zoom.
     float textWidth(std::string_view utf8) const override;
     // Text of no whole point leaves no mark.
     void text(float x, float y, int degrees, std::string_view utf8) override;
@@ -37,19 +38,21 @@ class Surface : public RasterCanvas {
         std::string name;
         int height = 0;
         QFont font;
-        double ascent = 0;
+        double ascent = 0, line = 0; // before it is enlarged
         double enlarged = 1;
     };
 
-    double exactPoints() const;
-    // The face of that line height in the current font; good until the next call.
-    const Face& faceOf(int height) const;
+    int lineHeight() const;
+    // The face of that line height, in pixels, in the current font; good until the next call.
+    const Face& sizedFace(int height) const;
     void write(const Face& face, PixelPoint at, int degrees, const QString& text);
 
     std::string fontName_ = "Garamond";
     float fontSize_ = 48; // world units
     bool underline_ = false;
-    mutable Face face_; // the last one used: most texts of a drawing are alike
+    // The last ones made: most texts of a drawing are alike, and making one is slow.
+    mutable std::array<Face, 16> faces_;
+    mutable std::size_t oldestFace_ = 0;
 };
 
 } // namespace mirtane

@@ -34,7 +34,7 @@ void layFileForm(const ControlMaker& maker, QWidget& form)
     grid.setRowStretch(1, 1);
     grid.addWidget(&maker.makeLabelled("frmfile.Label1"_c, "frmfile.Text1"_c, form), 0, 0, 1, 2);
     grid.addWidget(&maker.make("frmfile.File1"_c, form), 1, 0, 2, 1);
-    grid.addWidget(&maker.make("frmfile.Dir1"_c, form), 1, 1);
+    grid.addWidget(&maker.makeLabelled("frmfile.Label3"_c, "frmfile.Dir1"_c, form), 1, 1);
     QWidget& drives = maker.make("frmfile.Drive1"_c, form);
     drives.setFixedHeight(driveRows * drives.fontMetrics().height() + 2 * drives.fontMetrics().height());
     grid.addWidget(&drives, 2, 1);

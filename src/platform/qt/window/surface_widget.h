@@ -32,6 +32,7 @@ class SurfaceWidget : public QWidget, public ControlView {
     void keyReleaseEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     Point worldAt(QPointF at) const;

@@ -1,5 +1,6 @@
 #include "platform/qt/window/text_box.h"
 
+#include "platform/qt/fonts.h"
 #include "platform/qt/window/typed_keys.h"
 
 #include <QAction>
@@ -47,6 +48,14 @@ bool movesCaret(const QKeyEvent& event)
            event.matches(QKeySequence::SelectAll) || event.matches(QKeySequence::Copy);
 }
 
+QFont sampleOf(const std::string& name)
+{
+    constexpr int pixels = 15;
+    QFont font = faceOf(QString::fromStdString(name));
+    font.setPixelSize(pixels);
+    return font;
+}
+
 } // namespace
 
 TextBox::TextBox(EventGate& gate, ControlId id, QWidget* parent) : QLineEdit(parent), gate_(gate), id_(id)
@@ -76,6 +85,7 @@ void TextBox::show(const Control& now)
         setSelection(anchor, caret - anchor);
     }
     showColor(now.color);
+    if (!now.font.empty()) setFont(sampleOf(now.font));
     setEnabled(now.enabled);
     setVisible(now.visible);
 }

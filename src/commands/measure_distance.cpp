@@ -1,0 +1,31 @@
+#include "commands/measure_distance.h"
+
+#include "commands/line.h"
+#include "geometry/angle.h"
+#include "geometry/fault.h"
+#include "render/redraw.h"
+#include "text/measure.h"
+
+namespace mirtane {
+
+void measureDistanceStep(Session& s, Canvas& pic1)
+{
+    if (s.stepNo != 2) return lineStep(s, pic1);
+    s.ptB = s.pickLast;
+    float length = 0;
+    keep(length, distance(s.ptA, s.ptB));
+    const NumberDisplay display{numStyleOf(s.numStyle), s.dimTol, s.numComma == 1};
+    setText(s.controls["entry"_c], formatMeasure({length, display}));
+    setText(s.controls["Text3"_c], "");
+    restorePicture(pic1);
+    s.ptA = s.ptB;
+    s.pickFirst = s.ptB;
+    s.stepNo = 1;
+}
+
+void measureDistanceBand(Session& s, Canvas& pic1)
+{
+    lineBand(s, pic1);
+}
+
+} // namespace mirtane

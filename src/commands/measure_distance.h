@@ -1,0 +1,12 @@
+#pragma once
+
+#include "model/session.h"
+#include "render/canvas.h"
+
+namespace mirtane {
+
+// "Measure Distance": the steps of "Line", but the distance is shown in entry and nothing is stored.
+void measureDistanceStep(Session& s, Canvas& pic1);
+void measureDistanceBand(Session& s, Canvas& pic1);
+
+} // namespace mirtane

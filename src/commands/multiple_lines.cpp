@@ -1,0 +1,258 @@
+// commands/multiple_lines.cpp: offsets run along (uy, ux) for a line in the direction (ux, uy), y of
+// directions upward. All is worked out in double and narrowed once, where a row or a slot takes it.
+
+#include "commands/multiple_lines.h"
+
+#include "commands/prompt.h"
+#include "geometry/angle.h"
+#include "geometry/fault.h"
+#include "model/insertion.h"
+#include "render/painters.h"
+#include "render/redraw.h"
+
+#include <cmath>
+
+namespace mirtane {
+namespace {
+
+// A point within a calculation.
+struct Place {
+    double x, y;
+};
+
+struct Direction {
+    double x = 0, y = 0; // of length 1, y upward; none for a line of no length
+};
+
+double between(Place a, Place b)
+{
+    return std::hypot(b.x - a.x, b.y - a.y);
+}
+
+Place placeOf(Point p)
+{
+    return {p.x, p.y};
+}
+
+Direction directionOf(Point from, Point to)
+{
+    const Place a = placeOf(from);
+    const Place b = placeOf(to);
+    const double length = between(a, b);
+    Direction u;
+    keep(u.x, quotient(b.x - a.x, length));
+    keep(u.y, quotient(a.y - b.y, length));
+    return u;
+}
+
+Place along(Place from, Direction u, double d)
+{
+    return {from.x + d * u.x, from.y - d * u.y};
+}
+
+// The place at a line's offset from p on a leg in direction u.
+Place beside(Place p, Direction u, double offset)
+{
+    return {p.x + offset * u.y, p.y + offset * u.x};
+}
+
+Point narrowed(Place p, Point held)
+{
+    keep(held.x, p.x);
+    keep(held.y, p.y);
+    return held;
+}
+
+// The foot of a place on the line from start in direction u, from the chord to the place at its own distance.
+Place footFromChord(Place start, Direction u, Place of)
+{
+    const double d = between(start, of);
+    const Place ahead = along(start, u, d);
+    const double chord = between(of, ahead);
+    double back = 0;
+    keep(back, quotient(chord / 2, d) * chord);
+    return along(ahead, u, -back);
+}
+
+// The corner at B of a leg from A, as seen from the next point C: how far beyond B a line at offset 1 ends.
+struct Corner {
+    Place b;
+    Direction u;
+    double reach = 0;
+
+    Place mitre(double offset) const { return beside(along(b, u, -offset * reach), u, offset); }
+};
+
+Corner cornerAt(Point a, Point b, Point c, bool orthoIsOn)
+{
+    Corner corner{placeOf(b), directionOf(a, b), 0};
+    const Place next = placeOf(c);
+    const Place foot = footFromChord(corner.b, corner.u, next);
+    const double height = between(foot, next);
+    const double run = between(corner.b, foot);
+    double half = eighthTurn; // half a right angle, which is what a foot on B itself means
+    keep(half, std::atan(quotient(height, run)) / 2);
+    double sign = between(beside(foot, corner.u, -height), next) < height ? -1 : 1;
+    const bool turnsBack = between(placeOf(a), foot) < between(placeOf(a), corner.b);
+    if (!orthoIsOn && turnsBack) {
+        half += quarterTurn;
+        sign = -sign;
+    }
+    keep(corner.reach, std::tan(half) * sign);
+    return corner;
+}
+
+// With ortho on, every leg turns by a right angle.
+Corner cornerUnderway(const Session& s)
+{
+    return cornerAt(s.ptA, s.ptB, s.pickLast, s.controls["freecurs"_c].caption == "Ortho/On");
+}
+
+template <class Use> void forEachLine(Session& s, Use use)
+{
+    for (MultipleLine& row : s.multipleLinesLibrary.used()) {
+        if (bearsName(row.name, s.multipleLinesName)) use(row);
+    }
+}
+
+void storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
+{
+    EntityRecord r = s.store.record(s.store.entCount);
+    r.p1 = row.legStart;
+    r.p2 = row.legEnd;
+    r.layer = s.workLayer;
+    r.color = row.colour;
+    r.style = row.style;
+    r.kind = kind::line;
+    s.store.setRecord(s.store.entCount, r);
+    s.store.setStat(s.store.entCount, Stat::on);
+    commitInGroup(s);
+    pic1.setColor(row.colour);
+    pic1.setStyle(row.style);
+    paintLineSegment(pic1, s, r.p1, r.p2);
+}
+
+void storeLegs(Session& s, Canvas& pic1)
+{
+    const Corner corner = cornerUnderway(s);
+    restorePicture(pic1);
+    forEachLine(s, [&](MultipleLine& row) {
+        row.legEnd = narrowed(corner.mitre(row.m1), row.legEnd);
+        storeLine(s, pic1, row);
+        row.legStart = row.legEnd;
+    });
+    pic1.snapshot();
+    setRubberBandPen(pic1);
+    endGroup(s.log);
+    updateGauge(s);
+}
+
+void drawLine(Canvas& pic1, Point from, Point to)
+{
+    pic1.line(from.x, from.y, to.x, to.y);
+}
+
+// -- creating a set --
+
+// The reference line of a set that is made runs through ptA in this direction.
+Direction referenceDirection(Session& s, const EntityRecord& firstLine)
+{
+    constexpr double farAway = 10000; // world units
+    const Direction u = directionOf(firstLine.p1, firstLine.p2);
+    s.ptA = s.pickLast;
+    s.ptB = narrowed(along(placeOf(s.ptA), u, farAway), s.ptB);
+    return u;
+}
+
+// The signed distance of a point from the line through p in direction u.
+double offsetOf(Point of, Point p, Direction u)
+{
+    constexpr double tolerance = 1.0 / 9;
+    const Place foot = footFromChord(placeOf(p), u, placeOf(of));
+    const double d = between(foot, placeOf(of));
+    return d * tolerance < between(beside(foot, u, d), placeOf(of)) ? -d : d;
+}
+
+bool isSelectedLine(const EntityStore& store, std::int32_t slot)
+{
+    const std::size_t at = EntityStore::at(slot);
+    return store.kind[at] == kind::line && store.stat[at] == Stat::sel;
+}
+
+// False when the table is full.
+bool takeSelectedLines(Session& s)
+{
+    Direction u;
+    bool hasDirection = false;
+    for (std::int32_t i = 1; i < s.store.end(); ++i) {
+        if (!isSelectedLine(s.store, i)) continue;
+        const EntityRecord line = s.store.record(i);
+        if (!hasDirection) u = referenceDirection(s, line);
+        hasDirection = true;
+        MultipleLine row;
+        keep(row.m1, offsetOf(line.p1, s.ptA, u));
+        row.colour = line.color;
+        row.style = line.style;
+        row.name = s.multipleLinesName;
+        s.multipleLinesLibrary.add(std::move(row));
+        if (s.multipleLinesLibrary.count >= MultipleLinesLibrary::rowLimit) return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void multipleLinesStep(Session& s, Canvas& pic1)
+{
+    if (s.stepNo == 1) {
+        setPrompt(s, pic1);
+        s.ptA = s.pickFirst;
+    } else if (s.stepNo == 2) {
+        setPrompt(s, pic1);
+        s.ptB = s.pickLast;
+        s.pickFirst = s.pickLast;
+    } else if (s.stepNo > 2) {
+        storeLegs(s, pic1);
+        s.ptA = s.ptB;
+        s.ptB = s.pickLast;
+        s.pickFirst = s.pickLast;
+    }
+}
+
+void multipleLinesBand(Session& s, Canvas& pic1)
+{
+    if (s.stepNo < 1) return;
+    if (s.stepNo == 1) s.ptB = s.pickLast;
+    const Corner corner = cornerUnderway(s);
+    const Direction onward = directionOf(s.ptB, s.pickLast);
+    restorePicture(pic1);
+    forEachLine(s, [&](MultipleLine& row) {
+        Point start = narrowed(beside(placeOf(s.ptA), corner.u, row.m1), s.ptA);
+        if (s.stepNo == 1) return drawLine(pic1, start, narrowed(beside(corner.b, corner.u, row.m1), s.ptB));
+        const Point mitre = narrowed(corner.mitre(row.m1), s.ptB);
+        if (s.stepNo == 2) {
+            row.legStart = start;
+            row.legEnd = mitre;
+        } else {
+            start = row.legStart; // where the corner before left it
+        }
+        drawLine(pic1, start, mitre);
+        drawLine(pic1, mitre, narrowed(beside(placeOf(s.pickLast), onward, row.m1), s.pickLast));
+    });
+}
+
+void createMultipleLinesStep(Session& s, Canvas& pic1)
+{
+    if (s.stepNo != 2 || s.multipleLinesName == noName) return;
+    if (!takeSelectedLines(s)) return;
+    changeStat(s.store, Stat::sel, Stat::on);
+    s.stepNo = 0;
+    s.curFunc = s.baseFunc;
+    setPrompt(s, pic1);
+    redrawAll(s, pic1);
+    std::vector<std::string> names = listedNames(s.multipleLinesLibrary);
+    if (!names.empty()) s.multipleLinesName = names.back();
+    showNames(s.controls, "Select Multiple Lines", std::move(names));
+}
+
+} // namespace mirtane

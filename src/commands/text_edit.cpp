@@ -1,0 +1,96 @@
+#include "commands/text_edit.h"
+
+#include "commands/live_text.h"
+#include "commands/prompt.h"
+#include "model/insertion.h"
+#include "render/redraw.h"
+#include "render/text_painter.h"
+#include "snap/pick.h"
+
+namespace mirtane {
+namespace {
+
+// The picked slot may have gone while its text was typed: undone, or with another drawing.
+bool stillThere(const Session& s)
+{
+    const std::int32_t slot = s.pickedIndex;
+    if (slot < 1 || slot >= s.store.end()) return false;
+    const std::size_t at = EntityStore::at(slot);
+    const std::int16_t kind = s.store.kind[at];
+    const Stat stat = s.store.stat[at];
+    return kind >= kind::text && kind <= kind::lastDrawn && stat != Stat::out && stat != Stat::none;
+}
+
+EntityRecord editedRecord(Session& s, Canvas& pic1)
+{
+    constexpr float clippingFactor = 1.2F; // of the width, as for a new text
+    EntityRecord r = s.store.record(s.pickedIndex);
+    r.t1 = s.controls["Text3"_c].text;
+    if (r.kind != kind::angularDimension) r.style = 0;
+    if (r.kind == kind::text) r.rad = clippingFactor * textWidthIn(pic1, r.t2, r.p2.x, r.t1);
+    return r;
+}
+
+void replacePicked(Session& s, Canvas& pic1)
+{
+    const std::int32_t slot = s.store.entCount;
+    const std::int32_t old = s.pickedIndex;
+    s.store.setRecord(slot, editedRecord(s, pic1));
+    s.store.setStat(slot, Stat::on);
+    updateGauge(s);
+    commitInGroup(s);
+    s.store.setStat(old, Stat::out);
+    logFlip(s.log, old, Stat::out);
+    endGroup(s.log);
+}
+
+void beginTyping(Session& s)
+{
+    const EntityRecord r = s.store.record(s.pickedIndex);
+    s.store.setStat(s.pickedIndex, Stat::sel);
+    loadTypedText(s, r.t1);
+    s.ptA = r.p1;
+}
+
+} // namespace
+
+void textEditStep(Session& s, Canvas& pic1)
+{
+    setPrompt(s, pic1);
+    changeStat(s.store, Stat::sel, Stat::on);
+    s.textLength = 0;
+    const bool found = pickObject(s, pic1) >= 0;
+    if (found) beginTyping(s);
+    redrawAll(s, pic1);
+    if (found) {
+        repaintTextPreview(s, pic1);
+        return;
+    }
+    s.stepNo = 0;
+    setPrompt(s, pic1);
+}
+
+void textEditPreview(Session& s, Canvas& pic1)
+{
+    if (!stillThere(s)) return;
+    const EntityRecord r = s.store.record(s.pickedIndex);
+    Lettering lettering = letteringOf(r);
+    lettering.words = s.controls["Text3"_c].text;
+    if (r.kind == kind::text) {
+        paintText(pic1, lettering);
+    } else {
+        paintDimText(pic1, lettering);
+    }
+}
+
+void finishTextEdit(Session& s, Canvas& pic1)
+{
+    if (stillThere(s)) replacePicked(s, pic1);
+    redrawAll(s, pic1);
+    clearTypedText(s);
+    s.stepNo = 0;
+    setPrompt(s, pic1);
+    s.controls.focus = "pic1"_c;
+}
+
+} // namespace mirtane

@@ -1,0 +1,31 @@
+#pragma once
+
+// The three library files. Each holds one named definition: records back to back to the end of the file, with
+// no signature and no count, so any bytes are taken, and what can't be a whole record ends the reading.
+//
+// None of these asks whether a name is in use: that is for whoever opens a file to do before.
+
+#include "files/disk.h"
+#include "model/session.h"
+
+namespace mirtane {
+
+// The bytes of all pieces, or rows, of that name, as they stand in the table. Empty when there are none.
+Bytes associateBytes(const EntityStore& store, std::string_view name);
+Bytes hatchBytes(const HatchLibrary& library, std::string_view name);
+Bytes multipleLinesBytes(const MultipleLinesLibrary& library, std::string_view name);
+
+// Adds the pieces of the file (at most 60,000) to the drawing's table as hidden slots that belong to name: an
+// associate is called as its file. Their layers stay as stored, but layer 0 is then marked used. No undo
+// record. The gauge is left to the caller.
+void addAssociate(Session& s, const Bytes& file, std::string_view name);
+
+// Add the rows of the file (at most 30,000 and 99) behind those of the library. They bear the names in the
+// file. Rows past the table's end are lost while its count goes on.
+void addHatch(HatchLibrary& library, const Bytes& file);
+void addMultipleLines(MultipleLinesLibrary& library, const Bytes& file);
+
+// What an associate is called that is read from a file of this name: what stands before the first ".".
+std::string_view baseName(std::string_view fileName);
+
+} // namespace mirtane

@@ -1,0 +1,26 @@
+#pragma once
+
+// A line drawn beside another, endless both ways, and where it meets others. Kept in double: between two
+// points that are rounded to 32 bits it would lean, and far off miss what it should meet.
+
+#include "geometry/crossing.h"
+
+namespace mirtane {
+
+// All points p with across . p = off; across is a unit vector.
+struct ParallelLine {
+    double acrossX = 0, acrossY = 0, off = 0;
+};
+
+// The line at a distance (world units) from the one through a and b, on the side on which towards lies; below
+// 0 on the other side. With towards on the line itself there is no side, and it is that line. With a and b
+// equal there is none: it meets nothing.
+ParallelLine parallelTowards(Point a, Point b, Point towards, double distance);
+
+// One crossing, none if they are parallel.
+Crossings crossParallels(const ParallelLine& a, const ParallelLine& b);
+
+// Two, one where they touch, none if they miss each other.
+Crossings crossParallelCircle(const ParallelLine& line, Point centre, double radius);
+
+} // namespace mirtane

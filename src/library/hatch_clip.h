@@ -1,0 +1,63 @@
+#pragma once
+
+// What is left of a tile's lines, circles, arcs and points where they are cut at a boundary.
+
+#include "library/hatch_grid.h"
+
+namespace mirtane {
+
+// An object of a fill.
+struct HatchPiece {
+    std::int16_t kind = 0; // line, circle, arc or point
+    std::int16_t style = 0;
+    Point from, to;        // the ends of a line; from alone is a point, or the centre of a circle or arc
+    float radius = 0;      // world units
+    double a1 = 0, a2 = 0; // of an arc, radians
+};
+
+class HatchClip {
+  public:
+    // The polygon, and the box of its grid: what lies wholly beyond the box is passed over.
+    HatchClip(const Polygon& polygon, const HatchGrid& grid);
+
+    // Room for that many pieces, which saves moving them about.
+    void expect(std::size_t pieces) { pieces_.reserve(pieces < hatchTableRows ? pieces : hatchTableRows); }
+
+    // Each cuts an object at the polygon and keeps the pieces whose middle lies inside. A number that is
+    // none, and a radius below 0, make no piece.
+    void line(Point a, Point b, std::int16_t style);
+    void circle(Point centre, float radius, std::int16_t style);
+    void arc(Point centre, float radius, double a1, double a2, std::int16_t style);
+    void point(Point p, std::int16_t style);
+
+    // No further piece would be taken. Pieces outside count too.
+    bool isFull() const { return tried_ >= hatchTableRows; }
+
+    std::vector<HatchPiece> take() { return std::move(pieces_); }
+
+  private:
+    struct Edge {
+        Side side;
+        Place low, high; // its box
+        Place unit;      // from a to b; none if it has no length
+        double length;
+    };
+
+    void add(const HatchPiece& piece, Place middle);
+    void addStretch(Point centre, float radius, double a1, double a2, std::int16_t style);
+    void findCuts(Place a, Place b);
+    void cut(const Edge& edge, Place a, Place b);
+    void findCrossings(Point centre, float radius);
+    void crossCircle(const Edge& edge, Point centre, float radius);
+    bool isBeyondGrid(Place low, Place high) const;
+
+    Polygon polygon_;
+    std::vector<Edge> edges_;
+    Place low_, high_; // the box of the grid
+    std::vector<HatchPiece> pieces_;
+    std::size_t tried_ = 0;
+    std::vector<double> cuts_;   // of the line at hand, 0 at its start to 1 at its end
+    std::vector<double> angles_; // of the crossings of the circle at hand
+};
+
+} // namespace mirtane

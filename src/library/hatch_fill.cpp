@@ -1,0 +1,106 @@
+#include "library/hatch_fill.h"
+
+#include "geometry/angle.h"
+#include "geometry/arc.h"
+#include "library/turned_angle.h"
+#include "model/kind_table.h"
+
+#include <cmath>
+
+namespace mirtane {
+namespace {
+
+std::vector<const HatchRow*> rowsOf(const HatchFill& fill)
+{
+    std::vector<const HatchRow*> rows;
+    for (const HatchRow& row : fill.rows) {
+        if (bearsName(row.hatchName, fill.name)) rows.push_back(&row);
+    }
+    return rows;
+}
+
+Point firstPoint(const HatchFill& fill)
+{
+    return fill.boundary.front().from;
+}
+
+// The boundary turned until the tile lies level.
+Polygon levelPolygon(const HatchFill& fill)
+{
+    if (fill.rotation == 0) return polygonOf(fill.boundary);
+    const Turn turn(firstPoint(fill), -fill.rotation);
+    std::vector<BoundaryLeg> level;
+    for (const BoundaryLeg& leg : fill.boundary) level.push_back({turn.of(leg.from), turn.of(leg.to)});
+    return polygonOf(level);
+}
+
+// A tile that was drawn from another corner than its upper left has its rows relative to that corner.
+Point originIn(const HatchCell& cell, const HatchGrid& grid, const HatchRow& row)
+{
+    const std::size_t upright = row.hatchTileW < 0 ? cell.upright + 1 : cell.upright;
+    const std::size_t level = row.hatchTileH < 0 ? cell.level + 1 : cell.level;
+    return {grid.uprights[upright], grid.levels[level]};
+}
+
+void clipRow(HatchClip& clip, const HatchRow& row, Point origin, float scale)
+{
+    const auto placed = [&](Point p) { return Point{origin.x + scale * p.x, origin.y + scale * p.y}; };
+    switch (row.hatchKind) {
+    case kind::line:
+        return clip.line(placed(row.h1), placed(row.h2), row.hatchStyle);
+    case kind::circle:
+        return clip.circle(placed(row.h1), scale * row.hatchRad, row.hatchStyle);
+    case kind::arc:
+        return clip.arc(placed(row.h1), scale * row.hatchRad, row.hatchA1, row.hatchA2, row.hatchStyle);
+    case kind::point:
+        return clip.point(placed(row.h1), row.hatchStyle);
+    default:
+        return; // a file may hold anything
+    }
+}
+
+} // namespace
+
+std::vector<HatchPiece> fillHatch(const HatchFill& fill)
+{
+    const std::vector<const HatchRow*> rows = rowsOf(fill);
+    if (rows.empty() || fill.boundary.empty()) return {};
+    const Polygon polygon = levelPolygon(fill);
+    const Tile tile{firstPoint(fill), std::abs(fill.scale * rows.front()->hatchTileW),
+                    std::abs(fill.scale * rows.front()->hatchTileH)};
+    const HatchGrid grid = hatchGrid(polygon, tile);
+    const std::vector<HatchCell> cells = reachedCells(polygon, grid);
+    if (cells.empty()) return {};
+    HatchClip clip(polygon, grid);
+    clip.expect(cells.size() * rows.size()); // 30,001 times 1,000 at the most
+    for (const HatchCell& cell : cells) {
+        for (const HatchRow* row : rows) clipRow(clip, *row, originIn(cell, grid, *row), fill.scale);
+        if (clip.isFull()) break;
+    }
+    return clip.take();
+}
+
+EntityRecord hatchObject(const HatchPiece& piece, const HatchFill& fill)
+{
+    EntityRecord r;
+    r.kind = piece.kind;
+    r.style = piece.style;
+    r.p1 = piece.from;
+    r.p2 = piece.to;
+    r.rad = piece.radius;
+    r.a1 = piece.a1;
+    r.a2 = piece.a2;
+    if (piece.kind == kind::arc) {
+        r.p2 = polarPoint(r.p1, r.rad, r.a1);
+        r.p3 = polarPoint(r.p1, r.rad, r.a2);
+        r.p4 = polarPoint(r.p1, r.rad, middleAngle(r.a1, r.a2));
+    }
+    if (fill.rotation == 0) return r;
+    const Turn turn(firstPoint(fill), fill.rotation);
+    mapPairs(r, kindRow(r.kind)->mapped, [&turn](Point p) { return turn.of(p); });
+    r.a1 = turnedAngle(r.a1, fill.rotation);
+    r.a2 = turnedAngle(r.a2, fill.rotation);
+    return r;
+}
+
+} // namespace mirtane

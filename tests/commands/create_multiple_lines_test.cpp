@@ -1,0 +1,208 @@
+#include "commands/multiple_lines.h"
+
+#include "model/insertion.h"
+#include "render/recording_canvas.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <vector>
+
+namespace mirtane {
+namespace {
+
+class Creation {
+  public:
+    Creation()
+    {
+        resetLayers(s.layerTable);
+        s.curFunc = "Create Multiple Lines";
+        s.baseFunc = s.lastFunc = "Window Select";
+        s.multipleLinesName = "Wall";
+        s.stepNo = 1; // the name is typed
+    }
+    void line(Point a, Point b, std::int32_t color = 0, std::int16_t style = 0)
+    {
+        EntityRecord r;
+        r.kind = kind::line;
+        r.p1 = a;
+        r.p2 = b;
+        r.color = color;
+        r.style = style;
+        object(r);
+    }
+    void object(const EntityRecord& r, Stat stat = Stat::sel)
+    {
+        s.store.setRecord(s.store.entCount, r);
+        s.store.setStat(s.store.entCount, stat);
+        ++s.store.entCount;
+    }
+    void click(Point p)
+    {
+        countStep(s);
+        (s.stepNo == 1 ? s.pickFirst : s.pickLast) = p;
+        createMultipleLinesStep(s, pic1);
+    }
+    const MultipleLine& row(std::size_t i) const { return session->multipleLinesLibrary.rows[i]; }
+    std::int32_t count() const { return session->multipleLinesLibrary.count; }
+
+    std::unique_ptr<Session> session = std::make_unique<Session>();
+    Session& s = *session;
+    RecordingCanvas pic1{Size{100, 100}};
+};
+
+TEST(CreateMultipleLines, OffsetsAreTheDistancesFromTheReferenceLine)
+{
+    struct Row {
+        const char* what;
+        Point a, b;
+        float offset;
+    };
+    // the reference line runs to the right through (100, 100)
+    const Row rows[] = {
+        {"below", {0, 110}, {50, 110}, 10},
+        {"above", {0, 80}, {50, 80}, -20},
+        {"on it", {0, 100}, {50, 100}, 0},
+        {"below, far to the right", {900, 110}, {950, 110}, 10},
+        {"straight below the point", {100, 130}, {150, 130}, 30},
+        {"in another direction: only its first point counts", {0, 140}, {0, 0}, 40},
+        {"at the point itself", {100, 100}, {130, 130}, 0},
+    };
+    for (const Row& row : rows) {
+        Creation creation;
+        creation.line({0, 500}, {10, 500});
+        creation.line(row.a, row.b);
+        creation.click({100, 100});
+        ASSERT_EQ(creation.count(), 2) << row.what;
+        EXPECT_NEAR(creation.row(0).m1, 400, 1e-3) << row.what;
+        EXPECT_NEAR(creation.row(1).m1, row.offset, 1e-3) << row.what;
+    }
+}
+
+TEST(CreateMultipleLines, TheFirstSelectedLineGivesTheDirection)
+{
+    Creation creation;
+    creation.line({50, 500}, {50, 0}); // upward: its right is at the right
+    creation.line({20, 0}, {20, 100});
+    creation.click({30, 30});
+    EXPECT_NEAR(creation.row(0).m1, 20, 1e-3);
+    EXPECT_NEAR(creation.row(1).m1, -10, 1e-3);
+}
+
+TEST(CreateMultipleLines, ASetIsDrawnAsItWasTaken)
+{
+    for (int degrees = 0; degrees < 360; degrees += 15) {
+        const double a = degrees * std::numbers::pi / 180;
+        const auto at = [a](double along, double beside) {
+            return Point{static_cast<float>(along * std::cos(a) + beside * std::sin(a)),
+                         static_cast<float>(-along * std::sin(a) + beside * std::cos(a))};
+        };
+        Creation creation;
+        creation.line(at(-30, 12), at(70, 12));
+        creation.line(at(10, -7), at(40, -7));
+        creation.click({0, 0});
+        EXPECT_NEAR(creation.row(0).m1, 12, 1e-3) << degrees;
+        EXPECT_NEAR(creation.row(1).m1, -7, 1e-3) << degrees;
+    }
+}
+
+TEST(CreateMultipleLines, KeepsColourStyleAndName)
+{
+    Creation creation;
+    creation.line({0, 110}, {50, 110}, 0x0000FF, 3);
+    creation.click({0, 100});
+    MultipleLine expected;
+    expected.m1 = creation.row(0).m1;
+    expected.colour = 0x0000FF;
+    expected.style = 3;
+    expected.name = "Wall";
+    EXPECT_EQ(creation.row(0), expected) << "the leg under way starts at nothing";
+}
+
+TEST(CreateMultipleLines, TakesSelectedLinesAlone)
+{
+    Creation creation;
+    EntityRecord circle;
+    circle.kind = kind::circle;
+    creation.object(circle);
+    EntityRecord line;
+    line.kind = kind::line;
+    line.p2 = {10, 0};
+    creation.object(line, Stat::on);
+    creation.object(line, Stat::out);
+    creation.line({0, 110}, {50, 110});
+    creation.click({0, 100});
+    EXPECT_EQ(creation.count(), 1);
+    EXPECT_EQ(creation.s.store.stat[1], Stat::on) << "all that was selected comes back";
+    EXPECT_EQ(creation.s.store.stat[3], Stat::out);
+}
+
+TEST(CreateMultipleLines, EndsWithTheNamesListedAndTheLastOneChosen)
+{
+    Creation creation;
+    MultipleLine other;
+    other.name = "Fence";
+    creation.s.multipleLinesLibrary.add(other);
+    creation.line({0, 110}, {50, 110});
+    creation.click({0, 100});
+    EXPECT_EQ(creation.s.curFunc, "Window Select");
+    EXPECT_EQ(creation.s.stepNo, 0);
+    EXPECT_EQ(creation.s.controls["Label3"_c].caption, "Select Multiple Lines");
+    EXPECT_EQ(creation.s.controls["List1"_c].rows, (std::vector<std::string>{"Fence", "Wall"}));
+    EXPECT_EQ(creation.s.multipleLinesName, "Wall");
+    EXPECT_EQ(creation.s.log.undoLogCount, 0);
+}
+
+TEST(CreateMultipleLines, TheReferencePointIsTheSecondPointOfTheFunction)
+{
+    Creation creation;
+    creation.s.pickFirst = {900, 900};
+    creation.line({0, 110}, {50, 110});
+    creation.click({0, 100});
+    EXPECT_NEAR(creation.row(0).m1, 10, 1e-4);
+    EXPECT_EQ(creation.s.ptA, (Point{0, 100}));
+    EXPECT_EQ(creation.s.ptB, (Point{10000, 100}));
+}
+
+TEST(CreateMultipleLines, WithoutANameDoesNothing)
+{
+    Creation creation;
+    creation.s.multipleLinesName = "??????";
+    creation.line({0, 110}, {50, 110});
+    creation.click({0, 100});
+    EXPECT_EQ(creation.count(), 0);
+    EXPECT_EQ(creation.s.store.stat[1], Stat::sel);
+    EXPECT_EQ(creation.s.curFunc, "Create Multiple Lines");
+}
+
+TEST(CreateMultipleLines, StopsAtOnceWhenTheTableIsFull)
+{
+    Creation creation;
+    creation.s.multipleLinesLibrary.count = 998;
+    creation.line({0, 110}, {50, 110});
+    creation.line({0, 120}, {50, 120});
+    creation.line({0, 130}, {50, 130});
+    creation.click({0, 100});
+    EXPECT_EQ(creation.count(), 1000);
+    EXPECT_NEAR(creation.row(999).m1, 20, 1e-3);
+    EXPECT_EQ(creation.s.store.stat[1], Stat::sel);
+    EXPECT_EQ(creation.s.curFunc, "Create Multiple Lines");
+    EXPECT_EQ(creation.s.stepNo, 2);
+    EXPECT_TRUE(creation.s.controls["List1"_c].rows.empty());
+}
+
+TEST(CreateMultipleLines, ALineOfNoLengthGivesNoDirectionAndDoesNoHarm)
+{
+    Creation creation;
+    creation.line({50, 50}, {50, 50});
+    creation.line({0, 110}, {50, 110});
+    creation.click({0, 100});
+    ASSERT_EQ(creation.count(), 2);
+    EXPECT_TRUE(std::isfinite(creation.row(0).m1));
+    EXPECT_TRUE(std::isfinite(creation.row(1).m1));
+}
+
+} // namespace
+} // namespace mirtane

@@ -1,0 +1,360 @@
+#include "commands/multiple_lines.h"
+
+#include "model/insertion.h"
+#include "ops_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <vector>
+
+namespace mirtane {
+namespace {
+
+using fake::only;
+using fake::Ops;
+
+// The function running with a set called "Wall".
+class Drawn {
+  public:
+    explicit Drawn(const std::vector<float>& offsets)
+    {
+        pic1.setScale({-2000, -2000, 4000, 4000});
+        s.viewLeft = s.viewTop = -2000;
+        s.viewRight = s.viewBottom = 2000;
+        resetLayers(s.layerTable);
+        s.curFunc = s.baseFunc = s.lastFunc = "Multiple Lines";
+        s.multipleLinesName = "Wall";
+        for (const float offset : offsets) add("Wall", offset);
+        ops();
+    }
+
+    void add(const char* name, float offset)
+    {
+        MultipleLine row;
+        row.name = name;
+        row.m1 = offset;
+        row.colour = 0x00FF00;
+        row.style = 1;
+        s.multipleLinesLibrary.add(row);
+    }
+    void ortho(bool on) { s.controls["freecurs"_c].caption = on ? "Ortho/On" : "Ortho/Off"; }
+    void press(Point p)
+    {
+        countStep(s);
+        (s.stepNo == 1 ? s.pickFirst : s.pickLast) = p;
+        multipleLinesStep(s, pic1);
+    }
+    void move(Point p)
+    {
+        s.pickLast = p;
+        multipleLinesBand(s, pic1);
+    }
+    void click(Point p)
+    {
+        if (s.stepNo > 0) move(p);
+        press(p);
+    }
+    EntityRecord slot(std::int32_t i) const { return session->store.record(i); }
+    Ops ops() { return fake::opsOn(pic1); }
+
+    std::unique_ptr<Session> session = std::make_unique<Session>();
+    Session& s = *session;
+    RecordingCanvas pic1{Size{1000, 1000}};
+};
+
+void expectNear(Point p, double x, double y, double tolerance = 1e-3)
+{
+    EXPECT_NEAR(p.x, x, tolerance);
+    EXPECT_NEAR(p.y, y, tolerance);
+}
+
+TEST(MultipleLines, ARightAngleIsMitredWithOrthoOnAndOff)
+{
+    struct Row {
+        const char* what;
+        Point next;
+        Point end;
+    };
+    const Row rows[] = {
+        {"up, away from the line", {100, -50}, {110, 10}},
+        {"down, towards it", {100, 50}, {90, 10}},
+    };
+    for (const Row& row : rows) {
+        for (const bool ortho : {true, false}) {
+            Drawn run({10});
+            run.ortho(ortho);
+            run.click({0, 0});
+            run.click({100, 0});
+            run.click(row.next);
+            ASSERT_EQ(run.s.store.entCount, 2) << row.what;
+            expectNear(run.slot(1).p1, 0, 10);
+            expectNear(run.slot(1).p2, row.end.x, row.end.y);
+        }
+    }
+}
+
+// The crossing of the two lines at an offset beside the legs A to B and B to C.
+Point trueMitre(Point a, Point b, Point c, double offset)
+{
+    const double ab = std::hypot(b.x - a.x, b.y - a.y), bc = std::hypot(c.x - b.x, c.y - b.y);
+    const double ux = (b.x - a.x) / ab, uy = (b.y - a.y) / ab, vx = (c.x - b.x) / bc, vy = (c.y - b.y) / bc;
+    // beside a leg (x, y), y downward, at offset: (-y, x) times offset
+    const double px = b.x - uy * offset, py = b.y + ux * offset;
+    const double qx = b.x - vy * offset, qy = b.y + vx * offset;
+    const double t = ((qx - px) * vy - (qy - py) * vx) / (ux * vy - uy * vx);
+    return {static_cast<float>(px + t * ux), static_cast<float>(py + t * uy)};
+}
+
+TEST(MultipleLines, EveryTurnEndsWhereTheTwoOffsetLinesCross)
+{
+    Drawn run({10, -10, 0});
+    run.ortho(false);
+    for (int heading = 0; heading < 360; heading += 25) {
+        for (int turn = -150; turn <= 170; turn += 10) {
+            if (turn == 0) continue;
+            const auto at = [](Point from, double degrees, float d) {
+                const double a = degrees * std::numbers::pi / 180;
+                return Point{from.x + d * static_cast<float>(std::cos(a)),
+                             from.y - d * static_cast<float>(std::sin(a))};
+            };
+            const Point a{30, -40};
+            const Point b = at(a, heading, 200);
+            const Point c = at(b, heading + turn, 130);
+            run.s.stepNo = 0;
+            run.s.store.entCount = 1;
+            for (const Point p : {a, b, c}) run.click(p);
+            ASSERT_EQ(run.s.store.entCount, 4);
+            for (std::int32_t i = 0; i < 3; ++i) {
+                const float offset = run.s.multipleLinesLibrary.rows[static_cast<std::size_t>(i)].m1;
+                const Point expected = trueMitre(a, b, c, offset);
+                SCOPED_TRACE(testing::Message() << heading << " turning " << turn << " at " << offset);
+                expectNear(run.slot(1 + i).p2, expected.x, expected.y, 0.01);
+            }
+        }
+    }
+}
+
+double distanceFromLine(Point p, Point a, Point b)
+{
+    const double length = std::hypot(b.x - a.x, b.y - a.y);
+    return ((b.x - a.x) * (static_cast<double>(p.y) - a.y) - (b.y - a.y) * (static_cast<double>(p.x) - a.x)) /
+           length;
+}
+
+TEST(MultipleLines, LinesLieAtTheirOffsetsAndNeighboursMeet)
+{
+    const std::vector<float> offsets = {-12, 0, 5, 20};
+    const std::vector<Point> corners = {{0, 0}, {300, 0}, {300, 200}, {500, 350}, {450, 600}, {-100, 500}};
+    Drawn run(offsets);
+    run.ortho(false);
+    for (const Point p : corners) run.click(p);
+    const std::size_t legs = corners.size() - 2, lines = offsets.size();
+    ASSERT_EQ(run.s.store.entCount, static_cast<std::int32_t>(1 + legs * lines))
+        << "the last leg is not stored";
+    for (std::size_t leg = 0; leg < legs; ++leg) {
+        for (std::size_t i = 0; i < lines; ++i) {
+            const EntityRecord r = run.slot(static_cast<std::int32_t>(1 + leg * lines + i));
+            // a greater offset lies to the right of the way, which on the screen is clockwise
+            EXPECT_NEAR(distanceFromLine(r.p1, corners[leg], corners[leg + 1]), offsets[i], 1e-3);
+            EXPECT_NEAR(distanceFromLine(r.p2, corners[leg], corners[leg + 1]), offsets[i], 1e-3);
+            if (leg == 0) continue;
+            EXPECT_EQ(r.p1, run.slot(static_cast<std::int32_t>(1 + (leg - 1) * lines + i)).p2);
+        }
+    }
+}
+
+TEST(MultipleLines, AnOffsetOfNothingDrawsTheReferencePath)
+{
+    Drawn run({0});
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    EXPECT_EQ(run.slot(1).p1, (Point{0, 0}));
+    EXPECT_EQ(run.slot(1).p2, (Point{100, 0}));
+}
+
+TEST(MultipleLines, TwoClicksStoreNothing)
+{
+    Drawn run({10});
+    run.click({0, 0});
+    run.click({100, 0});
+    EXPECT_EQ(run.s.store.entCount, 1);
+    EXPECT_EQ(run.s.log.undoGroupNext, 0);
+    EXPECT_EQ(run.s.promptText, "(Enter ending point of reference line:)");
+    EXPECT_EQ(run.s.pickFirst, (Point{100, 0})) << "a repeat of it is the cancel";
+}
+
+TEST(MultipleLines, LinesTakeTheColourAndStyleOfTheirRowsAndTheWorkingLayer)
+{
+    Drawn run({10});
+    run.s.workLayer = 5;
+    run.s.curColor = 0x0000FF;
+    run.s.curStyle = 3;
+    run.s.store.t1[1] = "kept";
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    const EntityRecord r = run.slot(1);
+    EXPECT_EQ(r.kind, kind::line);
+    EXPECT_EQ(r.color, 0x00FF00);
+    EXPECT_EQ(r.style, 1);
+    EXPECT_EQ(r.layer, 5);
+    EXPECT_EQ(r.t1, "kept") << "fields that a line does not write keep what the slot held";
+    EXPECT_EQ(run.s.layerTable.find(5)->layerUsed, "Yes:");
+    EXPECT_EQ(run.s.store.stat[1], Stat::on);
+}
+
+TEST(MultipleLines, TheLinesOfACornerAreOneGroup)
+{
+    Drawn run({10, -10});
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    run.click({200, 100});
+    ASSERT_EQ(run.s.store.entCount, 5);
+    undo(run.s.store, run.s.log);
+    EXPECT_EQ(run.s.store.stat[1], Stat::on);
+    EXPECT_EQ(run.s.store.stat[2], Stat::on);
+    EXPECT_EQ(run.s.store.stat[3], Stat::out);
+    EXPECT_EQ(run.s.store.stat[4], Stat::out);
+}
+
+TEST(MultipleLines, TheGaugeCountsTheLinesJustStored)
+{
+    Drawn run(std::vector<float>(599, 1));
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    EXPECT_EQ(run.s.controls["memy"_c].text, "001.000");
+}
+
+TEST(MultipleLines, OnlyTheRowsOfTheCurrentSetAreDrawn)
+{
+    Drawn run({10});
+    run.add("Fence", 20);
+    run.add("??????", 30);
+    run.add("Wall", -10);
+    run.s.multipleLinesLibrary.rows[4].name = "Wall"; // at the count
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    EXPECT_EQ(run.s.store.entCount, 3);
+}
+
+TEST(MultipleLines, WithNoneChosenNothingIsDrawn)
+{
+    Drawn run({});
+    run.add("??????", 10);
+    run.s.multipleLinesName = "??????";
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    EXPECT_EQ(run.s.store.entCount, 1);
+    EXPECT_TRUE(fake::marks(run.ops()).empty());
+}
+
+TEST(MultipleLines, TheFirstStartIsWhereTheLastBandLeftIt)
+{
+    Drawn run({10});
+    run.s.multipleLinesLibrary.rows[0].legStart = {7, 8};
+    run.press({0, 0});
+    run.press({100, 0});
+    run.press({100, 100}); // no move in between
+    EXPECT_EQ(run.slot(1).p1, (Point{7, 8}));
+}
+
+TEST(MultipleLines, TheBandOfTheFirstLegRunsBesideIt)
+{
+    Drawn run({10, -5});
+    run.press({0, 0});
+    run.ops();
+    run.move({100, 0});
+    EXPECT_EQ(run.ops(), (Ops{"restoreSnapshot", "line 0 10 100 10", "line 0 -5 100 -5"}));
+    EXPECT_EQ(run.s.multipleLinesLibrary.rows[0].legStart, (Point{0, 0})) << "not set yet";
+}
+
+TEST(MultipleLines, TheBandOfTheSecondLegTurnsAtTheMitre)
+{
+    Drawn run({10});
+    run.press({0, 0});
+    run.press({100, 0});
+    run.ops();
+    run.move({100, 50});
+    const Ops lines = only(run.ops(), "line");
+    ASSERT_EQ(lines.size(), 2U);
+    const MultipleLine& row = run.s.multipleLinesLibrary.rows[0];
+    expectNear(row.legStart, 0, 10);
+    expectNear(row.legEnd, 90, 10);
+    EXPECT_TRUE(lines[0].starts_with("line 0 10 90")) << lines[0];
+    EXPECT_TRUE(lines[1].ends_with(" 90 50")) << lines[1];
+}
+
+TEST(MultipleLines, LaterBandsStartAtTheLastStoredEndAndMoveNothing)
+{
+    Drawn run({10});
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    const MultipleLine before = run.s.multipleLinesLibrary.rows[0];
+    expectNear(before.legStart, 90, 10);
+    run.ops();
+    for (const Point p : {Point{200, 100}, Point{50, 180}, Point{100, 300}}) run.move(p);
+    EXPECT_EQ(run.s.multipleLinesLibrary.rows[0], before);
+    const Ops lines = only(run.ops(), "line");
+    ASSERT_EQ(lines.size(), 6U) << "two for each move";
+    const std::string start =
+        "line " + fake::shortest(before.legEnd.x) + " " + fake::shortest(before.legEnd.y) + " ";
+    for (std::size_t i = 0; i < lines.size(); i += 2) EXPECT_TRUE(lines[i].starts_with(start)) << lines[i];
+    run.click({200, 100});
+    EXPECT_EQ(run.slot(2).p1, run.slot(1).p2);
+    expectNear(run.slot(2).p2, 90, 110);
+}
+
+TEST(MultipleLines, ACornerIsPaintedOverTheCleanPictureInThePensOfItsRows)
+{
+    Drawn run({10});
+    run.click({0, 0});
+    run.click({100, 0});
+    run.move({100, 50});
+    run.ops();
+    run.press({100, 50});
+    const Ops ops = run.ops();
+    ASSERT_EQ(ops.size(), 7U);
+    EXPECT_EQ(ops[0], "restoreSnapshot");
+    EXPECT_EQ(ops[1], "setColor 65280");
+    EXPECT_EQ(ops[2], "setStyle 1");
+    EXPECT_TRUE(ops[3].starts_with("line 0 10 "));
+    EXPECT_EQ((Ops{ops.begin() + 4, ops.end()}), (Ops{"snapshot", "setColor 16777215", "setStyle 2"}));
+}
+
+TEST(MultipleLines, PointsOnOneSpotDoNoHarm)
+{
+    Drawn run({10});
+    for (const bool ortho : {true, false}) {
+        run.ortho(ortho);
+        run.s.stepNo = 0;
+        for (int i = 0; i < 5; ++i) run.click({50, 50});
+        run.click({80, 50});
+        run.click({20, 50}); // straight back
+    }
+    for (std::int32_t i = 1; i < run.s.store.end(); ++i) {
+        EXPECT_TRUE(std::isfinite(run.slot(i).p1.x) && std::isfinite(run.slot(i).p2.y)) << i;
+    }
+}
+
+TEST(MultipleLines, AFullTableLosesLinesWithoutHarm)
+{
+    Drawn run({10, 20});
+    run.s.store.entCount = EntityStore::slotCount - 1;
+    run.click({0, 0});
+    run.click({100, 0});
+    run.click({100, 100});
+    EXPECT_EQ(run.s.store.entCount, EntityStore::slotCount + 1);
+    EXPECT_EQ(run.slot(EntityStore::slotCount - 1).kind, kind::line);
+}
+
+} // namespace
+} // namespace mirtane

@@ -1,0 +1,162 @@
+#include "library/associates.h"
+
+#include "library_desk.h"
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::LibraryDesk;
+
+// "Create Associate" with a name typed, waiting for the reference point.
+struct CreateDesk : LibraryDesk {
+    explicit CreateDesk(const char* name = "Door") : LibraryDesk("Create Associate", createAssociateStep)
+    {
+        s.associateName = name;
+        s.stepNo = 1;
+    }
+};
+
+TEST(CreateAssociate, TakesTheCoordinatesRelativeToTheReferencePoint)
+{
+    struct Row {
+        int kind;
+        int movedPairs; // as bits, the first pair lowest
+    };
+    const Row rows[] = {
+        {1, 0b00011}, {2, 0b00001}, {3, 0b01111}, {4, 0b00011}, {5, 0b00001},
+        {6, 0b01001}, {7, 0b11111}, {8, 0b11111}, {9, 0b11111}, {10, 0b11111},
+    };
+    for (const Row& row : rows) {
+        CreateDesk desk;
+        const EntityRecord source = fake::sampleOf(row.kind);
+        desk.add(source);
+        desk.click(100, 200);
+        ASSERT_EQ(desk.s.store.entCount, 3) << row.kind;
+        const EntityRecord piece = desk.slot(2);
+        const Point before[] = {source.p1, source.p2, source.p3, source.p4, source.p5};
+        const Point after[] = {piece.p1, piece.p2, piece.p3, piece.p4, piece.p5};
+        for (int i = 0; i < 5; ++i) {
+            if ((row.movedPairs >> i & 1) == 0) continue;
+            EXPECT_EQ(after[i], (Point{before[i].x - 100, before[i].y - 200}))
+                << row.kind << " pair " << i + 1;
+        }
+        EXPECT_EQ(piece.kind, row.kind + 10);
+        EXPECT_EQ(piece.color, source.color) << row.kind;
+        EXPECT_EQ(piece.style, source.style) << row.kind;
+        EXPECT_EQ(piece.layer, 1) << row.kind;
+        EXPECT_EQ(desk.stat(2), Stat::out) << row.kind;
+        EXPECT_EQ(desk.owner(2), "Door") << row.kind;
+    }
+}
+
+TEST(CreateAssociate, KeepsTheOtherFieldsOfTheKind)
+{
+    CreateDesk desk;
+    desk.add(fake::sampleOf(kind::arc));
+    desk.add(fake::sampleOf(kind::ellipse));
+    desk.add(fake::sampleOf(kind::text));
+    desk.add(fake::sampleOf(kind::angularDimension));
+    desk.click(100, 200);
+    const EntityRecord arc = desk.slot(5);
+    EXPECT_EQ(arc.rad, 13);
+    EXPECT_EQ(arc.a1, 0.25);
+    EXPECT_EQ(arc.a2, 0.5);
+    EXPECT_EQ(desk.slot(6).p3.x, 5); // a ratio is no coordinate
+    const EntityRecord text = desk.slot(7);
+    EXPECT_EQ(text.p2, (Point{3, 4})); // size and justification
+    EXPECT_EQ(text.p3.x, 5);
+    EXPECT_EQ(text.rad, 13);
+    EXPECT_EQ(text.a1, 0.25);
+    EXPECT_EQ(text.t1, "words");
+    EXPECT_EQ(text.t2, "Garamond");
+    const EntityRecord dimension = desk.slot(8);
+    EXPECT_EQ(dimension.s1, 11);
+    EXPECT_EQ(dimension.s2, 12);
+    EXPECT_EQ(dimension.rad, 13);
+    EXPECT_EQ(dimension.a3, 0.75);
+    EXPECT_EQ(dimension.t1, "words");
+}
+
+TEST(CreateAssociate, LeavesTheSourceInTheDrawingAndNothingToUndo)
+{
+    CreateDesk desk;
+    const EntityRecord source = fake::line({10, 10}, {20, 30});
+    desk.add(source);
+    desk.add(fake::line({0, 0}, {1, 1}), Stat::on);
+    desk.click(10, 10);
+    EXPECT_EQ(desk.slot(1), source);
+    EXPECT_EQ(desk.stat(1), Stat::on);
+    EXPECT_EQ(desk.s.log.undoLogCount, 0);
+    EXPECT_EQ(desk.s.log.undoGroupNext, 0);
+    EXPECT_EQ(desk.s.store.entCount, 4) << "what is not selected makes no piece";
+    EXPECT_EQ(desk.slot(3).p2, (Point{10, 20}));
+}
+
+TEST(CreateAssociate, PassesOverOtherKindsButDeselectsThem)
+{
+    CreateDesk desk;
+    for (const int kind : {0, 11, 24, 25}) desk.add(fake::sampleOf(kind));
+    desk.click(10, 10);
+    EXPECT_EQ(desk.s.store.entCount, 5);
+    for (int i = 1; i < 5; ++i) EXPECT_EQ(desk.stat(i), Stat::on) << i;
+}
+
+TEST(CreateAssociate, GoesOnTheWorkingLayerAndMarksItUsed)
+{
+    CreateDesk desk;
+    desk.s.workLayer = 3;
+    desk.add(fake::sampleOf(kind::line));
+    desk.click(0, 0);
+    EXPECT_EQ(desk.slot(2).layer, 3);
+    EXPECT_EQ(desk.used(3), "Yes:");
+    EXPECT_EQ(desk.used(7), "No :");
+}
+
+TEST(CreateAssociate, EndsWithTheNamesInTheListAndNoneChosen)
+{
+    CreateDesk desk;
+    desk.s.baseFunc = desk.s.lastFunc = "Window Select";
+    desk.add(fake::sampleOf(kind::line));
+    desk.click(5, 5);
+    EXPECT_EQ(desk.s.curFunc, "Window Select");
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.caption("Label3"_c), "Select Associate");
+    EXPECT_EQ(desk.list(), std::vector<std::string>{"Door"});
+    EXPECT_EQ(desk.s.associateName, "??????");
+}
+
+TEST(CreateAssociate, WaitsForItsName)
+{
+    CreateDesk desk("??????");
+    desk.add(fake::sampleOf(kind::line));
+    desk.click(5, 5);
+    EXPECT_EQ(desk.s.stepNo, 1);
+    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.stat(1), Stat::sel);
+    EXPECT_EQ(desk.s.curFunc, "Create Associate");
+}
+
+TEST(CreateAssociate, TheReferencePointIsTheSecondPointOfTheFunction)
+{
+    CreateDesk desk;
+    desk.s.pickFirst = {1000, 1000}; // left over from another function
+    desk.add(fake::line({10, 10}, {20, 30}));
+    desk.click(10, 10);
+    EXPECT_EQ(desk.slot(2).p1, (Point{0, 0}));
+}
+
+TEST(CreateAssociate, AFullTableLosesPiecesWithoutHarm)
+{
+    CreateDesk desk;
+    desk.add(fake::line({10, 10}, {20, 30}));
+    desk.add(fake::line({0, 0}, {1, 1}));
+    desk.s.store.entCount = EntityStore::slotCount - 1;
+    desk.click(10, 10);
+    EXPECT_EQ(desk.owner(EntityStore::slotCount - 1), "Door");
+    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 1);
+}
+
+} // namespace
+} // namespace mirtane

@@ -1,0 +1,182 @@
+#include "library/hatch.h"
+
+#include "library_desk.h"
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::LibraryDesk;
+
+// "Create Hatch" with a name typed, waiting for the first corner.
+struct CreateDesk : LibraryDesk {
+    explicit CreateDesk(const char* name = "Brick") : LibraryDesk("Create Hatch", createHatchStep)
+    {
+        s.hatchName = name;
+        s.stepNo = 1;
+    }
+    void tile()
+    {
+        click(100, 200);
+        click(130, 220);
+    }
+    const HatchRow& row(std::size_t i) const { return session->hatchLibrary.rows[i]; }
+    std::int32_t count() const { return session->hatchLibrary.count; }
+};
+
+TEST(CreateHatch, TakesLinesRelativeToTheFirstCorner)
+{
+    CreateDesk desk;
+    EntityRecord line = fake::line({105, 215}, {125, 215});
+    line.color = 0x00FF00;
+    line.style = 3;
+    desk.add(line);
+    desk.tile();
+    ASSERT_EQ(desk.count(), 1);
+    HatchRow expected = fake::hatchLine("Brick", {5, 15}, {25, 15}, 30, 20);
+    expected.hatchColor = 0x00FF00;
+    expected.hatchStyle = 3;
+    EXPECT_EQ(desk.row(0), expected);
+}
+
+TEST(CreateHatch, KeepsTheDirectionOfALine)
+{
+    struct Row {
+        const char* what;
+        Point to;
+        double direction;
+    };
+    const Row rows[] = {
+        {"right", {20, 10}, 0},
+        {"up", {10, 0}, 1.5707963},
+        {"left", {0, 10}, 3.1415927},
+        {"down", {10, 20}, 4.712389},
+        {"upper right", {20, 0}, 0.78539816},
+        {"lower left", {0, 20}, 3.92699086},
+    };
+    for (const Row& row : rows) {
+        CreateDesk desk;
+        desk.add(fake::line({10, 10}, row.to));
+        desk.tile();
+        EXPECT_NEAR(desk.row(0).hatchA1, row.direction, 1e-8) << row.what;
+    }
+}
+
+TEST(CreateHatch, TakesCirclesArcsAndPoints)
+{
+    CreateDesk desk;
+    desk.add(fake::circle({110, 210}, 5));
+    desk.add(fake::sampleOf(kind::arc));
+    desk.add(fake::sampleOf(kind::point));
+    desk.tile();
+    ASSERT_EQ(desk.count(), 3);
+    EXPECT_EQ(desk.row(0), fake::hatchCircle("Brick", {10, 10}, 5, 30, 20));
+
+    EXPECT_EQ(desk.row(1).hatchKind, kind::arc);
+    EXPECT_EQ(desk.row(1).h1, (Point{-99, -198}));
+    EXPECT_EQ(desk.row(1).h2, (Point{-97, -196}));
+    EXPECT_EQ(desk.row(1).h3, (Point{-95, -194}));
+    EXPECT_EQ(desk.row(1).h4, (Point{-93, -192}));
+    EXPECT_EQ(desk.row(1).hatchRad, 13);
+    EXPECT_EQ(desk.row(1).hatchA1, 0.25);
+    EXPECT_EQ(desk.row(1).hatchA2, 0.5);
+    EXPECT_EQ(desk.row(1).hatchStyle, 3);
+
+    EXPECT_EQ(desk.row(2).hatchKind, kind::point);
+    EXPECT_EQ(desk.row(2).h1, (Point{-99, -198})) << "outside the tile is no matter";
+    EXPECT_EQ(desk.row(2).hatchStyle, 0);
+    EXPECT_EQ(desk.row(2).hatchRad, 0);
+}
+
+TEST(CreateHatch, PassesOverOtherKindsAndWhatIsNotSelected)
+{
+    CreateDesk desk;
+    for (const int kind : {4, 6, 7, 8, 9, 10, 11, 25}) desk.add(fake::sampleOf(kind));
+    desk.add(fake::sampleOf(kind::line), Stat::on);
+    desk.tile();
+    EXPECT_EQ(desk.count(), 0);
+    EXPECT_TRUE(desk.list().empty()) << "a hatch without rows has no name in the list";
+    EXPECT_EQ(desk.stat(1), Stat::on);
+}
+
+TEST(CreateHatch, KeepsTheSignsOfTheTile)
+{
+    CreateDesk desk;
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.click(130, 220);
+    desk.click(100, 200);
+    EXPECT_EQ(desk.row(0).hatchTileW, -30);
+    EXPECT_EQ(desk.row(0).hatchTileH, -20);
+    EXPECT_EQ(desk.row(0).h1, (Point{-25, -5}));
+}
+
+TEST(CreateHatch, AcceptsATileWithoutSize)
+{
+    CreateDesk desk;
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.click(100, 200);
+    desk.click(100, 200);
+    ASSERT_EQ(desk.count(), 1);
+    EXPECT_EQ(desk.row(0).hatchTileW, 0);
+    EXPECT_EQ(desk.row(0).hatchTileH, 0);
+}
+
+TEST(CreateHatch, TheFirstCornerDoesNotMoveTheFirstPoint)
+{
+    CreateDesk desk;
+    desk.s.pickFirst = {7, 8};
+    desk.click(100, 200);
+    EXPECT_EQ(desk.s.pickFirst, (Point{7, 8}));
+    EXPECT_EQ(desk.s.promptText, "(Enter lower-right corner of hatch:)");
+}
+
+TEST(CreateHatch, EndsWithTheNamesInTheListAndNoneChosen)
+{
+    CreateDesk desk;
+    desk.s.baseFunc = desk.s.lastFunc = "Window Select";
+    desk.s.hatchLibrary.add(fake::hatchLine("Tile", {0, 0}, {1, 1}, 10, 10));
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.tile();
+    EXPECT_EQ(desk.stat(1), Stat::on);
+    EXPECT_EQ(desk.s.curFunc, "Window Select");
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.caption("Label3"_c), "Select Hatch");
+    EXPECT_EQ(desk.list(), (std::vector<std::string>{"Tile", "Brick"}));
+    EXPECT_EQ(desk.s.hatchName, "??????");
+    EXPECT_EQ(desk.s.log.undoLogCount, 0);
+}
+
+TEST(CreateHatch, RemovedRowsKeepTheirPlaces)
+{
+    CreateDesk desk;
+    desk.s.hatchLibrary.add(fake::hatchLine("??????", {0, 0}, {1, 1}, 10, 10));
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.tile();
+    EXPECT_EQ(desk.count(), 2);
+    EXPECT_EQ(desk.row(0).hatchName, "??????");
+    EXPECT_EQ(desk.row(1).hatchName, "Brick");
+}
+
+TEST(CreateHatch, RowsPastTheTableAreDroppedAndCounted)
+{
+    CreateDesk desk;
+    desk.s.hatchLibrary.count = 999;
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.add(fake::line({105, 216}, {125, 216}));
+    desk.tile();
+    EXPECT_EQ(desk.count(), 1001);
+    EXPECT_EQ(desk.row(999).h1, (Point{5, 15}));
+    EXPECT_EQ(desk.stat(2), Stat::on);
+}
+
+TEST(CreateHatch, WithoutANameMakesNoRows)
+{
+    CreateDesk desk("??????");
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.tile();
+    EXPECT_EQ(desk.count(), 0);
+}
+
+} // namespace
+} // namespace mirtane

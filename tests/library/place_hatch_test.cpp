@@ -1,0 +1,184 @@
+#include "library/hatch.h"
+
+#include "library/boundary.h"
+#include "library_desk.h"
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::LibraryDesk;
+
+// "Place Hatch" with "Brick" chosen: tiles of 20 by 20, a level line through the middle of each.
+struct HatchDesk : LibraryDesk {
+    HatchDesk() : LibraryDesk("Place Hatch", placeHatchStep, boundaryBand)
+    {
+        s.baseFunc = s.lastFunc = s.curFunc;
+        s.hatchName = "Brick";
+        s.hatchLibrary.add(fake::hatchLine("Brick", {0, 10}, {20, 10}, 20, 20));
+    }
+    void square()
+    {
+        click(0, 0);
+        click(40, 0);
+        click(40, 40);
+        click(0, 40);
+        click(0, 0);
+    }
+};
+
+TEST(PlaceHatch, FillsTheBoundaryOnceItIsClosed)
+{
+    HatchDesk desk;
+    desk.square();
+    ASSERT_EQ(desk.s.store.entCount, 5);
+    EXPECT_EQ(desk.slot(1).kind, kind::line);
+    EXPECT_EQ(desk.slot(1).p1, (Point{0, 10}));
+    EXPECT_EQ(desk.slot(1).p2, (Point{20, 10}));
+    EXPECT_EQ(desk.slot(4).p2, (Point{40, 30}));
+    for (int i = 1; i < 5; ++i) EXPECT_EQ(desk.stat(i), Stat::on);
+}
+
+TEST(PlaceHatch, TakesTheCurrentColourAndLayerAndTheStyleOfTheRow)
+{
+    HatchDesk desk;
+    desk.s.hatchLibrary.rows[0].hatchColor = 0x00FF00;
+    desk.s.hatchLibrary.rows[0].hatchStyle = 2;
+    desk.s.curColor = 0x0000FF;
+    desk.s.curStyle = 4;
+    desk.s.workLayer = 6;
+    desk.square();
+    EXPECT_EQ(desk.slot(1).color, 0x0000FF);
+    EXPECT_EQ(desk.slot(1).style, 2);
+    EXPECT_EQ(desk.slot(1).layer, 6);
+    EXPECT_EQ(desk.used(6), "Yes:");
+}
+
+TEST(PlaceHatch, LeavesNoTextOfAnOlderObjectInASlot)
+{
+    HatchDesk desk;
+    desk.s.store.t1[1] = "old";
+    desk.s.store.t2[1] = "font";
+    desk.square();
+    EXPECT_EQ(desk.slot(1).t1, "");
+    EXPECT_EQ(desk.slot(1).t2, "");
+}
+
+TEST(PlaceHatch, OneUndoTakesTheWholeFillBackAndNothingElse)
+{
+    HatchDesk desk;
+    desk.s.store.entCount = 2;
+    desk.s.store.setStat(1, Stat::on);
+    logFlip(desk.s.log, 1, Stat::on);
+    endGroup(desk.s.log);
+    desk.square();
+    ASSERT_EQ(desk.s.store.entCount, 6);
+    undo(desk.s.store, desk.s.log);
+    EXPECT_EQ(desk.stat(1), Stat::on);
+    for (int i = 2; i < 6; ++i) EXPECT_EQ(desk.stat(i), Stat::out) << i;
+    undo(desk.s.store, desk.s.log);
+    EXPECT_EQ(desk.stat(1), Stat::out);
+}
+
+TEST(PlaceHatch, AnEmptyFillStillClosesAGroup)
+{
+    HatchDesk desk;
+    desk.s.hatchName = "??????";
+    desk.square();
+    EXPECT_EQ(desk.s.store.entCount, 1);
+    EXPECT_EQ(desk.s.log.undoGroupNext, 1);
+    EXPECT_EQ(desk.s.log.undoGroupTop, 1);
+    EXPECT_EQ(desk.s.stepNo, 0);
+}
+
+TEST(PlaceHatch, NoNameChosenDoesNotBringRemovedRowsBack)
+{
+    HatchDesk desk;
+    desk.s.hatchLibrary.rows[0].hatchName = "??????";
+    desk.s.hatchName = "??????";
+    desk.square();
+    EXPECT_EQ(desk.s.store.entCount, 1);
+}
+
+TEST(PlaceHatch, IsReadyForAnotherBoundaryWithTheSameHatch)
+{
+    HatchDesk desk;
+    desk.square();
+    EXPECT_EQ(desk.s.curFunc, "Place Hatch");
+    EXPECT_EQ(desk.s.hatchName, "Brick");
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.s.boundaryCount, 0);
+    EXPECT_EQ(desk.s.boundary[0].from, (Point{1000000, 1000000}));
+    EXPECT_EQ(desk.s.promptText, "(Enter the first point on the boundary:)");
+    desk.square();
+    EXPECT_EQ(desk.s.store.entCount, 9);
+}
+
+TEST(PlaceHatch, AsksForTheNextPointOnceBegun)
+{
+    HatchDesk desk;
+    desk.click(0, 0);
+    EXPECT_EQ(desk.s.promptText, "(Enter the next point on the boundary:)");
+}
+
+TEST(PlaceHatch, NeedsThreePointsToClose)
+{
+    HatchDesk desk;
+    desk.click(0, 0);
+    desk.click(40, 0);
+    desk.click(0, 0);
+    EXPECT_EQ(desk.s.boundaryCount, 1);
+    EXPECT_EQ(desk.s.stepNo, 2);
+    EXPECT_EQ(desk.s.pickFirst, (Point{40, 0}));
+    EXPECT_EQ(desk.s.log.undoGroupNext, 0);
+    desk.click(40, 40);
+    desk.click(0, 40);
+    desk.click(0, 0);
+    EXPECT_EQ(desk.s.store.entCount, 5) << "as if the click had not been";
+}
+
+TEST(PlaceHatch, ATileWithoutSizeEndsWithNothingAdded)
+{
+    HatchDesk desk;
+    desk.s.hatchLibrary.rows[0].hatchTileW = 0;
+    desk.square();
+    EXPECT_EQ(desk.s.store.entCount, 1);
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.s.curFunc, "Place Hatch");
+}
+
+TEST(PlaceHatch, RowsPastTheTablesEndAreNotLookedAt)
+{
+    HatchDesk desk;
+    desk.s.hatchLibrary.count = 5000;
+    desk.square();
+    EXPECT_EQ(desk.s.store.entCount, 5);
+}
+
+TEST(PlaceHatch, AFullTableLosesPiecesWithoutHarm)
+{
+    HatchDesk desk;
+    desk.s.store.entCount = EntityStore::slotCount - 1;
+    desk.square();
+    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 3);
+    EXPECT_EQ(desk.stat(EntityStore::slotCount - 1), Stat::on);
+}
+
+TEST(PlaceHatch, RepaintsAllAndLeavesTheRubberBandPen)
+{
+    HatchDesk desk;
+    desk.click(0, 0);
+    desk.click(40, 0);
+    desk.click(40, 40);
+    desk.ops();
+    desk.click(0, 0);
+    const fake::Ops ops = desk.ops();
+    ASSERT_GE(ops.size(), 3U);
+    EXPECT_EQ(ops[ops.size() - 3], "snapshot");
+    EXPECT_EQ(ops[ops.size() - 2], "setColor 16777215");
+    EXPECT_EQ(ops.back(), "setStyle 2");
+}
+
+} // namespace
+} // namespace mirtane
