@@ -3,8 +3,10 @@
 
 #include "dxf_bench.h"
 #include "edit_bench.h"
+#include "hatch_bench.h"
 #include "measures.h"
 #include "snap_bench.h"
+#include "text_bench.h"
 #include "table.h"
 
 #include <QGuiApplication>
@@ -44,11 +46,14 @@ int main(int argc, char* argv[])
     registerEditMeasures();
     const auto dxf = std::make_unique<DxfBench>();
     registerDxfMeasures(*dxf);
+    registerTextMeasures();
+    const auto hatches = std::make_unique<HatchBench>();
+    registerHatchMeasures(*hatches);
     Collector collector;
     std::cout << "60,000 lines on 1600 x 1000 pixels; medians. This takes a quarter of a minute or more.\n"
               << std::flush;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    for (const auto rows : {comparisons(), snapComparisons(), editComparisons(), dxfComparisons()}) {
+    for (const auto rows : {comparisons(), snapComparisons(), editComparisons(), dxfComparisons(), textComparisons(), hatchComparisons()}) {
         collector.print(std::cout, rows);
     }
     return 0;

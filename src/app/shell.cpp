@@ -17,7 +17,7 @@
 #include "render/redraw.h"
 #include "render/view.h"
 #include "snap/snap.h"
-#include "text/numbers.h"
+#include "text/measure.h"
 
 #include <cmath>
 
@@ -67,6 +67,11 @@ void listEnter(App& app, ControlId list)
     if (hasRow(app.s.controls[list], row)) rowChosen(app, list, row);
 }
 
+std::string inNumberStyle(const Session& s, float length)
+{
+    return formatMeasure({length, {numStyleOf(s.numStyle), s.dimTol, s.numComma == 1}});
+}
+
 void keyToControl(App& app, ControlId id, char32_t code)
 {
     Session& s = app.s;
@@ -108,8 +113,7 @@ void Shell::mouseMove(Point at)
     if (ended()) return;
     const ControlId before = s_.controls.focus;
     canvasMouseMove(s_, pic1_, at);
-    s_.controls["pointerlab"_c].caption =
-        formatNumber(at.x, NumberFormat::thousandths) + "  " + formatNumber(at.y, NumberFormat::thousandths);
+    s_.controls["pointerlab"_c].caption = inNumberStyle(s_, at.x) + "  " + inNumberStyle(s_, at.y);
     settle(before);
 }
 

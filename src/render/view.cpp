@@ -3,6 +3,7 @@
 #include "geometry/fault.h"
 #include "model/title.h"
 #include "render/redraw.h"
+#include "render/text_painter.h"
 
 #include <algorithm>
 
@@ -36,11 +37,7 @@ bool zoomWindowIsOn(const Session& s)
 
 TextWidthOf textWidthOn(Canvas& pic1)
 {
-    return [&pic1](const EntityRecord& r) {
-        pic1.setFontName(r.t2);
-        pic1.setFontSize(r.p2.x);
-        return pic1.textWidth(r.t1);
-    };
+    return [&pic1](const EntityRecord& r) { return textWidthIn(pic1, r.t2, r.p2.x, r.t1); };
 }
 
 void zoomAll(Session& s, Canvas& pic1)

@@ -305,6 +305,26 @@ TEST(Fillet, OfRadiusNothingCutsBothAtTheCorner)
     fake::expectArc(arcs.secondCut(), {60, 0}, 50, 0, 126.8699, "second");
 }
 
+TEST(Fillet, OfRadiusNothingIsOneVeryPointOnAnyLines)
+{
+    fake::Throws dice(32);
+    EditDesk desk;
+    for (int i = 0; i < 300; ++i) {
+        fake::emptyDrawing(desk);
+        desk.add(dice.line());
+        desk.add(i % 2 == 0 ? dice.line() : dice.arc());
+        desk.s.filletRadius = 0;
+        desk.begin("Fillet");
+        clickAt(desk, editFillet, dice.point());
+        if (desk.s.store.entCount == 3) continue; // a line that misses the arc
+        const EntityRecord corner = desk.slot(3);
+        for (const Point p : {corner.p2, corner.p3, corner.p4}) EXPECT_EQ(p, corner.p1) << i;
+        EXPECT_EQ(corner.a1, 0) << i;
+        EXPECT_EQ(corner.a2, 0) << i;
+        EXPECT_TRUE(desk.slot(4).p1 == corner.p1 || desk.slot(4).p2 == corner.p1) << i;
+    }
+}
+
 struct NoneRow {
     const char* what;
     EntityRecord first, second;

@@ -286,11 +286,14 @@ TEST(Stretch, TakesTheWindowFromThePointerAndTheOffsetFromTheThirdClick)
     EditDesk desk;
     desk.add(lineFrom({10, 20}, {40, 60}));
     desk.begin("Stretch");
+    desk.s.editPending = 0;
     clickAt(desk, editStretch, {0, 0});
     EXPECT_EQ(desk.s.editPending, 1);
     desk.s.mousePos = {20, 30};
     desk.click(editStretch, 100, 0); // as ortho has turned it
     EXPECT_EQ(desk.s.promptText, "(Enter reference point:)");
+    EXPECT_EQ(desk.s.stretchRight, 20);
+    EXPECT_EQ(desk.s.stretchBottom, 30);
     desk.s.mousePos = {999, 999};
     desk.click(editStretch, 300, 300); // as snapped
     EXPECT_EQ(desk.s.promptText, "(Enter new reference point:)");

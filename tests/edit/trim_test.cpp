@@ -444,7 +444,9 @@ TEST(Trim, WhatStaysEndsOnTheBoundaryAndHoldsThePickedPart)
         }
         ++made;
         const EntityRecord kept = desk.slot(3);
-        ASSERT_LT(fake::offObject(kept, object.p5), 0.01) << i;
+        // A line's pick just behind the boundary counts as before it.
+        const double share = kept.kind != kind::line ? 0 : boundary.kind == kind::line ? 0.0005 : 0.005;
+        ASSERT_LT(fake::offObject(kept, object.p5), 0.01 + share * distance(kept.p1, kept.p2)) << i;
         if (kept.kind == kind::circle) continue;
         const bool isLine = kept.kind == kind::line;
         const Point ends[] = {isLine ? kept.p1 : kept.p2, isLine ? kept.p2 : kept.p3};

@@ -1,0 +1,101 @@
+// What comes out of a file may hold any numbers: the edits that cut are to end all the same.
+
+#include "cut_desk.h"
+
+#include "edit/break.h"
+#include "edit/fillet.h"
+#include "edit/stretch.h"
+#include "edit/trim.h"
+
+#include <array>
+#include <limits>
+
+namespace mirtane {
+namespace {
+
+using fake::EditDesk;
+
+struct Cut {
+    const char* name;
+    fake::Step step;
+    int clicks;
+};
+
+constexpr Cut cuts[] = {
+    {"Break", editBreak, 2}, {"Trim", editTrim, 1}, {"Fillet", editFillet, 1}, {"Stretch", editStretch, 4}};
+
+class OddNumbers {
+  public:
+    float number()
+    {
+        constexpr float inf = std::numeric_limits<float>::infinity();
+        constexpr std::array<float, 12> odd = {0, 0, 1, -1, 50, 1e-30F, 3e38F, -3e38F, 1e20F, inf, -inf, NAN};
+        return odd[static_cast<std::size_t>(dice_.between(0, 11.999))]; // an index of it
+    }
+    Point point()
+    {
+        const float x = number();
+        return {x, number()};
+    }
+    EntityRecord object()
+    {
+        EntityRecord r = fake::sample(static_cast<std::int16_t>(dice_.between(1, 10.999))); // 1 to 10
+        for (Point* p : {&r.p1, &r.p2, &r.p3, &r.p4, &r.p5}) {
+            if (dice_.between(0, 1) < 0.4) *p = point();
+        }
+        if (dice_.between(0, 1) < 0.3) r.rad = number();
+        if (dice_.between(0, 1) < 0.2) r.a1 = number();
+        if (dice_.between(0, 1) < 0.2) r.a2 = number();
+        if (dice_.between(0, 1) < 0.2) r.s2 = number();
+        return r;
+    }
+
+  private:
+    fake::Throws dice_{51};
+};
+
+TEST(CutsOfOddNumbers, EndAsOthersDo)
+{
+    OddNumbers odd;
+    EditDesk desk;
+    for (int i = 0; i < 4000; ++i) {
+        const Cut& cut = cuts[i % 4];
+        fake::emptyDrawing(desk);
+        desk.s.curFunc = desk.s.baseFunc;
+        const bool onlyLinesAndArcs = i % 3 == 0;
+        while (desk.s.store.entCount <= 6) {
+            const EntityRecord r = odd.object();
+            const bool cutting = r.kind == kind::line || r.kind == kind::arc;
+            if (cutting || !onlyLinesAndArcs) desk.add(r, desk.s.store.entCount == 6 ? Stat::on : Stat::sel);
+        }
+        desk.s.filletRadius = odd.number();
+        desk.begin(cut.name);
+        for (int click = 0; click < cut.clicks; ++click) fake::clickAt(desk, cut.step, odd.point());
+        desk.ops();
+        ASSERT_LE(desk.s.store.entCount, 7 + 10) << i;
+        if (cut.step == editTrim && desk.s.curFunc == "Trim") continue; // no boundary, or a parallel
+        ASSERT_EQ(desk.s.stepNo, 0) << i;
+        ASSERT_EQ(countWithStat(desk.s.store, Stat::sel), 0) << i;
+    }
+}
+
+// With no slot left the objects are lost, as everywhere, and nothing else is.
+TEST(CutsOfOddNumbers, PastTheEndOfTheTableWriteNothing)
+{
+    for (const Cut& cut : cuts) {
+        EditDesk desk;
+        desk.add(fake::lineFrom({-100, 0}, {100, 0}, {60, 0}));
+        desk.add(fake::lineFrom({0, -100}, {0, 100}, {0, 60}));
+        desk.add(fake::circleAt({30, 40}, 5), Stat::on);
+        desk.s.store.entCount = EntityStore::slotCount;
+        desk.begin(cut.name);
+        const Point clicks[] = {{30, 45}, {31, 12}, {5, 5}, {9, 9}};
+        for (int click = 0; click < cut.clicks; ++click) fake::clickAt(desk, cut.step, clicks[click]);
+        EXPECT_EQ(desk.slot(1).p2, (Point{100, 0})) << cut.name;
+        EXPECT_EQ(countWithStat(desk.s.store, Stat::sel), 0) << cut.name;
+        EXPECT_GE(desk.s.store.entCount, EntityStore::slotCount) << cut.name;
+    }
+}
+
+} // namespace
+} // namespace mirtane
