@@ -119,7 +119,7 @@ TEST(PlayCommands, PressClicksWhatTakesAClick)
                     "expect get session.curStyle == 2\npress freecurs\nexpect get freecurs.caption == "
                     "\"Ortho/Off\"\npress angle\nexpect get angle.text == \"\"\npress Label1");
     for (const char* line : {"press", "press nothing", "press List1", "press pic1", "press frmfile.Command1",
-                             "press Command15", "press frmMain", "press Command1 now"}) {
+                             "press frmedit.Command4", "press frmMain", "press Command1 now"}) {
         EXPECT_EQ(t.statusOf(line), 2) << line;
     }
 }
@@ -242,7 +242,7 @@ TEST(PlayQuestions, GetAnswersWhatAControlHas)
     EXPECT_EQ(t.play("get List1.row"), "-1");
     EXPECT_EQ(t.play("get setts.color"), "16777215");
     EXPECT_EQ(t.play("get ls3.checked"), "true");
-    EXPECT_EQ(t.play("get Command15.enabled"), "false");
+    EXPECT_EQ(t.play("get frmfilter.ob4.enabled"), "false");
     EXPECT_EQ(t.play("get snapbox.text"), "\"\"");
     EXPECT_PLAYS(t, "expect get angle == {\"text\":\"000.000\",\"visible\":true,\"enabled\":true}\n"
                     "expect get frmMain == {\"visible\":true}");
