@@ -102,6 +102,14 @@ TEST(Fillet, KeepsTheStartOfALineTouchedFurtherFromItThanPicked)
     fake::expectLine(desk.firstCut(), {0, 0}, {-5, 0}, "first");
 }
 
+TEST(Fillet, PickBesideALineCountsByItsFoot)
+{
+    FilletDesk desk(lineFrom({0, 0}, {100, 0}, {35, -30}), lineFrom({20, 50}, {20, 100}, {20, 90}), 20);
+    clickAt(desk, editFillet, {60, 40});
+    expectFilleted(desk, "beside");
+    fake::expectLine(desk.firstCut(), {0, 0}, {40, 0}, "first"); // the pick itself is further from the start
+}
+
 TEST(Fillet, OfALinePickedWhereItIsTouchedKeepsWhatItsSlotHeld)
 {
     FilletDesk desk(lineFrom({0, 0}, {100, 0}, {40, 7}), lineFrom({20, 50}, {20, 100}, {20, 90}), 20);

@@ -1,0 +1,316 @@
+// Associates, hatches and multiple lines by their menus: names, lists, and files that are as they should be
+// and that are not.
+
+#include "app/library_menus.h"
+
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+namespace mirtane {
+namespace {
+
+using fake::Desk;
+
+struct LibraryCase {
+    ControlId create, place, save, remove, open;
+    std::string_view select;
+    const char* extension;
+    const char* function;
+    const char* createFunction;
+};
+
+constexpr LibraryCase associates{"ass7"_c,  "ass3"_c,          "ass9"_c,
+                                 "ass21"_c, "ass10"_c,         "Select Associate",
+                                 ".mta",    "Place Associate", "Create Associate"};
+constexpr LibraryCase hatches{"ht5"_c,        "ht3"_c, "ht7"_c,       "ht11"_c,      "ht8"_c,
+                              "Select Hatch", ".mth",  "Place Hatch", "Create Hatch"};
+constexpr LibraryCase multipleLines{"ml3"_c, "Command10"_c,    "ml5"_c,
+                                    "ml9"_c, "ml6"_c,          "Select Multiple Lines",
+                                    ".mtm",  "Multiple Lines", "Create Multiple Lines"};
+constexpr LibraryCase libraries[] = {associates, hatches, multipleLines};
+
+// A desk with a level line in slot 1, and without ortho.
+struct LibraryDesk : Desk {
+    LibraryDesk()
+    {
+        press("freecurs"_c);
+        drawLine(1000, 1010, 1100, 1010);
+    }
+
+    void startCreating(const LibraryCase& library, const std::string& name)
+    {
+        s.store.setStat(1, Stat::sel);
+        press(library.create);
+        type(name);
+        enter();
+    }
+    void create(const LibraryCase& library, const std::string& name)
+    {
+        startCreating(library, name);
+        click(1000, 1000);
+        if (s.curFunc == "Create Hatch") click(1120, 1040);
+    }
+    void choose(int row) { shell.clickRow("List1"_c, row); }
+    void saveFirst(const LibraryCase& library)
+    {
+        press(library.save);
+        choose(0);
+        press("frmfile.Command1"_c);
+    }
+    void openLibrary(const LibraryCase& library, const std::string& file)
+    {
+        press(library.open);
+        name(file);
+        enter();
+    }
+    void removeFirst(const LibraryCase& library)
+    {
+        press(library.remove);
+        choose(0);
+    }
+
+    const std::vector<std::string>& rows() const { return session->controls["List1"_c].rows; }
+    std::string path(const LibraryCase& library, const std::string& base) const
+    {
+        return std::string(fake::home) + "/" + base + library.extension;
+    }
+};
+
+using Names = std::vector<std::string>;
+
+TEST(LibraryMenus, CreatingWithNothingSelectedSaysSoAndStartsNothing)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.press(library.create);
+        EXPECT_EQ(desk.text("entry"_c), "Nothing Selected!") << library.createFunction;
+        EXPECT_EQ(desk.s.curFunc, "Line") << library.createFunction;
+    }
+}
+
+TEST(LibraryMenus, CreatingPutsTheNameIntoTheListAndLeavesTheSource)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        EXPECT_EQ(desk.caption("Label3"_c), library.select);
+        EXPECT_EQ(desk.rows(), Names{"one"}) << library.select;
+        EXPECT_EQ(desk.stat(1), Stat::on) << library.select;
+        EXPECT_EQ(desk.s.curFunc, "Line") << library.select;
+        EXPECT_EQ(desk.s.stepNo, 0) << library.select;
+    }
+}
+
+TEST(LibraryMenus, ATakenNameIsRefusedAndSelectedToBeTypedOver)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.startCreating(library, "one");
+        EXPECT_EQ(desk.text("entry"_c), "Name already exists!") << library.select;
+        EXPECT_EQ(desk.s.stepNo, 0) << library.select;
+        EXPECT_EQ(desk.s.curFunc, library.createFunction);
+        desk.type("One");
+        EXPECT_EQ(desk.text("entry"_c), "One") << library.select;
+        desk.enter();
+        EXPECT_EQ(desk.s.stepNo, 1) << library.select;
+    }
+}
+
+TEST(LibraryMenus, AnEmptyNameIsNone)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.startCreating(library, "");
+        EXPECT_EQ(desk.s.stepNo, 0) << library.select;
+        EXPECT_EQ(desk.s.curFunc, library.createFunction);
+    }
+}
+
+TEST(LibraryMenus, ARemovedNameIsFreeAgain)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.removeFirst(library);
+        EXPECT_EQ(desk.rows(), Names{}) << library.select;
+        desk.create(library, "one");
+        EXPECT_EQ(desk.rows(), Names{"one"}) << library.select;
+    }
+}
+
+TEST(LibraryMenus, NamesWhoseRowsAreApartAreListedTwice)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "A");
+        desk.saveFirst(library);
+        desk.create(library, "B");
+        desk.disk.files[desk.path(library, "C")] = desk.disk.files[desk.path(library, "A")];
+        desk.openLibrary(library, "C");
+        const char* last = library.select == associates.select ? "C" : "A"; // of the file, or within it
+        EXPECT_EQ(desk.rows(), (Names{"A", "B", last})) << library.select;
+    }
+}
+
+TEST(LibraryMenus, AChosenNameStartsItsFunction)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.press(library.place);
+        EXPECT_EQ(desk.caption("Label3"_c), library.select);
+        desk.choose(0);
+        EXPECT_EQ(desk.s.curFunc, library.function);
+        EXPECT_EQ(desk.s.baseFunc, library.function);
+        EXPECT_EQ(desk.s.stepNo, library.select == associates.select ? 1 : 0) << library.select;
+    }
+}
+
+TEST(LibraryMenus, WhatIsSavedAndRemovedComesBackByOpen)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.saveFirst(library);
+        EXPECT_FALSE(desk.visible("frmfile"_c)) << library.select;
+        ASSERT_TRUE(desk.disk.files.contains(desk.path(library, "one"))) << library.select;
+        EXPECT_FALSE(desk.disk.files[desk.path(library, "one")].empty()) << library.select;
+        desk.removeFirst(library);
+        desk.openLibrary(library, "one");
+        EXPECT_FALSE(desk.visible("frmfile"_c)) << library.select;
+        EXPECT_EQ(desk.rows(), Names{"one"}) << library.select;
+        EXPECT_EQ(desk.caption("Label3"_c), library.select);
+    }
+}
+
+TEST(LibraryMenus, ANameThatIsThereIsNotOpenedAgain)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.saveFirst(library);
+        const std::int32_t slots = desk.s.store.entCount;
+        desk.openLibrary(library, "one");
+        EXPECT_TRUE(desk.visible("frmfile"_c)) << library.select;
+        EXPECT_EQ(desk.s.store.entCount, slots) << library.select;
+        EXPECT_LE(desk.s.hatchLibrary.count, 1);
+        EXPECT_LE(desk.s.multipleLinesLibrary.count, 1);
+    }
+}
+
+TEST(LibraryMenus, ASaveThatFailsSaysSoAndTheNameIsSpentAllTheSame)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.disk.refusesWrites = true;
+        desk.saveFirst(library);
+        EXPECT_EQ(desk.text("entry"_c), "File not saved!") << library.select;
+        EXPECT_EQ(desk.s.stepNo, 0) << library.select;
+        for (const std::string* current :
+             {&desk.s.associateName, &desk.s.hatchName, &desk.s.multipleLinesName}) {
+            EXPECT_NE(*current, "one") << library.select;
+        }
+    }
+}
+
+// What is cut, empty, of another kind or lying about its lengths adds whole records at the most.
+TEST(LibraryMenus, FilesThatAreNotWhatTheySayDoNoHarm)
+{
+    const Bytes nonsense[] = {{},
+                              Bytes(1, std::uint8_t{1}),
+                              Bytes(25, std::uint8_t{0xFF}),
+                              Bytes(200000, std::uint8_t{0xFF}),
+                              Bytes(2000, std::uint8_t{0}),
+                              Bytes(69, std::uint8_t{0x7F})};
+    for (const LibraryCase& library : libraries) {
+        for (const Bytes& bytes : nonsense) {
+            LibraryDesk desk;
+            desk.disk.files[desk.path(library, "bad")] = bytes;
+            desk.openLibrary(library, "bad");
+            if (desk.visible("frmfile"_c)) desk.press("frmfile.Command2"_c);
+            EXPECT_EQ(desk.stat(1), Stat::on) << library.select << bytes.size();
+            EXPECT_EQ(desk.slot(1).p2, (Point{1100, 1010})) << library.select << bytes.size();
+            EXPECT_LE(desk.s.store.entCount, 60000) << library.select << bytes.size();
+            desk.create(library, "good");
+            EXPECT_FALSE(desk.rows().empty()) << library.select << bytes.size();
+            desk.shell.redraw();
+        }
+    }
+}
+
+TEST(LibraryMenus, ClosingTheDrawingForgetsAssociatesAndKeepsTheOtherTwo)
+{
+    LibraryDesk desk;
+    for (const LibraryCase& library : libraries) desk.create(library, "one");
+    desk.s.savedCount = desk.s.store.entCount;
+    desk.press("fil5"_c);
+    EXPECT_EQ(desk.caption("Label3"_c), "Set Working Layer");
+    desk.press(associates.place);
+    EXPECT_EQ(desk.caption("Label3"_c), "Set Working Layer");
+    desk.press(hatches.place);
+    EXPECT_EQ(desk.rows(), Names{"one"});
+    desk.press(multipleLines.place);
+    EXPECT_EQ(desk.caption("Label3"_c), multipleLines.select);
+    EXPECT_EQ(desk.rows(), Names{"one"});
+}
+
+TEST(LibraryMenus, RemovedRowsAreNotDrawnThoughTheirNameIsTheOneForNone)
+{
+    LibraryDesk desk;
+    desk.create(hatches, "one");
+    desk.press(hatches.place);
+    desk.choose(0);
+    desk.saveFirst(hatches); // spends the name
+    desk.removeFirst(hatches);
+    const std::int32_t slots = desk.s.store.entCount;
+    EXPECT_EQ(desk.s.hatchName, "??????");
+    for (const Point p : {Point{2000, 2000}, {3000, 2000}, {3000, 3000}, {2000, 3000}, {2000, 2000}}) {
+        desk.click(p.x, p.y);
+    }
+    EXPECT_EQ(desk.s.curFunc, "Place Hatch");
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.s.store.entCount, slots);
+}
+
+TEST(LibraryMenus, AMultipleLinesTableThatFillsUpStopsTheCreation)
+{
+    LibraryDesk desk;
+    desk.drawLine(1000, 1020, 1100, 1020);
+    desk.s.multipleLinesLibrary.count = 999;
+    desk.s.store.setStat(2, Stat::sel);
+    desk.create(multipleLines, "one");
+    EXPECT_EQ(desk.s.multipleLinesLibrary.count, 1000);
+    EXPECT_EQ(desk.s.multipleLinesLibrary.rows[999].name, "one");
+    EXPECT_FLOAT_EQ(desk.s.multipleLinesLibrary.rows[999].m1, 10);
+    EXPECT_EQ(desk.stat(1), Stat::sel);
+    EXPECT_EQ(desk.stat(2), Stat::sel);
+    EXPECT_EQ(desk.s.curFunc, "Create Multiple Lines");
+}
+
+TEST(LibraryMenus, AHatchOfTextAloneHasNoRowsAndNoName)
+{
+    LibraryDesk desk;
+    desk.s.store.kind[1] = kind::text;
+    desk.create(hatches, "words");
+    EXPECT_EQ(desk.s.hatchLibrary.count, 0);
+    EXPECT_EQ(desk.rows(), Names{});
+    EXPECT_EQ(desk.stat(1), Stat::on);
+}
+
+TEST(LibraryMenus, ReverseIsOnlyAMark)
+{
+    LibraryDesk desk;
+    desk.press("ass5"_c);
+    EXPECT_TRUE(desk.s.controls["ass5"_c].checked);
+    EXPECT_EQ(desk.s.curFunc, "Line");
+    desk.press("ass5"_c);
+    EXPECT_FALSE(desk.s.controls["ass5"_c].checked);
+}
+
+} // namespace
+} // namespace mirtane
