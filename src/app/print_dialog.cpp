@@ -6,6 +6,8 @@
 #include "render/redraw.h"
 #include "text/numbers.h"
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
@@ -75,7 +77,8 @@ void askForPrintScale(App& app, ControlId)
         setText(s.controls["entry"_c], "Nothing selected!");
         return;
     }
-    const std::string fitted = plainNumber(fittedScale(s, s.store));
+    std::string fitted = plainNumber(fittedScale(s, s.store));
+    std::ranges::replace(fitted, 'e', 'E');
     setText(s.controls["frmprintset.Text1"_c], fitted);
     setText(s.controls["frmprintset.Text2"_c], fitted);
     showScaleOfPicture(s);
@@ -127,7 +130,8 @@ std::vector<PrintOp> pagePreview(const Session& s)
 {
     const double typed = typedScale(s);
     const double fitted = fittedScaleShown(s);
-    if (!(s.pageWidth > 0 && s.pageHeight > 0) || typed < fitted) return {};
+    const bool isEmpty = s.controls["frmprintset.Text1"_c].text.empty();
+    if (isEmpty || !(s.pageWidth > 0 && s.pageHeight > 0) || typed < fitted) return {};
     PrintState page = s;
     keep(page.printFactor, quotient(fitted, typed));
     RecordingPrinter recording(s.pageWidth, s.pageHeight);

@@ -90,8 +90,10 @@ void changeSelectedFont(App& app, const std::string& font)
         if (r.kind == kind::text) r.style = 0;
         return r;
     };
-    runOnSelection(s, Sources::goOut, rule, holdsWords);
-    closeGroup(s, app.pic1);
+    if (countWithStat(s.store, Stat::sel) > 0) { // it may have gone while the list was shown
+        runOnSelection(s, Sources::goOut, rule, holdsWords);
+        closeGroup(s, app.pic1);
+    }
     s.curFunc = s.baseFunc;
     setPrompt(s, app.pic1);
     showEditFunctions(s);
@@ -150,6 +152,7 @@ void fontEntered(App& app)
     const Control& list = s.controls["List1"_c];
     const std::string mode = s.controls["Label3"_c].caption;
     if (list.row < 0 || list.row >= std::ssize(list.rows)) return;
+    s.controls.focus = "pic1"_c;
     const std::string font = list.rows[static_cast<std::size_t>(list.row)]; // not negative, tested above
     if (mode == fontForTexts) {
         s.textFont = font;

@@ -17,7 +17,7 @@ struct Floor {
 
 // A folder uses itself and the folders of lower floors. Numbers are written and read as text under the fault
 // rule, so text/ may look into geometry/, and not the other way.
-constexpr std::array<Floor, 16> floors{{
+constexpr std::array<Floor, 17> floors{{
     {"geometry", 0, ""},
     {"text", 0, "geometry"},
     {"model", 1, ""},
@@ -33,6 +33,7 @@ constexpr std::array<Floor, 16> floors{{
     {"platform/qt", 8, ""},
     {"platform/qt/window", 9, ""},
     {"play", 9, ""},
+    {"convert", 9, ""},
     {"programs", 10, ""},
 }};
 

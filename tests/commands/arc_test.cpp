@@ -1,204 +1,194 @@
 #include "commands/arc.h"
 
-#include "desk.h"
-#include "geometry/angle.h"
-#include "geometry/arc.h"
+#include "round_desk.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
 #include <random>
 
 namespace mirtane {
 namespace {
 
-using fake::Desk;
+using namespace fake;
 
-// The three points of an arc's slot belong to its centre, radius and angles.
-void expectWhole(const EntityRecord& r)
+constexpr double startsAt[] = {0, 20, 45, 90, 110, 135, 180, 200, 225, 270, 290, 315, 340};
+
+// Its place is within what 32 bits hold of the clicks, magnified by as much as a flat arc magnifies it.
+double slackOf(Point centre, double r, double sweepDegrees)
 {
-    ASSERT_EQ(r.kind, kind::arc);
-    const double slack = 1e-5 * (std::abs(r.p1.x) + std::abs(r.p1.y) + r.rad) + 0.01;
-    for (const Point p : {r.p2, r.p3, r.p4}) EXPECT_NEAR(distance(r.p1, p), r.rad, slack);
-    const Point start = polarPoint(r.p1, r.rad, r.a1);
-    const Point end = polarPoint(r.p1, r.rad, r.a2);
-    const Point middle = polarPoint(r.p1, r.rad, middleAngle(r.a1, r.a2));
-    EXPECT_EQ(r.p2, start);
-    EXPECT_EQ(r.p3, end);
-    EXPECT_EQ(r.p4, middle);
-    EXPECT_GE(r.a1, 0);
-    EXPECT_LE(r.a1, fullTurn);
-    EXPECT_GE(r.a2, 0);
-    EXPECT_LE(r.a2, fullTurn);
+    const double flatness = 1 - std::cos(sweepDegrees / 360 * std::numbers::pi);
+    return 8 * rounding(centre, r) / std::min(flatness, 1.0) + 0.01;
 }
 
-struct ArcThree : testing::Test {
-    ArcThree() { desk.press("Command5"_c); }
-    void clicks(Point a, Point b, Point c)
-    {
-        desk.click(a.x, a.y);
-        desk.click(b.x, b.y);
-        desk.click(c.x, c.y);
-    }
+TEST(ArcThree, RunsCounterClockwiseFromOneEndToTheOtherByWayOfTheSecondPointHoweverDrawn)
+{
     Desk desk;
-};
-
-TEST_F(ArcThree, RunsFromTheFirstPointToTheLastCounterClockwiseEitherWayDrawn)
-{
-    // The upper half of a circle of radius 400 about (1000, 1000), drawn from the right and from the left.
-    const float s = 282.84271F;
-    clicks({1400, 1000}, {1000 + s, 1000 - s}, {1000, 600});
-    EntityRecord r = desk.slot(1);
-    expectWhole(r);
-    EXPECT_NEAR(r.p1.x, 1000, 0.05);
-    EXPECT_NEAR(r.p1.y, 1000, 0.05);
-    EXPECT_NEAR(sweep(r.a1, r.a2), quarterTurn, 1e-3);
-    EXPECT_NEAR(std::remainder(r.a1, fullTurn), 0, 1e-3);
-    desk.cancel(); // parks the last point, on which a first click would end the action
-    clicks({1000, 600}, {1000 + s, 1000 - s}, {1400, 1000});
-    r = desk.slot(2);
-    expectWhole(r);
-    EXPECT_NEAR(sweep(r.a1, r.a2), quarterTurn, 1e-3);
-    EXPECT_NEAR(std::remainder(r.a1, fullTurn), 0, 1e-3);
+    for (const Point centre :
+         {Point{1000, 1000}, Point{0, 0}, Point{100000, 100000}, Point{100000, -100000}}) {
+        for (const double from : startsAt) {
+            for (const double sweep : {40.0, 90.0, 180.0, 270.0, 340.0}) {
+                for (const bool clockwise : {false, true}) {
+                    start(desk, "Command5"_c,
+                          clockwise ? Ortho::on : Ortho::off); // neither makes a difference
+                    const Point low = onCircle(centre, 400, from);
+                    const Point high = onCircle(centre, 400, from + sweep);
+                    clickAt(desk, clockwise ? high : low);
+                    clickAt(desk, onCircle(centre, 400, from + sweep / 2));
+                    clickAt(desk, clockwise ? low : high);
+                    const std::string what = "at " + shortest(centre.x) + " from " + shortest(from) +
+                                             " over " + shortest(sweep) + (clockwise ? " clockwise" : "");
+                    expectArc(lastSlot(desk), centre, 400, from, from + sweep, slackOf(centre, 400, sweep),
+                              what);
+                    desk.cancel(); // parks the last point, on which a first click would end the action
+                }
+            }
+        }
+    }
 }
 
-TEST_F(ArcThree, PassesThroughAngleZeroWithItsEndBelowItsStart)
+TEST(ArcThree, PassesThroughAngleZeroWithItsEndBelowItsStart)
 {
-    const float s = 282.84271F;
-    clicks({1000 + s, 1000 + s}, {1400, 1000}, {1000 + s, 1000 - s});
+    Desk desk;
+    for (const bool clockwise : {false, true}) {
+        start(desk, "Command5"_c);
+        const Point low = onCircle({1000, 1000}, 400, 330);
+        const Point high = onCircle({1000, 1000}, 400, 60);
+        clickAt(desk, clockwise ? high : low);
+        clickAt(desk, onCircle({1000, 1000}, 400, 10));
+        clickAt(desk, clockwise ? low : high);
+        const EntityRecord r = lastSlot(desk);
+        expectWholeArc(r);
+        EXPECT_NEAR(r.a1, 5.759587, 1e-4);
+        EXPECT_NEAR(r.a2, 1.047198, 1e-4);
+        EXPECT_NEAR(r.p4.x, 1000 + 386.3703, 0.02); // at 15 degrees
+        EXPECT_NEAR(r.p4.y, 1000 - 103.5276, 0.02);
+        desk.cancel();
+    }
+}
+
+// The corners of a square about (1500, 1500), and a third click that the circle misses.
+TEST(ArcThree, WithAnObtuseFirstAngleEndsAtTheDirectionOfTheThirdPointWhichItMisses)
+{
+    Desk desk;
+    start(desk, "Command5"_c);
+    desk.click(1000, 1000);
+    desk.click(2000, 1000);
+    desk.ops();
+    desk.move(0, 2000);
+    const Ops band = shown(desk, "arc");
+    desk.down(1, 0, 2000);
     const EntityRecord r = desk.slot(1);
-    expectWhole(r);
-    EXPECT_LT(r.a2, r.a1);
-    EXPECT_NEAR(r.p4.x, 1400, 0.1);
-    EXPECT_NEAR(r.p4.y, 1000, 0.5);
+    expectWholeArc(r);
+    EXPECT_NEAR(r.p1.x, 1500, 0.1);
+    EXPECT_NEAR(r.p1.y, 1500, 0.1);
+    EXPECT_NEAR(r.rad, 707.1068, 0.1);
+    EXPECT_NEAR(r.a1, 3.1415927 + std::atan(1.0 / 3), 1e-3);
+    EXPECT_NEAR(r.a2, 2.3561945, 1e-3);
+    EXPECT_GT(away(r.p2, {0, 2000}), 500); // an end is computed, and is not the click
+    EXPECT_EQ(shown(desk, "arc"), band);
 }
 
-TEST_F(ArcThree, PromptsAndEndsReadyForTheNext)
+TEST(ArcThree, OfEvenlySpacedPointsOnALineKeepsCentreAndAnglesThatStood)
 {
+    Desk desk;
+    start(desk, "Command2"_c);
+    desk.click(3000, 3000);
+    desk.click(3100, 3000);
+    desk.s.arcStart = 1;
+    desk.s.arcEnd = 2;
+    start(desk, "Command5"_c);
+    desk.click(1000, 1000);
+    desk.click(1100, 1000);
+    EXPECT_EQ(desk.s.arcStart, 2); // the second point brings it to the end
+    desk.click(1200, 1000);
+    const EntityRecord r = desk.slot(2);
+    expectWholeArc(r);
+    EXPECT_EQ(r.p1, (Point{3000, 3000}));
+    EXPECT_FLOAT_EQ(r.rad, 2828.4271F);
+    EXPECT_EQ(r.a1, 2);
+    EXPECT_EQ(r.a2, 2);
+}
+
+TEST(ArcThree, PromptsForThreePointsAndEndsReadyForTheNext)
+{
+    Desk desk;
+    start(desk, "Command5"_c);
     EXPECT_EQ(desk.s.promptText, "(Enter first point on arc:)");
     desk.click(1400, 1000);
     EXPECT_EQ(desk.s.promptText, "(Enter second point on arc:)");
+    desk.s.arcWinding = 7;
     desk.click(1282, 718);
+    EXPECT_EQ(desk.s.arcWinding, 0);
     EXPECT_EQ(desk.s.promptText, "(Enter last point on arc:)");
     desk.click(1000, 600);
     EXPECT_EQ(desk.s.promptText, "(Enter first point on arc:)");
     EXPECT_EQ(desk.s.stepNo, 0);
     EXPECT_EQ(desk.s.workRadius, 0);
+    EXPECT_EQ(desk.s.store.entCount, 2);
 }
 
-TEST_F(ArcThree, ShowsInItsBandTheArcThatTheClickThenStores)
+TEST(ArcThree, BandsALineToThePointerAndThenALineAndTheArc)
 {
+    Desk desk;
+    start(desk, "Command5"_c, Ortho::on);
+    desk.click(1400, 1000);
+    desk.ops();
+    desk.move(1282, 718); // ortho doesn't apply
+    const Ops first = {"restoreSnapshot", "line 1400 1000 1282 718"};
+    EXPECT_EQ(desk.ops(), first);
+    desk.down(1, 1282, 718);
+    desk.ops();
+    desk.move(1000, 600);
+    const Ops second = desk.ops();
+    ASSERT_EQ(second.size(), 3U);
+    EXPECT_EQ(second[0], "restoreSnapshot");
+    EXPECT_EQ(second[1], "line 1282 718 1000 600");
+    EXPECT_EQ(second[2].substr(0, 4), "arc ");
+}
+
+TEST(ArcThree, IsPaintedInItsOwnPenAndLeavesThePenOfBands)
+{
+    Desk desk;
+    desk.s.curColor = 65280;
+    desk.s.curStyle = 1;
+    start(desk, "Command5"_c);
     desk.click(1400, 1000);
     desk.click(1282, 718);
     desk.move(1000, 600);
-    const Point centre = desk.s.ptF;
-    const float radius = desk.s.workRadius;
-    const double start = desk.s.arcStart;
-    const double end = desk.s.arcEnd;
+    const std::string arc = shown(desk, "arc").back();
     desk.down(1, 1000, 600);
-    const EntityRecord r = desk.slot(1);
-    EXPECT_EQ(r.p1, centre);
-    EXPECT_EQ(r.rad, radius);
-    EXPECT_EQ(r.a1, start);
-    EXPECT_EQ(r.a2, end);
+    expectCommit(desk.ops(), {"setStyle 1", "setColor 65280"}, arc);
+    EXPECT_EQ(lastSlot(desk).color, 65280);
+    EXPECT_EQ(lastSlot(desk).style, 1);
 }
 
-TEST_F(ArcThree, IsWholeForRandomClicks)
+TEST(ArcThree, IsWholeForRandomClicksAndItsBandShowsTheSame)
 {
-    std::mt19937 random(5);
+    std::mt19937 random(51);
     std::uniform_real_distribution<float> place(500, 4000);
-    std::int32_t slot = 1;
-    for (int i = 0; i < 2000; ++i) {
-        clicks({place(random), place(random)}, {place(random), place(random)},
-               {place(random), place(random)});
-        if (desk.s.store.entCount == slot) continue; // a click on the point before ended the action
-        expectWhole(desk.slot(slot));
-        slot = desk.s.store.entCount;
-    }
-    EXPECT_GT(slot, 1900);
-}
-
-struct ArcTwo : testing::Test {
-    ArcTwo()
-    {
-        desk.press("freecurs"_c);
-        desk.press("Command4"_c);
-    }
     Desk desk;
-};
-
-TEST_F(ArcTwo, StartsAtTheRadiusPointWhenThePointerWentCounterClockwise)
-{
-    desk.click(1000, 1000);
-    desk.click(1400, 1000);
-    desk.move(1390, 900);
-    desk.move(1300, 700);
-    desk.click(1000, 500);
-    const EntityRecord r = desk.slot(1);
-    expectWhole(r);
-    EXPECT_EQ(r.a1, 0);
-    EXPECT_EQ(r.a2, quarterTurn);
-    EXPECT_FLOAT_EQ(r.rad, 400);
-    EXPECT_EQ(r.p3, (Point{1000, 600})); // on the circle, not at the click
-}
-
-TEST_F(ArcTwo, EndsAtTheRadiusPointWhenThePointerWentClockwise)
-{
-    desk.click(1000, 1000);
-    desk.click(1000, 600);
-    desk.move(1100, 610);
-    desk.move(1300, 700);
-    desk.click(1500, 1000);
-    const EntityRecord r = desk.slot(1);
-    expectWhole(r);
-    EXPECT_EQ(r.a1, 0);
-    EXPECT_EQ(r.a2, quarterTurn);
-}
-
-TEST_F(ArcTwo, ComparesTheFirstMoveWithTheAngleThatTheArcBeforeLeft)
-{
-    desk.s.arcLastAngle = 6;
-    desk.click(1000, 1000);
-    desk.click(1400, 1000);
-    desk.move(1390, 900); // a rise from 0, but a fall from the stale 6
-    EXPECT_EQ(desk.s.arcWinding, -1);
-    desk.move(1300, 700);
-    EXPECT_EQ(desk.s.arcWinding, 0);
-}
-
-TEST_F(ArcTwo, HasNoSweepWhileTheWindingIsNothing)
-{
-    desk.click(1000, 1000);
-    desk.click(1000, 600);
-    desk.s.arcLastAngle = quarterTurn;
-    desk.down(1, 1000, 500);
-    const EntityRecord r = desk.slot(1);
-    EXPECT_EQ(r.a1, quarterTurn);
-    EXPECT_EQ(r.a2, quarterTurn);
-}
-
-TEST_F(ArcTwo, IsConfinedAboutItsCentreUnderOrtho)
-{
-    desk.press("freecurs"_c);
-    desk.press("Command4"_c);
-    desk.click(1000, 1000);
-    desk.click(1400, 1010);
-    EXPECT_FLOAT_EQ(desk.s.ptB.y, 1000);
-    EXPECT_EQ(desk.s.pickFirst, (Point{1000, 1000}));
-    desk.move(1010, 700);
-    EXPECT_FLOAT_EQ(desk.s.pickLast.x, 1000);
-    desk.down(1, 1010, 700);
-    EXPECT_EQ(desk.slot(1).a2, quarterTurn);
-}
-
-TEST_F(ArcTwo, TakesATypedRadius)
-{
-    desk.click(1000, 1000);
-    desk.move(1400, 1000);
-    desk.type("24");
-    desk.enter();
-    EXPECT_FLOAT_EQ(desk.s.workRadius, 288);
-    EXPECT_EQ(desk.s.stepNo, 2);
+    int direct = 0;
+    for (int i = 0; i < 4000; ++i) {
+        const float at = i % 3 == 0 ? 100000.0F : 0.0F;
+        const auto next = [&] { return Point{at + place(random), at + place(random)}; };
+        start(desk, "Command5"_c, i % 2 == 0 ? Ortho::on : Ortho::off);
+        const Point first = next();
+        clickAt(desk, first);
+        clickAt(desk, next());
+        desk.ops();
+        const Point last = next();
+        moveTo(desk, last);
+        const Ops band = shown(desk, "arc");
+        downAt(desk, last);
+        ASSERT_EQ(desk.s.store.entCount, i + 2) << i;
+        const EntityRecord r = lastSlot(desk);
+        expectWholeArc(r, shortest(i));
+        const double nearest = std::min(away(r.p2, first), away(r.p3, first));
+        EXPECT_LT(nearest, 8 * rounding(r.p1, r.rad)) << i; // the arc begins or ends at the first click
+        const Ops painted = shown(desk, "arc");
+        if (painted.empty()) continue; // in pieces
+        EXPECT_EQ(painted, band) << i;
+        ++direct;
+    }
+    EXPECT_GT(direct, 500);
 }
 
 } // namespace

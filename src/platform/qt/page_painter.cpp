@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QPdfWriter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace mirtane {
@@ -49,9 +50,10 @@ int sixteenths(double radians)
 
 } // namespace
 
-bool PagePainter::beginOn(QPaintDevice& device, double unitsPerTwip)
+bool PagePainter::beginOn(QPaintDevice& device, double unitsPerTwip, double unitsPerDot)
 {
     unitsPerTwip_ = unitsPerTwip;
+    unitsPerDot_ = unitsPerDot;
     if (!painter_.begin(&device)) return false;
     painter_.setPen(QPen(Qt::black, 1));
     painter_.setBrush(Qt::NoBrush);
@@ -71,7 +73,9 @@ void PagePainter::text(double x, double y, std::string_view utf8)
 
 void PagePainter::pen(std::int16_t style, int width)
 {
-    painter_.setPen(QPen(Qt::black, width, penStyleOf(style), Qt::FlatCap, Qt::RoundJoin));
+    constexpr double leastWidth = 1; // a thinner line would fade
+    const double units = std::max(width * unitsPerDot_, leastWidth);
+    painter_.setPen(QPen(Qt::black, units, penStyleOf(style), Qt::FlatCap, Qt::RoundJoin));
 }
 
 void PagePainter::line(double x1, double y1, double x2, double y2)
@@ -95,25 +99,30 @@ void PagePainter::arc(double x, double y, double r, double a1, double a2)
     painter_.drawArc(QRectF(at(x, y) - QPointF(d, d), QSizeF(2 * d, 2 * d)), start, span);
 }
 
+// A square of the pen's width: a point drawn with a flat pen leaves no mark in a file.
 void PagePainter::point(double x, double y)
 {
-    painter_.drawPoint(at(x, y));
+    const double side = painter_.pen().widthF();
+    painter_.fillRect(QRectF(at(x, y) - QPointF(side / 2, side / 2), QSizeF(side, side)), Qt::black);
 }
 
+// Written with a large face and brought to size, so that every height is exact.
 void PagePainter::rotatedText(double x, double y, double height, int degrees, bool underline,
                               std::string_view utf8)
 {
-    constexpr double largestEm = 100000;
+    constexpr int faceSize = 256;
+    constexpr double largestEm = 1000000;
     const double em = height * unitsPerTwip_;
-    if (!(em >= 1 && em < largestEm)) return;
+    if (!(em > 0 && em < largestEm)) return;
     QFont face = faceOf(fontName_);
-    face.setPixelSize(static_cast<int>(std::lround(em))); // within the limits above
+    face.setPixelSize(faceSize);
     face.setUnderline(underline);
     painter_.save();
     painter_.setPen(QPen(Qt::black, 1));
     painter_.setFont(face);
     painter_.translate(at(x, y));
     painter_.rotate(-degrees);
+    painter_.scale(em / faceSize, em / faceSize);
     painter_.drawText(QPointF(0, QFontMetricsF(face, painter_.device()).ascent()), textOf(utf8));
     painter_.restore();
 }
@@ -162,7 +171,7 @@ PicturePrinter::PicturePrinter(QPaintDevice& device, float width, float height, 
 
 bool PicturePrinter::beginPage(const std::string&)
 {
-    const bool begun = beginOn(device_, pixelsPerTwip_);
+    const bool begun = beginOn(device_, pixelsPerTwip_, pixelsPerTwip_ * twipsPerInch / pdfDotsPerInch);
     painter().setRenderHint(QPainter::Antialiasing);
     return begun;
 }

@@ -30,8 +30,9 @@ class PagePainter : public Printer {
     bool endPage() override;
 
   protected:
-    // Draws on a device from now on, with so many of its units to the twip.
-    bool beginOn(QPaintDevice& device, double unitsPerTwip);
+    // Draws on a device from now on, with so many of its units to the twip, and to the dot that a pen's width
+    // is counted in.
+    bool beginOn(QPaintDevice& device, double unitsPerTwip, double unitsPerDot = 1);
     QPainter& painter() { return painter_; }
 
   private:
@@ -40,6 +41,7 @@ class PagePainter : public Printer {
     float width_;
     float height_;
     double unitsPerTwip_ = 1;
+    double unitsPerDot_ = 1;
     QString fontName_;
     double fontPoints_ = 8;
     QPainter painter_;

@@ -1,0 +1,281 @@
+#include "convert/arguments.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <charconv>
+#include <set>
+#include <string_view>
+
+namespace mirtane::convert {
+
+const char* const helpText =
+    "Usage: mirtane-convert [OPTION]... IN... -o OUT\n"
+    "Converts drawings (.mtd) and DXF files (.dxf) into .mtd, .dxf, .png, .svg or .pdf.\n"
+    "\n"
+    "  -o OUT          the file to write; its extension is the format. In its name %\n"
+    "                  stands for the name of the input without its extension, and %%\n"
+    "                  for a percent sign: \"-o plots/%.pdf\" takes any number of inputs.\n"
+    "                  OUT may also be a folder, together with --to\n"
+    "      --to FORMAT mtd, dxf, png, svg or pdf, whatever the extension of OUT\n"
+    "      --size WxH  pixels of a .png, 1200x800 by default\n"
+    "      --paper P   paper of a .pdf or .svg: a0 to a6, letter, legal or tabloid;\n"
+    "                  a4 by default\n"
+    "      --layer N   only what is on layer N\n"
+    "      --tolerant  take DXF files that other programs wrote\n"
+    "  -h, --help      print this and exit\n"
+    "  --              what follows is no option\n"
+    "\n"
+    "Exit status: 0 all files were converted, 1 some were not, 2 wrong usage.\n";
+
+namespace {
+
+struct FormatRow {
+    std::string_view name;
+    Format format;
+};
+
+constexpr FormatRow formats[] = {{"mtd", Format::mtd},
+                                 {"dxf", Format::dxf},
+                                 {"png", Format::png},
+                                 {"svg", Format::svg},
+                                 {"pdf", Format::pdf}};
+
+struct PaperRow {
+    std::string_view name;
+    QPageSize::PageSizeId paper;
+};
+
+constexpr PaperRow papers[] = {{"a0", QPageSize::A0},       {"a1", QPageSize::A1},
+                               {"a2", QPageSize::A2},       {"a3", QPageSize::A3},
+                               {"a4", QPageSize::A4},       {"a5", QPageSize::A5},
+                               {"a6", QPageSize::A6},       {"letter", QPageSize::Letter},
+                               {"legal", QPageSize::Legal}, {"tabloid", QPageSize::Tabloid}};
+
+// The words as given; what they mean together is found out once all are known.
+struct Given {
+    Wishes wishes;
+    std::optional<Format> to;
+    std::vector<std::string> inputs;
+    std::string out;
+    bool help = false;
+};
+
+std::string lowered(std::string text)
+{
+    for (char& c : text) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a'); // stays among the letters
+    }
+    return text;
+}
+
+std::optional<Format> formatNamed(const std::string& name)
+{
+    for (const FormatRow& row : formats) {
+        if (row.name == lowered(name)) return row.format;
+    }
+    return std::nullopt;
+}
+
+// The whole of text as a number from low to high.
+std::optional<int> wholeNumber(std::string_view text, int low, int high)
+{
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool read = error == std::errc{} && end == text.data() + text.size();
+    if (!read || number < low || number > high) return std::nullopt;
+    return number;
+}
+
+void takeOut(Given& given, const std::string& value)
+{
+    if (value.empty()) throw WrongUsage{"-o without a name"};
+    if (!given.out.empty()) throw WrongUsage{"-o is given twice"};
+    given.out = value;
+}
+
+void takeFormat(Given& given, const std::string& value)
+{
+    given.to = formatNamed(value);
+    if (!given.to) throw WrongUsage{"no such format: " + value};
+}
+
+void takeSize(Given& given, const std::string& value)
+{
+    constexpr int largest = 20000;
+    const std::string_view text = value;
+    const std::size_t cross = std::min(text.find('x'), text.size());
+    const auto width = wholeNumber(text.substr(0, cross), 1, largest);
+    const auto height = wholeNumber(text.substr(std::min(cross + 1, text.size())), 1, largest);
+    if (!width || !height) throw WrongUsage{"no size of 1x1 to 20000x20000: " + value};
+    given.wishes.size = {*width, *height};
+}
+
+void takePaper(Given& given, const std::string& value)
+{
+    for (const PaperRow& row : papers) {
+        if (row.name != lowered(value)) continue;
+        given.wishes.paper = row.paper;
+        return;
+    }
+    throw WrongUsage{"no such paper: " + value};
+}
+
+void takeLayer(Given& given, const std::string& value)
+{
+    constexpr int highest = 32767;
+    const auto number = wholeNumber(value, 0, highest);
+    if (!number) throw WrongUsage{"no layer number: " + value};
+    given.wishes.layer = static_cast<std::int16_t>(*number); // within the limit just tested
+}
+
+struct OptionRow {
+    std::string_view name;
+    void (*take)(Given& given, const std::string& value);
+};
+
+constexpr OptionRow optionsWithValue[] = {
+    {"-o", takeOut},        {"--to", takeFormat},   {"--size", takeSize},
+    {"--paper", takePaper}, {"--layer", takeLayer},
+};
+
+const OptionRow* optionWithValue(const std::string& word)
+{
+    for (const OptionRow& row : optionsWithValue) {
+        if (word == row.name) return &row;
+    }
+    return nullptr;
+}
+
+void takeFlag(Given& given, const std::string& word)
+{
+    if (word == "--tolerant")
+        given.wishes.tolerant = true;
+    else if (word == "--help" || word == "-h")
+        given.help = true;
+    else
+        throw WrongUsage{"no such option: " + word};
+}
+
+Given givenIn(const std::vector<std::string>& words)
+{
+    Given given;
+    bool optionsEnded = false;
+    for (std::size_t i = 0; i < words.size() && !given.help; ++i) {
+        const OptionRow* row = optionsEnded ? nullptr : optionWithValue(words[i]);
+        if (row) {
+            if (++i == words.size()) throw WrongUsage{std::string(row->name) + " without its value"};
+            row->take(given, words[i]);
+        } else if (!optionsEnded && words[i] == "--") {
+            optionsEnded = true;
+        } else if (!optionsEnded && words[i].starts_with('-')) {
+            takeFlag(given, words[i]);
+        } else {
+            given.inputs.push_back(words[i]);
+        }
+    }
+    return given;
+}
+
+bool isFolder(const std::string& path)
+{
+    return path.ends_with('/') || QFileInfo(QString::fromStdString(path)).isDir();
+}
+
+std::string absolute(const std::string& path)
+{
+    return QDir::cleanPath(QFileInfo(QString::fromStdString(path)).absoluteFilePath()).toStdString();
+}
+
+// The file itself, whatever path led to it: two names of one file are one.
+std::string identityOf(const std::string& path)
+{
+    const QFileInfo file(QString::fromStdString(path));
+    if (file.exists()) return file.canonicalFilePath().toStdString();
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? file.absoluteFilePath() : folder + "/" + file.fileName()).toStdString();
+}
+
+std::string baseName(const std::string& path)
+{
+    return QFileInfo(QString::fromStdString(path)).completeBaseName().toStdString();
+}
+
+std::string nameOf(Format format)
+{
+    for (const FormatRow& row : formats) {
+        if (row.format == format) return std::string(row.name);
+    }
+    return {};
+}
+
+// The pattern with the input's name in the place of each "%".
+std::string filledIn(const std::string& pattern, const std::string& base)
+{
+    std::string filled;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        const bool twice = pattern[i] == '%' && i + 1 < pattern.size() && pattern[i + 1] == '%';
+        if (pattern[i] != '%' || twice)
+            filled += pattern[i];
+        else
+            filled += base;
+        if (twice) ++i;
+    }
+    return filled;
+}
+
+// Only the last part of OUT is a pattern: the folders before it exist already, and may be called anything.
+std::string outputOf(const Given& given, const std::string& input, Format format)
+{
+    if (isFolder(given.out)) return given.out + "/" + baseName(input) + "." + nameOf(format);
+    const std::size_t slash = given.out.rfind('/');
+    const std::size_t name = slash == std::string::npos ? 0 : slash + 1;
+    return given.out.substr(0, name) + filledIn(given.out.substr(name), baseName(input));
+}
+
+Format formatWished(const Given& given)
+{
+    if (given.to) return *given.to;
+    if (isFolder(given.out)) throw WrongUsage{given.out + " is a folder: --to must name the format"};
+    if (const auto format = formatOf(given.out)) return *format;
+    throw WrongUsage{"no .mtd, .dxf, .png, .svg or .pdf: " + given.out};
+}
+
+// One file must not be lost to another, so all outputs differ, and none of them is an input.
+void refuseCollisions(const std::vector<Job>& jobs)
+{
+    std::set<std::string> taken;
+    for (const Job& job : jobs) taken.insert(identityOf(job.in));
+    for (const Job& job : jobs) {
+        if (taken.insert(identityOf(job.out)).second) continue;
+        throw WrongUsage{"would be written over, as an input or by another one: " + job.out};
+    }
+}
+
+} // namespace
+
+std::optional<Format> formatOf(const std::string& path)
+{
+    return formatNamed(QFileInfo(QString::fromStdString(path)).suffix().toStdString());
+}
+
+Arguments argumentsOf(const std::vector<std::string>& words)
+{
+    const Given given = givenIn(words);
+    Arguments arguments;
+    arguments.help = given.help;
+    if (given.help) return arguments;
+    if (given.inputs.empty()) throw WrongUsage{"no file to convert"};
+    if (given.out.empty()) throw WrongUsage{"no -o OUT"};
+    arguments.wishes = given.wishes;
+    arguments.wishes.format = formatWished(given);
+    for (const std::string& input : given.inputs) {
+        const std::string out = outputOf(given, input, arguments.wishes.format);
+        arguments.jobs.push_back({input, absolute(input), absolute(out)});
+    }
+    refuseCollisions(arguments.jobs);
+    return arguments;
+}
+
+} // namespace mirtane::convert

@@ -1,0 +1,50 @@
+#pragma once
+
+// What the words of the command line ask for.
+
+#include "render/canvas.h"
+
+#include <QPageSize>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace mirtane::convert {
+
+enum class Format { mtd, dxf, png, svg, pdf };
+
+// One file and what becomes of it: absolute paths, UTF-8. named is the input as the user wrote it.
+struct Job {
+    std::string named, in, out;
+};
+
+struct Wishes {
+    Format format = Format::mtd;
+    Size size{1200, 800};                        // of a picture, pixels
+    QPageSize::PageSizeId paper = QPageSize::A4; // of a page
+    std::optional<std::int16_t> layer;           // that layer alone
+    bool tolerant = false;                       // DXF files of other programs
+};
+
+struct Arguments {
+    bool help = false; // then nothing else is set
+    Wishes wishes;
+    std::vector<Job> jobs; // at least one; no output is an input or the output of another job
+};
+
+// A command line that can't be followed, in a few words.
+struct WrongUsage {
+    std::string reason;
+};
+
+// The words behind the program's name. Throws WrongUsage before any file is read or written.
+Arguments argumentsOf(const std::vector<std::string>& words);
+
+// The extension of a path if it is that of a format, in upper or lower case.
+std::optional<Format> formatOf(const std::string& path);
+
+// What --help prints.
+extern const char* const helpText;
+
+} // namespace mirtane::convert

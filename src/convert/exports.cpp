@@ -1,0 +1,172 @@
+#include "convert/exports.h"
+
+#include "dxf/dxf_writer.h"
+#include "files/drawing_file.h"
+#include "platform/qt/page_painter.h"
+#include "print/page.h"
+
+#include <QBuffer>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+
+namespace mirtane::convert {
+namespace {
+
+using Fault = std::optional<std::string>;
+
+constexpr double twipsPerInch = 1440;
+constexpr double twipsPerPoint = 20;
+constexpr int dotsPerInch = 600; // those of a PDF file, so that lines are as thin
+
+Fault put(App& app, const std::string& out, const Bytes& bytes)
+{
+    if (app.ports.disk.writeWhole(out, bytes)) return std::nullopt;
+    return "can't be written: " + out;
+}
+
+Fault put(App& app, const std::string& out, const QByteArray& bytes)
+{
+    return put(app, out, Bytes(bytes.begin(), bytes.end()));
+}
+
+// One layer is what the menus save as a selection: other objects stay out.
+Fault writeMtd(App& app, const std::string& out, const Wishes& wishes)
+{
+    return put(app, out, drawingBytes(app.s, wishes.layer ? SaveWhat::selected : SaveWhat::drawing));
+}
+
+Fault writeDxf(App& app, const std::string& out, const Wishes&)
+{
+    const DxfFile file = dxfFile(app.s.store, app.dxfScratch);
+    if (const Fault fault = put(app, out, file.bytes)) return fault;
+    if (file.whole) return std::nullopt;
+    return "a dimension has an unknown arrow style, and ends " + out;
+}
+
+void drawSelection(App& app, Printer& printer)
+{
+    app.s.pageWidth = printer.pageWidth();
+    app.s.pageHeight = printer.pageHeight();
+    app.s.printFactor = 1;
+    fittedScale(app.s, app.s.store); // sets the bounds of the selection
+    drawPage(app.s.store, pageMapping(app.s, app.s.store), app.s.pageHeight, printer);
+}
+
+Fault writePdf(App& app, const std::string& out, const Wishes& wishes)
+{
+    PdfPrinter printer{QPageSize(wishes.paper)};
+    if (!printer.beginPage(out)) return "can't be drawn as a page";
+    drawSelection(app, printer);
+    if (printer.endPage()) return std::nullopt;
+    return "can't be written: " + out;
+}
+
+std::string without(std::string_view utf8, bool (*dropped)(char))
+{
+    std::string kept(utf8);
+    std::erase_if(kept, dropped);
+    return kept;
+}
+
+bool isControl(char c)
+{
+    return (c >= 0 && c < ' ') || c == 0x7F;
+}
+
+bool endsAnAttribute(char c)
+{
+    return isControl(c) || c == '"' || c == '<' || c == '>' || c == '&';
+}
+
+bool areFinite(std::initializer_list<double> numbers)
+{
+    return std::all_of(numbers.begin(), numbers.end(), [](double n) { return std::isfinite(n); });
+}
+
+// A picture of which every reader of XML can read all: the toolkit puts names of fonts, control characters
+// and numbers that are none into the file as they are.
+class SvgPrinter : public PicturePrinter {
+  public:
+    using PicturePrinter::PicturePrinter;
+
+    void font(std::string_view name, double points) override
+    {
+        PicturePrinter::font(without(name, endsAnAttribute), points);
+    }
+    void rotatedText(double x, double y, double height, int degrees, bool underline,
+                     std::string_view utf8) override
+    {
+        if (!areFinite({x, y})) return;
+        PicturePrinter::rotatedText(x, y, height, degrees, underline, without(utf8, isControl));
+    }
+    void line(double x1, double y1, double x2, double y2) override
+    {
+        if (areFinite({x1, y1, x2, y2})) PicturePrinter::line(x1, y1, x2, y2);
+    }
+    void circle(double x, double y, double r) override
+    {
+        if (areFinite({x, y, r})) PicturePrinter::circle(x, y, r);
+    }
+    void arc(double x, double y, double r, double a1, double a2) override
+    {
+        if (areFinite({x, y, r})) PicturePrinter::arc(x, y, r, a1, a2);
+    }
+    void point(double x, double y) override
+    {
+        if (areFinite({x, y})) PicturePrinter::point(x, y);
+    }
+};
+
+Fault writeSvg(App& app, const std::string& out, const Wishes& wishes)
+{
+    const QSizeF twips = QPageSize(wishes.paper).size(QPageSize::Point) * twipsPerPoint;
+    const QSize dots = (twips * (dotsPerInch / twipsPerInch)).toSize();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setResolution(dotsPerInch);
+    svg.setSize(dots);
+    svg.setViewBox(QRect(QPoint(0, 0), dots));
+    svg.setTitle(QStringLiteral("Mirtane 4.00"));
+    // A page is a few thousand twips wide.
+    SvgPrinter printer(svg, static_cast<float>(twips.width()), static_cast<float>(twips.height()),
+                       dotsPerInch / twipsPerInch);
+    if (!printer.beginPage({})) return "can't be drawn as a page";
+    drawSelection(app, printer);
+    if (!printer.endPage()) return "can't be drawn as a page";
+    return put(app, out, bytes);
+}
+
+Fault writePng(App& app, const std::string& out, const Surface& surface)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!surface.shown().save(&buffer, "PNG")) return "can't be made a picture";
+    return put(app, out, bytes);
+}
+
+struct WriterRow {
+    Format format;
+    Fault (*write)(App& app, const std::string& out, const Wishes& wishes);
+};
+
+constexpr WriterRow writers[] = {
+    {Format::mtd, writeMtd}, {Format::dxf, writeDxf}, {Format::svg, writeSvg}, {Format::pdf, writePdf}};
+
+} // namespace
+
+Fault exportTo(const std::string& out, const Wishes& wishes, App& app, const Surface& surface)
+{
+    if (wishes.format == Format::png) return writePng(app, out, surface);
+    changeStat(app.s.store, Stat::on, Stat::sel);
+    for (const WriterRow& row : writers) {
+        if (row.format == wishes.format) return row.write(app, out, wishes);
+    }
+    return "can't be written: " + out;
+}
+
+} // namespace mirtane::convert

@@ -1,0 +1,399 @@
+#include "app/print_dialog.h"
+
+#include "desk.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr ControlId typed = "frmprintset.Text1"_c;
+constexpr ControlId fitted = "frmprintset.Text2"_c;
+constexpr ControlId printButton = "frmprintset.Command1"_c;
+constexpr ControlId cancelButton = "frmprintset.Command2"_c;
+constexpr ControlId dialog = "frmprintset"_c;
+
+// Counts pages and can be made to fail.
+class TestPrinter : public RecordingPrinter {
+  public:
+    using RecordingPrinter::RecordingPrinter;
+
+    bool printsToFile() const override { return toFile; }
+    void setup() override { ++setups; }
+    bool beginPage(const std::string& file) override
+    {
+        ++pages;
+        lastFile = file;
+        return RecordingPrinter::beginPage(file) && !refusesPages;
+    }
+    bool endPage() override
+    {
+        ++ends;
+        return RecordingPrinter::endPage() && !refusesEnds;
+    }
+
+    bool toFile = false, refusesPages = false, refusesEnds = false;
+    int pages = 0, ends = 0, setups = 0;
+    std::string lastFile;
+};
+
+// The program at its start, with a printer.
+class Office {
+  public:
+    explicit Office(float width = 12240, float height = 15840) : printer(width, height)
+    {
+        folders.folders = {"/", "/home", fake::home};
+        pic1.setScale({0, 0, 4800, 3200});
+        shell.start();
+        pic1.takeOps();
+    }
+
+    void add(const EntityRecord& r)
+    {
+        const std::int32_t slot = s.store.entCount++;
+        s.store.setRecord(slot, r);
+        s.store.setStat(slot, Stat::sel);
+    }
+
+    // Fits at 12 drawing units to the inch, ten twips to the world unit.
+    void addLine()
+    {
+        EntityRecord r;
+        r.kind = kind::line;
+        r.p2 = {1152, 0};
+        r.color = 0xFFFFFF;
+        add(r);
+    }
+
+    void addPoint()
+    {
+        EntityRecord r;
+        r.kind = kind::point;
+        r.p1 = {50, 50};
+        add(r);
+    }
+
+    void ask() { shell.click("picset"_c); }
+    void type(std::string_view keys)
+    {
+        for (const char c : keys) shell.keyPress(static_cast<unsigned char>(c)); // ASCII
+    }
+    void typeOver(std::string_view keys)
+    {
+        shell.click(typed);
+        type(keys);
+    }
+    void press(ControlId id) { shell.click(id); }
+    const std::string& text(ControlId id) const { return session->controls[id].text; }
+    bool isOpen() const { return session->controls[dialog].visible; }
+    Stat stat() const { return session->store.stat[EntityStore::at(1)]; }
+    double scale() const { return s.printScale; }
+
+    fake::MemoryDisk disk;
+    fake::MemoryFolders folders{disk};
+    fake::MemorySettings settings;
+    std::unique_ptr<Session> session = std::make_unique<Session>();
+    Session& s = *session;
+    RecordingCanvas pic1{Size{1200, 800}};
+    TestPrinter printer;
+    Shell shell{*session, pic1, Ports{disk, folders, settings, fake::home, &printer}};
+};
+
+TEST(PrintDialog, WithNothingSelectedSaysSoAndStaysAway)
+{
+    Office office;
+    office.s.printFactor = 0.25F;
+    office.s.stepNo = 2;
+    office.ask();
+    EXPECT_EQ(office.text("entry"_c), "Nothing selected!");
+    EXPECT_FALSE(office.isOpen());
+    EXPECT_EQ(office.s.stepNo, 0);
+    EXPECT_EQ(office.s.printFactor, 1);
+    EXPECT_EQ(office.printer.pages, 0);
+}
+
+TEST(PrintDialog, ShowsTheFittedValueInBothBoxes)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    EXPECT_TRUE(office.isOpen());
+    EXPECT_EQ(office.text(typed), "12");
+    EXPECT_EQ(office.text(fitted), "12");
+    EXPECT_EQ(office.s.controls.focus, typed);
+    EXPECT_EQ(office.s.controls["frmprintset.Label1"_c].caption,
+              "The fitted scale value is displayed below. Click on the text box to enter a new value. "
+              "This value must be greater than the fitted value.");
+    EXPECT_EQ(office.printer.pages, 0);
+}
+
+struct FittedRow {
+    float width;
+    const char* shown;
+};
+
+TEST(PrintDialog, ShowsSevenDigitsWithAPoint)
+{
+    const FittedRow rows[] = {{770, "8.020833"}, {1153, "12.01042"}, {96, "1"}, {1.2e10F, "1.25E+08"}};
+    for (const FittedRow& row : rows) {
+        Office office;
+        EntityRecord r;
+        r.kind = kind::line;
+        r.p2 = {row.width, 0};
+        office.add(r);
+        office.ask();
+        EXPECT_EQ(office.text(typed), row.shown);
+        EXPECT_EQ(office.text(fitted), row.shown);
+    }
+}
+
+TEST(PrintDialog, TheFittedValuePrintsAtTheFittedSize)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.pic1.takeOps();
+    office.press(printButton);
+    EXPECT_EQ(office.printer.pages, 1);
+    EXPECT_EQ(office.printer.ends, 1);
+    EXPECT_EQ(office.s.printFactor, 1);
+    EXPECT_NEAR(office.scale(), 10, 1e-5);
+    EXPECT_FALSE(office.isOpen());
+    EXPECT_EQ(office.stat(), Stat::on);
+    EXPECT_EQ(office.s.controls.focus, "pic1"_c);
+    EXPECT_FALSE(fake::marks(fake::opsOn(office.pic1)).empty()) << "the surface was not repainted";
+}
+
+TEST(PrintDialog, TwiceTheValueHalvesThePicture)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.typeOver("24");
+    office.press(printButton);
+    EXPECT_FLOAT_EQ(office.s.printFactor, 0.5F);
+    EXPECT_NEAR(office.scale(), 5, 1e-5);
+    EXPECT_EQ(office.printer.pages, 1);
+}
+
+TEST(PrintDialog, AFactorNeverCarriesOverToTheNextRun)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.typeOver("24");
+    office.press(printButton);
+    office.s.store.setStat(1, Stat::sel);
+    office.ask();
+    EXPECT_EQ(office.s.printFactor, 1);
+    EXPECT_EQ(office.text(typed), "12");
+    office.press(printButton);
+    EXPECT_NEAR(office.scale(), 10, 1e-5);
+}
+
+TEST(PrintDialog, RefusesSilentlyWhatIsEmptyOrBelowTheFittedValue)
+{
+    for (const char* keys : {"", "11.99999", "0", "-24", ".", "-"}) {
+        Office office;
+        office.addLine();
+        office.ask();
+        const std::string entry = office.text("entry"_c);
+        office.typeOver(keys);
+        office.press(printButton);
+        EXPECT_TRUE(office.isOpen()) << keys;
+        office.type("\r");
+        EXPECT_TRUE(office.isOpen()) << keys;
+        EXPECT_EQ(office.printer.pages, 0) << keys;
+        EXPECT_EQ(office.stat(), Stat::sel) << keys;
+        EXPECT_EQ(office.text("entry"_c), entry) << keys;
+    }
+}
+
+TEST(PrintDialog, AClickOnTheBoxEmptiesItAndNotTheFittedValue)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.press(typed);
+    EXPECT_EQ(office.text(typed), "");
+    EXPECT_EQ(office.text(fitted), "12");
+}
+
+TEST(PrintDialog, KeysThatAreNoPartOfANumberAreDroppedAndACommaIsAPoint)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.typeOver("a-1x2, 5e+3");
+    EXPECT_EQ(office.text(typed), "-12.53");
+    office.type("\b\b");
+    EXPECT_EQ(office.text(typed), "-12.");
+}
+
+TEST(PrintDialog, EnterPrintsAsTheButtonDoes)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.typeOver("48\r");
+    EXPECT_EQ(office.printer.pages, 1);
+    EXPECT_FALSE(office.isOpen());
+    EXPECT_NEAR(office.scale(), 2.5, 1e-5);
+}
+
+TEST(PrintDialog, CancelAndTheCloseButtonDropTheSelection)
+{
+    for (const bool byFrame : {false, true}) {
+        Office office;
+        office.addLine();
+        office.ask();
+        office.pic1.takeOps();
+        if (byFrame) {
+            office.shell.closeForm(dialog);
+        } else {
+            office.press(cancelButton);
+        }
+        EXPECT_FALSE(office.isOpen());
+        EXPECT_EQ(office.stat(), Stat::on);
+        EXPECT_EQ(office.printer.pages, 0);
+        EXPECT_FALSE(fake::marks(fake::opsOn(office.pic1)).empty()) << "the surface was not repainted";
+    }
+}
+
+TEST(PrintDialog, ASinglePointPrintsAtTheLastScaleWhichHoldsForAFactorOfOne)
+{
+    Office office;
+    office.addPoint();
+    office.ask();
+    EXPECT_EQ(office.text(typed), "0");
+    office.press(printButton);
+    EXPECT_EQ(office.printer.pages, 1);
+    EXPECT_EQ(office.s.printFactor, 1); // 0/0 leaves it
+    EXPECT_EQ(office.scale(), 1);
+}
+
+TEST(PrintDialog, APrinterOfNoSizePrintsNothingYetDropsTheSelection)
+{
+    Office office(0, 0);
+    office.addLine();
+    office.ask();
+    office.typeOver("1000");
+    office.pic1.takeOps();
+    office.press(printButton);
+    EXPECT_EQ(office.printer.pages, 0);
+    EXPECT_EQ(office.stat(), Stat::on);
+    EXPECT_FALSE(office.isOpen());
+    EXPECT_FALSE(fake::marks(fake::opsOn(office.pic1)).empty()) << "the surface was not repainted";
+}
+
+TEST(PrintDialog, WithoutAPrinterNothingFails)
+{
+    fake::Desk desk;
+    desk.drawLine(100, 100, 1000, 100);
+    desk.s.store.setStat(1, Stat::sel);
+    desk.press("prtstp"_c);
+    desk.press("picset"_c);
+    setText(desk.s.controls[typed], "1000");
+    desk.press(printButton);
+    EXPECT_EQ(desk.stat(1), Stat::on);
+}
+
+TEST(PrintDialog, AFilePageIsNamedAfterTheDrawingAndShown)
+{
+    Office office;
+    office.printer.toFile = true;
+    office.s.drawingName = "house.mtd";
+    office.addLine();
+    office.ask();
+    office.press(printButton);
+    EXPECT_EQ(office.printer.lastFile, std::string(fake::home) + "/house.pdf");
+    EXPECT_EQ(office.text("entry"_c), "house.pdf");
+}
+
+TEST(PrintDialog, AFilePageThatFailsIsToldAndLosesNothing)
+{
+    for (const bool atEnd : {false, true}) {
+        Office office;
+        office.printer.toFile = true;
+        (atEnd ? office.printer.refusesEnds : office.printer.refusesPages) = true;
+        office.addLine();
+        office.ask();
+        office.press(printButton);
+        EXPECT_EQ(office.text("entry"_c), "File not saved!");
+        EXPECT_EQ(office.stat(), Stat::on);
+        EXPECT_FALSE(office.isOpen());
+    }
+}
+
+TEST(PrintDialog, PaperIsNotNamedInTheEntry)
+{
+    Office office;
+    office.addLine();
+    setText(office.s.controls["entry"_c], "as it was");
+    office.ask();
+    office.press(printButton);
+    EXPECT_EQ(office.text("entry"_c), "as it was");
+}
+
+TEST(PrintDialog, PrinterSetupLeavesThePageAsItWasAtTheStart)
+{
+    Office office;
+    office.addLine();
+    office.press("prtstp"_c);
+    EXPECT_EQ(office.printer.setups, 1);
+    EXPECT_EQ(office.s.pageWidth, 12240);
+    EXPECT_EQ(office.s.pageHeight, 15840);
+}
+
+TEST(PrintDialog, ThePictureIsThePageThatComesOut)
+{
+    for (const char* value : {"12", "17.5", "100000"}) {
+        Office office;
+        office.addLine();
+        office.addPoint();
+        office.ask();
+        office.typeOver(value);
+        std::vector<PrintOp> picture = pagePreview(office.s);
+        office.type("\r");
+        std::vector<PrintOp> page = office.printer.printed();
+        ASSERT_FALSE(page.empty()) << value;
+        EXPECT_EQ(page.back().name, "endPage");
+        page.pop_back();
+        EXPECT_EQ(picture, page) << value;
+    }
+}
+
+TEST(PrintDialog, ThePictureOfASinglePointIsThePageThatComesOut)
+{
+    Office office;
+    office.s.printScale = 8;
+    office.addPoint();
+    office.ask();
+    office.typeOver("4");
+    const std::vector<PrintOp> picture = pagePreview(office.s);
+    EXPECT_EQ(office.s.printScale, 8); // looking changes nothing
+    office.type("\r");
+    std::vector<PrintOp> page = office.printer.printed();
+    page.pop_back();
+    EXPECT_EQ(picture, page);
+}
+
+TEST(PrintDialog, ThePictureIsEmptyWhileTheValueIsRefused)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.typeOver("");
+    EXPECT_THAT(pagePreview(office.s), IsEmpty());
+    office.type("11");
+    EXPECT_THAT(pagePreview(office.s), IsEmpty());
+    office.type("0");
+    EXPECT_FALSE(pagePreview(office.s).empty());
+}
+
+} // namespace
+} // namespace mirtane

@@ -1,0 +1,249 @@
+#include "platform/qt/page_painter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+constexpr float pageWidth = 12240;
+constexpr float pageHeight = 15840;
+
+QByteArray contents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A letter page as a picture with so many pixels to the inch.
+class Picture {
+  public:
+    explicit Picture(int perInch)
+        : image_(static_cast<int>(8.5 * perInch), 11 * perInch,
+                 QImage::Format_RGB32), // whole for an even number
+          pixelsPerTwip_(perInch / 1440.0)
+    {
+        image_.fill(Qt::white);
+    }
+
+    template <class Draw> void draw(Draw draw)
+    {
+        PicturePrinter printer(image_, pageWidth, pageHeight, pixelsPerTwip_);
+        ASSERT_TRUE(printer.beginPage({}));
+        draw(printer);
+        ASSERT_TRUE(printer.endPage());
+    }
+
+    // What is dark, in twips.
+    QRectF dark() const
+    {
+        QRect found;
+        for (int y = 0; y < image_.height(); ++y) {
+            for (int x = 0; x < image_.width(); ++x) {
+                if (qGray(image_.pixel(x, y)) < 160) found |= QRect(x, y, 1, 1);
+            }
+        }
+        const double twips = 1 / pixelsPerTwip_;
+        return {found.x() * twips, found.y() * twips, found.width() * twips, found.height() * twips};
+    }
+
+  private:
+    QImage image_;
+    double pixelsPerTwip_;
+};
+
+TEST(PagePicture, HasEverythingWhereThePageHasIt)
+{
+    Picture picture(144); // ten twips to the pixel
+    picture.draw([](Printer& p) {
+        p.pen(0, 1);
+        p.line(1000, 2000, 5000, 2000);
+        p.circle(6000, 8000, 1000);
+    });
+    const QRectF dark = picture.dark();
+    EXPECT_NEAR(dark.left(), 1000, 15);
+    EXPECT_NEAR(dark.right(), 7000, 15);
+    EXPECT_NEAR(dark.top(), 2000, 15);
+    EXPECT_NEAR(dark.bottom(), 9000, 15);
+}
+
+TEST(PagePicture, AnArcRunsCounterClockwise)
+{
+    Picture picture(144);
+    picture.draw([](Printer& p) {
+        p.pen(0, 1);
+        p.arc(6000, 8000, 1000, 0, 1.5707963);
+    });
+    const QRectF dark = picture.dark();
+    EXPECT_NEAR(dark.left(), 6000, 15);
+    EXPECT_NEAR(dark.right(), 7000, 15);
+    EXPECT_NEAR(dark.top(), 7000, 15);
+    EXPECT_NEAR(dark.bottom(), 8000, 15);
+}
+
+TEST(PagePicture, AnArcMayPassThroughAngleNought)
+{
+    Picture picture(144);
+    picture.draw([](Printer& p) {
+        p.pen(0, 1);
+        p.arc(6000, 8000, 1000, 4.712389, 1.5707963);
+    });
+    const QRectF dark = picture.dark();
+    EXPECT_NEAR(dark.left(), 6000, 15);
+    EXPECT_NEAR(dark.right(), 7000, 15);
+    EXPECT_NEAR(dark.top(), 7000, 15);
+    EXPECT_NEAR(dark.bottom(), 9000, 15);
+}
+
+// The widest pen is 14 dots of 600 to the inch: 34 twips, one and a half pixels of a small picture.
+TEST(PagePicture, APenIsAsWideBesideThePageAsItIsOnPaper)
+{
+    Picture picture(60);
+    picture.draw([](Printer& p) {
+        p.pen(0, 14);
+        p.line(1000, 6000, 11000, 6000);
+    });
+    EXPECT_LE(picture.dark().height(), 72) << "three pixels of 24 twips at the most";
+}
+
+TEST(PagePicture, TextIsAsWideBesideThePageAsItIsOnPaper)
+{
+    const auto words = [](Printer& p) {
+        p.font("Garamond", 8);
+        p.text(1440, 1440, "Mirtane 4.00 and a longer line of words than that, to be measured");
+    };
+    Picture large(600);
+    large.draw(words);
+    Picture small(44);
+    small.draw(words);
+    EXPECT_NEAR(small.dark().width() / large.dark().width(), 1, 0.05);
+}
+
+TEST(PagePicture, TextBelowOnePixelStillLeavesItsTrace)
+{
+    Picture picture(36);
+    picture.draw([](Printer& p) {
+        p.font("Serif", 1.8);
+        for (int row = 0; row < 20; ++row)
+            p.rotatedText(1440, 1440 + 20 * row, 36, 0, false, "MMMMMMMMMMMMMMMM");
+    });
+    EXPECT_GT(picture.dark().width(), 200);
+}
+
+TEST(PagePicture, TextTurnsCounterClockwiseAboutItsUpperLeft)
+{
+    Picture picture(144);
+    picture.draw([](Printer& p) {
+        p.font("Serif", 36);
+        p.rotatedText(6000, 8000, 720, 90, false, "HHHH");
+    });
+    const QRectF dark = picture.dark();
+    EXPECT_GT(dark.left(), 5990);
+    EXPECT_LT(dark.right(), 6000 + 1200);
+    EXPECT_LT(dark.bottom(), 8010);
+    EXPECT_GT(dark.height(), 1440);
+}
+
+class PdfFile : public testing::Test {
+  protected:
+    static void drawLine(Printer& printer)
+    {
+        printer.pen(0, 1);
+        printer.line(360, 7920, 11880, 7920);
+    }
+
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(QStringLiteral("house.pdf"));
+};
+
+TEST_F(PdfFile, KnowsItsPaperInTwips)
+{
+    const PdfPrinter letter{QPageSize(QPageSize::Letter)};
+    EXPECT_EQ(letter.pageWidth(), 12240);
+    EXPECT_EQ(letter.pageHeight(), 15840);
+    EXPECT_TRUE(letter.printsToFile());
+    const PdfPrinter a4{QPageSize(QPageSize::A4)};
+    EXPECT_NEAR(a4.pageWidth(), 11906, 10);
+    EXPECT_NEAR(a4.pageHeight(), 16838, 10);
+    EXPECT_GT(PdfPrinter().pageWidth(), 0);
+}
+
+TEST_F(PdfFile, IsWrittenWhenThePageEndsAndNotBefore)
+{
+    PdfPrinter printer{QPageSize(QPageSize::Letter)};
+    ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+    drawLine(printer);
+    EXPECT_FALSE(QFile::exists(path_));
+    EXPECT_TRUE(printer.endPage());
+    const QByteArray bytes = contents(path_);
+    EXPECT_TRUE(bytes.startsWith("%PDF-"));
+    EXPECT_TRUE(bytes.contains("/MediaBox [0 0 612"));
+    EXPECT_TRUE(bytes.contains("/Count 1"));
+}
+
+TEST_F(PdfFile, TakesThePlaceOfTheOneBefore)
+{
+    PdfPrinter printer{QPageSize(QPageSize::Letter)};
+    for (int run = 0; run < 2; ++run) {
+        ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+        drawLine(printer);
+        ASSERT_TRUE(printer.endPage());
+        EXPECT_TRUE(contents(path_).contains("/Count 1")) << run;
+    }
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(PdfFile, ThatCannotBeWrittenIsToldAndTheNextPageIsPrinted)
+{
+    PdfPrinter printer{QPageSize(QPageSize::Letter)};
+    const std::string nowhere = folder_.filePath(QStringLiteral("none/house.pdf")).toStdString();
+    const bool begun = printer.beginPage(nowhere);
+    if (begun) drawLine(printer);
+    EXPECT_FALSE(begun && printer.endPage());
+    ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+    drawLine(printer);
+    EXPECT_TRUE(printer.endPage());
+    EXPECT_TRUE(contents(path_).startsWith("%PDF-"));
+}
+
+// The widest pen is 14 dots of the page, and a point made with it is a dot as large.
+TEST_F(PdfFile, APointIsAsLargeAsThePenIsWide)
+{
+    const QString toPicture = QStandardPaths::findExecutable(QStringLiteral("pdftoppm"));
+    if (toPicture.isEmpty()) GTEST_SKIP() << "nothing here turns a PDF file into a picture";
+    PdfPrinter printer{QPageSize(QPageSize::Letter)};
+    ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+    printer.pen(0, 14);
+    printer.point(1440, 1440);
+    ASSERT_TRUE(printer.endPage());
+    const QString picture = folder_.filePath(QStringLiteral("page"));
+    QProcess::execute(toPicture, {"-r", "600", "-x", "580", "-y", "580", "-W", "40", "-H", "40", "-png",
+                                  "-singlefile", path_, picture});
+    const QImage part(picture + ".png");
+    ASSERT_FALSE(part.isNull());
+    int dark = 0;
+    for (int y = 0; y < part.height(); ++y) {
+        for (int x = 0; x < part.width(); ++x) dark += qGray(part.pixel(x, y)) < 128 ? 1 : 0;
+    }
+    EXPECT_GT(dark, 14 * 14 / 2);
+    EXPECT_LT(dark, 16 * 16);
+}
+
+TEST_F(PdfFile, TakesNamesOfAnyLanguage)
+{
+    const QString path = folder_.filePath(QStringLiteral("H\u00e4user \u6771.pdf"));
+    PdfPrinter printer{QPageSize(QPageSize::A4)};
+    ASSERT_TRUE(printer.beginPage(path.toStdString()));
+    drawLine(printer);
+    ASSERT_TRUE(printer.endPage());
+    EXPECT_TRUE(QFile::exists(path));
+}
+
+} // namespace
+} // namespace mirtane
