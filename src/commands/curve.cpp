@@ -12,15 +12,17 @@
 namespace mirtane {
 namespace {
 
-// Readies the tangent for the next arc: the markers lie on the normal of the last arc at the junction, one of them
-// at its centre, and curveFlip says which of its ends the junction is.
+// Readies the tangent for the next arc: the markers lie on the normal of the last arc at the junction, one of
+// them at its centre, and curveFlip says which of its ends the junction is.
 void joinNextArc(Session& s)
 {
     const Point junction = s.pickLast;
     const Point centre = s.ptF;
     const double d = distance(centre, junction);
-    const double ux = quotient(centre.x - junction.x, d);
-    const double uy = quotient(junction.y - centre.y, d);
+    double ux = 0; // a centre on the junction has no direction, and both markers are the junction
+    double uy = 0;
+    keep(ux, quotient(centre.x - junction.x, d));
+    keep(uy, quotient(junction.y - centre.y, d));
     keep(s.bisectorA.x, junction.x - d * ux);
     keep(s.bisectorA.y, junction.y + d * uy);
     keep(s.bisectorB.x, junction.x + d * ux);

@@ -68,9 +68,7 @@ float centreOffset(Point p1, Point p2, Point p3, float chord)
 
 BisectorMarkers bisectorMarkers(Point p1, Point p2, const BisectorMarkers& held)
 {
-    const double length = distance(p1, p2);
-    if (length == 0) return held;
-    const float chord = single(length);
+    const float chord = single(distance(p1, p2));
     const Unit u = unitFrom(p1, p2, chord);
     const Point middle = movedAlong(p1, chord / 2, u);
     return {movedAcross(middle, chord, u, held.a), movedAcross(middle, -chord, u, held.b)};

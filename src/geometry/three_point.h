@@ -12,7 +12,7 @@ struct BisectorMarkers {
     Point a, b;
 };
 
-// The markers of the chord p1 p2. With the points equal, held comes back.
+// The markers of the chord p1 p2; both are p1 where that is p2 too. A coordinate that faults is that of held.
 BisectorMarkers bisectorMarkers(Point p1, Point p2, const BisectorMarkers& held);
 
 struct ThreePointCircle {

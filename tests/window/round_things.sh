@@ -4,7 +4,7 @@ set -eu
 . "$(dirname "$0")/_window.sh"
 
 drawing="165 28 643 646"
-line="27 69" circle_two="64 69" circle_three="101 69" arc_two="138 69"
+circle_two="64 69" circle_three="101 69" arc_two="138 69"
 arc_three="27 106" curve="64 106" ellipse="101 106"
 
 # choose X Y PROMPT: presses the button of a function, which then asks for its first point.
