@@ -5,9 +5,10 @@
 #include "edit_bench.h"
 #include "hatch_bench.h"
 #include "measures.h"
+#include "print_bench.h"
 #include "snap_bench.h"
-#include "text_bench.h"
 #include "table.h"
+#include "text_bench.h"
 
 #include <QGuiApplication>
 
@@ -47,13 +48,15 @@ int main(int argc, char* argv[])
     const auto dxf = std::make_unique<DxfBench>();
     registerDxfMeasures(*dxf);
     registerTextMeasures();
+    registerPrintMeasures();
     const auto hatches = std::make_unique<HatchBench>();
     registerHatchMeasures(*hatches);
     Collector collector;
     std::cout << "60,000 lines on 1600 x 1000 pixels; medians. This takes a quarter of a minute or more.\n"
               << std::flush;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    for (const auto rows : {comparisons(), snapComparisons(), editComparisons(), dxfComparisons(), textComparisons(), hatchComparisons()}) {
+    for (const auto rows : {comparisons(), snapComparisons(), editComparisons(), dxfComparisons(),
+                            textComparisons(), hatchComparisons(), printComparisons()}) {
         collector.print(std::cout, rows);
     }
     return 0;

@@ -4,6 +4,7 @@
 #include "platform/qt/fonts.h"
 
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QPdfWriter>
 
@@ -132,6 +133,16 @@ bool PagePainter::endPage()
     return painter_.end();
 }
 
+WaitPointer::WaitPointer()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+WaitPointer::~WaitPointer()
+{
+    QGuiApplication::restoreOverrideCursor();
+}
+
 PdfPrinter::PdfPrinter() : PdfPrinter(paperOfCountry()) {}
 
 PdfPrinter::PdfPrinter(const QPageSize& paper)
@@ -141,6 +152,7 @@ PdfPrinter::PdfPrinter(const QPageSize& paper)
 
 bool PdfPrinter::beginPage(const std::string& file)
 {
+    wait_.emplace();
     file_ = file;
     bytes_.clear();
     auto buffer = std::make_unique<QBuffer>(&bytes_);
@@ -161,6 +173,7 @@ bool PdfPrinter::endPage()
     const bool drawn = PagePainter::endPage();
     device_.reset();
     buffer_.reset();
+    wait_.reset();
     return drawn && QtDisk().writeWhole(file_, Bytes(bytes_.begin(), bytes_.end()));
 }
 

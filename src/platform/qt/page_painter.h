@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <memory>
+#include <optional>
 
 namespace mirtane {
 
@@ -47,6 +48,15 @@ class PagePainter : public Printer {
     QPainter painter_;
 };
 
+// The pointer is an hourglass while one of these lives.
+class WaitPointer {
+  public:
+    WaitPointer();
+    ~WaitPointer();
+    WaitPointer(const WaitPointer&) = delete;
+    WaitPointer& operator=(const WaitPointer&) = delete;
+};
+
 // The page as a PDF file.
 class PdfPrinter : public PagePainter {
   public:
@@ -65,6 +75,7 @@ class PdfPrinter : public PagePainter {
     QByteArray bytes_;
     std::unique_ptr<QPagedPaintDevice> device_;
     std::unique_ptr<QIODevice> buffer_;
+    std::optional<WaitPointer> wait_;
 };
 
 // The page as a picture, on whatever the painter stands on.

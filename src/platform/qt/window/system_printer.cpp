@@ -36,8 +36,18 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     void setup() override { QPrintDialog(device.get()).exec(); }
     bool beginPage(const std::string&) override
     {
+        wait_.emplace();
         return beginOn(*device, device->resolution() / twipsPerInch);
     }
+    bool endPage() override
+    {
+        const bool done = PagePainter::endPage();
+        wait_.reset();
+        return done;
+    }
+
+  private:
+    std::optional<WaitPointer> wait_;
 };
 
 } // namespace
