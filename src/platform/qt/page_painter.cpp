@@ -4,6 +4,7 @@
 #include "platform/qt/fonts.h"
 
 #include <QBuffer>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QPdfWriter>
