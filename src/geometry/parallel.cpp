@@ -22,8 +22,11 @@ ParallelLine parallelTowards(Point a, Point b, Point towards, double distance)
 
 Crossings crossParallels(const ParallelLine& a, const ParallelLine& b)
 {
+    // Two normals of one direction differ in their last digits when their lines differ in length.
+    constexpr double asGoodAsParallel = 1e-12;
     const double lean = a.acrossX * b.acrossY - a.acrossY * b.acrossX;
     Crossings found;
+    if (std::abs(lean) < asGoodAsParallel) return found;
     found.add(quotient(a.off * b.acrossY - b.off * a.acrossY, lean),
               quotient(b.off * a.acrossX - a.off * b.acrossX, lean));
     return found;

@@ -92,5 +92,20 @@ TEST(PositionAlong, IsThatOfTheFootAndHasASign)
     EXPECT_TRUE(std::isnan(positionAlong({6, 8}, {3, 4}, {3, 4})));
 }
 
+TEST(CrossParallels, LinesOfOneDirectionDoNotMeetWhateverTheirLengths)
+{
+    const Point pairs[][4] = {
+        {{0, 0}, {3, 1}, {0, 10}, {9, 13}},
+        {{100, 100}, {400, 200}, {100, 300}, {1000, 600}},
+        {{0, 0}, {7, 3}, {5, 50}, {12, 53}},
+        {{0, 0}, {0, 9}, {4, 0}, {4, 1}},
+    };
+    for (const auto& p : pairs) {
+        const ParallelLine a = parallelTowards(p[0], p[1], p[2], 2);
+        const ParallelLine b = parallelTowards(p[2], p[3], p[0], 2);
+        EXPECT_EQ(crossParallels(a, b).count, 0) << p[1].x << " " << p[3].x;
+    }
+}
+
 } // namespace
 } // namespace mirtane
