@@ -170,7 +170,7 @@ void plainTake(State& state, Bench& b)
 
 void openToPicture(State& state, Bench& b)
 {
-    App app{b.session, b.surface, b.ports};
+    App app{b.session, b.surface, b.ports, b.dxfScratch};
     for (auto _ : state) {
         const std::optional<Bytes> file = b.disk.read(b.file);
         expect(file.has_value(), notRead, state);

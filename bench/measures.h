@@ -33,6 +33,7 @@ class Bench {
     QtFolders folders;
     NoSettings settings;
     Ports ports{disk, folders, settings, ""};
+    DxfScratch dxfScratch;
     Session session;
     Surface surface;
     Shell shell{session, surface, ports};
