@@ -61,7 +61,7 @@ constexpr DispatchRow rows[] = {
     {"Measure Area", measureAreaStep, boundaryBand},
     {"Place Text", placeTextStep, placeTextBand},
     {"Text Edit", textEditStep, nullptr},
-    {"Measure Distance", measureDistanceStep, measureDistanceBand},
+    {"Measure Distance", measureDistanceStep, lineBand},
     {"Ortho Dimension", linearDimensionStep, linearDimensionBand},
     {"Radial Dimension", radialDimensionStep, radialDimensionBand},
     {"Angular Dimension", angularDimensionStep, angularDimensionBand},

@@ -23,9 +23,4 @@ void measureDistanceStep(Session& s, Canvas& pic1)
     s.stepNo = 1;
 }
 
-void measureDistanceBand(Session& s, Canvas& pic1)
-{
-    lineBand(s, pic1);
-}
-
 } // namespace mirtane

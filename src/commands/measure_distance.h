@@ -5,8 +5,8 @@
 
 namespace mirtane {
 
-// "Measure Distance": the steps of "Line", but the distance is shown in entry and nothing is stored.
+// "Measure Distance": the steps of "Line", but the distance is shown in entry and nothing is stored. Its
+// band is that of "Line".
 void measureDistanceStep(Session& s, Canvas& pic1);
-void measureDistanceBand(Session& s, Canvas& pic1);
 
 } // namespace mirtane

@@ -4,6 +4,7 @@
 #include "render/painters.h"
 
 #include "geometry/angle.h"
+#include "geometry/arc.h"
 #include "geometry/fault.h"
 #include "render/chords.h"
 
@@ -40,12 +41,6 @@ void drawCircleChords(Canvas& pic1, const View& view, Point centre, float r)
 {
     const std::int32_t count = chordCount(2 * r * halfTurn, viewHeight(pic1) / 6, leastCircleChords);
     drawChords(pic1, view, {centre, movedRight(centre, r), r, 0, fullTurn, count});
-}
-
-double sweepOf(double a1, double a2)
-{
-    const double sweep = a2 - a1;
-    return sweep < 0 ? sweep + fullTurn : sweep;
 }
 
 } // namespace
@@ -91,11 +86,11 @@ void paintArc(Canvas& pic1, const View& view, Point centre, Point start, float r
         pic1.arc(centre.x, centre.y, r, a1, a2);
         return;
     }
-    const double sweep = sweepOf(a1, a2);
-    const double length = 2 * r * halfTurn * (sweep / fullTurn);
+    const double covered = sweep(a1, a2);
+    const double length = 2 * r * halfTurn * (covered / fullTurn);
     std::int32_t count = 0;
     keep(count, quotient(length, height / 16));
-    drawChords(pic1, view, {centre, start, r, a1, sweep, std::max(count, leastArcChords)});
+    drawChords(pic1, view, {centre, start, r, a1, covered, std::max(count, leastArcChords)});
 }
 
 void paintEllipse(Canvas& pic1, const View& view, Point axisEnd, Point centre, float ratio)
@@ -131,9 +126,9 @@ void paintArcImmediate(Canvas& pic1, const View& view, Point centre, Point start
         pic1.arc(centre.x, centre.y, r, a1, a2);
         return;
     }
-    const double sweep = sweepOf(a1, a2);
-    const std::int32_t count = chordCount(2 * r * sweep, height / 6, leastArcChords);
-    drawChords(pic1, view, {centre, start, r, a1, sweep, count});
+    const double covered = sweep(a1, a2);
+    const std::int32_t count = chordCount(2 * r * covered, height / 6, leastArcChords);
+    drawChords(pic1, view, {centre, start, r, a1, covered, count});
 }
 
 } // namespace mirtane

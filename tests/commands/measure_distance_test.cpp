@@ -1,5 +1,7 @@
 #include "commands/measure_distance.h"
 
+#include "commands/line.h"
+
 #include "text_desk.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +12,7 @@ namespace {
 using fake::Ops;
 
 struct MeasureDistance : testing::Test, fake::TextDesk {
-    MeasureDistance() : TextDesk("Measure Distance", measureDistanceStep, measureDistanceBand) {}
+    MeasureDistance() : TextDesk("Measure Distance", measureDistanceStep, lineBand) {}
 
     std::string shown() const { return s.controls["entry"_c].text; }
 };
