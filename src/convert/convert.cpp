@@ -23,6 +23,9 @@ class NoSettings : public SettingsStore {
     void write(const std::map<std::string, std::string>&) override {}
 };
 
+// The picture that no one looks at when a file of another kind is made: small, since it costs memory and time.
+constexpr Size unseen{12, 8};
+
 // A program of its own for each file, so that none of them sees what another one left behind.
 struct Desk {
     explicit Desk(Size size) : surface(size.width, size.height, 1)
@@ -108,7 +111,7 @@ std::optional<std::string> convertOn(Desk& desk, const Job& job, const Wishes& w
 std::optional<std::string> convert(const Job& job, const Wishes& wishes)
 {
     try {
-        Desk desk(wishes.format == Format::png ? wishes.size : Wishes{}.size);
+        Desk desk(wishes.format == Format::png ? wishes.size : unseen);
         return convertOn(desk, job, wishes);
     } catch (const std::bad_alloc&) {
         return "not enough memory";
