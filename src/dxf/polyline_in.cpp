@@ -45,9 +45,10 @@ void DxfRecordReader::takeVertex(Polyline& line, int code)
         source_.number(starts ? slot_.p1().x : slot_.p2().x);
         if (starts) line.first.x = slot_.p1().x;
     } else if (code == 20 && (starts || ends)) {
+        const bool isCut = source_.atEnd();
         source_.number(starts ? slot_.p1().y : slot_.p2().y);
         if (starts) line.first.y = slot_.p1().y;
-        if (ends) endSegment(line);
+        if (ends && !isCut) endSegment(line);
     } else if (code == 42) {
         source_.number(line.bulge);
     } else if (code == 70) {

@@ -20,6 +20,7 @@ class LineScanner {
 
     // The next line; false at the end of the text, and line is then empty.
     bool next(std::string_view& line);
+    bool atEnd() const { return at_ == end_; }
 
   private:
     const char* at_;

@@ -14,6 +14,7 @@ class DxfSource {
     DxfSource(std::string_view text, char decimalPoint) : lines_(text), point_(decimalPoint) {}
 
     bool next(std::string_view& line) { return lines_.next(line); }
+    bool atEnd() const { return lines_.atEnd(); }
 
     // False at the end of the text.
     bool value(std::string_view& line);

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <map>
+#include <set>
 #include <span>
 #include <vector>
 
@@ -47,6 +49,7 @@ bool nextGroup(LineScanner& lines, Group& group)
 constexpr int textCode = 1;
 constexpr int nameCode = 2;
 constexpr int lineTypeCode = 6;
+constexpr int layerCode = 8;
 constexpr int variableCode = 9;
 constexpr int flagCode = 70;
 constexpr int justificationCode = 72;
@@ -66,7 +69,6 @@ constexpr RecordForm recordForms[] = {
     {"POLYLINE", {8, 6, 62, 70}},
     {"VERTEX", {8, 6, 62, 10, 20, 42}},
     {"SEQEND", {}},
-    {"BLOCK", {2}},
     {"ENDBLK", {}},
 };
 constexpr RecordForm lightVertex{"VERTEX", {8, 6, 62, 10, 20, 42}};
@@ -106,9 +108,15 @@ class Rewriter {
     void object();
     void polyline();
     void lightPolyline();
+    void block();
     void record(const RecordForm& form, std::span<const Group> groups);
     void named(std::string_view record, std::string_view name);
-    void group(int code, std::string_view value);
+    std::string inCodePage(std::string_view text) const;
+    const std::string& blockName(std::string_view name);
+    const std::string& layerName(std::string_view name);
+    std::string valueOf(int code, std::string_view value);
+    void group(int code, std::string_view value); // as valueOf() gives it
+    void plain(int code, std::string_view value);
     void line(std::string_view text) { out_.append(text).append("\r\n"); }
 
     LineScanner lines_;
@@ -118,8 +126,12 @@ class Rewriter {
     std::string_view section_;
     std::string_view variable_;
     std::vector<Group> polylineLooks_;
+    std::map<std::string_view, std::string> blockNames_;
+    std::map<std::string_view, std::string> layerNames_;
+    std::set<std::string> takenLayerNames_;
     bool inLayerTable_ = false;
     bool utf8_ = false;
+    bool isCut_ = false; // by the end of the file, in the middle of a record
 };
 
 std::string Rewriter::run()
@@ -136,7 +148,8 @@ std::string Rewriter::run()
         groups_.push_back(next);
         if (name_ == "SECTION" && next.code == nameCode) section_ = trimmed(next.value);
     }
-    endRecord();
+    isCut_ = true;
+    if (!groups_.empty()) endRecord();
     group(0, "EOF");
     return std::move(out_);
 }
@@ -172,7 +185,7 @@ void Rewriter::table()
         inLayerTable_ = name != nullptr && trimmed(name->value) == "LAYER";
         if (inLayerTable_) named(name_, "LAYER");
     } else if (name_ == "LAYER") {
-        if (inLayerTable_ && name != nullptr) named(name_, name->value);
+        if (inLayerTable_ && name != nullptr) named(name_, layerName(trimmed(name->value)));
     } else if (name_ == "ENDTAB" && inLayerTable_) {
         group(0, name_);
         inLayerTable_ = false;
@@ -181,14 +194,15 @@ void Rewriter::table()
 
 void Rewriter::named(std::string_view record, std::string_view name)
 {
-    group(0, record);
-    group(nameCode, name);
+    plain(0, record);
+    plain(nameCode, name);
 }
 
 void Rewriter::object()
 {
     if (name_ == "POLYLINE") polyline();
     if (name_ == "LWPOLYLINE") lightPolyline();
+    if (name_ == "BLOCK") block();
     for (const RecordForm& form : recordForms) {
         if (form.name == name_) record(form, groups_);
     }
@@ -225,8 +239,38 @@ void Rewriter::lightPolyline()
         record(lightVertex, {from, to});
         from = to;
     }
-    group(0, "SEQEND");
+    if (!isCut_) group(0, "SEQEND"); // one that was cut is not closed
     polylineLooks_.clear();
+}
+
+// The picture of a dimension and the spaces themselves are never inserted: what is in them is seen as it
+// stands.
+bool isSeenInPlace(std::string_view block)
+{
+    constexpr std::string_view kinds = "DdMmPp";
+    return block.size() > 1 && block[0] == '*' && kinds.find(block[1]) != std::string_view::npos;
+}
+
+void Rewriter::block()
+{
+    group(0, "BLOCK");
+    const Group* const name = lastOf(groups_, nameCode);
+    if (name != nullptr && !isSeenInPlace(trimmed(name->value))) group(nameCode, name->value);
+}
+
+// The reader takes for blocks only those whose names start with these letters, and any other name in that
+// place may read like a record's.
+const std::string& Rewriter::blockName(std::string_view name)
+{
+    return blockNames_.try_emplace(name, "HC" + std::to_string(blockNames_.size() + 1)).first->second;
+}
+
+// Two names that differ only in characters which Windows-1252 lacks stay two names.
+const std::string& Rewriter::layerName(std::string_view name)
+{
+    const auto [row, isNew] = layerNames_.try_emplace(name, inCodePage(name));
+    while (isNew && !takenLayerNames_.insert(row->second).second) row->second += '?';
+    return row->second;
 }
 
 // The left point of a text is good for every justification but a text fitted between two points.
@@ -250,26 +294,54 @@ void Rewriter::record(const RecordForm& form, std::span<const Group> groups)
     }
 }
 
+std::string Rewriter::inCodePage(std::string_view text) const
+{
+    return utf8_ ? toCodePage(text) : std::string(text);
+}
+
+std::string inCapitals(std::string text)
+{
+    std::ranges::transform(text, text.begin(), [](char c) {
+        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; // ASCII stays ASCII
+    });
+    return text;
+}
+
 // Blanks count in the string of a text alone.
+std::string Rewriter::valueOf(int code, std::string_view value)
+{
+    switch (code) {
+    case textCode:
+        return inCodePage(value);
+    case nameCode:
+        return blockName(trimmed(value));
+    case layerCode:
+        return layerName(trimmed(value));
+    case lineTypeCode:
+        return inCapitals(inCodePage(trimmed(value)));
+    default:
+        return std::string(trimmed(value));
+    }
+}
+
 void Rewriter::group(int code, std::string_view value)
 {
-    const bool ofText = code == textCode;
+    plain(code, valueOf(code, value));
+}
+
+void Rewriter::plain(int code, std::string_view value)
+{
     std::string number = std::to_string(code);
     line(number.insert(0, 3 - number.size(), ' '));
-    std::string written(ofText ? value : trimmed(value));
-    if (utf8_) written = toCodePage(written);
-    if (code == lineTypeCode) {
-        std::ranges::transform(written, written.begin(), [](char c) {
-            return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; // ASCII stays ASCII
-        });
-    }
-    line(written);
+    line(value);
 }
 
 } // namespace
 
 std::string tolerantDxf(std::string_view text)
 {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
     return Rewriter(text).run();
 }
 

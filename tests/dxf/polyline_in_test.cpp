@@ -51,6 +51,15 @@ TEST(DxfPolyline, ClosedByOneOfThreeFlags)
     }
 }
 
+TEST(DxfPolyline, SegmentWithoutItsEndIsNone)
+{
+    const std::string start =
+        lines({"POLYLINE", " 70", "1", "VERTEX", " 10", "0", " 20", "0", "VERTEX", " 10", "1"});
+    EXPECT_EQ(Opened(start).count(), 1);
+    EXPECT_EQ(Opened(start + lines({" 20"})).count(), 1);
+    EXPECT_EQ(Opened(start + lines({" 20", "4"})).count(), 2);
+}
+
 TEST(DxfPolyline, TheLastFlagInTheFileCounts)
 {
     const std::string vertices =

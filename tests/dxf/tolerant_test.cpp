@@ -94,6 +94,70 @@ TEST(TolerantDxf, BlocksAndInserts)
     EXPECT_EQ(o.at(3).p2.x, 72);
 }
 
+std::string withBlock(std::string_view name)
+{
+    return foreign({"0", "SECTION", "2", "BLOCKS", "0", "BLOCK", "2", name, "0", "LINE", "11", "1", "0",
+                    "ENDBLK", "0", "ENDSEC"}) +
+           entities + foreign({"0", "INSERT", "2", name, "10", "5", "20", "0", "0", "LINE", "11", "9"}) + end;
+}
+
+TEST(TolerantDxf, BlocksOfAnyNameArePlaced)
+{
+    for (const std::string_view name :
+         {"DOOR", "POLYLINE", "LAYER", "LINE", "TEXT", "ENTITIES", "ENDBLK", "INSERT", "HC", "*U1"}) {
+        Opened o(tolerantDxf(withBlock(name)));
+        ASSERT_EQ(o.count(), 5) << name; // the block's line, the insert, the line, and what was placed
+        EXPECT_EQ(o.stat(1), Stat::out) << name;
+        EXPECT_EQ(o.at(3).p2.x, 108) << name;
+        EXPECT_EQ(o.at(4).p2.x, 72) << name;
+        EXPECT_EQ(o.s().layerTable.layerCount, 0) << name;
+    }
+}
+
+TEST(TolerantDxf, PictureOfADimensionIsSeenInPlace)
+{
+    Opened o(tolerantDxf(foreign({"0", "SECTION", "2", "BLOCKS", "0", "BLOCK", "2", "*D3", "0", "LINE", "11",
+                                  "1", "0", "ENDBLK", "0", "ENDSEC"}) +
+                         entities + end));
+    ASSERT_EQ(o.count(), 2);
+    EXPECT_EQ(o.stat(1), Stat::on);
+}
+
+TEST(TolerantDxf, NamesThatDifferOnlyInForeignLettersStayTwo)
+{
+    Opened o(
+        tolerantDxf(foreign({"0", "SECTION", "2", "HEADER", "9", "$ACADVER", "1", "AC1027", "0", "ENDSEC",
+                             "0", "SECTION", "2", "TABLES", "0", "TABLE",    "2", "LAYER",  "0", "LAYER",
+                             "2", "\u5899",  "0", "LAYER",  "2", "\u95e8",   "0", "ENDTAB", "0", "ENDSEC"}) +
+                    entities + foreign({"0", "LINE", "8", "\u95e8", "11", "1"}) + end));
+    EXPECT_EQ(o.s().layerTable.rows(), (std::vector<std::string>{"Yes:Wk :?", "Yes:On :??"}));
+    EXPECT_EQ(o.at(1).layer, 1);
+}
+
+TEST(TolerantDxf, ByteOrderMarkIsPassedOver)
+{
+    Opened o(
+        tolerantDxf("\xEF\xBB\xBF" +
+                    foreign({"0", "SECTION", "2", "HEADER", "9", "$ACADVER", "1", "AC1027", "0", "ENDSEC"}) +
+                    entities + foreign({"0", "TEXT", "1", "\u00fcber"}) + end));
+    ASSERT_EQ(o.count(), 2);
+    EXPECT_EQ(o.at(1).t1, "\u00fcber");
+}
+
+TEST(TolerantDxf, RecordOfWhichNothingIsThereIsDropped)
+{
+    EXPECT_EQ(Opened(tolerantDxf(entities + foreign({"0", "LINE"}))).count(), 1);
+    EXPECT_EQ(Opened(tolerantDxf(entities + foreign({"0", "LINE", "10", "1"}))).count(), 2);
+}
+
+TEST(TolerantDxf, LightPolylineThatWasCutIsNotClosed)
+{
+    Opened o(tolerantDxf(entities + foreign({"0", "LWPOLYLINE", "70", "1", "10", "0", "20", "0", "10", "5",
+                                             "20", "0", "10", "5"})));
+    ASSERT_EQ(o.count(), 2);
+    EXPECT_EQ(o.at(1).p2, (Point{60, 0}));
+}
+
 TEST(TolerantDxf, JustifiedTextStandsAtItsOwnLeftPoint)
 {
     for (const std::string_view justification : {"0", "1", "     2", "3", "4"}) {
