@@ -47,7 +47,7 @@ void toggleOrtho(App& app, ControlId freecurs)
 
 void snapButton(App& app, ControlId button)
 {
-    pressSnapButton(app.s, button);
+    pressSnapButton(app.s, app.pic1, button);
 }
 
 // Boxes that only display take no click.

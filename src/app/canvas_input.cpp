@@ -94,6 +94,12 @@ void passNumberToEntry(Session& s, char32_t code)
     if (isPartOfNumber(code)) passToEntry(s, code);
 }
 
+// What is made needs its name first: else its points would go to whatever was named last.
+bool waitsForName(const Session& s, const FunctionRow& row)
+{
+    return row.canvasKeys == CanvasKeys::name && s.stepNo == 0;
+}
+
 void endSelection(Session& s, Canvas& pic1)
 {
     changeStat(s.store, Stat::sel, Stat::on);
@@ -128,7 +134,7 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
         return;
     }
     const FunctionRow* row = findFunction(s.curFunc);
-    if (row == nullptr) return;
+    if (row == nullptr || waitsForName(s, *row)) return;
     if (button == leftButton) countStep(s);
     storeClick(s, at);
     if (s.curFunc == "Object Select") return pickClick(s, pic1);

@@ -44,6 +44,21 @@ std::string normalisedName(const Session& s)
     return base.empty() ? base : base + std::string(patternOf(s).extension);
 }
 
+const std::vector<std::string>& namesListed(const Session& s)
+{
+    return s.controls["frmfile.File1"_c].rows;
+}
+
+// A file of the list is meant as it stands, were there three points in its name: else another file would be
+// opened, or written over.
+std::string chosenName(const Session& s)
+{
+    const std::string& typed = s.controls["frmfile.Text1"_c].text;
+    const auto& names = namesListed(s);
+    const bool isListed = std::ranges::find(names, typed) != names.end() && typed.front() != '.';
+    return isListed ? typed : normalisedName(s);
+}
+
 bool sameButForCase(std::string_view a, std::string_view b)
 {
     const auto lower = [](char c) {
@@ -55,7 +70,7 @@ bool sameButForCase(std::string_view a, std::string_view b)
 // The list shows extensions in either case, so a file is opened by the name that it has on the disk.
 std::string nameInList(const Session& s, const std::string& name)
 {
-    const std::vector<std::string>& names = s.controls["frmfile.File1"_c].rows;
+    const std::vector<std::string>& names = namesListed(s);
     if (std::ranges::find(names, name) != names.end()) return name;
     const std::size_t base = name.size() - patternOf(s).extension.size();
     const auto found = std::ranges::find_if(names, [&](const std::string& row) {
@@ -74,8 +89,8 @@ bool isSaving(const Session& s)
 void showWhetherItOverwrites(Session& s)
 {
     if (!isSaving(s)) return;
-    const std::vector<std::string>& names = s.controls["frmfile.File1"_c].rows;
-    const bool present = std::ranges::find(names, normalisedName(s)) != names.end();
+    const std::vector<std::string>& names = namesListed(s);
+    const bool present = std::ranges::find(names, chosenName(s)) != names.end();
     s.controls["frmfile.Command1"_c].caption = present ? "Overwrite?" : "Save";
 }
 
@@ -180,7 +195,7 @@ void offerToSave(App& app, std::int16_t followUp)
 void confirmFileDialog(App& app, ControlId)
 {
     Session& s = app.s;
-    std::string name = normalisedName(s);
+    std::string name = chosenName(s);
     if (name.empty()) return;
     if (!isSaving(s)) name = nameInList(s, name);
     setText(s.controls["frmfile.Text1"_c], name);

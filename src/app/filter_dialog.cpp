@@ -99,6 +99,7 @@ void giveUpChange(Session& s, Canvas& pic1)
 
 void showFilterDialog(App& app, ControlId)
 {
+    if (app.s.controls["frmfilter"_c].visible && isChange(app.s)) return; // the one dialog is taken
     showDialog(app.s, filterTitle);
 }
 

@@ -10,6 +10,7 @@
 #include "model/insertion.h"
 #include "model/title.h"
 #include "render/redraw.h"
+#include "text/code_page.h"
 
 #include <algorithm>
 
@@ -23,16 +24,15 @@ struct LibraryRow {
     std::string_view extension;
     std::string_view pattern;
     std::string_view select, remove, save; // captions of Label3
-    std::int16_t firstStep;                // of the function, once a name is clicked
 };
 
 constexpr LibraryRow libraryRows[] = {
     {Library::multipleLines, "Multiple Lines", "Create Multiple Lines", ".mtm", "*.mtm",
-     "Select Multiple Lines", "Remove Multiple Lines", "Save Multiple Lines", 0},
+     "Select Multiple Lines", "Remove Multiple Lines", "Save Multiple Lines"},
     {Library::hatches, "Place Hatch", "Create Hatch", ".mth", "*.mth", "Select Hatch", "Remove Hatch",
-     "Save Hatch", 0},
+     "Save Hatch"},
     {Library::associates, "Place Associate", "Create Associate", ".mta", "*.mta", "Select Associate",
-     "Remove Associate", "Save Associate", 1},
+     "Remove Associate", "Save Associate"},
 };
 
 struct ListMenu {
@@ -89,11 +89,7 @@ void readyToPlaceAssociate(App& app, const LibraryRow& row)
     Session& s = app.s;
     updateGauge(s);
     s.associateName = noName;
-    s.curFunc = row.function;
-    s.stepNo = 0;
-    resetPicture(app.pic1);
-    setPrompt(s, app.pic1);
-    s.controls.focus = "pic1"_c;
+    if (const FunctionRow* function = findFunction(row.function)) changeFunction(s, app.pic1, *function, 0);
 }
 
 void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std::string& name)
@@ -182,6 +178,8 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     const LibraryRow* row = rowWith(&LibraryRow::pattern, choice.pattern);
     if (row == nullptr) return false;
     std::string& name = currentName(s, row->library);
+    // Nothing is saved under no name, and nothing that would be read back as removed.
+    if (!isLiveName(name) || !isLiveName(toCodePage(name))) return false;
     const bool saved =
         app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
     name = noName;

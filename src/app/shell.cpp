@@ -103,6 +103,7 @@ void Shell::start()
 void Shell::mouseDown(int button, Point at)
 {
     if (ended()) return;
+    giveFocus("pic1"_c); // a field that is left so forgets what was half typed
     const ControlId before = s_.controls.focus;
     canvasMouseDown(s_, pic1_, button, at);
     settle(before);

@@ -61,6 +61,15 @@ void startProgram(App& app)
     showLineSettings(s);
 }
 
+void giveUpWhatWasBegun(App& app)
+{
+    Session& s = app.s;
+    s.orthoAngle = s.orthoAngleSaved;
+    s.controls["freecurs"_c].caption = s.orthoCaption;
+    resetPicture(app.pic1);
+    setPrompt(s, app.pic1);
+}
+
 bool hasUnsavedWork(const Session& s)
 {
     return s.savedCount < s.store.entCount;
@@ -71,6 +80,7 @@ void leaveProgram(App& app)
     app.s.stepNo = 0;
     app.s.saveFollowUp = follow::exit;
     if (hasUnsavedWork(app.s)) {
+        giveUpWhatWasBegun(app); // who then stays begins anew
         offerToSave(app, follow::exit);
     } else {
         endProgram(app);

@@ -7,10 +7,10 @@
 
 namespace mirtane {
 
-void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
+void changeFunction(Session& s, Canvas& pic1, const FunctionRow& row, std::int16_t firstStep)
 {
     const bool leavesTextInEdit = s.curFunc == "Text Edit" && s.stepNo > 0;
-    s.stepNo = row.firstStep;
+    s.stepNo = firstStep;
     s.windowStep = 0;
     s.textLength = 0;
     dropBoundary(s);
@@ -23,10 +23,15 @@ void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
         s.workAngle = 0;
         redrawAll(s, pic1);
     }
-    if (row.setsBase) s.baseFunc = row.name;
     resetPicture(pic1);
     setPrompt(s, pic1);
     s.controls.focus = "pic1"_c;
+}
+
+void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
+{
+    if (row.setsBase) s.baseFunc = row.name;
+    changeFunction(s, pic1, row, row.firstStep);
 }
 
 void startFromControl(App& app, ControlId starter)

@@ -92,7 +92,7 @@ void changeSelectedFont(App& app, const std::string& font)
     };
     if (countWithStat(s.store, Stat::sel) > 0) { // it may have gone while the list was shown
         runOnSelection(s, Sources::goOut, rule, holdsWords);
-        closeGroup(s, app.pic1);
+        endRun(s, app.pic1);
     }
     s.curFunc = s.baseFunc;
     setPrompt(s, app.pic1);

@@ -47,6 +47,7 @@ std::string currentNumber(const Session& s, PromptNumber number)
 void showInTitle(Session& s)
 {
     s.controls["frmMain"_c].caption = mainTitle(s.drawingName, s.curFunc + s.promptText);
+    s.savedTitle = s.controls["frmMain"_c].caption; // what a Zoom Window that is still on goes back to
 }
 
 } // namespace

@@ -23,7 +23,8 @@ class NoSettings : public SettingsStore {
     void write(const std::map<std::string, std::string>&) override {}
 };
 
-// The picture that no one looks at when a file of another kind is made: small, since it costs memory and time.
+// The picture that no one looks at when a file of another kind is made: small, since it costs memory and
+// time.
 constexpr Size unseen{12, 8};
 
 // A program of its own for each file, so that none of them sees what another one left behind.

@@ -149,8 +149,8 @@ void ObjectWriter::ellipse(std::size_t at)
     Point previous = toFile(store_.p1[at]);
     const Point centre = toFile(store_.p2[at]);
     const Point u = directionBetween(scratch_, centre, previous);
-    const double first = lengthBetween(centre, previous);
-    const double second = first * store_.p3[at].x;
+    const float first = lengthBetween(centre, previous);
+    const float second = first * store_.p3[at].x;
     for (const double side : {1.0, -1.0}) {
         double a = 0;
         for (int i = 0; i < halfEllipseSteps; ++i) {

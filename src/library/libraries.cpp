@@ -25,6 +25,18 @@ bool hasOwner(const EntityStore& store, std::string_view name)
     return false;
 }
 
+// Other slots may have an owner, too: whatever was in a file that was opened as an associate.
+bool hasPieces(const EntityStore& store)
+{
+    for (std::int32_t i = 1; i < store.end(); ++i) {
+        const std::size_t at = EntityStore::at(i);
+        const int ofObject = store.kind[at] - kind::associatePiece;
+        const bool isPiece = ofObject > 0 && ofObject <= kind::lastDrawn;
+        if (isPiece && isLiveName(store.ownerName[at])) return true;
+    }
+    return false;
+}
+
 void removeOwner(EntityStore& store, std::string_view name)
 {
     for (std::int32_t i = 1; i < store.end(); ++i) {
@@ -50,6 +62,7 @@ std::string& currentName(Session& s, Library library)
 
 bool hasLiveName(const Session& s, Library library)
 {
+    if (library == Library::associates) return hasPieces(s.store);
     return !listedNames(s, library).empty();
 }
 

@@ -108,8 +108,16 @@ double withinTurn(double radians)
     return radians < 0 ? radians + fullTurn : radians;
 }
 
+// A right angle in degrees becomes one that is only nearly so in radians; what is turned by it still lies on
+// the axes, however far out it is.
+double onAxis(double cosineOrSine)
+{
+    constexpr double nearly = 1e-7; // about what a 32-bit number can't tell from 0 beside 1
+    return std::abs(cosineOrSine) < nearly ? 0 : cosineOrSine;
+}
+
 Turn::Turn(Point centre, double radians)
-    : centre_(centre), radians_(radians), cos_(std::cos(radians)), sin_(std::sin(radians))
+    : centre_(centre), radians_(radians), cos_(onAxis(std::cos(radians))), sin_(onAxis(std::sin(radians)))
 {
 }
 

@@ -72,6 +72,8 @@ int run(const std::vector<std::string>& words)
 
 int main(int argc, char* argv[])
 {
+    // What the toolkit has to say of the machine would stand among the lines about failed files.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     // No window is ever opened, so none of the machine's displays is asked for.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::vector<std::string> words(argv + 1, argv + argc); // before the toolkit takes words of its own

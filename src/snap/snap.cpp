@@ -1,5 +1,6 @@
 #include "snap/snap.h"
 
+#include "render/view.h"
 #include "snap/snap_routines.h"
 #include "snap/snapped_point.h"
 
@@ -64,11 +65,12 @@ void oneShotSnap(Session& s, const Canvas& pic1)
     row->run(s, pic1);
 }
 
-void pressSnapButton(Session& s, ControlId button)
+void pressSnapButton(Session& s, Canvas& pic1, ControlId button)
 {
     const auto* const row = std::ranges::find(snapRows, button, &SnapRow::button);
     s.controls.focus = "pic1"_c;
     if (row == std::end(snapRows) || !row->canBeArmed(s)) return;
+    if (zoomWindowIsOn(s)) zoomWindowCancel(s, pic1); // one label tells of both
     setText(s.controls["snapbox"_c], std::string(row->code));
     s.controls["snaplab"_c].caption = row->label;
 }

@@ -18,7 +18,7 @@ void oneShotSnap(Session& s, const Canvas& pic1);
 
 // A press of one of the seven snap buttons: arms its snap, or does nothing where that snap has no use, and
 // gives the drawing the focus.
-void pressSnapButton(Session& s, ControlId button);
+void pressSnapButton(Session& s, Canvas& pic1, ControlId button);
 
 // Shows the button of the armed snap pressed and the others not, and on pic1 whether the next click will snap.
 void showArmedSnap(Session& s);

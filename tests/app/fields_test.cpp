@@ -340,5 +340,17 @@ TEST(SnapButtons, ThatAreRefusedInAConstructionLineChangeNothingButTheFocus)
     }
 }
 
+TEST(Field, IsLeftByAPressOnTheDrawing)
+{
+    Desk desk;
+    desk.press("angle"_c);
+    desk.type("45");
+    desk.click(100, 100);
+    EXPECT_EQ(desk.focused(), "pic1");
+    EXPECT_EQ(desk.text("angle"_c), "000.000");
+    desk.type("12");
+    EXPECT_EQ(desk.text("entry"_c), "12");
+}
+
 } // namespace
 } // namespace mirtane

@@ -153,5 +153,27 @@ TEST(FileFolders, ConfirmedAreRememberedOnSaveAndOnOpen)
     EXPECT_FALSE(desk.disk.files["/home/user/plans/house.mtd"].empty());
 }
 
+TEST(FileNames, WithTwoPointsAreTakenAsTheyStandInTheList)
+{
+    const Bytes other = {1, 2, 3};
+    Desk desk;
+    desk.drawLine(100, 100, 400, 100);
+    desk.saveAs("plan");
+    desk.disk.files["/home/user/plan.two.mtd"] = desk.disk.files["/home/user/plan.mtd"];
+    desk.disk.files["/home/user/plan.mtd"] = other;
+    desk.press("fil4"_c);
+    desk.shell.clickRow("frmfile.File1"_c, 1);
+    desk.press("frmfile.Command1"_c);
+    EXPECT_EQ(desk.s.drawingName, "plan.two.mtd");
+    EXPECT_EQ(desk.s.store.entCount, 2);
+    desk.press("fil7"_c);
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
+    desk.shell.clickRow("frmfile.File1"_c, 1);
+    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Overwrite?");
+    desk.press("frmfile.Command1"_c);
+    EXPECT_EQ(desk.disk.files["/home/user/plan.mtd"], other);
+    EXPECT_FALSE(desk.visible("frmfile"_c));
+}
+
 } // namespace
 } // namespace mirtane

@@ -342,5 +342,14 @@ TEST_F(FilterDialog, ChangeAndTheFilterDoNotShareWhatIsChosen)
     EXPECT_EQ(criteria(), Criteria{});
 }
 
+TEST_F(FilterDialog, DoesNotTakeTheFormFromAChangeUnderWay)
+{
+    desk.drawLine(100, 100, 400, 100);
+    desk.press("Command17"_c);
+    desk.shell.clickRow("List1"_c, 10);
+    desk.press("flt1"_c);
+    EXPECT_EQ(desk.caption("frmfilter"_c), "Change Properties");
+}
+
 } // namespace
 } // namespace mirtane

@@ -312,5 +312,176 @@ TEST(LibraryMenus, ReverseIsOnlyAMark)
     EXPECT_FALSE(desk.s.controls["ass5"_c].checked);
 }
 
+// The name is spent by the first try; the file that was there is not.
+TEST(LibraryMenus, ASecondSaveAfterOneThatFailedWritesNothing)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        desk.saveFirst(library);
+        const Bytes good = desk.disk.files[desk.path(library, "one")];
+        desk.disk.refusesWrites = true;
+        desk.saveFirst(library);
+        desk.disk.refusesWrites = false;
+        desk.press("frmfile.Command1"_c);
+        EXPECT_TRUE(desk.visible("frmfile"_c)) << library.select;
+        EXPECT_EQ(desk.text("entry"_c), "File not saved!") << library.select;
+        EXPECT_EQ(desk.disk.files[desk.path(library, "one")], good) << library.select;
+    }
+}
+
+TEST(LibraryMenus, ListingTheAssociatesUnderTheDialogSavesNothing)
+{
+    LibraryDesk desk;
+    desk.create(associates, "chair");
+    desk.press(associates.save);
+    desk.choose(0);
+    desk.press(associates.place);
+    desk.press("frmfile.Command1"_c);
+    EXPECT_FALSE(desk.disk.files.contains(desk.path(associates, "chair")));
+    EXPECT_EQ(desk.text("entry"_c), "File not saved!");
+}
+
+// Six letters that the file can't hold would be read back as the mark of a removed row.
+TEST(LibraryMenus, ANameThatWouldReadAsRemovedIsNotSaved)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "\u0441\u0442\u0435\u043d\u043a\u0430");
+        desk.saveFirst(library);
+        EXPECT_EQ(desk.text("entry"_c), "File not saved!") << library.select;
+        EXPECT_EQ(desk.disk.files.size(), 0U) << library.select;
+    }
+}
+
+TEST(LibraryMenus, AClickBeforeTheNameCountsForNothing)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "one");
+        const std::int32_t pieces = desk.s.store.entCount;
+        desk.s.store.setStat(1, Stat::sel);
+        desk.press(library.create);
+        desk.click(1000, 1000);
+        desk.click(1200, 1100);
+        desk.click(1300, 1150);
+        EXPECT_EQ(desk.s.stepNo, 0) << library.select;
+        EXPECT_EQ(desk.s.store.entCount, pieces) << library.select;
+        EXPECT_LE(desk.s.hatchLibrary.count, 1);
+        EXPECT_LE(desk.s.multipleLinesLibrary.count, 1);
+        desk.type("two");
+        desk.enter();
+        EXPECT_EQ(desk.s.stepNo, 1) << library.select;
+    }
+}
+
+TEST(LibraryMenus, ADrawingOpenedAsAnAssociateIsNone)
+{
+    LibraryDesk desk;
+    desk.saveAs("plan");
+    desk.disk.files[desk.path(associates, "plan")] = desk.disk.files["/home/user/plan.mtd"];
+    desk.openLibrary(associates, "plan");
+    desk.press("ly3"_c);
+    desk.press(associates.place);
+    EXPECT_EQ(desk.caption("Label3"_c), "Set Working Layer");
+}
+
+// -- opening an associate in the middle of something else --
+
+struct OpenInTheMiddle : testing::Test {
+    OpenInTheMiddle()
+    {
+        desk.create(associates, "door");
+        desk.saveFirst(associates);
+        desk.removeFirst(associates);
+    }
+
+    LibraryDesk desk;
+};
+
+TEST_F(OpenInTheMiddle, OfAMoveShowsTheSelectionAgain)
+{
+    desk.press("Command17"_c);
+    desk.cancel();
+    desk.press("frmedit.Command8"_c);
+    desk.click(1000, 1010);
+    desk.move(1500, 1500);
+    desk.ops();
+    desk.openLibrary(associates, "door");
+    EXPECT_EQ(desk.s.curFunc, "Place Associate");
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.s.workAngle, 0);
+    EXPECT_FALSE(fake::only(desk.ops(), "line").empty());
+}
+
+TEST_F(OpenInTheMiddle, OfABoundaryDropsIt)
+{
+    desk.create(hatches, "rows");
+    desk.press(hatches.place);
+    desk.choose(0);
+    desk.click(100, 100);
+    desk.click(200, 100);
+    desk.click(200, 200);
+    desk.openLibrary(associates, "door");
+    EXPECT_EQ(desk.s.boundaryCount, 0);
+}
+
+// -- definitions and the objects about them --
+
+TEST(Associate, MadeOfPlacedObjectsHoldsPlainOnes)
+{
+    LibraryDesk desk;
+    desk.create(associates, "door");
+    desk.press(associates.place);
+    desk.choose(0);
+    desk.click(2000, 2000);
+    const std::int32_t placed = desk.s.store.entCount - 1;
+    ASSERT_EQ(desk.slot(placed).kind, kind::line);
+    for (std::int32_t i = 1; i < placed; ++i) {
+        if (desk.stat(i) == Stat::sel) desk.s.store.setStat(i, Stat::on);
+    }
+    desk.s.store.setStat(placed, Stat::sel);
+    desk.press(associates.create);
+    desk.type("gate");
+    desk.enter();
+    desk.click(2000, 2000);
+    const std::int32_t piece = desk.s.store.entCount - 1;
+    EXPECT_EQ(desk.slot(piece).kind, kind::associatePiece + kind::line);
+    EXPECT_EQ(desk.s.store.ownerName[EntityStore::at(piece)], "gate");
+    EXPECT_EQ(desk.slot(piece).p1, (Point{0, 10}));
+}
+
+TEST(Associate, OutlivesTheObjectsItWasMadeOf)
+{
+    LibraryDesk desk;
+    desk.create(associates, "door");
+    desk.s.store.setStat(1, Stat::sel);
+    desk.press("Command17"_c);
+    desk.cancel();
+    desk.press("frmedit.Command14"_c);
+    ASSERT_EQ(desk.stat(1), Stat::out);
+    desk.press(associates.place);
+    desk.choose(0);
+    desk.click(2000, 2000);
+    EXPECT_EQ(desk.slot(desk.s.store.entCount - 1).p1, (Point{2000, 2010}));
+}
+
+TEST(Associate, IsNotInADrawingThatIsOpenedWhatWasPlacedIs)
+{
+    LibraryDesk desk;
+    desk.create(associates, "door");
+    desk.press(associates.place);
+    desk.choose(0);
+    desk.click(2000, 2000);
+    desk.saveAs("plan");
+    desk.press("fil5"_c);
+    desk.open("plan");
+    ASSERT_EQ(desk.s.store.entCount, 3);
+    EXPECT_EQ(desk.slot(2).p1, (Point{2000, 2010}));
+    desk.press("ly3"_c);
+    desk.press(associates.place);
+    EXPECT_EQ(desk.caption("Label3"_c), "Set Working Layer");
+}
+
 } // namespace
 } // namespace mirtane

@@ -458,5 +458,29 @@ TEST(ZoomWindow, GivesTheDrawingTheFocusWhenItIsDone)
     EXPECT_EQ(desk.focused(), "pic1");
 }
 
+TEST(ZoomWindow, EndsWithItsTitleWhenASnapIsArmed)
+{
+    Desk desk;
+    const std::string before(desk.title());
+    desk.press("Command43"_c);
+    desk.click(500, 500);
+    desk.press("Command21"_c);
+    EXPECT_EQ(desk.title(), before);
+    EXPECT_EQ(desk.caption("snaplab"_c), "Snap Midpoint is on:");
+    EXPECT_EQ(desk.s.windowStep, 0);
+}
+
+TEST(ZoomWindow, GoesBackToTheTitleOfAFunctionStartedMeanwhile)
+{
+    Desk desk;
+    desk.press("Command43"_c);
+    desk.press("Command2"_c);
+    const std::string circle(desk.title());
+    desk.click(500, 500);
+    desk.click(1700, 1300);
+    EXPECT_NE(circle.find("2pt. Circle"), std::string::npos);
+    EXPECT_EQ(desk.title(), circle);
+}
+
 } // namespace
 } // namespace mirtane

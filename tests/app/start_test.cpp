@@ -251,5 +251,22 @@ TEST(UndoEntries, DoNothingInAnEmptyDrawing)
     EXPECT_EQ(desk.s.log.undoGroupNext, 0);
 }
 
+TEST(LeavingTheProgram, WhenRefusedTheFunctionBeginsAnew)
+{
+    Desk desk;
+    desk.drawLine(100, 100, 400, 100);
+    desk.press("freecurs"_c);
+    desk.press("Command7"_c);
+    const std::string before(desk.title());
+    desk.click(1000, 1000);
+    desk.click(1200, 1100);
+    desk.shell.closeForm("frmMain"_c);
+    ASSERT_TRUE(desk.visible("frmfile"_c));
+    desk.shell.closeForm("frmfile"_c);
+    EXPECT_EQ(desk.caption("freecurs"_c), "Ortho/Off");
+    EXPECT_EQ(desk.s.orthoAngle, desk.s.orthoAngleSaved);
+    EXPECT_EQ(desk.title(), before);
+}
+
 } // namespace
 } // namespace mirtane

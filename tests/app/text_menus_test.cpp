@@ -420,5 +420,22 @@ TEST(MeasureDistance, LeavesTheValueAloneInEntryUntilTheNextClick)
     }
 }
 
+TEST(ChangeSelectFont, EndsAMoveThatWasUnderWay)
+{
+    FontDesk desk;
+    desk.placeText(500, 500, "words");
+    desk.cancel();
+    desk.press("Command17"_c);
+    desk.cancel();
+    desk.press("frmedit.Command8"_c);
+    desk.click(500, 500);
+    desk.press("tk14"_c);
+    desk.row(0);
+    desk.enter();
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.s.editPending, 0);
+    EXPECT_EQ(desk.s.workAngle, 0);
+}
+
 } // namespace
 } // namespace mirtane

@@ -96,6 +96,20 @@ TEST(MultipleLines, ARightAngleIsMitredWithOrthoOnAndOff)
     }
 }
 
+// The turn goes back over the leg before, as only a snap can make it with ortho on: then it is taken for one
+// of 45 degrees.
+TEST(MultipleLines, ASharpTurnIsMitredTrulyOnlyWithOrthoOff)
+{
+    for (const bool ortho : {true, false}) {
+        Drawn run({10});
+        run.ortho(ortho);
+        run.click({0, 0});
+        run.click({100, 0});
+        run.click({50, 50});
+        expectNear(run.slot(1).p2, ortho ? 95.857864 : 75.857864, 10);
+    }
+}
+
 // The crossing of the two lines at an offset beside the legs A to B and B to C.
 Point trueMitre(Point a, Point b, Point c, double offset)
 {

@@ -70,6 +70,12 @@ TEST(PlaceAssociate, AtARightAngleTheAxesAreMetToTheLastBit)
 {
     const EntityRecord object = placed(fake::line({12, 0}, {0, 0}), {{100, 200}, rightAngle, false});
     EXPECT_EQ(object.p1, (Point{100, 188}));
+    for (const double degrees : {90.0, 180.0, 270.0, 360.0}) {
+        const EntityRecord far =
+            placed(fake::line({2000, 0}, {0, 0}), {{12.5F, 2500}, degrees / 57.29578, false});
+        const bool level = degrees == 180 || degrees == 360;
+        EXPECT_EQ(level ? far.p1.y : far.p1.x, level ? 2500 : 12.5F) << degrees;
+    }
 }
 
 TEST(PlaceAssociate, APieceAtTheReferencePointStaysOnTheClick)

@@ -199,7 +199,7 @@ TEST(SnapButton, ArmsItsSnapAndShowsIt)
         desk.circle({300, 300}, 60);
         desk.s.stepNo = 1;
         desk.s.controls.focus = "entry"_c;
-        pressSnapButton(desk.s, row.button);
+        pressSnapButton(desk.s, desk.pic1, row.button);
         EXPECT_EQ(desk.armed(), row.code);
         EXPECT_EQ(desk.s.controls["snaplab"_c].caption, row.label);
         EXPECT_EQ(desk.s.controls.focus, "pic1"_c);
@@ -237,7 +237,7 @@ TEST(SnapButton, IsRefusedWhereItsSnapHasNoUse)
         setText(desk.s.controls["snapbox"_c], "so");
         desk.s.controls["snaplab"_c].caption = "Snap Object is on:";
         desk.s.controls.focus = "entry"_c;
-        pressSnapButton(desk.s, row.button);
+        pressSnapButton(desk.s, desk.pic1, row.button);
         EXPECT_EQ(desk.armed() != "so", row.armed) << row.what;
         EXPECT_EQ(desk.s.controls["snaplab"_c].caption != "Snap Object is on:", row.armed) << row.what;
         EXPECT_EQ(desk.s.controls.focus, "pic1"_c) << row.what;
@@ -249,7 +249,7 @@ TEST(SnapButton, AnArcIsEnoughForATangent)
     ClickDesk desk;
     desk.arc({300, 300}, 60, 0, 1);
     desk.s.stepNo = 1;
-    pressSnapButton(desk.s, "Command40"_c);
+    pressSnapButton(desk.s, desk.pic1, "Command40"_c);
     EXPECT_EQ(desk.armed(), "st");
 }
 

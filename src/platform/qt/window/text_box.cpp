@@ -166,7 +166,9 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     QLineEdit::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && !hasSelectedText() &&
+    // Who selects text in a field goes on there; what only shows something gives the focus back at once.
+    const bool isDisplay = id_.row().kind == ControlKind::display;
+    if (event->button() == Qt::LeftButton && (isDisplay || !hasSelectedText()) &&
         rect().contains(event->position().toPoint())) {
         gate_.send([this](Shell& shell) { shell.click(id_); });
     }
