@@ -398,5 +398,43 @@ TEST_F(Menus, NameOfThreeHundredCharactersIsTakenWhole)
     EXPECT_EQ(desk.text("frmfile.Text1"_c), name + ".mtd");
 }
 
+// The part of a DXF file before a dimension that can't be written is kept, and the selection with it.
+TEST_F(Menus, DxfThatEndsOnTheSpotLeavesWhatItHasAndTheSelection)
+{
+    desk.drawLine(100, 100, 400, 100);
+    EntityRecord radial;
+    radial.kind = kind::radialDimension;
+    radial.p2 = {200, 200};
+    radial.style = 9;
+    desk.s.store.setRecord(2, radial);
+    desk.s.store.entCount = 3;
+    desk.s.store.setStat(1, Stat::sel);
+    desk.s.store.setStat(2, Stat::sel);
+    desk.press("dd4"_c);
+    desk.ops();
+    desk.press("frmfile.Command1"_c);
+    EXPECT_FALSE(desk.visible("frmfile"_c));
+    ASSERT_TRUE(desk.disk.files.contains("/dxfs/untitled.dxf"));
+    const Bytes& file = desk.disk.files["/dxfs/untitled.dxf"];
+    const std::string text(file.begin(), file.end());
+    EXPECT_NE(text.find("LINE"), std::string::npos);
+    EXPECT_EQ(text.find("EOF"), std::string::npos);
+    EXPECT_EQ(desk.stat(1), Stat::sel);
+    EXPECT_EQ(desk.stat(2), Stat::sel);
+    EXPECT_EQ(desk.text("entry"_c), "");
+    EXPECT_TRUE(fake::only(desk.ops(), "clear").empty());
+}
+
+TEST_F(Menus, SavedDxfGivesTheDrawingTheFocusAndRepaintsIt)
+{
+    desk.drawLine(100, 100, 400, 100);
+    desk.s.store.setStat(1, Stat::sel);
+    desk.press("dd4"_c);
+    desk.ops();
+    desk.press("frmfile.Command1"_c);
+    EXPECT_EQ(desk.focused(), "pic1");
+    EXPECT_EQ(fake::marks(desk.ops()), fake::Ops{"line 100 100 400 100"});
+}
+
 } // namespace
 } // namespace mirtane

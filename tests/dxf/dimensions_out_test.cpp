@@ -274,11 +274,19 @@ TEST(DxfWriter, DrawingOfAllKinds)
     note.p1 = note.p4 = world(3, 3);
     note.p2 = {12, 2};
     note.t1 = "note";
-    Drawing drawing{
-        lineObject(0, 0, 9, 0), round, part, dot, note, linear(2), radial(3), leader(9), angular(3)};
+    Drawing drawing{lineObject(0, 0, 9, 0),
+                    round,
+                    part,
+                    levelEllipse(),
+                    dot,
+                    note,
+                    linear(2),
+                    radial(3),
+                    leader(9),
+                    angular(3)};
     EXPECT_EQ(drawing.file(),
               head() + line("0", "0", "9", "0") + circle("1", "1", "1") +
-                  arc("1", "1", "1", "28.64789", "57.29578", {"PHANTOM"}) +
+                  arc("1", "1", "1", "28.64789", "57.29578", {"PHANTOM"}) + levelEllipseLines() +
                   line("2", "2", "2", "2", {"CONTINUOUS", "     4"}) +
                   text({"3", "2", "3", "2", "0.6666667", "0", "note", "     1"}) + extensions +
                   line("10", "5", "0", "5") + line("9", "5.25", "10", "5") + line("9", "4.75", "10", "5") +

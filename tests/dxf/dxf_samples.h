@@ -6,6 +6,8 @@
 #include "dxf/dxf_writer.h"
 #include "dxf/scanner.h"
 
+#include <cmath>
+#include <cstdio>
 #include <initializer_list>
 #include <memory>
 #include <string>
@@ -155,6 +157,45 @@ inline float plainWidth(const EntityRecord& r)
 }
 
 // A session into which a file has been read.
+inline std::string single(double value)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.7G", value);
+    return text;
+}
+
+// Of radius 1 about the origin, half as high.
+inline EntityRecord levelEllipse()
+{
+    EntityRecord r = object(kind::ellipse);
+    r.p1 = world(1, 0);
+    r.p2 = world(0, 0);
+    r.p3.x = 0.5F;
+    return r;
+}
+
+// What it is exploded into: each line runs from the later point back to the one before.
+inline std::string levelEllipseLines()
+{
+    std::string all;
+    std::string x = "1";
+    std::string y = "0";
+    for (const double side : {1.0, -1.0}) {
+        double a = 0;
+        for (int i = 0; i < 18; ++i) {
+            a += 0.1745329;
+            const auto nextX = static_cast<float>(side * std::cos(a));        // as the file rounds it
+            const auto nextY = static_cast<float>(side * -0.5 * std::sin(a)); // as above
+            const std::string newX = single(nextX);
+            const std::string newY = single(nextY);
+            all += line(newX, newY, x, y);
+            x = newX;
+            y = newY;
+        }
+    }
+    return all;
+}
+
 class Opened {
   public:
     explicit Opened(std::string_view file) { read(file); }

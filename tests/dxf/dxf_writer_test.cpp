@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace mirtane {
@@ -15,13 +14,6 @@ using namespace samples;
 
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinite = std::numeric_limits<float>::infinity();
-
-std::string single(double value)
-{
-    char text[64];
-    std::snprintf(text, sizeof text, "%.7G", value);
-    return text;
-}
 
 EntityRecord roundObject(std::int16_t kind, float x, float y, float radius)
 {
@@ -74,30 +66,33 @@ TEST(DxfWriter, ArcHasItsAnglesInDegrees)
 
 TEST(DxfWriter, EllipseIsThirtySixLinesFromNewToPrevious)
 {
-    EntityRecord r = object(kind::ellipse);
-    r.p1 = world(1, 0);
-    r.p2 = world(0, 0);
-    r.p3.x = 0.5F;
-    Drawing drawing{r};
-    std::string expected;
-    std::string x = "1";
-    std::string y = "0";
-    for (const double side : {1.0, -1.0}) {
-        double a = 0;
-        for (int i = 0; i < 18; ++i) {
-            a += 0.1745329;
-            const auto nextX = static_cast<float>(side * std::cos(a));        // as the file rounds it
-            const auto nextY = static_cast<float>(side * -0.5 * std::sin(a)); // as above
-            const std::string newX = single(nextX);
-            const std::string newY = single(nextY);
-            expected += line(newX, newY, x, y);
-            x = newX;
-            y = newY;
-        }
-    }
+    Drawing drawing{levelEllipse()};
+    const std::string expected = levelEllipseLines();
     EXPECT_EQ(drawing.file(), head() + expected + tail());
     const std::string first = line("0.9848077", "-0.08682407", "1", "0");
     EXPECT_EQ(expected.substr(0, first.size()), first);
+}
+
+TEST(DxfWriter, SlantedEllipseClosesAndLiesOnItsAxes)
+{
+    constexpr double radius = 60, ratio = 0.25; // world units
+    constexpr double ux = 0.8, uy = 0.6;        // y upward
+    EntityRecord r = object(kind::ellipse);
+    r.p1 = world(3 + 5 * ux, 2 + 5 * uy);
+    r.p2 = world(3, 2);
+    r.p3.x = ratio;
+    Opened o(Drawing{r}.file());
+    ASSERT_EQ(o.count(), 37);
+    for (std::int32_t i = 1; i < 37; ++i) {
+        const double x = o.at(i).p1.x - 36, y = -o.at(i).p1.y - 24;
+        const double alongU = (x * ux + y * uy) / radius;
+        const double alongV = (x * uy - y * ux) / (radius * ratio);
+        EXPECT_NEAR(alongU * alongU + alongV * alongV, 1, 1e-5) << i;
+        EXPECT_TRUE(i >= 18 || alongV > 0) << i; // clockwise with y upward
+        EXPECT_EQ(o.at(i).p2, i == 1 ? r.p1 : o.at(i - 1).p1) << i;
+    }
+    EXPECT_NEAR(o.at(36).p1.x, r.p1.x, 1e-3);
+    EXPECT_NEAR(o.at(36).p1.y, r.p1.y, 1e-3);
 }
 
 TEST(DxfWriter, PointIsALineOfNoLengthAndSolid)
