@@ -209,6 +209,20 @@ void confirmFileDialog(App& app, ControlId)
     }
 }
 
+void openDrawingAt(App& app, const std::string& path)
+{
+    Session& s = app.s;
+    const std::string folder = parentOf(path);
+    std::string name = path.substr(path.rfind('/') + 1);
+    if (name.find('.') == std::string::npos) name += ".mtd";
+    if (app.ports.folders.exists(folder)) s.drawings.last = folder;
+    const FileFlow flow{"Open Drawing", "Open", "*.mtd"};
+    openFileDialog(app, flow, name);
+    const bool isDrawing = name.size() > 4 && sameButForCase(name.substr(name.size() - 4), ".mtd");
+    const FileChoice choice{folder, name, std::string(flow.caption), std::string(flow.pattern)};
+    if (isDrawing && openFile(app, choice)) hideDialog(s);
+}
+
 void dismissFileDialog(App& app, ControlId)
 {
     if (app.s.controls["frmfile"_c].caption == "Save Changes") return carryOutFollowUp(app);

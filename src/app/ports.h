@@ -49,6 +49,7 @@ struct Ports {
     std::string programFolder;
     Printer* printer = nullptr; // not owned; null where nothing can be printed
     Fonts* fonts = nullptr;     // not owned; null where there are none
+    std::string ownFolder = {}; // where the user's files go at first; the program's folder if empty
 };
 
 } // namespace mirtane

@@ -100,6 +100,15 @@ void Shell::start()
     settle(s_.controls.focus);
 }
 
+void Shell::openDrawing(const std::string& path)
+{
+    if (ended()) return;
+    const ControlId before = s_.controls.focus;
+    App app{s_, pic1_, ports_, dxfScratch_};
+    openDrawingAt(app, path);
+    settle(before);
+}
+
 void Shell::mouseDown(int button, Point at)
 {
     if (ended()) return;

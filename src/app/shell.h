@@ -17,6 +17,9 @@ class Shell {
 
     // The start of the program: defaults, settings, function "Line", an empty drawing.
     void start();
+    // The drawing that the program was asked for at its start, by its absolute path: opens it as Open Drawing
+    // does. Where that can't be done the dialog stays up with the name.
+    void openDrawing(const std::string& path);
     bool ended() const { return s_.ended; }
 
     // On pic1. Buttons: 1 left, 2 right, 4 middle. Points are world coordinates.

@@ -10,12 +10,14 @@
 namespace mirtane {
 namespace {
 
-void setFolders(Session& s, const std::string& programFolder)
+// The program's folder stays the working folder, and so a row of the drives, even where files begin
+// elsewhere.
+void setFolders(Session& s, const std::string& programFolder, const std::string& ownFolder)
 {
     s.programFolder = programFolder;
     for (FolderPair* pair : {&s.drawings, &s.associates, &s.hatches, &s.multipleLines, &s.dxf}) {
         pair->working = programFolder;
-        pair->last = programFolder;
+        pair->last = ownFolder.empty() ? programFolder : ownFolder;
     }
 }
 
@@ -42,7 +44,7 @@ constexpr ControlId laterForms[] = {"frmfile"_c, "frmfilter"_c, "frmedit"_c, "fr
 void startProgram(App& app)
 {
     Session& s = app.s;
-    setFolders(s, app.ports.programFolder);
+    setFolders(s, app.ports.programFolder, app.ports.ownFolder);
     newLayers(s);
     greyWhatHasNoRoutine(s.controls);
     if (const Printer* printer = app.ports.printer) {

@@ -1,9 +1,10 @@
-// The program with its window.
+// The program with its window: mirtane [drawing].
 
 #include "app/shell.h"
 #include "platform/qt/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/places.h"
 #include "platform/qt/settings.h"
 #include "platform/qt/surface.h"
 #include "platform/qt/window/main_window.h"
@@ -11,6 +12,7 @@
 #include "platform/qt/window/theme.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QScreen>
 
 namespace {
@@ -31,12 +33,21 @@ Surface firstSurface()
     return surface;
 }
 
+// Empty for an empty name.
+std::string absolutePath(const char* argument)
+{
+    const QString name = QFile::decodeName(argument);
+    return name.isEmpty() ? std::string() : QDir::cleanPath(QDir().absoluteFilePath(name)).toStdString();
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false); // the shell says when it ends
+    int toolkitArguments = 1; // a name that looks like an option is the name of a drawing
+    QApplication application(toolkitArguments, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("mirtane")); // which tells a desktop the window's icon
+    QApplication::setQuitOnLastWindowClosed(false);                 // the shell says when it ends
     applyTheme(application);
 
     QtDisk disk;
@@ -46,12 +57,14 @@ int main(int argc, char* argv[])
     Session session;
     Surface surface = firstSurface();
     const std::unique_ptr<Printer> printer = systemPrinter();
+    const Places places = placesOf(QCoreApplication::applicationDirPath());
     Shell shell(session, surface,
-                {disk, folders, settings, QCoreApplication::applicationDirPath().toStdString(), printer.get(), &fonts});
+                {disk, folders, settings, places.program, printer.get(), &fonts, places.ownFiles});
     shell.start();
 
     MainWindow window(shell, surface);
     window.resize(firstSize);
+    if (argc > 1) window.openWhenShown(absolutePath(argv[1]));
     window.show();
     return QApplication::exec();
 }

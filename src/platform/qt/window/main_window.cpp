@@ -11,6 +11,9 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QTimer>
+
+#include <utility>
 
 namespace mirtane {
 namespace {
@@ -70,6 +73,22 @@ void MainWindow::copyControls()
     views_.copy(shell.session().controls);
     surface_.refresh();
     if (shell.ended()) QApplication::exit();
+}
+
+void MainWindow::openWhenShown(const std::string& path)
+{
+    toOpen_ = path;
+}
+
+// The first one comes when the window is on the screen. What is opened is painted in its turn, so it has to
+// wait.
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    if (toOpen_.empty()) return;
+    QTimer::singleShot(0, this, [this, path = std::exchange(toOpen_, {})] {
+        gate_.send([&path](Shell& shell) { shell.openDrawing(path); });
+    });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -15,11 +15,16 @@ class MainWindow : public QMainWindow, public ControlView {
     // The shell has been started; it and the surface must outlive the window.
     MainWindow(Shell& shell, Surface& surface);
 
+    // Opens the drawing at an absolute path once the window stands on the screen at the size that the desktop
+    // gives it, so that the drawing fits.
+    void openWhenShown(const std::string& path);
+
     using QMainWindow::show;
     void show(const Control& now) override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     void lay(Surface& surface);
@@ -28,6 +33,7 @@ class MainWindow : public QMainWindow, public ControlView {
     EventGate gate_;
     ControlViews views_;
     Surface& surface_;
+    std::string toOpen_; // when the window is shown; empty if nothing is
 };
 
 } // namespace mirtane
