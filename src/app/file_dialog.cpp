@@ -107,7 +107,8 @@ int driveOf(const std::vector<std::string>& drives, const std::string& folder)
     return found;
 }
 
-void showFolder(App& app, const std::string& folder)
+// The folder is a copy, since it may be one of the rows that are replaced here.
+void showFolder(App& app, std::string folder)
 {
     Session& s = app.s;
     Control& files = s.controls["frmfile.File1"_c];

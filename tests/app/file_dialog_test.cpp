@@ -29,6 +29,22 @@ struct FileWork : testing::Test {
     Desk desk;
 };
 
+// Of many drives the last is the working folder.
+TEST(FileDialog, ShowsTheFilesOfADriveThatIsChosen)
+{
+    const char* plans = "/a/long/way/to/the/plans";
+    Desk desk({{"wkd", plans}, {"wkp", fake::home}});
+    desk.folders.folders.insert(plans);
+    desk.disk.files = {{std::string(plans) + "/barn.mtd", {}}};
+    desk.press("fil4"_c);
+    EXPECT_EQ(desk.text("frmfile.Dir1"_c), fake::home);
+    const int last = static_cast<int>(desk.s.controls["frmfile.Drive1"_c].rows.size()) - 1; // two rows
+    desk.shell.clickRow("frmfile.Drive1"_c, last);
+    EXPECT_EQ(desk.text("frmfile.Dir1"_c), plans);
+    EXPECT_EQ(desk.s.controls["frmfile.File1"_c].rows, std::vector<std::string>{"barn.mtd"});
+    EXPECT_EQ(desk.s.controls["frmfile.Drive1"_c].row, last);
+}
+
 // Opening, closing, leaving
 
 TEST(FileMenu, OffersADrawingToOpenWhereNothingIsUnsaved)
