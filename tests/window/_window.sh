@@ -44,10 +44,19 @@ open_display() {
 start_program() {
     cp "$MIRTANE" "$OUT_DIR/mirtane"
     cleanup+=("rm -f '$OUT_DIR/mirtane'")
-    "$OUT_DIR/mirtane" &
+    launch "$OUT_DIR/mirtane" "$@"
+    place_window
+}
+
+# launch COMMAND...: starts the program, and leaves its window where it comes up.
+launch() {
+    "$@" &
     program=$!
     cleanup+=("kill $program 2>/dev/null")
     until_true find_window
+}
+
+place_window() {
     xdotool windowsize "$window" 1024 700 windowmove "$window" 0 0
     until_true window_is_placed
     sleep 0.3 # the repaint that follows a resize
