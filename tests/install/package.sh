@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# The Debian package: its words, what it depends on, and the program run from where it was unpacked.
+set -eu
+. "$(dirname "$0")/_installed.sh"
+
+cpack --config "$BUILD_DIR/CPackConfig.cmake" -G DEB -B "$OUT_DIR/made" >"$OUT_DIR/cpack.log" 2>&1 ||
+    fail "no package: $(cat "$OUT_DIR/cpack.log")"
+package=$(echo "$OUT_DIR"/made/mirtane_4.00-*.deb)
+rm -r "$OUT_DIR/made/_CPack_Packages"
+
+# told FIELD TEXT: the package has that text in that field.
+told() { dpkg-deb -f "$package" "$1" | grep -qE -- "$2" || fail "$1: $(dpkg-deb -f "$package" "$1")"; }
+told Package '^mirtane$'
+told Architecture "^$(dpkg --print-architecture)\$"
+told Section '^graphics$'
+told Maintainer '^[^<]+ <[^@ ]+@[^ ]+>$'
+told Description '^program for drawing plans'
+for library in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6svg6; do
+    told Depends "(^|, )${library//+/\\+} \(>= [0-9]"
+done
+
+dpkg-deb -x "$package" "$OUT_DIR/root"
+has_all_files "$OUT_DIR/root/usr" .gz
+for packed in share/man/man1/mirtane.1 share/doc/mirtane/changelog.Debian; do
+    gzip -t "$OUT_DIR/root/usr/$packed.gz" || fail "$packed is not packed"
+done
+readelf -S "$OUT_DIR/root/usr/bin/mirtane" | grep -q '\.symtab' && fail "the program is not stripped"
+[ "$(cd "$OUT_DIR/root" && find . -maxdepth 2 | sort | tr '\n' ' ')" = ". ./usr ./usr/bin ./usr/share " ] ||
+    fail "the package puts something elsewhere"
+
+runs_from "$OUT_DIR/root/usr"
