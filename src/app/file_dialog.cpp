@@ -107,7 +107,8 @@ int driveOf(const std::vector<std::string>& drives, const std::string& folder)
     return found;
 }
 
-void showFolder(App& app, const std::string& folder)
+// folder is taken as a copy: it may be a row of one of the lists that are filled anew.
+void showFolder(App& app, const std::string folder)
 {
     Session& s = app.s;
     Control& files = s.controls["frmfile.File1"_c];

@@ -56,8 +56,10 @@ PieceRange piecesInView(const View& view, const LinePieces& pieces)
     narrow(enters, leaves, pieces.a.x, pieces.b.x, view.viewLeft, view.viewRight);
     narrow(enters, leaves, pieces.a.y, pieces.b.y, view.viewTop, view.viewBottom);
     if (!(enters <= leaves)) {
-        // The line misses the view; a piece may still span its corner without being beyond one side.
-        if (leaves < 0) return {1, 0};
+        // The line misses the view; a piece may still span its corner without being beyond one side, if the
+        // way past the corner is no longer than a piece.
+        constexpr double mostPieces = 2;
+        if (leaves < 0 || (enters - leaves) * pieces.count > mostPieces) return {1, 0};
         std::swap(enters, leaves);
     }
     return {std::max(1, pieceAt(enters, pieces.count) - 1),

@@ -245,5 +245,17 @@ TEST_F(Painters, DrawNothingOfAnEllipseWithoutARadius)
     EXPECT_TRUE(taken().empty());
 }
 
+// Half a thousand million pieces lie between the places where it is above the window and where it is beside.
+TEST_F(Painters, PassOverALineThatIsFarFromTheWindowAndHugelyLong)
+{
+    look({0, 0, 1000, 600});
+    constexpr float farAway = 1e12F;
+    for (int i = 0; i < 50; ++i) {
+        paintLine(pic1, view, {-farAway, farAway / 2}, {farAway / 2, -farAway});
+        paintLineSegment(pic1, view, {-farAway, farAway / 2}, {farAway / 2, -farAway});
+    }
+    EXPECT_TRUE(taken().empty());
+}
+
 } // namespace
 } // namespace mirtane
