@@ -135,6 +135,18 @@ Directions directionsOfView(const View& view, const Chords& c)
     return {middle - before, before + behind};
 }
 
+// Whether the view lies so far inside that no chord reaches it. On the unit circle a chord is no longer than
+// its step; a flat ellipse stretches what lies beside it.
+bool isFarInside(const View& view, const Chords& c)
+{
+    constexpr double rounding = 1e-6; // of points on the surface, as a share of the radius
+    const double flat = std::abs(c.ratio);
+    const double reach = std::abs(c.sweep / c.count) * std::max(flat, quotient(1, flat));
+    return std::ranges::all_of(cornersOnUnitCircle(view, c), [reach](const Corner& corner) {
+        return std::hypot(corner.x, corner.y) < 1 - reach - rounding;
+    });
+}
+
 void drawChordRange(Canvas& pic1, const View& view, const Chords& c, PieceRange range)
 {
     const double step = c.sweep / c.count;
@@ -175,6 +187,7 @@ void drawChords(Canvas& pic1, const View& view, const Chords& c)
     constexpr std::int32_t few = 256;
     if (!std::isfinite(c.r * c.sweep) || c.count < 1) return;
     if (c.count <= few) return drawChordRange(pic1, view, c, {1, c.count});
+    if (isFarInside(view, c)) return drawChordRange(pic1, view, c, {1, 1}); // its start is the caller's
     const double step = c.sweep / c.count;
     const Directions seen = directionsOfView(view, c);
     const double first = turnTo(c.firstAngle, seen.first - step);

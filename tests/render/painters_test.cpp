@@ -257,5 +257,13 @@ TEST_F(Painters, PassOverALineThatIsFarFromTheWindowAndHugelyLong)
     EXPECT_TRUE(taken().empty());
 }
 
+// Each has 32,767 chords, and would take its milliseconds if they were walked.
+TEST_F(Painters, PassOverACircleThatSurroundsTheWindowFarAway)
+{
+    look({1000, 2000, 1000, 600});
+    for (int i = 0; i < 100'000; ++i) paintCircle(pic1, view, {0, 0}, 3e6F);
+    EXPECT_TRUE(taken().empty());
+}
+
 } // namespace
 } // namespace mirtane
