@@ -8,21 +8,6 @@ namespace {
 
 using Files = std::map<std::string, Bytes>;
 
-// A file in DXF with the records that the reader knows, and some that it does not.
-constexpr std::string_view smallDxf =
-    "  0\nSECTION\n  2\nTABLES\n  0\nTABLE\n  2\nLAYER\n 70\n2\n  0\nLAYER\n  2\n0\n 70\n0\n  0\nLAYER\n  2\n"
-    "walls\n 70\n0\n  0\nENDTAB\n  0\nENDSEC\n  0\nSECTION\n  2\nBLOCKS\n  0\nBLOCK\n  2\nHC1\n  0\nLINE\n  "
-    "8\n"
-    "0\n 10\n1\n 20\n2\n 11\n3\n 21\n4\n  0\nENDBLK\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n  0\nINSERT\n "
-    " 2\n"
-    "HC1\n 10\n5\n 20\n6\n 50\n30\n  0\nPOLYLINE\n 70\n1\n  0\nVERTEX\n 10\n0\n 20\n0\n 42\n1\n  0\nVERTEX\n "
-    "10\n"
-    "4\n 20\n0\n  0\nSEQEND\n  0\nLINE\n  8\nwalls\n 62\n3\n 10\n1\n 20\n2\n 11\n30\n 21\n40\n  0\nCIRCLE\n "
-    "10\n"
-    "5\n 20\n5\n 40\n2.5\n  0\nARC\n 10\n1\n 20\n2\n 40\n3\n 50\n45\n 51\n270\n  0\nTEXT\n 10\n1\n 20\n2\n "
-    "40\n"
-    "0.2\n  1\nseven words\n 50\n30\n  0\nPOINT\n 10\n1\n 20\n1\n  0\nENDSEC\n  0\nEOF\n";
-
 Bytes contentsOf(const std::filesystem::path& path)
 {
     std::ifstream in(path, std::ios::binary);
@@ -33,12 +18,11 @@ const Files& goodFiles()
 {
     static const Files files = [] {
         Files found;
-        for (const char* folder : {"/data/libraries", "/data/samples"}) {
+        for (const char* folder : {"/data/libraries", "/data/samples", "/tests/fuzz/seeds"}) {
             for (const auto& entry :
                  std::filesystem::directory_iterator(MIRTANE_SOURCE_DIR + std::string(folder)))
                 if (entry.path().extension() != ".play") found[entry.path().filename()] = contentsOf(entry);
         }
-        found["small.dxf"] = Bytes(smallDxf.begin(), smallDxf.end());
         found["empty.mtd"] = {};
         return found;
     }();

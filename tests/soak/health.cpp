@@ -79,11 +79,12 @@ void checkLog(const UndoLog& log, const EntityStore& store, Faults& faults)
     }
 }
 
-void checkLayers(const Session& s, Faults& faults)
+void checkLayers(const Session& s, Manner manner, Faults& faults)
 {
     constexpr std::string_view shown[] = {layer::on, layer::hidden, layer::working};
     faults.unless(s.layerTable.layerCount >= 0, "layerCount");
-    faults.unless(s.workLayer >= 0 && s.workLayer < LayerTable::rowLimit, "workLayer");
+    const bool hasRow = s.layerTable.find(s.workLayer) != nullptr;
+    faults.unless(manner == Manner::wild || hasRow, "workLayer");
     for (const Layer& row : s.layerTable.layers) {
         if (row.layerName.empty() && row.layerShown.empty()) continue;
         faults.unless(row.layerUsed == layer::inUse || row.layerUsed == layer::unused, "used of a layer");
@@ -213,7 +214,7 @@ std::string faultOf(const Stage& stage, Manner manner)
     Faults faults;
     checkStore(s, manner, faults);
     checkLog(s.log, s.store, faults);
-    checkLayers(s, faults);
+    checkLayers(s, manner, faults);
     checkLibraries(s, manner, faults);
     checkControls(s, faults);
     checkState(s, faults);
