@@ -83,8 +83,9 @@ std::array<Corner, 4> cornersOnUnitCircle(const View& view, const Chords& c)
     const float xs[] = {view.viewLeft, view.viewRight, view.viewRight, view.viewLeft};
     const float ys[] = {view.viewTop, view.viewTop, view.viewBottom, view.viewBottom};
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        const double dx = xs[i] - c.centre.x;
-        const double dy = c.centre.y - ys[i];
+        // Widened before the difference, or the corners are one point as seen from far away.
+        const double dx = static_cast<double>(xs[i]) - c.centre.x;
+        const double dy = static_cast<double>(c.centre.y) - ys[i];
         corners[i].x = quotient(dx * c.ux + dy * c.uy, c.r);
         corners[i].y = quotient(dy * c.ux - dx * c.uy, c.r * c.ratio);
     }

@@ -265,5 +265,14 @@ TEST_F(Painters, PassOverACircleThatSurroundsTheWindowFarAway)
     EXPECT_TRUE(taken().empty());
 }
 
+// Of its hundreds of millions of chords those that point at the window are walked, and no others.
+TEST_F(Painters, FindTheChordsOfAnArcWhoseCentreIsHugelyFarAway)
+{
+    look({0, 0, 1200, 800});
+    const Point centre{823932354560.0F, -25300408320.0F};
+    for (int i = 0; i < 50; ++i) paintArc(pic1, view, centre, {0, 0}, 824320720896.0F, 3.17229, 3.19223);
+    EXPECT_LE(taken().size(), 50 * 100U);
+}
+
 } // namespace
 } // namespace mirtane
