@@ -1,4 +1,4 @@
-// A DXF file, as it is and as the rewriter for files of other programs makes it: opened, shown, written and
+// A DXF file, as it is or as the rewriter for files of other programs makes it: opened, shown, written and
 // opened again.
 
 #include "dxf/dxf_reader.h"
@@ -48,15 +48,15 @@ void open(Session& s, std::string_view file)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string file(data, data + size);
-    for (const std::string& text : {file, tolerantDxf(file)}) {
-        Session& s = freshSession();
-        open(s, text);
-        show(s);
-        changeStat(s.store, Stat::on, Stat::sel);
-        DxfScratch scratch;
-        const DxfFile written = dxfFile(s.store, scratch);
-        open(s, std::string(written.bytes.begin(), written.bytes.end()));
-        finishDxf(s);
-    }
+    const bool rewritten =
+        size % 2 == 1; // one way a file, as reading empties the whole table, which takes time
+    Session& s = freshSession();
+    open(s, rewritten ? tolerantDxf(file) : file);
+    show(s);
+    changeStat(s.store, Stat::on, Stat::sel);
+    DxfScratch scratch;
+    const DxfFile written = dxfFile(s.store, scratch);
+    open(s, std::string(written.bytes.begin(), written.bytes.end()));
+    finishDxf(s);
     return 0;
 }

@@ -186,9 +186,18 @@ std::vector<bool> alive(const EntityStore& store)
     return live;
 }
 
+// A trim that a parallel line stopped leaves what it made to the next action, so it has no group of its own
+// yet.
+bool isUnderWay(const UndoLog& log)
+{
+    return log.undoLogCount > 0 && log.logGroup[EntityStore::at(log.undoLogCount - 1)] == log.undoGroupNext;
+}
+
 // Whether undoing all that can be undone and redoing it gives the same drawing. The session stays as it is.
 std::string faultOfUndo(const Session& s)
 {
+    const bool fits = 3 * s.log.undoLogCount < UndoLog::wrapAt; // undo and redo log as much again, each
+    if (isUnderWay(s.log) || !fits) return "";
     static EntityStore store; // undo turns states alone, so the other fields need no copy
     UndoLog log = s.log;
     store.entCount = s.store.entCount;
@@ -196,9 +205,7 @@ std::string faultOfUndo(const Session& s)
     const std::vector<bool> before = alive(store);
     const std::int32_t groups = log.undoGroupTop;
     for (std::int32_t i = 0; i < groups; ++i) undo(store, log);
-    const bool wrapped = log.undoLogCount < s.log.undoLogCount;
     for (std::int32_t i = 0; i < groups; ++i) redo(store, log);
-    if (wrapped || log.undoLogCount < s.log.undoLogCount) return ""; // the oldest records are overwritten
     const std::vector<bool> after = alive(store);
     const auto [first, _] = std::ranges::mismatch(before, after);
     if (first == before.end()) return "";
