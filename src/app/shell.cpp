@@ -24,9 +24,14 @@
 namespace mirtane {
 namespace {
 
+bool isSeen(const Controls& controls, ControlId id)
+{
+    return controls[id].visible && controls[formOf(id)].visible;
+}
+
 bool canBeUsed(const Controls& controls, ControlId id)
 {
-    return controls[id].visible && controls[id].enabled && controls[formOf(id)].visible;
+    return isSeen(controls, id) && controls[id].enabled;
 }
 
 bool hasRow(const Control& list, int row)
@@ -246,6 +251,8 @@ void Shell::closeForm(ControlId form)
 
 void Shell::settle(ControlId focusBefore)
 {
+    // A form that went from the screen takes no keys with it.
+    if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = "pic1"_c;
     if (s_.controls.focus != focusBefore) fieldLeft(s_, focusBefore);
     s_.controls["promptlab"_c].caption = s_.promptText;
     showArmedSnap(s_);

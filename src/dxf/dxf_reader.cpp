@@ -7,6 +7,8 @@
 #include "dxf/records_in.h"
 #include "geometry/fault.h"
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
@@ -16,12 +18,11 @@ constexpr int layerNameOffset = 2;             // p1.x of a layer name is its la
 
 void clearSlots(EntityStore& store)
 {
-    for (std::size_t at = 1; at < store.kind.size(); ++at) {
-        store.style[at] = 0;
-        store.color[at] = unreadColor;
-        store.layer[at] = 0;
-        store.dxfTag[at] = noName;
-    }
+    constexpr std::ptrdiff_t header = 1; // slot 0 keeps what it holds
+    std::fill(store.style.begin() + header, store.style.end(), std::int16_t{0});
+    std::fill(store.color.begin() + header, store.color.end(), unreadColor);
+    std::fill(store.layer.begin() + header, store.layer.end(), std::int16_t{0});
+    std::fill(store.dxfTag.begin() + header, store.dxfTag.end(), noName);
     store.entCount = 1;
 }
 

@@ -56,8 +56,10 @@ PieceRange piecesInView(const View& view, const LinePieces& pieces)
     narrow(enters, leaves, pieces.a.x, pieces.b.x, view.viewLeft, view.viewRight);
     narrow(enters, leaves, pieces.a.y, pieces.b.y, view.viewTop, view.viewBottom);
     if (!(enters <= leaves)) {
-        // The line misses the view; a piece may still span its corner without being beyond one side.
-        if (leaves < 0) return {1, 0};
+        // The line misses the view; a piece may still span its corner without being beyond one side, if the
+        // way past the corner is no longer than a piece.
+        constexpr double mostPieces = 2;
+        if (leaves < 0 || (enters - leaves) * pieces.count > mostPieces) return {1, 0};
         std::swap(enters, leaves);
     }
     return {std::max(1, pieceAt(enters, pieces.count) - 1),
@@ -81,8 +83,9 @@ std::array<Corner, 4> cornersOnUnitCircle(const View& view, const Chords& c)
     const float xs[] = {view.viewLeft, view.viewRight, view.viewRight, view.viewLeft};
     const float ys[] = {view.viewTop, view.viewTop, view.viewBottom, view.viewBottom};
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        const double dx = xs[i] - c.centre.x;
-        const double dy = c.centre.y - ys[i];
+        // Widened before the difference, or the corners are one point as seen from far away.
+        const double dx = static_cast<double>(xs[i]) - c.centre.x;
+        const double dy = static_cast<double>(c.centre.y) - ys[i];
         corners[i].x = quotient(dx * c.ux + dy * c.uy, c.r);
         corners[i].y = quotient(dy * c.ux - dx * c.uy, c.r * c.ratio);
     }
@@ -133,6 +136,18 @@ Directions directionsOfView(const View& view, const Chords& c)
     return {middle - before, before + behind};
 }
 
+// Whether the view lies so far inside that no chord reaches it. On the unit circle a chord is no longer than
+// its step; a flat ellipse stretches what lies beside it.
+bool isFarInside(const View& view, const Chords& c)
+{
+    constexpr double rounding = 1e-6; // of points on the surface, as a share of the radius
+    const double flat = std::abs(c.ratio);
+    const double reach = std::abs(c.sweep / c.count) * std::max(flat, quotient(1, flat));
+    return std::ranges::all_of(cornersOnUnitCircle(view, c), [reach](const Corner& corner) {
+        return std::hypot(corner.x, corner.y) < 1 - reach - rounding;
+    });
+}
+
 void drawChordRange(Canvas& pic1, const View& view, const Chords& c, PieceRange range)
 {
     const double step = c.sweep / c.count;
@@ -173,6 +188,7 @@ void drawChords(Canvas& pic1, const View& view, const Chords& c)
     constexpr std::int32_t few = 256;
     if (!std::isfinite(c.r * c.sweep) || c.count < 1) return;
     if (c.count <= few) return drawChordRange(pic1, view, c, {1, c.count});
+    if (isFarInside(view, c)) return drawChordRange(pic1, view, c, {1, 1}); // its start is the caller's
     const double step = c.sweep / c.count;
     const Directions seen = directionsOfView(view, c);
     const double first = turnTo(c.firstAngle, seen.first - step);

@@ -378,5 +378,16 @@ TEST_F(FileWork, OldUndoRecordsDoNotReachTheNewDrawing)
     EXPECT_EQ(desk.stat(1), Stat::out);
 }
 
+TEST(FileDialog, ADriveIsARowOfTheListThatItFillsAnew)
+{
+    Desk desk;
+    desk.folders.folders.insert("/a folder with a long name of its own");
+    desk.s.drawings.working = "/a folder with a long name of its own";
+    desk.press("fil4"_c);
+    desk.shell.clickRow("frmfile.Drive1"_c, 1);
+    EXPECT_EQ(desk.text("frmfile.Dir1"_c), "/a folder with a long name of its own");
+    EXPECT_EQ(desk.s.controls["frmfile.Drive1"_c].row, 1);
+}
+
 } // namespace
 } // namespace mirtane

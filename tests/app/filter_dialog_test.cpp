@@ -351,5 +351,15 @@ TEST_F(FilterDialog, DoesNotTakeTheFormFromAChangeUnderWay)
     EXPECT_EQ(desk.caption("frmfilter"_c), "Change Properties");
 }
 
+TEST_F(FilterDialog, KeysGoToTheDrawingOnceAClickThereHasTakenTheFormAway)
+{
+    desk.press("flt1"_c);
+    desk.shell.clickRow("frmfilter.List1"_c, 1);
+    ASSERT_EQ(desk.focused(), "frmfilter.List1");
+    desk.click(100, 100);
+    EXPECT_FALSE(desk.visible("frmfilter"_c));
+    EXPECT_EQ(desk.focused(), "pic1");
+}
+
 } // namespace
 } // namespace mirtane

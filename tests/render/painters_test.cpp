@@ -245,5 +245,34 @@ TEST_F(Painters, DrawNothingOfAnEllipseWithoutARadius)
     EXPECT_TRUE(taken().empty());
 }
 
+// Half a thousand million pieces lie between the places where it is above the window and where it is beside.
+TEST_F(Painters, PassOverALineThatIsFarFromTheWindowAndHugelyLong)
+{
+    look({0, 0, 1000, 600});
+    constexpr float farAway = 1e12F;
+    for (int i = 0; i < 50; ++i) {
+        paintLine(pic1, view, {-farAway, farAway / 2}, {farAway / 2, -farAway});
+        paintLineSegment(pic1, view, {-farAway, farAway / 2}, {farAway / 2, -farAway});
+    }
+    EXPECT_TRUE(taken().empty());
+}
+
+// Each has 32,767 chords, and would take its milliseconds if they were walked.
+TEST_F(Painters, PassOverACircleThatSurroundsTheWindowFarAway)
+{
+    look({1000, 2000, 1000, 600});
+    for (int i = 0; i < 100'000; ++i) paintCircle(pic1, view, {0, 0}, 3e6F);
+    EXPECT_TRUE(taken().empty());
+}
+
+// Of its hundreds of millions of chords those that point at the window are walked, and no others.
+TEST_F(Painters, FindTheChordsOfAnArcWhoseCentreIsHugelyFarAway)
+{
+    look({0, 0, 1200, 800});
+    const Point centre{823932354560.0F, -25300408320.0F};
+    for (int i = 0; i < 50; ++i) paintArc(pic1, view, centre, {0, 0}, 824320720896.0F, 3.17229, 3.19223);
+    EXPECT_LE(taken().size(), 50 * 100U);
+}
+
 } // namespace
 } // namespace mirtane

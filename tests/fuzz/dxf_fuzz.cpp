@@ -1,0 +1,62 @@
+// A DXF file, as it is or as the rewriter for files of other programs makes it: opened, shown, written and
+// opened again.
+
+#include "dxf/dxf_reader.h"
+#include "dxf/dxf_writer.h"
+#include "dxf/tolerant.h"
+#include "fuzz_session.h"
+
+#include <cmath>
+
+using namespace mirtane;
+using namespace mirtane::fuzz;
+
+namespace {
+
+float widthOf(const EntityRecord& r)
+{
+    return r.p2.x * static_cast<float>(r.t1.size()); // texts are below 16 million characters
+}
+
+bool isFinite(Point p)
+{
+    return std::isfinite(p.x) && std::isfinite(p.y);
+}
+
+void requireObjects(const Session& s)
+{
+    constexpr std::int16_t deadInsert = 35;
+    for (std::int32_t i = 1; i < s.store.end(); ++i) {
+        const EntityRecord r = s.store.record(i);
+        require(isFinite(r.p1) && isFinite(r.p2) && isFinite(r.p3) && isFinite(r.p4) && isFinite(r.p5),
+                "points");
+        require(std::isfinite(r.rad) && std::isfinite(r.a1) && std::isfinite(r.a2), "numbers");
+        const bool known = (r.kind >= kind::line && r.kind <= kind::arc) || r.kind == kind::text;
+        require(known || r.kind == deadInsert, "kind");
+    }
+}
+
+void open(Session& s, std::string_view file)
+{
+    readDxf(s, file, widthOf);
+    requireTables(s);
+    requireObjects(s);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string file(data, data + size);
+    const bool rewritten =
+        size % 2 == 1; // one way a file, as reading empties the whole table, which takes time
+    Session& s = freshSession();
+    open(s, rewritten ? tolerantDxf(file) : file);
+    show(s);
+    changeStat(s.store, Stat::on, Stat::sel);
+    DxfScratch scratch;
+    const DxfFile written = dxfFile(s.store, scratch);
+    open(s, std::string(written.bytes.begin(), written.bytes.end()));
+    finishDxf(s);
+    return 0;
+}

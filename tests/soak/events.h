@@ -1,0 +1,12 @@
+#pragma once
+
+#include "hand.h"
+#include "health.h"
+#include "random.h"
+
+namespace mirtane::soak {
+
+// One thing that a user might do next: a few events.
+void doSomething(Stage& stage, Hand& hand, Random& random, Manner manner);
+
+} // namespace mirtane::soak
