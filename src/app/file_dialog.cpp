@@ -133,7 +133,9 @@ std::string parentOf(const std::string& folder)
     return slash == 0 || slash == std::string::npos ? "/" : folder.substr(0, slash);
 }
 
-std::string firstThatExists(App& app, const FolderPair& folders)
+} // namespace
+
+std::string folderThatExists(App& app, const FolderPair& folders)
 {
     for (const std::string& folder : {folders.last, folders.working}) {
         const bool isAbsolute = folder.starts_with('/'); // the process's own directory counts for nothing
@@ -141,8 +143,6 @@ std::string firstThatExists(App& app, const FolderPair& folders)
     }
     return app.s.programFolder;
 }
-
-} // namespace
 
 void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
 {
@@ -155,7 +155,7 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     setText(s.controls["frmfile.Text2"_c], std::string(pattern.typeLine));
     setText(s.controls["frmfile.Text1"_c], name);
     s.saveFollowUp = follow::nothing;
-    showFolder(app, firstThatExists(app, s.*pattern.folders));
+    showFolder(app, folderThatExists(app, s.*pattern.folders));
     s.controls["frmfile"_c].visible = true;
     s.controls.focus = "frmfile.Text1"_c;
 }

@@ -1,5 +1,7 @@
 #include "app/print_dialog.h"
 
+#include "app/file_dialog.h"
+#include "app/starters.h"
 #include "app/typed_entry.h"
 #include "geometry/fault.h"
 #include "print/page.h"
@@ -34,10 +36,11 @@ double fittedScaleShown(const Session& s)
 }
 
 // A drawing is printed beside the place where it is kept.
-std::string fileOfPage(const Session& s, std::string& name)
+std::string fileOfPage(App& app, std::string& name)
 {
+    Session& s = app.s;
     name = s.drawingName.substr(0, s.drawingName.find('.')) + ".pdf";
-    return s.drawings.last + "/" + name;
+    return folderThatExists(app, s.drawings) + "/" + name;
 }
 
 bool putPageOut(Session& s, Printer& printer, const std::string& file)
@@ -53,7 +56,7 @@ void printSelection(App& app)
     Printer* printer = app.ports.printer;
     if (printer != nullptr && s.pageWidth > 0 && s.pageHeight > 0) {
         std::string name;
-        const std::string file = fileOfPage(s, name);
+        const std::string file = fileOfPage(app, name);
         const bool done = putPageOut(s, *printer, file);
         if (printer->printsToFile()) setText(s.controls["entry"_c], done ? name : "File not saved!");
     }
@@ -71,7 +74,7 @@ void showScaleOfPicture(Session& s)
 void askForPrintScale(App& app, ControlId)
 {
     Session& s = app.s;
-    s.stepNo = 0;
+    beginAnew(s, app.pic1);
     s.printFactor = 1;
     if (countWithStat(s.store, Stat::sel) == 0) {
         setText(s.controls["entry"_c], "Nothing selected!");

@@ -4,6 +4,7 @@
 #include "app/attribute_controls.h"
 #include "app/file_dialog.h"
 #include "app/settings.h"
+#include "app/starters.h"
 #include "commands/prompt.h"
 #include "render/redraw.h"
 
@@ -63,15 +64,6 @@ void startProgram(App& app)
     showLineSettings(s);
 }
 
-void giveUpWhatWasBegun(App& app)
-{
-    Session& s = app.s;
-    s.orthoAngle = s.orthoAngleSaved;
-    s.controls["freecurs"_c].caption = s.orthoCaption;
-    resetPicture(app.pic1);
-    setPrompt(s, app.pic1);
-}
-
 bool hasUnsavedWork(const Session& s)
 {
     return s.savedCount < s.store.entCount;
@@ -82,7 +74,7 @@ void leaveProgram(App& app)
     app.s.stepNo = 0;
     app.s.saveFollowUp = follow::exit;
     if (hasUnsavedWork(app.s)) {
-        giveUpWhatWasBegun(app); // who then stays begins anew
+        beginAnew(app.s, app.pic1); // who then stays goes on so
         offerToSave(app, follow::exit);
     } else {
         endProgram(app);

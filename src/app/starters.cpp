@@ -34,6 +34,20 @@ void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
     changeFunction(s, pic1, row, row.firstStep);
 }
 
+void beginAnew(Session& s, Canvas& pic1)
+{
+    s.stepNo = 0;
+    s.textLength = 0;
+    s.orthoAngle = s.orthoAngleSaved;
+    s.controls["freecurs"_c].caption = s.orthoCaption;
+    if (s.workAngle == selectionFollowsPointer) {
+        s.workAngle = 0;
+        redrawAll(s, pic1);
+    }
+    resetPicture(pic1);
+    setPrompt(s, pic1);
+}
+
 void startFromControl(App& app, ControlId starter)
 {
     const FunctionRow* row = functionStartedBy(starter.row().name);

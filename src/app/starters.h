@@ -14,6 +14,9 @@ void changeFunction(Session& s, Canvas& pic1, const FunctionRow& row, std::int16
 // The same at the function's own first step; it becomes the base function if it is one.
 void startFunction(Session& s, Canvas& pic1, const FunctionRow& row);
 
+// The current function again at its start, with nothing of it begun.
+void beginAnew(Session& s, Canvas& pic1);
+
 // A click on the button or menu entry that starts a function.
 void startFromControl(App& app, ControlId starter);
 

@@ -10,7 +10,7 @@ namespace mirtane {
 
 void measureDistanceStep(Session& s, Canvas& pic1)
 {
-    if (s.stepNo != 2) return lineStep(s, pic1);
+    if (s.stepNo < 2) return lineStep(s, pic1); // above 2 after a typed distance, which measures nothing
     s.ptB = s.pickLast;
     float length = 0;
     keep(length, distance(s.ptA, s.ptB));

@@ -461,5 +461,19 @@ TEST(KeysOnTheDrawing, EnterAndBackspaceAreLost)
     EXPECT_EQ(desk.s.stepNo, 1);
 }
 
+TEST(MeasureDistance, GoesOnAfterATypedDistance)
+{
+    Desk desk;
+    desk.press("freecurs"_c);
+    desk.press("ut3"_c);
+    desk.click(1000, 1000);
+    desk.move(1500, 1000);
+    desk.type("12");
+    desk.enter();
+    desk.click(1144, 1000);
+    EXPECT_EQ(desk.text("entry"_c), "1'-0\"");
+    EXPECT_EQ(desk.s.stepNo, 1);
+}
+
 } // namespace
 } // namespace mirtane

@@ -1,6 +1,7 @@
 #include "app/print_dialog.h"
 
 #include "desk.h"
+#include "render/redraw.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -393,6 +394,34 @@ TEST(PrintDialog, ThePictureIsEmptyWhileTheValueIsRefused)
     EXPECT_THAT(pagePreview(office.s), IsEmpty());
     office.type("0");
     EXPECT_FALSE(pagePreview(office.s).empty());
+}
+
+TEST(PrintDialog, LeavesNothingOfAFunctionHalfBegun)
+{
+    Office office;
+    office.addLine();
+    office.s.store.setStat(1, Stat::sel);
+    office.shell.click("Command20"_c);
+    office.shell.click("freecurs"_c);
+    office.s.textLength = 3;
+    office.s.workAngle = selectionFollowsPointer;
+    office.s.orthoAngle = 1;
+    office.shell.click("picset"_c);
+    EXPECT_EQ(office.s.textLength, 0);
+    EXPECT_EQ(office.s.workAngle, 0);
+    EXPECT_EQ(office.s.orthoAngle, office.s.orthoAngleSaved);
+    EXPECT_EQ(office.s.store.stat[1], Stat::sel);
+}
+
+TEST(PrintDialog, PageGoesWhereTheDialogWouldSave)
+{
+    Office office;
+    office.printer.toFile = true;
+    office.s.drawings = {fake::home, "/gone"};
+    office.addLine();
+    office.shell.click("picset"_c);
+    office.shell.click(printButton);
+    EXPECT_EQ(office.printer.lastFile, std::string(fake::home) + "/untitled.pdf");
 }
 
 } // namespace

@@ -37,7 +37,9 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     bool beginPage(const std::string&) override
     {
         wait_.emplace();
-        return beginOn(*device, device->resolution() / twipsPerInch);
+        const bool begun = beginOn(*device, device->resolution() / twipsPerInch);
+        if (!begun) wait_.reset(); // no end follows
+        return begun;
     }
     bool endPage() override
     {
