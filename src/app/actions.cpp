@@ -212,11 +212,10 @@ constexpr ActionRow actionRows[] = {
     {"frmfile.Command2"_c, dismissFileDialog},
 };
 
-bool startsBuiltFunction(ControlId id)
+bool startsAtOnce(ControlId id)
 {
     const FunctionRow* row = functionStartedBy(id.row().name);
-    const DispatchRow* routines = row == nullptr ? nullptr : dispatchOf(row->name);
-    return routines != nullptr && routines->built && row->starts == Starts::atOnce;
+    return row != nullptr && row->starts == Starts::atOnce;
 }
 
 } // namespace
@@ -226,7 +225,7 @@ Action actionOf(ControlId id)
     for (const ActionRow& row : actionRows) {
         if (row.control == id) return row.action;
     }
-    return startsBuiltFunction(id) ? startFromControl : nullptr;
+    return startsAtOnce(id) ? startFromControl : nullptr;
 }
 
 bool isClickable(ControlId id)

@@ -6,7 +6,7 @@ namespace mirtane {
 
 using Action = void (*)(App& app, ControlId id);
 
-// What a click on a control does, or null where nothing is built for it yet.
+// What a click on a control does, or null for one that does nothing, such as the heading of a menu.
 Action actionOf(ControlId id);
 
 // Buttons, toggles and menu entries: what is greyed when it has no action.

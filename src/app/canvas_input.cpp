@@ -69,11 +69,6 @@ void confineMove(Session& s, const FunctionRow& row)
     confinePickLast(s, distance(s.pickFirst, s.pickLast));
 }
 
-bool isDigit(char32_t code)
-{
-    return code >= U'0' && code <= U'9';
-}
-
 bool isPartOfNumber(char32_t code)
 {
     return isDigit(code) || code == U'.' || code == U'-' || code == U'\'';

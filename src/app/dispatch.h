@@ -15,7 +15,6 @@ struct DispatchRow {
     std::string_view name;
     FunctionRoutine step; // null: clicks are counted and do nothing
     FunctionRoutine band; // null: nothing follows the pointer
-    bool built = true;    // false: not built yet, its starter is greyed
 };
 
 // A row for each row of the vocabulary.

@@ -32,8 +32,7 @@ void startEdit(App& app, const std::string& name)
     if (!somethingSelected(app.s) || name.empty()) return;
     if (name == "Delete") return deleteSelection(app.s, app.pic1);
     const FunctionRow* row = findFunction(name);
-    const DispatchRow* routines = dispatchOf(name);
-    if (row == nullptr || routines == nullptr || !routines->built) return;
+    if (row == nullptr) return;
     beginEdit(app, *row);
     if (name == "Change") askForChanges(app);
 }

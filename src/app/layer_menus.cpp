@@ -10,8 +10,6 @@
 namespace mirtane {
 namespace {
 
-constexpr double layerNameOffset = 2; // p1.x of a layer name is its layer's number plus this
-
 struct MenuRow {
     ControlId menu;
     std::string_view caption; // of Label3
@@ -71,7 +69,7 @@ void writeLayerName(Session& s, std::int32_t layer, const std::string& name)
 {
     EntityRecord r = s.store.record(s.store.entCount);
     r.kind = kind::layerName;
-    keep(r.p1.x, layer + layerNameOffset);
+    keep(r.p1.x, layer + layer::nameOffset);
     r.t1 = name;
     s.store.setRecord(s.store.entCount, r);
     s.store.setStat(s.store.entCount, Stat::on);
@@ -174,7 +172,7 @@ void unnameLayer(App& app, int r)
     if (Layer* row = s.layerTable.find(r)) row->layerName = std::to_string(row->layerNumber);
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
-        const bool names = s.store.kind[at] == kind::layerName && s.store.p1[at].x == r + layerNameOffset;
+        const bool names = s.store.kind[at] == kind::layerName && s.store.p1[at].x == r + layer::nameOffset;
         if (names) s.store.stat[at] = Stat::out;
     }
     showLayers(s);

@@ -7,6 +7,7 @@
 #include "print/page.h"
 #include "render/redraw.h"
 #include "text/numbers.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -123,8 +124,7 @@ void printScaleKeyPress(App& app, char32_t code)
 {
     if (code == enterKey) return confirmPrint(app, "frmprintset.Command1"_c);
     if (code == U',') code = U'.';
-    const bool isDigit = code >= U'0' && code <= U'9';
-    if (!isDigit && code != U'.' && code != U'-' && code != backspaceKey) return;
+    if (!isDigit(code) && code != U'.' && code != U'-' && code != backspaceKey) return;
     passKey(app.s.controls["frmprintset.Text1"_c], code);
     showScaleOfPicture(app.s);
 }

@@ -23,11 +23,6 @@ namespace {
 constexpr double hatchScaleAbove = 0.1;
 constexpr double hatchScaleBelow = 64;
 
-bool isDigit(char32_t code)
-{
-    return code >= U'0' && code <= U'9';
-}
-
 std::string takeText(Session& s)
 {
     Control& entry = s.controls["entry"_c];

@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::int32_t unreadColor = 0x00FF00;
 constexpr std::string_view blockPrefix = "HC"; // other blocks are read as if they were none
-constexpr int layerNameOffset = 2;             // p1.x of a layer name is its layer's number plus this
 
 void clearSlots(EntityStore& store)
 {
@@ -123,7 +122,7 @@ void finishDxf(Session& s)
     EntityStore& store = s.store;
     OpenSlot slot(store);
     for (std::int32_t n = 0; n < s.layerTable.layerCount; ++n) {
-        keep(slot.p1().x, n + layerNameOffset);
+        keep(slot.p1().x, n + layer::nameOffset);
         if (const Layer* const row = s.layerTable.find(n)) slot.t1() = row->layerName;
         slot.close(kind::layerName);
     }

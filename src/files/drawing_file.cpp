@@ -14,7 +14,6 @@ namespace {
 
 // The light grey that a file may hold is read as white.
 constexpr std::int32_t fileGrey = 0xE0E0E0;
-constexpr float layerNameOffset = 2; // p1.x of a layer name is its layer's number plus this
 
 // Slot 0 as the current attributes fill it.
 EntityRecord headerRecord(const Session& s)
@@ -94,7 +93,7 @@ void countDimensionsAndLayers(Session& s)
         const std::int16_t k = s.store.kind[at];
         if (k >= kind::linearDimension && k <= kind::angularDimension) ++s.dimensionCount;
         std::int16_t named = 0; // a layer's number has 16 bits: a value beyond them names none
-        if (k == kind::layerName && keep(named, s.store.p1[at].x - layerNameOffset))
+        if (k == kind::layerName && keep(named, s.store.p1[at].x - layer::nameOffset))
             highest = std::max<std::int32_t>(highest, named);
         highest = std::max<std::int32_t>(highest, s.store.layer[at]);
     }
@@ -131,7 +130,7 @@ void nameAndMarkLayers(Session& s)
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
         std::int16_t named = 0;
-        if (s.store.kind[at] == kind::layerName && keep(named, s.store.p1[at].x - layerNameOffset)) {
+        if (s.store.kind[at] == kind::layerName && keep(named, s.store.p1[at].x - layer::nameOffset)) {
             if (Layer* row = s.layerTable.find(named)) row->layerName = s.store.t1[at];
         }
         if (s.store.kind[at] <= kind::lastDrawn) markUsed(s.layerTable, s.store.layer[at]);

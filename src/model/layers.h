@@ -14,6 +14,9 @@ inline constexpr std::string_view unused = "No :";
 inline constexpr std::string_view on = "On :";
 inline constexpr std::string_view hidden = "Off:";
 inline constexpr std::string_view working = "Wk :";
+
+// p1.x of the record that holds a layer's name is its layer's number plus this.
+inline constexpr double nameOffset = 2;
 } // namespace layer
 
 struct Layer {

@@ -29,4 +29,10 @@ std::vector<std::string> utf8Characters(std::string_view text);
 // How many characters text has.
 std::size_t utf8Length(std::string_view text);
 
+// Whether a character is one of 0 to 9.
+inline bool isDigit(char32_t code)
+{
+    return code >= U'0' && code <= U'9';
+}
+
 } // namespace mirtane

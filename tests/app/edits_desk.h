@@ -100,9 +100,4 @@ inline const std::vector<std::string> editRows = {
     "Break", "Trim",   "Stretch", "Copy", "Mirror Copy", "Radial Copy", "Concentric Copy", "Move", "Rotate",
     "Scale", "Change", "Fillet",  "",     "Delete"};
 
-inline bool isBuilt(const EditFunction& function)
-{
-    return dispatchOf(function.name)->built;
-}
-
 } // namespace mirtane::fake

@@ -80,6 +80,10 @@ program_ended() { ! kill -0 "$program" 2>/dev/null; }
 press() { xdotool mousemove "$1" "$2" click "${3:-1}"; }
 point() { xdotool mousemove "$1" "$2"; }
 
+# type_letters TEXT: also letters that the keyboard lacks. Each of those borrows a key for as long as the delay, which
+# must last until a busy machine has looked at it.
+type_letters() { xdotool type --delay 250 -- "$1"; }
+
 # menu X KEY COUNT: opens the menu that stands at X on the bar and takes the entry that so many presses of Down or
 # Up reach. Greyed entries are passed over.
 menu() {

@@ -20,7 +20,7 @@ until_true pixels_are $drawing 201
 menu $file Down 3
 until_true window_called "Save File"
 xdotool key ctrl+a
-xdotool type --delay 60 "été à la mer"
+type_letters "été à la mer"
 xdotool key Return
 until_true no_window_called "Save File"
 until_true test -s "$OUT_DIR/été à la mer.mtd"

@@ -20,7 +20,7 @@ snap() {
 }
 # line WORDS: typed and placed.
 line() {
-    xdotool type --delay 30 -- "$1"
+    type_letters "$1"
     xdotool key Return
     sleep 0.1
 }
@@ -41,7 +41,7 @@ press $text
 until_true title_has "Place Text(Enter location of text line:)"
 press 180 40
 until_true title_has "(Enter text:)"
-xdotool type --delay 30 "Größe øx"
+type_letters "Größe øx"
 bright 175 35 150 25 100
 before=$(look 175 35 150 25)
 xdotool key BackSpace
