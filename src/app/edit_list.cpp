@@ -11,9 +11,9 @@ namespace {
 
 void beginEdit(App& app, const FunctionRow& row)
 {
+    setText(app.s.controls["Text3"_c], ""); // before the prompt, which may put a number there
     startFunction(app.s, app.pic1, row);
     app.s.editPending = 1;
-    setText(app.s.controls["Text3"_c], "");
 }
 
 void askForChanges(App& app)

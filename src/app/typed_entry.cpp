@@ -157,12 +157,8 @@ struct EditNumber {
 
 constexpr EditNumber editNumbers[] = {
     {EntryKeys::radialCopy, 1, [](Session& s, double v) { s.editDegrees = heldWithinTurn(v); }, 1, false},
-    {EntryKeys::radialCopy, 2,
-     [](Session& s, double v) {
-         keep(s.radialCount, v);
-         s.radialCount = std::clamp(s.radialCount, 2, 64);
-     },
-     1, true},
+    {EntryKeys::radialCopy, 2, [](Session& s, double v) { keep(s.radialCount, std::clamp(v, 2.0, 64.0)); }, 1,
+     true},
     {EntryKeys::rotate, 1, [](Session& s, double v) { s.editDegrees = heldWithinTurn(v); }, 2, true},
     {EntryKeys::scale, 1, [](Session& s, double v) { keep(s.editDX, v); }, 1, false},
     {EntryKeys::scale, 2, [](Session& s, double v) { keep(s.editDY, v); }, 1, true},

@@ -21,7 +21,7 @@ EntityRecord offset(EntityRecord r, float by)
     if (r.kind != kind::arc) return r;
     r.p2 = polarPoint(r.p1, r.rad, r.a1);
     r.p3 = polarPoint(r.p1, r.rad, r.a2);
-    r.p4 = polarPoint(r.p1, r.rad, middleAngle(r.a1, r.a2));
+    r.p4 = polarPoint(r.p1, r.rad, middleWithinTurn(r.a1, r.a2));
     return r;
 }
 

@@ -62,7 +62,7 @@ EntityRecord arcLike(const EntityRecord& like, Point centre, float radius, doubl
     arc.p1 = centre;
     arc.p2 = polarPoint(centre, radius, a1);
     arc.p3 = polarPoint(centre, radius, a2);
-    arc.p4 = polarPoint(centre, radius, middleAngle(a1, a2));
+    arc.p4 = polarPoint(centre, radius, middleWithinTurn(a1, a2));
     arc.rad = radius;
     arc.a1 = a1;
     arc.a2 = a2;
@@ -108,7 +108,7 @@ EntityRecord cutArc(const EntityRecord& arc, Point at, const EntityRecord& held)
         break;
     }
     if (cut.a1 == cut.a2) cut.kind = kind::circle;
-    cut.p4 = polarPoint(cut.p1, cut.rad, middleAngle(cut.a1, cut.a2));
+    cut.p4 = polarPoint(cut.p1, cut.rad, middleWithinTurn(cut.a1, cut.a2));
     return cut;
 }
 

@@ -60,8 +60,12 @@ void mirrorSweep(EntityRecord& r, const MirrorLine& line)
 // The new text starts at the image of the old end, and reads towards the image of the old start.
 void layMirroredText(EntityRecord& r, const MirrorLine& line, const Baseline& old, double degrees)
 {
-    const double image = line.of(degrees * radiansPerDegree);
-    layText(r, {line.of(old.end), line.of(old.start)}, withinTurn(image + halfTurn) * degreesPerRadian);
+    const Point start = line.of(old.end);
+    const Point end = line.of(old.start);
+    double angle = withinTurn(line.of(degrees * radiansPerDegree) + halfTurn);
+    // Between two points that are rounded a slant is less exact than this, but an axis is exact.
+    if (start.x == end.x || start.y == end.y) angle = directionAngle(start, end, angle);
+    layText(r, {start, end}, angle * degreesPerRadian);
 }
 
 EntityRecord mirrored(Canvas& pic1, const MirrorLine& line, EntityRecord r)

@@ -69,7 +69,7 @@ void pullArc(const Pull& pull, EntityRecord& r)
     r.a2 = ends.a2;
     r.p2 = polarPoint(r.p1, r.rad, r.a1);
     r.p3 = polarPoint(r.p1, r.rad, r.a2);
-    r.p4 = polarPoint(r.p1, r.rad, middleAngle(r.a1, r.a2));
+    r.p4 = polarPoint(r.p1, r.rad, middleWithinTurn(r.a1, r.a2));
 }
 
 void pullEllipse(const Pull& pull, EntityRecord& r)

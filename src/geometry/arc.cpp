@@ -21,6 +21,12 @@ double middleAngle(double a1, double a2)
     return middle > fullTurn ? middle - fullTurn : middle;
 }
 
+double middleWithinTurn(double a1, double a2)
+{
+    const double middle = middleAngle(a1, a2);
+    return middle == fullTurn ? 0 : middle;
+}
+
 bool onSweep(double angle, double a1, double a2)
 {
     // Off the arc the two parts come to a full turn more than the whole. The hundredth takes up their

@@ -11,6 +11,9 @@ double sweep(double a1, double a2);
 // The direction of the arc's middle, 0 to a full turn.
 double middleAngle(double a1, double a2);
 
+// The same with 0 for a full turn, so that the point there lies exactly on the axis.
+double middleWithinTurn(double a1, double a2);
+
 // Whether angle (radians, 0 to a full turn) lies on the arc, its ends included.
 bool onSweep(double angle, double a1, double a2);
 

@@ -42,7 +42,8 @@ TEST(EditStarters, AreTheSameFromTheListAndFromTheForm)
             EXPECT_EQ(desk.s.stepNo, function.firstStep) << function.name;
             EXPECT_EQ(desk.s.editPending, 1) << function.name;
             EXPECT_EQ(desk.title(), fake::titleOf(std::string(function.name) + function.prompt));
-            EXPECT_EQ(desk.text("Text3"_c), "") << function.name;
+            const bool asks = std::string_view(function.name) == "Fillet"; // for a radius
+            EXPECT_EQ(desk.text("Text3"_c), asks ? "6" : "") << function.name;
             EXPECT_FALSE(desk.visible("frmedit"_c)) << function.name;
             EXPECT_EQ(desk.focused(), "pic1") << function.name;
             EXPECT_EQ(desk.mode(), "Edit Functions") << function.name;

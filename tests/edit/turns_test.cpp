@@ -113,6 +113,16 @@ TEST(Mirror, AtALevelLineTurnsALevelTextUpsideDownWhateverItsJustification)
     }
 }
 
+TEST(Mirror, AtAnUprightLineALevelTextStaysExactlyLevel)
+{
+    for (const std::int16_t kind : {kind::text, kind::leader}) {
+        EntityRecord r = sample(kind);
+        r.*kindRow(kind)->rotation = 0;
+        const EntityRecord image = mirror(r, {1000, 0}, {1000, 500});
+        EXPECT_EQ(image.*kindRow(kind)->rotation, 0) << kind;
+    }
+}
+
 TEST(Mirror, OfAnArcThroughAngleZeroRunsCounterClockwiseThroughTheImageOfItsMiddle)
 {
     const EntityRecord old = arc({50, 60}, 20, 5.5, 1.25);

@@ -23,6 +23,12 @@ TEST(Arc, SweepAndMiddlePassThroughAngleZero)
     }
 }
 
+TEST(Arc, MiddleOnAngleZeroIsExactWithinATurn)
+{
+    EXPECT_EQ(middleWithinTurn(4.712389, 1.5707963), 0);
+    EXPECT_EQ(middleWithinTurn(0, 1.5707963), middleAngle(0, 1.5707963));
+}
+
 TEST(Arc, OnTheSweepWithItsEndsAndNoRoomBeyond)
 {
     struct Row {
