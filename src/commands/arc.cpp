@@ -2,7 +2,7 @@
 
 #include "commands/commit.h"
 #include "commands/prompt.h"
-#include "commands/three_point_scratch.h"
+#include "model/three_point_scratch.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "render/redraw.h"

@@ -6,18 +6,17 @@
 #include "geometry/angle.h"
 #include "geometry/arc.h"
 #include "geometry/fault.h"
-#include "geometry/three_point.h"
+#include "model/three_point_scratch.h"
 
 namespace mirtane {
 namespace {
 
 void placeArcPoints(EntityStore& store, std::size_t at)
 {
-    const Point centre = store.p1[at];
-    const float radius = store.rad[at];
-    store.p2[at] = polarPoint(centre, radius, store.a1[at]);
-    store.p3[at] = polarPoint(centre, radius, store.a2[at]);
-    store.p4[at] = polarPoint(centre, radius, middleAngle(store.a1[at], store.a2[at]));
+    const ArcPoints points = arcPoints(store.p1[at], store.rad[at], store.a1[at], store.a2[at]);
+    store.p2[at] = points.start;
+    store.p3[at] = points.end;
+    store.p4[at] = points.middle;
 }
 
 void convertRound(EntityStore& store, std::size_t at)
@@ -46,26 +45,6 @@ class BulgePoint {
     Point unit_; // y up; a segment of no length has that of the one before it
 };
 
-// The arc from ptA to ptC by way of ptB, as the three-point arc has it: what can't be had stays in s.
-void constructArc(ScratchPoints& s)
-{
-    const BisectorMarkers markers = bisectorMarkers(s.ptA, s.ptB, {s.bisectorA, s.bisectorB});
-    s.bisectorA = markers.a;
-    s.bisectorB = markers.b;
-    ThreePointCircle held;
-    held.centre = s.ptF;
-    held.radius = s.workRadius;
-    const ThreePointCircle found = threePointCircle(s.ptA, s.ptB, s.ptC, markers, held);
-    s.ptF = found.centre;
-    s.workRadius = found.radius;
-    s.arcAngleTwo = directionAngle(s.ptF, s.ptC, s.arcAngleTwo);
-    s.arcAngleOne = directionAngle(s.ptF, s.ptA, s.arcAngleOne);
-    if (found.toMarkerA == found.toMarkerB) return;
-    const bool towardsA = found.toMarkerA < found.toMarkerB;
-    s.arcStart = towardsA ? s.arcAngleTwo : s.arcAngleOne;
-    s.arcEnd = towardsA ? s.arcAngleOne : s.arcAngleTwo;
-}
-
 void convertSegment(Session& s, std::size_t at, BulgePoint& bulgePoint)
 {
     EntityStore& store = s.store;
@@ -76,6 +55,7 @@ void convertSegment(Session& s, std::size_t at, BulgePoint& bulgePoint)
     s.ptA = store.p1[at];
     s.ptC = store.p2[at];
     s.ptB = bulgePoint.of(s.ptA, s.ptC, store.p3[at].x);
+    markBisector(s);
     constructArc(s);
     store.p1[at] = s.ptF;
     store.rad[at] = s.workRadius;

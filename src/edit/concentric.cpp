@@ -1,9 +1,8 @@
 #include "edit/concentric.h"
 
 #include "edit/selection_run.h"
-#include "geometry/angle.h"
-#include "geometry/arc.h"
 #include "geometry/fault.h"
+#include "model/kind_table.h"
 
 #include <utility>
 
@@ -19,9 +18,7 @@ EntityRecord offset(EntityRecord r, float by)
 {
     keep(r.rad, static_cast<double>(by) + r.rad); // widened before the sum
     if (r.kind != kind::arc) return r;
-    r.p2 = polarPoint(r.p1, r.rad, r.a1);
-    r.p3 = polarPoint(r.p1, r.rad, r.a2);
-    r.p4 = polarPoint(r.p1, r.rad, middleWithinTurn(r.a1, r.a2));
+    placeArcPoints(r);
     return r;
 }
 

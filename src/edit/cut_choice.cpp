@@ -4,6 +4,7 @@
 #include "geometry/angle.h"
 #include "geometry/arc.h"
 #include "geometry/nearest.h"
+#include "model/kind_table.h"
 
 #include <cmath>
 
@@ -60,12 +61,10 @@ EntityRecord arcLike(const EntityRecord& like, Point centre, float radius, doubl
     EntityRecord arc = like;
     arc.kind = kind::arc;
     arc.p1 = centre;
-    arc.p2 = polarPoint(centre, radius, a1);
-    arc.p3 = polarPoint(centre, radius, a2);
-    arc.p4 = polarPoint(centre, radius, middleWithinTurn(a1, a2));
     arc.rad = radius;
     arc.a1 = a1;
     arc.a2 = a2;
+    placeArcPoints(arc);
     return arc;
 }
 
@@ -108,7 +107,7 @@ EntityRecord cutArc(const EntityRecord& arc, Point at, const EntityRecord& held)
         break;
     }
     if (cut.a1 == cut.a2) cut.kind = kind::circle;
-    cut.p4 = polarPoint(cut.p1, cut.rad, middleWithinTurn(cut.a1, cut.a2));
+    cut.p4 = arcPoints(cut.p1, cut.rad, cut.a1, cut.a2).middle;
     return cut;
 }
 

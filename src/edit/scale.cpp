@@ -4,12 +4,12 @@
 #include "edit/scale.h"
 
 #include "commands/prompt.h"
-#include "commands/three_point_scratch.h"
 #include "edit/selection_run.h"
 #include "edit/text_baseline.h"
 #include "geometry/angle.h"
 #include "geometry/ellipse.h"
 #include "geometry/fault.h"
+#include "model/three_point_scratch.h"
 
 #include <cmath>
 #include <iterator>

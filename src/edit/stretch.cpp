@@ -8,6 +8,7 @@
 #include "geometry/arc.h"
 #include "geometry/circle_through.h"
 #include "geometry/fault.h"
+#include "model/kind_table.h"
 #include "render/redraw.h"
 #include "text/utf8.h"
 
@@ -67,9 +68,7 @@ void pullArc(const Pull& pull, EntityRecord& r)
     r.rad = circle->radius;
     r.a1 = ends.a1;
     r.a2 = ends.a2;
-    r.p2 = polarPoint(r.p1, r.rad, r.a1);
-    r.p3 = polarPoint(r.p1, r.rad, r.a2);
-    r.p4 = polarPoint(r.p1, r.rad, middleWithinTurn(r.a1, r.a2));
+    placeArcPoints(r);
 }
 
 void pullEllipse(const Pull& pull, EntityRecord& r)

@@ -21,10 +21,11 @@ double middleAngle(double a1, double a2)
     return middle > fullTurn ? middle - fullTurn : middle;
 }
 
-double middleWithinTurn(double a1, double a2)
+ArcPoints arcPoints(Point centre, float radius, double a1, double a2)
 {
     const double middle = middleAngle(a1, a2);
-    return middle == fullTurn ? 0 : middle;
+    return {polarPoint(centre, radius, a1), polarPoint(centre, radius, a2),
+            polarPoint(centre, radius, middle == fullTurn ? 0 : middle)};
 }
 
 bool onSweep(double angle, double a1, double a2)

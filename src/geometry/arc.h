@@ -1,5 +1,7 @@
 #pragma once
 
+#include "geometry/point.h"
+
 // Arcs run counter-clockwise on the screen from a1 to a2 (radians, 0 to a full turn). a2 below a1 means that
 // the arc passes through angle 0; there is no direction flag.
 
@@ -11,8 +13,12 @@ double sweep(double a1, double a2);
 // The direction of the arc's middle, 0 to a full turn.
 double middleAngle(double a1, double a2);
 
-// The same with 0 for a full turn, so that the point there lies exactly on the axis.
-double middleWithinTurn(double a1, double a2);
+// The points of an arc that an object keeps beside its angles. A middle at a full turn lies exactly on the
+// axis, as one at 0 does.
+struct ArcPoints {
+    Point start, end, middle;
+};
+ArcPoints arcPoints(Point centre, float radius, double a1, double a2);
 
 // Whether angle (radians, 0 to a full turn) lies on the arc, its ends included.
 bool onSweep(double angle, double a1, double a2);

@@ -90,11 +90,7 @@ EntityRecord hatchObject(const HatchPiece& piece, const HatchFill& fill)
     r.rad = piece.radius;
     r.a1 = piece.a1;
     r.a2 = piece.a2;
-    if (piece.kind == kind::arc) {
-        r.p2 = polarPoint(r.p1, r.rad, r.a1);
-        r.p3 = polarPoint(r.p1, r.rad, r.a2);
-        r.p4 = polarPoint(r.p1, r.rad, middleAngle(r.a1, r.a2));
-    }
+    if (piece.kind == kind::arc) placeArcPoints(r);
     if (fill.rotation == 0) return r;
     const Turn turn(firstPoint(fill), fill.rotation);
     mapPairs(r, kindRow(r.kind)->mapped, [&turn](Point p) { return turn.of(p); });

@@ -1,6 +1,7 @@
 #include "model/kind_table.h"
 
 #include "geometry/angle.h"
+#include "geometry/arc.h"
 #include "geometry/fault.h"
 
 #include <cmath>
@@ -142,6 +143,14 @@ void Turn::apply(EntityRecord& r) const
     if (row->rotation == nullptr) return;
     double& degrees = r.*row->rotation;
     keep(degrees, withinTurn(degrees * radiansPerDegree + radians_) * degreesPerRadian);
+}
+
+void placeArcPoints(EntityRecord& arc)
+{
+    const ArcPoints points = arcPoints(arc.p1, arc.rad, arc.a1, arc.a2);
+    arc.p2 = points.start;
+    arc.p3 = points.end;
+    arc.p4 = points.middle;
 }
 
 } // namespace mirtane

@@ -77,4 +77,7 @@ class Turn {
     double radians_, cos_, sin_;
 };
 
+// Sets the start, end and middle of an arc from its centre, radius and angles.
+void placeArcPoints(EntityRecord& arc);
+
 } // namespace mirtane

@@ -159,23 +159,23 @@ struct PickResults {
 
 // What an edit of the selection works with on its way through its steps.
 struct EditState {
-    float editDX = 0, editDY = 0;         // offset of the copies being made; the two factors of a scale
-    float editStepX = 0, editStepY = 0;   // the first offset of "Copy", which each further copy repeats
-    double editAngle = 0;                 // rotation of the copies being made, radians
-    double editDegrees = 0;               // as typed
-    std::int32_t radialCount = 0;         // as typed, the source object included
-    float offsetDistance = 0;             // added to the radius by "Concentric Copy", world units
+    float editDX = 0, editDY = 0;          // offset of the copies being made; the two factors of a scale
+    float editStepX = 0, editStepY = 0;    // the first offset of "Copy", which each further copy repeats
+    double editAngle = 0;                  // rotation of the copies being made, radians
+    double editDegrees = 0;                // as typed
+    std::int32_t radialCount = 0;          // as typed, the source object included
+    float offsetDistance = 0;              // added to the radius by "Concentric Copy", world units
     float stretchLeft = 0, stretchTop = 0; // the window of "Stretch", edges included
     float stretchRight = 0, stretchBottom = 0;
-    Point moveText;                       // where "Move Dimension Text" leaves the text
+    Point moveText; // where "Move Dimension Text" leaves the text
 };
 
 // The page under way; lengths on paper are twips.
 struct PrintState {
-    float pageWidth = 0, pageHeight = 0; // as they were when the program started
+    float pageWidth = 0, pageHeight = 0;                              // as they were when the program started
     float printMinX = 0, printMinY = 0, printMaxX = 0, printMaxY = 0; // bounds of the selection, world units
-    float printFactor = 1;                                           // the user's reduction
-    float printScale = 1;                                            // twips to the world unit
+    float printFactor = 1;                                            // the user's reduction
+    float printScale = 1;                                             // twips to the world unit
     float printOriginX = 0, printOriginY = 0;
 };
 

@@ -23,10 +23,12 @@ TEST(Arc, SweepAndMiddlePassThroughAngleZero)
     }
 }
 
-TEST(Arc, MiddleOnAngleZeroIsExactWithinATurn)
+TEST(Arc, PointsThatLieOnAnAxisAreExact)
 {
-    EXPECT_EQ(middleWithinTurn(4.712389, 1.5707963), 0);
-    EXPECT_EQ(middleWithinTurn(0, 1.5707963), middleAngle(0, 1.5707963));
+    const ArcPoints points = arcPoints({7, 9}, 100, 4.712389, 1.5707963);
+    EXPECT_EQ(points.start, (Point{7, 109}));
+    EXPECT_EQ(points.end, (Point{7, -91}));
+    EXPECT_EQ(points.middle, (Point{107, 9}));
 }
 
 TEST(Arc, OnTheSweepWithItsEndsAndNoRoomBeyond)

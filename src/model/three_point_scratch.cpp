@@ -1,4 +1,4 @@
-#include "commands/three_point_scratch.h"
+#include "model/three_point_scratch.h"
 
 #include "geometry/angle.h"
 #include "geometry/arc.h"
@@ -44,9 +44,10 @@ void constructArc(ScratchPoints& s)
 void placeArcPoints(ScratchPoints& s, Point centre)
 {
     s.ptA = centre;
-    s.ptB = polarPoint(centre, s.workRadius, s.arcStart);
-    s.ptC = polarPoint(centre, s.workRadius, s.arcEnd);
-    s.ptD = polarPoint(centre, s.workRadius, middleAngle(s.arcStart, s.arcEnd));
+    const ArcPoints points = arcPoints(centre, s.workRadius, s.arcStart, s.arcEnd);
+    s.ptB = points.start;
+    s.ptC = points.end;
+    s.ptD = points.middle;
 }
 
 } // namespace mirtane
