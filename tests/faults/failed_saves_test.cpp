@@ -3,6 +3,7 @@
 
 #include "failing_calls.h"
 #include "platform/qt/page_painter.h"
+#include "play_process.h"
 #include "theatre.h"
 
 #include <gmock/gmock.h>
@@ -18,6 +19,7 @@
 namespace mirtane {
 namespace {
 
+using fake::contentOf;
 using fake::Failing;
 using fake::FailingCalls;
 using testing::ElementsAre;
@@ -55,12 +57,6 @@ constexpr Saved kinds[] = {
     {"untitled.pdf", "", true, "press picset\npress frmprintset.Command1", "", "File not saved!"},
 };
 #undef SELECTS
-
-std::string contentOf(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // What can fail with no harm: the bytes are on the disk, and in their place or not at all.
 bool mayFail(const std::string& call)

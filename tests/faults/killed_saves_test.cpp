@@ -4,6 +4,7 @@
 #include "files/drawing_file.h"
 #include "model/insertion.h"
 #include "platform/qt/disk.h"
+#include "play_process.h"
 #include "theatre.h"
 
 #include <gtest/gtest.h>
@@ -24,16 +25,11 @@ namespace mirtane {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+using fake::contentOf;
 using std::chrono::microseconds;
 
 constexpr unsigned seed = 20040;
 constexpr std::chrono::seconds timeForEach{5};
-
-std::string contentOf(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 Bytes drawingOf(int lines)
 {
