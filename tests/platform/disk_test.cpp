@@ -10,6 +10,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace mirtane {
@@ -174,7 +175,8 @@ TEST_F(DiskTest, WhatIsNoFileIsNotRead)
 {
     ASSERT_TRUE(QDir(folder_.path()).mkpath("folder.mtd"));
     ASSERT_EQ(mkfifo(at("pipe.mtd").c_str(), 0600), 0);
-    for (const char* name : {"missing.mtd", "folder.mtd", "pipe.mtd"}) {
+    mknod(at("device.mtd").c_str(), S_IFCHR | 0600, makedev(1, 5)); // is not there where that is not allowed
+    for (const char* name : {"missing.mtd", "folder.mtd", "pipe.mtd", "device.mtd"}) {
         EXPECT_FALSE(disk_.read(at(name)).has_value()) << name;
     }
     EXPECT_FALSE(disk_.read("").has_value());

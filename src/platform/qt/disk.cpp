@@ -1,9 +1,5 @@
 #include "platform/qt/disk.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QString>
-
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -15,26 +11,6 @@
 
 namespace mirtane {
 namespace {
-
-// QIODevice counts bytes of char.
-char* charsOf(Bytes& bytes)
-{
-    return reinterpret_cast<char*>(bytes.data());
-}
-
-// Reads on until the end, since what a file gives may differ from the size it told.
-bool readAll(QFile& file, Bytes& bytes)
-{
-    std::int64_t filled = 0;
-    while (filled < std::ssize(bytes)) {
-        const std::int64_t got = file.read(charsOf(bytes) + filled, std::ssize(bytes) - filled);
-        if (got < 0) return false;
-        if (got == 0) break;
-        filled += got;
-    }
-    bytes.resize(static_cast<std::size_t>(filled)); // not negative
-    return true;
-}
 
 // A call that a signal broke off is made again.
 template <class Call> auto again(Call call)
@@ -53,6 +29,26 @@ class Opened {
     Opened& operator=(const Opened&) = delete;
 
     bool isOpen() const { return descriptor_ >= 0; }
+    // The bytes of a file; -1 for what is none: a folder, a pipe, a device.
+    std::int64_t size() const
+    {
+        struct stat told = {};
+        return ::fstat(descriptor_, &told) == 0 && S_ISREG(told.st_mode) ? told.st_size : -1;
+    }
+    // Until the bytes are full or the file ends, since what it gives may differ from the size it told.
+    bool read(Bytes& bytes) const
+    {
+        std::size_t filled = 0;
+        while (filled < bytes.size()) {
+            const ssize_t more =
+                again([&] { return ::read(descriptor_, bytes.data() + filled, bytes.size() - filled); });
+            if (more < 0) return false;
+            if (more == 0) break;
+            filled += static_cast<std::size_t>(more); // not negative
+        }
+        bytes.resize(filled);
+        return true;
+    }
     bool write(const Bytes& bytes) const
     {
         for (std::size_t done = 0; done < bytes.size();) {
@@ -140,15 +136,13 @@ void flushFolder(const std::filesystem::path& folder)
 
 std::optional<Bytes> QtDisk::read(const std::string& path)
 {
-    const QString name = QString::fromStdString(path);
-    // Opening a pipe would wait for whoever writes into it.
-    if (!QFileInfo(name).isFile()) return std::nullopt;
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return std::nullopt;
-    const std::int64_t size = file.size();
+    // A pipe would else wait for whoever writes into it.
+    constexpr int atOnce = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    const Opened file(again([&] { return ::open(path.c_str(), atOnce); }));
+    const std::int64_t size = file.isOpen() ? file.size() : -1;
     if (size < 0 || size > largestRead) return std::nullopt;
     Bytes bytes(static_cast<std::size_t>(size)); // within the limit just tested
-    if (!readAll(file, bytes)) return std::nullopt;
+    if (!file.read(bytes)) return std::nullopt;
     return bytes;
 }
 
