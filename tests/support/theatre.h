@@ -17,7 +17,11 @@ namespace mirtane::fake {
 
 class Theatre {
   public:
-    Theatre()
+    // Pages go to the recording printer unless another is given.
+    explicit Theatre(Printer* other = nullptr)
+        : shell(*session, pic1,
+                Ports{disk, folders, settings, folder.path().toStdString(),
+                      other == nullptr ? &printer : other})
     {
         surface.setScale({0, 0, 4800, 3200});
         shell.start();
@@ -63,7 +67,7 @@ class Theatre {
     Surface surface{1200, 800, 1};
     RecordingCanvas pic1{&surface};
     RecordingPrinter printer;
-    Shell shell{*session, pic1, Ports{disk, folders, settings, folder.path().toStdString(), &printer}};
+    Shell shell;
     play::Stage stage{shell, surface, pic1, printer};
 };
 

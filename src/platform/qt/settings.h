@@ -2,24 +2,24 @@
 
 #include "app/ports.h"
 
-#include <QSettings>
-
 namespace mirtane {
 
-// The settings as the platform keeps them for each user, or in a file of their own.
+// The settings as a file for each user, or in a file of their own: text, a line for each key of a section.
 class QtSettings : public SettingsStore {
   public:
     // The per-user store.
     QtSettings();
     // An ini file at that path (UTF-8); it is made by the first write.
-    explicit QtSettings(const std::string& iniFile);
+    explicit QtSettings(std::string iniFile);
 
+    // What is no line of a key, or in no section of ours, is passed over.
     std::map<std::string, std::string> read() override;
-    // Flushed to the disk when it returns. A store that can't be written stays as it was.
+    // Flushed to the disk when it returns; keys that are not given keep their values. A store that can't be
+    // written stays as it was.
     void write(const std::map<std::string, std::string>& values) override;
 
   private:
-    QSettings store_;
+    std::string path_;
 };
 
 } // namespace mirtane
