@@ -16,6 +16,7 @@
 #include "app/starters.h"
 #include "app/text_menus.h"
 #include "commands/live_text.h"
+#include "commands/prompt.h"
 #include "commands/vocabulary.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -28,6 +29,14 @@ template <void (*zoom)(Session&, Canvas&)> void zoomAction(App& app, ControlId)
 {
     zoom(app.s, app.pic1);
     repaintTextPreview(app.s, app.pic1);
+}
+
+void startZoomWindow(App& app, ControlId)
+{
+    Session& s = app.s;
+    // A window of the selection that has its first corner begins anew, and the title that comes back says so.
+    if (s.windowStep > 0 && isWindowFunction(s.curFunc) && !zoomWindowIsOn(s)) showPromptOfStep(s, 0);
+    zoomWindowStart(s, app.pic1);
 }
 
 template <bool (*flip)(EntityStore&, UndoLog&)> void undoAction(App& app, ControlId)
@@ -81,7 +90,7 @@ constexpr ActionRow actionRows[] = {
     {"undu"_c, undoAction<undo>},
     {"redu"_c, undoAction<redo>},
     {"Command42"_c, zoomAction<zoomAll>},
-    {"Command43"_c, zoomAction<zoomWindowStart>},
+    {"Command43"_c, startZoomWindow},
     {"Command44"_c, zoomAction<zoomOut>},
     {"blank"_c, toggleConstructionLine},
     {"freecurs"_c, toggleOrtho},

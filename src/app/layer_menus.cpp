@@ -90,9 +90,11 @@ void addLayer(Session& s, const std::string& name)
     mode(s) = "Set Working Layer";
     const std::int32_t number = s.layerTable.layerCount;
     if (!name.empty() && number < LayerTable::rowLimit) {
+        Layer& row = *s.layerTable.find(number); // below the limit, tested above
+        const std::string used = row.layerUsed;
         s.layerTable.resetRow(number, s.workLayer);
-        s.layerTable.find(number)->layerShown = layer::on;
-        s.layerTable.find(number)->layerName = name;
+        if (number == s.workLayer) row.layerUsed = used; // after a file whose layers end below it
+        row.layerName = name;
         ++s.layerTable.layerCount;
         writeLayerName(s, number, name);
     }

@@ -96,7 +96,9 @@ void liveTextKey(Session& s, Canvas& pic1, char32_t code)
 void repaintTextPreview(Session& s, Canvas& pic1)
 {
     const LiveTextRow* row = rowOf(s);
-    if (row != nullptr && s.textLength > 0) row->preview(s, pic1);
+    if (row == nullptr || s.textLength <= 0) return;
+    row->preview(s, pic1);
+    pic1.refresh();
 }
 
 std::string typedText(const Session& s)

@@ -188,7 +188,8 @@ void drawChords(Canvas& pic1, const View& view, const Chords& c)
     constexpr std::int32_t few = 256;
     if (!std::isfinite(c.r * c.sweep) || c.count < 1) return;
     if (c.count <= few) return drawChordRange(pic1, view, c, {1, c.count});
-    if (isFarInside(view, c)) return drawChordRange(pic1, view, c, {1, 1}); // its start is the caller's
+    drawChordRange(pic1, view, c, {1, 1}); // its start is the caller's, and may lie anywhere
+    if (isFarInside(view, c)) return;
     const double step = c.sweep / c.count;
     const Directions seen = directionsOfView(view, c);
     const double first = turnTo(c.firstAngle, seen.first - step);
@@ -197,7 +198,8 @@ void drawChords(Canvas& pic1, const View& view, const Chords& c)
     for (const double turn : {first - fullTurn, first}) {
         const std::int32_t from = pieceAt(turn / c.sweep, c.count) + 1;
         const std::int32_t to = std::min(c.count, pieceAt((turn + last - first) / c.sweep, c.count) + 1);
-        if (turn <= c.sweep && turn + last - first >= 0) drawChordRange(pic1, view, c, {from, to});
+        if (turn <= c.sweep && turn + last - first >= 0)
+            drawChordRange(pic1, view, c, {std::max(from, 2), to});
     }
 }
 

@@ -426,5 +426,19 @@ TEST(UnnameLayer, OfAnAddedLayerGivesItItsNumber)
     EXPECT_EQ(desk.stat(1), Stat::out);
 }
 
+// A drawing whose layers all lie below its working layer leaves that one without a row.
+TEST(AddLayer, ThatIsTheWorkingOneIsMarkedSo)
+{
+    fake::Desk desk;
+    desk.saveAs("empty");
+    desk.open("empty");
+    ASSERT_EQ(desk.s.layerTable.layerCount, 1);
+    desk.drawLine(100, 100, 400, 100);
+    desk.press("ly11"_c);
+    desk.type("Walls");
+    desk.enter();
+    EXPECT_EQ(desk.s.controls["List1"_c].rows[1], "Yes:Wk :Walls");
+}
+
 } // namespace
 } // namespace mirtane

@@ -482,5 +482,32 @@ TEST(ZoomWindow, GoesBackToTheTitleOfAFunctionStartedMeanwhile)
     EXPECT_EQ(desk.title(), circle);
 }
 
+TEST(ZoomWindow, OnceBegunAWindowOfTheSelectionBeginsAnewAndTheTitleSaysSo)
+{
+    Desk desk;
+    desk.drawLine(100, 100, 400, 100);
+    desk.press("Command19"_c);
+    const std::string first(desk.title());
+    desk.click(50, 50);
+    ASSERT_NE(desk.title(), first);
+    desk.press("Command43"_c);
+    desk.click(60, 60);
+    desk.click(800, 400);
+    EXPECT_EQ(desk.title(), first);
+}
+
+TEST(ZoomWindow, TheTextUnderWayIsOnTheScreenAfterAZoom)
+{
+    Desk desk;
+    desk.drawLine(100, 100, 400, 100);
+    desk.press("Command15"_c);
+    desk.click(1000, 1000);
+    desk.type("AB");
+    desk.ops();
+    desk.press("Command42"_c);
+    const fake::Ops ops = desk.ops();
+    EXPECT_EQ(ops.back(), "refresh");
+}
+
 } // namespace
 } // namespace mirtane

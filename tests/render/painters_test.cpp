@@ -201,6 +201,20 @@ TEST_F(Painters, StartAnArcAtItsStoredPoint)
     }
 }
 
+// A file of another program may have put it anywhere.
+TEST_F(Painters, StartALongArcAtItsStoredPointThoughItLiesOffTheCircle)
+{
+    view.viewLeft = 49990;
+    view.viewRight = 50010;
+    view.viewTop = -50010;
+    view.viewBottom = -49990;
+    paintArc(pic1, view, {0, 0}, {50000, -50000}, 100000, 0, 1.5);
+    const auto ops = taken();
+    ASSERT_EQ(ops.size(), 1U);
+    EXPECT_EQ(arg(ops[0], 0), 50000);
+    EXPECT_EQ(arg(ops[0], 1), -50000);
+}
+
 TEST_F(Painters, SweepAnArcThroughTheAngleZeroWhenItsEndLiesBelowItsStart)
 {
     lookEverywhere();
