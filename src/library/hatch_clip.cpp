@@ -18,6 +18,9 @@ constexpr double slack = 0.001;
 // A corner of the boundary so near to a circle, world units, is itself the crossing.
 constexpr double cornerOnCircle = 0.01;
 
+// Rounding moves a crossing by less than this part of the lengths of line and edge.
+constexpr double rounding = 1e-12;
+
 Place placeOf(Point p)
 {
     return {p.x, p.y};
@@ -110,20 +113,18 @@ void HatchClip::line(Point a, Point b, std::int16_t style)
     if (a == b || !std::isfinite(lengthOf(way)) || isBeyondGrid(lowerOf(start, end), higherOf(start, end)))
         return;
     findCuts(start, end);
-    double from = 0;
-    for (const double to : cuts_) {
-        const HatchPiece piece{kind::line, style, pointOf({start.x + from * way.x, start.y + from * way.y}),
-                               pointOf({start.x + to * way.x, start.y + to * way.y})};
-        const double middle = (from + to) / 2;
-        if (piece.from != piece.to) add(piece, {start.x + middle * way.x, start.y + middle * way.y});
-        from = to;
+    Place from = start;
+    for (const Cut& cut : cuts_) {
+        const HatchPiece piece{kind::line, style, pointOf(from), pointOf(cut.at)};
+        if (piece.from != piece.to) add(piece, {(from.x + cut.at.x) / 2, (from.y + cut.at.y) / 2});
+        from = cut.at;
     }
 }
 
 // Leaves the ends of the pieces in cuts_, in order.
 void HatchClip::findCuts(Place a, Place b)
 {
-    cuts_.assign(1, 1.0);
+    cuts_.assign(1, Cut{1, b});
     const Place low = lowerOf(a, b);
     const Place high = higherOf(a, b);
     for (const Edge& edge : edges_) {
@@ -153,7 +154,26 @@ void HatchClip::cut(const Edge& edge, Place a, Place b)
     const Place way = minus(b, a);
     const double detour = lengthOf(minus(c, a)) + lengthOf(minus(c, b));
     if (sideOfA * sideOfB > 0 && detour > (1 + slack) * lengthOf(way)) return;
-    cuts_.push_back(std::clamp(dot(minus(c, a), way) / dot(way, way), 0.0, 1.0));
+    addCut(edge, a, b, std::clamp(dot(minus(c, a), way) / dot(way, way), 0.0, 1.0));
+}
+
+// An end or a corner that is the cut but for the rounding is the cut, so that two edges that meet there make
+// one cut and not a speck of a piece between two. Otherwise an upright or a level edge gives its coordinate.
+void HatchClip::addCut(const Edge& edge, Place a, Place b, double part)
+{
+    const Place way = minus(b, a);
+    const double length = lengthOf(way);
+    const double tolerance = rounding * (length + edge.length);
+    Place at{a.x + part * way.x, a.y + part * way.y};
+    for (const Place end : {a, b, edge.side.a, edge.side.b}) {
+        const Place off = minus(at, end);
+        if (std::abs(off.x) > tolerance || std::abs(off.y) > tolerance) continue;
+        cuts_.push_back({std::clamp(dot(minus(end, a), way) / dot(way, way), 0.0, 1.0), end});
+        return;
+    }
+    if (edge.low.x == edge.high.x) at.x = edge.low.x;
+    if (edge.low.y == edge.high.y) at.y = edge.low.y;
+    cuts_.push_back({part, at});
 }
 
 // -- circles and arcs --

@@ -43,10 +43,20 @@ class HatchClip {
         double length;
     };
 
+    // Where the line at hand is cut.
+    struct Cut {
+        double part; // of the line before it, 0 to 1
+        Place at;
+
+        bool operator==(const Cut& other) const { return part == other.part; }
+        auto operator<=>(const Cut& other) const { return part <=> other.part; }
+    };
+
     void add(const HatchPiece& piece, Place middle);
     void addStretch(Point centre, float radius, double a1, double a2, std::int16_t style);
     void findCuts(Place a, Place b);
     void cut(const Edge& edge, Place a, Place b);
+    void addCut(const Edge& edge, Place a, Place b, double part);
     void findCrossings(Point centre, float radius);
     void crossCircle(const Edge& edge, Point centre, float radius);
     bool isBeyondGrid(Place low, Place high) const;
@@ -56,7 +66,7 @@ class HatchClip {
     Place low_, high_; // the box of the grid
     std::vector<HatchPiece> pieces_;
     std::size_t tried_ = 0;
-    std::vector<double> cuts_;   // of the line at hand, 0 at its start to 1 at its end
+    std::vector<Cut> cuts_;
     std::vector<double> angles_; // of the crossings of the circle at hand
 };
 

@@ -1,4 +1,5 @@
 #include "library/hatch.h"
+#include "library/libraries.h"
 
 #include "library_desk.h"
 
@@ -168,6 +169,29 @@ TEST(CreateHatch, RowsPastTheTableAreDroppedAndCounted)
     EXPECT_EQ(desk.count(), 1001);
     EXPECT_EQ(desk.row(999).h1, (Point{5, 15}));
     EXPECT_EQ(desk.stat(2), Stat::on);
+}
+
+TEST(CreateHatch, RemovedRowsCountTowardTheEndOfTheTable)
+{
+    CreateDesk desk;
+    for (int i = 0; i < 999; ++i) desk.s.hatchLibrary.add(fake::hatchLine("Old", {0, 0}, {1, 1}, 10, 10));
+    removeName(desk.s, Library::hatches, "Old");
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.add(fake::line({105, 216}, {125, 216}));
+    desk.tile();
+    EXPECT_EQ(desk.count(), 1001);
+    EXPECT_EQ(desk.row(998).hatchName, "??????") << "no new row takes the place of a removed one";
+    EXPECT_EQ(desk.row(999).h1, (Point{5, 15}));
+    EXPECT_EQ(desk.s.hatchLibrary.used().size(), 1000U) << "the second line found no room";
+
+    removeName(desk.s, Library::hatches, "Brick");
+    desk.s.hatchName = "Stone";
+    desk.s.stepNo = 1;
+    desk.s.curFunc = "Create Hatch";
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.tile();
+    EXPECT_FALSE(hasLiveName(desk.s, Library::hatches)) << "all 1,000 rows are taken by removed ones";
+    EXPECT_TRUE(desk.list().empty());
 }
 
 TEST(CreateHatch, WithoutANameMakesNoRows)

@@ -85,6 +85,71 @@ TEST(HatchFill, ALineAlongTheTopOrLeftStaysAndAlongTheBottomOrRightGoes)
     EXPECT_EQ(segments(filled(square, rows)), (std::vector<Segment>{{{0, 0}, {40, 0}}, {{0, 0}, {0, 40}}}));
 }
 
+TEST(HatchFill, ALineAlongASlantedEdgeStaysAtTheTopAndGoesAtTheBottom)
+{
+    const Legs diamond = legsThrough({{0, 40}, {40, 0}, {80, 40}, {40, 80}});
+    struct Row {
+        const char* what;
+        Point a, b;
+        bool stays;
+    };
+    const Row rows[] = {
+        {"upper left", {0, 40}, {40, 0}, true},
+        {"upper right", {40, 0}, {80, 40}, true},
+        {"lower right", {80, 40}, {40, 80}, false},
+        {"lower left", {40, 80}, {0, 40}, false},
+    };
+    const auto inTile = [](Point p) { return Point{p.x, p.y - 40}; };
+    for (const Row& row : rows) {
+        for (const Segment& line : {Segment{row.a, row.b}, Segment{row.b, row.a}}) {
+            const auto pieces =
+                filled(diamond, {hatchLine("h", inTile(line.first), inTile(line.second), 80, 80)});
+            EXPECT_EQ(segments(pieces), row.stays ? std::vector{line} : std::vector<Segment>{}) << row.what;
+        }
+    }
+}
+
+// Slanted lines both ways, of which some run out of the tile.
+const Rows slantedLines = {
+    hatchLine("h", {-3, 1.7F}, {7.3F, 9.1F}, 10, 10), hatchLine("h", {1.3F, -2}, {4.9F, 8.7F}, 10, 10),
+    hatchLine("h", {11, 0.3F}, {-0.9F, 4.1F}, 10, 10), hatchLine("h", {8.1F, -1}, {6.3F, 11.3F}, 10, 10)};
+
+TEST(HatchFill, ASlantedLineEndsExactlyOnAnUprightOrALevelEdge)
+{
+    const float far = 37.1F;
+    const auto isOnOrWellInside = [far](float v) {
+        return v == 0 || v == far || (v > 1e-3F && v < far - 1e-3F);
+    };
+    for (const Point first : {Point{0, 0}, Point{far, 0}, Point{far, far}, Point{0, far}}) {
+        const Legs boundary = legsThrough(
+            {first, {far - first.x, first.y}, {far - first.x, far - first.y}, {first.x, far - first.y}});
+        int atLeft = 0, atTop = 0, atRight = 0, atBottom = 0;
+        for (const HatchPiece& piece : filled(boundary, slantedLines)) {
+            for (const Point p : {piece.from, piece.to}) {
+                EXPECT_TRUE(isOnOrWellInside(p.x) && isOnOrWellInside(p.y)) << p.x << ", " << p.y;
+                atLeft += p.x == 0 ? 1 : 0;
+                atTop += p.y == 0 ? 1 : 0;
+                atRight += p.x == far ? 1 : 0;
+                atBottom += p.y == far ? 1 : 0;
+            }
+        }
+        for (const int ends : {atLeft, atTop, atRight, atBottom}) EXPECT_GE(ends, 3);
+    }
+}
+
+TEST(HatchFill, ALineThroughACornerMakesNoSpeckOfAPieceThere)
+{
+    // all of them cut the two edges at the corner 0, 0, where a coordinate may be as small as it likes
+    const Polygon polygon = polygonOf(legsThrough({{0, 0}, {37.1F, 0}, {37.1F, 31.3F}, {0, 31.3F}}));
+    for (int i = 1; i < 100; ++i) {
+        HatchClip clip(polygon, hatchGrid(polygon, {{0, 0}, 50, 50}));
+        const Point up{-0.3F * static_cast<float>(i), -0.07F * static_cast<float>(100 - i)};
+        const Point down{-up.x / 4, -up.y / 4};
+        clip.line(up, down, 0);
+        EXPECT_EQ(segments(clip.take()), (std::vector<Segment>{{{0, 0}, down}})) << i;
+    }
+}
+
 TEST(HatchFill, TwoCrossingsAtACornerMakeNoPieceOfNoLength)
 {
     const Legs diamond = legsThrough({{0, 20}, {20, 0}, {40, 20}, {20, 40}});
