@@ -76,8 +76,8 @@ template <class Value> void sortOnce(std::vector<Value>& values)
 } // namespace
 
 HatchClip::HatchClip(const Polygon& polygon, const HatchGrid& grid)
-    : polygon_(polygon), low_{grid.uprights.front(), grid.levels.front()}, high_{grid.uprights.back(),
-                                                                                 grid.levels.back()}
+    : polygon_(polygon), low_{grid.uprights.at(grid.uprights.first()), grid.levels.at(grid.levels.first())},
+      high_{grid.uprights.at(grid.uprights.last()), grid.levels.at(grid.levels.last())}
 {
     for (const Side& side : polygon) {
         const Place way = minus(side.b, side.a);

@@ -35,11 +35,9 @@ Polygon levelPolygon(const HatchFill& fill)
 }
 
 // A tile that was drawn from another corner than its upper left has its rows relative to that corner.
-Point originIn(const HatchCell& cell, const HatchGrid& grid, const HatchRow& row)
+Point originIn(const HatchCell& cell, const HatchRow& row)
 {
-    const std::size_t upright = row.hatchTileW < 0 ? cell.upright + 1 : cell.upright;
-    const std::size_t level = row.hatchTileH < 0 ? cell.level + 1 : cell.level;
-    return {grid.uprights[upright], grid.levels[level]};
+    return {row.hatchTileW < 0 ? cell.right : cell.left, row.hatchTileH < 0 ? cell.bottom : cell.top};
 }
 
 void clipRow(HatchClip& clip, const HatchRow& row, Point origin, float scale)
@@ -74,7 +72,7 @@ std::vector<HatchPiece> fillHatch(const HatchFill& fill)
     HatchClip clip(polygon, grid);
     clip.expect(cells.size() * rows.size()); // 30,001 times 1,000 at the most
     for (const HatchCell& cell : cells) {
-        for (const HatchRow* row : rows) clipRow(clip, *row, originIn(cell, grid, *row), fill.scale);
+        for (const HatchRow* row : rows) clipRow(clip, *row, originIn(cell, *row), fill.scale);
         if (clip.isFull()) break;
     }
     return clip.take();

@@ -1,94 +1,65 @@
 // library/hatch_grid.cpp: the cells are found from the spans and row by row, so the work grows with the spans
-// and the cells reached, and not with the grid.
+// and the cells reached, of which there is a table's worth at the most, and not with the grid.
 
 #include "library/hatch_grid.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace mirtane {
 namespace {
 
-// Lines at start plus whole multiples of step, each worked out by itself in 32 bits, so that no error adds
-// up.
-class Lines {
-  public:
-    Lines(float start, float step) : start_(start), step_(step) {}
-
-    float at(double k) const
-    {
-        const auto distance = static_cast<float>(std::abs(k)) * step_; // whole numbers, exact up to 2^24
-        return k < 0 ? start_ - distance : start_ + distance;
-    }
-
-    // The number nearest to 0, with the sign of towards, of a line that lies on end or beyond.
-    double reaching(double end, double towards) const
-    {
-        double n =
-            std::floor(std::abs(end - start_) / static_cast<double>(step_)); // widened for the quotient
-        for (int tries = 0; tries < 3 && !reaches(n * towards, end, towards); ++tries) ++n;
-        return n * towards;
-    }
-
-  private:
-    bool reaches(double k, double end, double towards) const
-    {
-        return towards < 0 ? at(k) <= end : at(k) >= end;
-    }
-
-    float start_, step_;
-};
-
-std::vector<float> linesOver(Extent extent, float start, float step)
+// The last number from low on and before high for which holds is true, if it is true for low and, from some
+// number on, no more. Among very large numbers, the last that there is.
+template <class Test> double lastThat(double low, double high, Test holds)
 {
-    if (!(step > 0) || !std::isfinite(step) || !std::isfinite(start)) return {};
-    const Lines lines(start, step);
-    const double first = lines.reaching(extent.low, -1);
-    const double last = lines.reaching(extent.high, 1);
-    std::vector<float> all;
-    double k = first;
-    for (std::size_t i = 0; i <= hatchTableRows && k <= last; ++i, ++k) {
-        const float line = lines.at(k);
-        // Far from the origin neighbouring lines may be one.
-        if (std::isfinite(line) && (all.empty() || line > all.back())) all.push_back(line);
+    while (true) {
+        const double middle = low + std::floor((high - low) / 2);
+        if (middle <= low || middle >= high) return low;
+        (holds(middle) ? low : high) = middle;
     }
-    return all;
 }
 
-// A span on one line.
+double oneAfter(double number)
+{
+    return std::max(number + 1, std::nextafter(number, std::numeric_limits<double>::infinity()));
+}
+
+// A span on one line, and the lines beside that one; itself at an end of the grid.
 struct LineSpan {
-    std::size_t line;
+    float before, line, after;
     Extent extent;
 };
 
-std::vector<LineSpan> spansOnLines(const Polygon& polygon, const std::vector<float>& lines)
+// Each line between the ends of a closed polygon has a span, so a table's worth of lines fills the table.
+std::vector<LineSpan> spansOnLines(const Polygon& polygon, const GridLines& lines)
 {
     std::vector<LineSpan> all;
     std::vector<Extent> spans;
-    for (std::size_t i = 0; i < lines.size() && all.size() < hatchTableRows; ++i) {
+    double number = lines.first();
+    float before = lines.at(number);
+    for (std::size_t i = 0; i <= hatchTableRows && all.size() < hatchTableRows; ++i) {
+        const float line = lines.at(number);
+        const bool isLast = lines.isLast(number);
+        if (!isLast) number = lines.after(number);
         spans.clear();
-        addSpans(polygon, lines[i], spans);
-        for (const Extent& span : spans) all.push_back({i, span});
+        addSpans(polygon, line, spans);
+        for (const Extent& span : spans) all.push_back({before, line, lines.at(number), span});
+        if (isLast) break;
+        before = line;
     }
     all.resize(std::min(all.size(), hatchTableRows));
     return all;
 }
 
-// From first on and before end.
-struct CellRange {
-    std::size_t first = 0, end = 0;
-};
+// The columns that a row reaches, as their left and right sides.
+struct Column {
+    float left, right;
 
-// The cells between lines that share more than a point with the extent.
-CellRange cellsIn(Extent extent, const std::vector<float>& lines)
-{
-    if (lines.size() < 2 || !(extent.low < extent.high)) return {};
-    const auto firstRight = std::upper_bound(lines.begin() + 1, lines.end(), extent.low);
-    const auto endLeft = std::lower_bound(lines.begin(), lines.end() - 1, extent.high);
-    const CellRange range{static_cast<std::size_t>(firstRight - lines.begin() - 1), // iterators in order
-                          static_cast<std::size_t>(endLeft - lines.begin())};       // as above
-    return range.first < range.end ? range : CellRange{};
-}
+    bool operator==(const Column& other) const { return left == other.left; }
+    auto operator<=>(const Column& other) const { return left <=> other.left; }
+};
 
 // The upright spans that reach into the row at hand, as the rows are gone through from the top.
 class UprightSweep {
@@ -96,31 +67,32 @@ class UprightSweep {
     UprightSweep(const Polygon& polygon, const HatchGrid& grid)
     {
         for (const LineSpan& span : spansOnLines(polygon, grid.uprights)) {
-            const CellRange rows = cellsIn(span.extent, grid.levels);
-            if (rows.first < rows.end) waiting_.push_back({rows, span.line});
+            if (span.extent.low < span.extent.high) waiting_.push_back(span);
         }
-        std::ranges::stable_sort(waiting_, {}, [](const Row& r) { return r.rows.first; });
+        std::ranges::stable_sort(waiting_, {}, [](const LineSpan& s) { return s.extent.low; });
     }
 
-    // Adds the cells to the left and the right of each such span. Rows must be asked for in order.
-    void addCells(std::size_t row, std::size_t cellsInRow, std::vector<std::size_t>& cells)
+    // Adds the columns to the left and the right of each such span. Rows must be asked for in order.
+    void addColumns(float top, float bottom, std::vector<Column>& columns)
     {
-        for (; next_ < waiting_.size() && waiting_[next_].rows.first <= row; ++next_) {
+        for (; next_ < waiting_.size() && waiting_[next_].extent.low < bottom; ++next_) {
             active_.push_back(waiting_[next_]);
         }
-        std::erase_if(active_, [row](const Row& r) { return r.rows.end <= row; });
-        for (const Row& r : active_) {
-            if (r.line > 0) cells.push_back(r.line - 1);
-            if (r.line < cellsInRow) cells.push_back(r.line);
+        std::erase_if(active_, [top](const LineSpan& s) { return s.extent.high <= top; });
+        for (const LineSpan& s : active_) {
+            if (s.before < s.line) columns.push_back({s.before, s.line});
+            if (s.line < s.after) columns.push_back({s.line, s.after});
         }
+    }
+
+    // Where the next span begins that no row has come to yet; infinity if there is none.
+    double nextLow() const
+    {
+        return next_ < waiting_.size() ? waiting_[next_].extent.low : std::numeric_limits<double>::infinity();
     }
 
   private:
-    struct Row {
-        CellRange rows;
-        std::size_t line;
-    };
-    std::vector<Row> waiting_, active_;
+    std::vector<LineSpan> waiting_, active_;
     std::size_t next_ = 0;
 };
 
@@ -132,46 +104,116 @@ class LevelSpans {
     {
     }
 
-    // Adds the cells along the spans on one level.
-    void addCells(std::size_t level, std::vector<std::size_t>& cells) const
+    // Adds the columns along the spans on one level, of each span as many as there is room for.
+    void addColumns(float level, std::size_t room, std::vector<Column>& columns) const
     {
         for (const LineSpan& span : std::ranges::equal_range(spans_, level, {}, &LineSpan::line)) {
-            const CellRange range = cellsIn(span.extent, uprights_);
-            for (std::size_t i = range.first; i < range.end; ++i) cells.push_back(i);
+            if (span.extent.low < span.extent.high) addColumnsAlong(span.extent, room, columns);
         }
     }
 
+    // No span lies on it or below.
+    bool endBefore(float level) const { return spans_.empty() || spans_.back().line < level; }
+
   private:
-    const std::vector<float>& uprights_;
+    void addColumnsAlong(const Extent& extent, std::size_t room, std::vector<Column>& columns) const
+    {
+        double number = uprights_.upTo(extent.low);
+        for (std::size_t i = 0; i < room && !uprights_.isLast(number); ++i) {
+            const float left = uprights_.at(number);
+            if (left >= extent.high) return;
+            number = uprights_.after(number);
+            columns.push_back({left, uprights_.at(number)});
+        }
+    }
+
+    const GridLines& uprights_;
     std::vector<LineSpan> spans_;
 };
 
+void sortOnce(std::vector<Column>& columns)
+{
+    std::ranges::sort(columns);
+    const auto repeated = std::ranges::unique(columns);
+    columns.erase(repeated.begin(), repeated.end());
+}
+
 } // namespace
+
+// -- lines --
+
+GridLines::GridLines(Extent extent, float corner, float step) : corner_(corner), step_(step)
+{
+    if (!(step > 0) || !std::isfinite(step) || !std::isfinite(corner)) return;
+    first_ = reaching(extent.low, -1);
+    last_ = reaching(extent.high, 1);
+}
+
+// Each by itself, so that no error adds up. The product of a number that 32 bits hold and the step is exact.
+float GridLines::at(double number) const
+{
+    const auto distance = static_cast<float>(number * step_); // 32 bits are what coordinates have
+    return corner_ + distance;
+}
+
+// The number nearest to 0, with the sign of towards, of a line that lies on end or beyond; short of where no
+// coordinate can be.
+double GridLines::reaching(double end, double towards) const
+{
+    const auto isShort = [&](double n) { return towards < 0 ? at(-n) > end : at(n) < end; };
+    const auto isPlace = [&](double n) { return std::isfinite(at(n * towards)); };
+    double n = std::floor(std::abs(end - corner_) / static_cast<double>(step_)); // widened for the quotient
+    for (int tries = 0; tries < 3 && isShort(n); ++tries) ++n;
+    return towards * (isPlace(n) ? n : lastThat(0, n, isPlace));
+}
+
+double GridLines::upTo(double v) const
+{
+    if (at(last_) <= v) return last_;
+    return lastThat(first_, last_, [&](double number) { return at(number) <= v; });
+}
+
+double GridLines::after(double number) const
+{
+    const float here = at(number);
+    const double next = std::min(oneAfter(number), last_);
+    if (at(next) > here) return next;
+    const auto isHere = [&](double k) { return at(k) <= here; };
+    // As many steps as lead to the next coordinate that there is, and some to spare.
+    const double there = std::nextafter(here, std::numeric_limits<float>::infinity());
+    const double beyond = number + std::ceil(2 * (there - here) / static_cast<double>(step_)); // widened
+    return oneAfter(lastThat(number, isHere(beyond) ? last_ : std::min(beyond, last_), isHere));
+}
+
+// -- cells --
 
 HatchGrid hatchGrid(const Polygon& polygon, const Tile& tile)
 {
     if (polygon.empty()) return {};
-    return {linesOver(extentInX(polygon), tile.corner.x, tile.width),
-            linesOver(extentInX(overDiagonal(polygon)), tile.corner.y, tile.height)};
+    return {GridLines(extentInX(polygon), tile.corner.x, tile.width),
+            GridLines(extentInX(overDiagonal(polygon)), tile.corner.y, tile.height)};
 }
 
 std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& grid)
 {
     std::vector<HatchCell> reached;
-    if (grid.uprights.size() < 2 || grid.levels.size() < 2) return reached;
-    const std::size_t cellsInRow = grid.uprights.size() - 1;
+    if (grid.uprights.areNone() || grid.levels.areNone()) return reached;
     UprightSweep uprights(polygon, grid);
     const LevelSpans levels(polygon, grid);
-    std::vector<std::size_t> cells;
-    for (std::size_t row = 0; row + 1 < grid.levels.size() && reached.size() < hatchTableRows; ++row) {
-        cells.clear();
-        levels.addCells(row, cells);
-        levels.addCells(row + 1, cells);
-        uprights.addCells(row, cellsInRow, cells);
-        std::ranges::sort(cells);
-        const auto repeated = std::ranges::unique(cells);
-        cells.erase(repeated.begin(), repeated.end());
-        for (const std::size_t cell : cells) reached.push_back({cell, row});
+    std::vector<Column> columns;
+    double row = grid.levels.first();
+    while (!grid.levels.isLast(row) && reached.size() < hatchTableRows) {
+        const double next = grid.levels.after(row);
+        const float top = grid.levels.at(row), bottom = grid.levels.at(next);
+        columns.clear();
+        levels.addColumns(top, hatchTableRows - reached.size(), columns);
+        levels.addColumns(bottom, hatchTableRows - reached.size(), columns);
+        uprights.addColumns(top, bottom, columns);
+        sortOnce(columns);
+        for (const Column& column : columns) reached.push_back({column.left, top, column.right, bottom});
+        // Rows that nothing reaches may be too many to go through.
+        const bool isIdle = columns.empty() && levels.endBefore(bottom);
+        row = isIdle ? std::max(next, grid.levels.upTo(uprights.nextLow())) : next;
     }
     reached.resize(std::min(reached.size(), hatchTableRows));
     return reached;

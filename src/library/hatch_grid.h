@@ -19,16 +19,42 @@ struct Tile {
     float width = 0, height = 0;
 };
 
-struct HatchGrid {
-    std::vector<float> uprights, levels; // in rising order
+// Lines a tile apart, up to the first on or beyond each end of an extent. There may be more of them than
+// would fit any table, so each is worked out when it is asked for, by its number: a whole one, counted from
+// the line through the corner. Far from the origin, lines with numbers of their own may be one.
+class GridLines {
+  public:
+    GridLines() = default; // none
+    GridLines(Extent extent, float corner, float step);
+
+    bool areNone() const { return first_ > last_; }
+    double first() const { return first_; }
+    double last() const { return last_; }
+    float at(double number) const;
+
+    // The number of the last line on v or before it; first() if there is none.
+    double upTo(double v) const;
+    // The first number of the next line that lies elsewhere. Not to be asked for beyond the last line.
+    double after(double number) const;
+    bool isLast(double number) const { return at(number) >= at(last_); }
+
+  private:
+    double reaching(double end, double towards) const;
+
+    float corner_ = 0, step_ = 0;
+    double first_ = 0, last_ = -1;
 };
 
-// Lines up to the first on or beyond each end of the polygon. None at all for a tile without width or height.
+struct HatchGrid {
+    GridLines uprights, levels;
+};
+
+// No lines at all for a tile without width or height.
 HatchGrid hatchGrid(const Polygon& polygon, const Tile& tile);
 
-// A cell lies right of that upright and below that level, up to the next ones.
+// Between lines next to each other.
 struct HatchCell {
-    std::size_t upright, level;
+    float left, top, right, bottom;
 };
 
 // The cells of which some side is in part, in more than a point, inside the polygon: row by row from the top,

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <limits>
 
 namespace mirtane {
@@ -419,6 +420,34 @@ TEST(HatchFill, TheWorkIsBoundedHoweverSmallTheTile)
         EXPECT_LE(filled(boundary, rows).size(), hatchTableRows);
         EXPECT_LE(filled(boundary, rows, 0.1F, 0.3).size(), hatchTableRows);
     }
+}
+
+TEST(HatchFill, ATileSmallAgainstALongBoundaryFillsAsFarAsTheTableGoes)
+{
+    // The level at 10 lies inside from a third of the way on, so the cells of the first row are filled from
+    // 33,333 on to 63,333, where the table is full; the line at 9 lies inside from 40,000 on.
+    const Legs boundary = legsThrough({{100000, 0}, {100000, 15}, {0, 15}});
+    Rows rows = {hatchLine("h", {0.2F, 9}, {0.8F, 9}, 1, 10)};
+    EXPECT_GT(filled(boundary, rows).size(), 23000U) << "some are cut in two close to the side";
+    rows[0].hatchKind = kind::point;
+    const auto points = filled(boundary, rows);
+    ASSERT_EQ(points.size(), 23334U);
+    EXPECT_EQ(points.front().from, (Point{40000 + 0.2F, 9}));
+    EXPECT_EQ(points.back().from, (Point{63333 + 0.2F, 9}));
+}
+
+TEST(HatchFill, ATileSmallerThanAnyCoordinateEndsAtOnce)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    const Legs boundary = legsThrough({{100, 0}, {100000, 15}, {0, 40000}, {7, 3}});
+    for (const float width : {1e-30F, 1e-45F, 1.0F}) {
+        for (const float height : {1e-30F, 1e-45F, 1.0F}) {
+            EXPECT_LE(filled(boundary, {hatchLine("h", {0, 0}, {1, 1}, width, height)}).size(),
+                      hatchTableRows);
+        }
+    }
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(10)) << "a tenth of that on a slow machine";
 }
 
 TEST(HatchFill, TheWorkIsBoundedForRowsThatMakeNoPiece)
