@@ -47,7 +47,7 @@ std::vector<PlainSegment> uncut(const HatchBench& b, float scale)
         hatchGrid(polygon, {b.room[0].from, scale * first.hatchTileW, scale * first.hatchTileH});
     std::vector<PlainSegment> all;
     for (const HatchCell& cell : reachedCells(polygon, grid)) {
-        const float x = grid.uprights[cell.upright], y = grid.levels[cell.level];
+        const float x = cell.left, y = cell.top; // of tiles that are wide and high above 0
         for (const HatchRow& r : b.rows) {
             all.push_back(
                 {{x + scale * r.h1.x, y + scale * r.h1.y}, {x + scale * r.h2.x, y + scale * r.h2.y}});
