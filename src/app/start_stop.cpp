@@ -91,6 +91,7 @@ void endProgram(App& app)
 void clearDrawing(App& app)
 {
     Session& s = app.s;
+    dropWhatWasBegun(s, app.pic1);
     app.pic1.clear();
     app.pic1.clearSnapshot();
     s.store.entCount = 1;

@@ -4,6 +4,7 @@
 #include "commands/vocabulary.h"
 #include "library/boundary.h"
 #include "render/redraw.h"
+#include "render/view.h"
 
 namespace mirtane {
 
@@ -32,6 +33,14 @@ void startFunction(Session& s, Canvas& pic1, const FunctionRow& row)
 {
     if (row.setsBase) s.baseFunc = row.name;
     changeFunction(s, pic1, row, row.firstStep);
+}
+
+void dropWhatWasBegun(Session& s, Canvas& pic1)
+{
+    if (zoomWindowIsOn(s)) zoomWindowCancel(s, pic1);
+    s.windowStep = 0;
+    s.textLength = 0;
+    dropBoundary(s);
 }
 
 void beginAnew(Session& s, Canvas& pic1)

@@ -83,7 +83,8 @@ bool isTextBox(ControlKind kind)
 bool takesClicks(ControlKind kind)
 {
     constexpr ControlKind kinds[] = {ControlKind::button, ControlKind::toggle,       ControlKind::option,
-                                     ControlKind::entry,  ControlKind::checkedEntry, ControlKind::label};
+                                     ControlKind::entry,  ControlKind::checkedEntry, ControlKind::label,
+                                     ControlKind::page};
     return isTextBox(kind) || std::ranges::find(kinds, kind) != std::end(kinds);
 }
 
@@ -123,7 +124,7 @@ void focusCommand(Stage& stage, Words& words)
     const ControlKind kind = id.row().kind;
     const bool holdsFocus = isTextBox(kind) || kind == ControlKind::surface || kind == ControlKind::list ||
                             kind == ControlKind::button || kind == ControlKind::toggle ||
-                            kind == ControlKind::option;
+                            kind == ControlKind::option || kind == ControlKind::page;
     if (!holdsFocus) throw Refusal{"the control takes no focus"};
     stage.shell.giveFocus(id);
 }
@@ -212,14 +213,22 @@ void refuseAfterTheEnd(const Stage& stage, std::string_view command)
     if (stage.shell.ended() && command != "alive") throw Refusal{"the program has ended"};
 }
 
-void expect(Stage& stage, std::string_view line)
+// A question may hold "==" itself, in a text or the name of a file: what is expected is the longest JSON.
+std::pair<std::string_view, std::string_view> questionAndExpected(std::string_view line)
 {
     constexpr std::string_view equals = " == ";
-    const auto at = line.find(equals);
-    if (at == std::string_view::npos) throw Refusal{"an expect without =="};
-    const std::string_view question = line.substr(0, at);
-    const std::string_view expected = line.substr(at + equals.size());
-    if (!isJson(expected)) throw Refusal{"not JSON: " + std::string(expected)};
+    const auto first = line.find(equals);
+    if (first == std::string_view::npos) throw Refusal{"an expect without =="};
+    for (auto at = first; at != std::string_view::npos; at = line.find(equals, at + 1)) {
+        const std::string_view expected = line.substr(at + equals.size());
+        if (isJson(expected)) return {line.substr(0, at), expected};
+    }
+    throw Refusal{"not JSON: " + std::string(line.substr(first + equals.size()))};
+}
+
+void expect(Stage& stage, std::string_view line)
+{
+    const auto [question, expected] = questionAndExpected(line);
     refuseAfterTheEnd(stage, Words(question).word());
     const auto got = answer(stage, question);
     if (!got) throw Refusal{"not a question: " + std::string(question)};

@@ -11,9 +11,12 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <optional>
+#include <sstream>
 
 namespace {
 
@@ -22,7 +25,9 @@ using namespace mirtane;
 struct Options {
     Size size{1200, 800};
     std::string home; // a fresh folder if empty
-    std::string file = "-";
+    std::string file; // standard input if empty or "-"
+
+    bool isTyped() const { return file.empty() || file == "-"; }
 };
 
 int complain(const std::string& what)
@@ -57,21 +62,23 @@ Options optionsOf(const std::vector<std::string>& words)
             options.home = words[++i];
         else if (words[i].size() > 1 && words[i].starts_with('-'))
             throw play::Refusal{"unknown: " + words[i]};
+        else if (!options.file.empty())
+            throw play::Refusal{"one file of commands is enough: " + words[i]};
         else
             options.file = words[i];
     }
     return options;
 }
 
-// A script in a file tells beforehand whether it asks for operations; one that is typed might at any time.
-bool mayAskForOps(const std::string& file)
+// Read once and whole, since a pipe can't be read twice. Nothing where that fails.
+std::optional<std::string> contentOf(const std::string& name)
 {
-    if (file == "-") return true;
-    std::ifstream script(file);
-    for (std::string line; std::getline(script, line);) {
-        if (line.find("ops") != std::string::npos) return true;
-    }
-    return false;
+    if (std::filesystem::is_directory(name)) return std::nullopt; // a stream would open it, and read nothing
+    std::ifstream file(name, std::ios::binary);
+    std::ostringstream content;
+    if (file) content << file.rdbuf();
+    if (!file.is_open() || content.bad()) return std::nullopt;
+    return std::move(content).str();
 }
 
 int playAll(play::Stage& stage, std::istream& script, const std::string& name)
@@ -82,6 +89,7 @@ int playAll(play::Stage& stage, std::istream& script, const std::string& name)
         if (line.ends_with('\r')) line.pop_back();
         try {
             if (const auto answer = play::play(stage, line)) std::cout << *answer << std::endl;
+            if (!std::cout) return complain("an answer can't be written");
         } catch (const play::Refusal& refusal) {
             std::cerr << name << ':' << number << ": " << refusal.reason << '\n';
             return refusal.status;
@@ -93,9 +101,8 @@ int playAll(play::Stage& stage, std::istream& script, const std::string& name)
 int run(const Options& options)
 {
     constexpr float unitsPerPixel = 4;
-    std::ifstream opened;
-    if (options.file != "-") opened.open(options.file);
-    if (options.file != "-" && !opened) return complain("can't be read: " + options.file);
+    const std::optional<std::string> content = options.isTyped() ? std::string() : contentOf(options.file);
+    if (!content) return complain("can't be read: " + options.file);
     QTemporaryDir fresh;
     const QString folder = options.home.empty() ? fresh.path() : QString::fromStdString(options.home);
     if (!QDir().mkpath(folder)) return complain("can't be made: " + options.home);
@@ -109,13 +116,16 @@ int run(const Options& options)
     surface.setScale({0, 0, static_cast<float>(options.size.width) * unitsPerPixel,
                       static_cast<float>(options.size.height) * unitsPerPixel}); // below 20,000 pixels
     RecordingCanvas pic1(&surface);
-    pic1.record(mayAskForOps(options.file));
+    // A script in a file tells beforehand whether it asks for operations; one that is typed might at any
+    // time.
+    pic1.record(options.isTyped() || content->find("ops") != std::string::npos);
     RecordingPrinter printer;
     QtFonts fonts;
     Shell shell(*session, pic1, {disk, folders, settings, home, &printer, &fonts});
     shell.start();
     play::Stage stage{shell, surface, pic1, printer};
-    return playAll(stage, options.file == "-" ? std::cin : opened, options.file);
+    std::istringstream script(*content);
+    return options.isTyped() ? playAll(stage, std::cin, "-") : playAll(stage, script, options.file);
 }
 
 } // namespace

@@ -191,5 +191,34 @@ TEST_F(OpenFile, ReadsTheFormerWhiteAsWhite)
     EXPECT_EQ(desk.s.curColor, 0xFFFFFF);
 }
 
+// What was under way in the old drawing has nothing to do with the new one.
+TEST_F(OpenFile, LeavesNothingOfATextThatWasBeingTyped)
+{
+    for (const bool closes : {false, true}) {
+        Desk one;
+        one.drawLine(100, 100, 400, 100);
+        one.saveAs("house");
+        one.press("Command15"_c);
+        one.click(100, 100);
+        one.type("abc");
+        if (closes)
+            one.press("fil5"_c);
+        else
+            one.open("house");
+        EXPECT_EQ(one.s.textLength, 0) << closes;
+    }
+}
+
+TEST_F(OpenFile, EndsAZoomWindowThatHasItsFirstCorner)
+{
+    desk.saveAs("house");
+    desk.press("Command43"_c);
+    desk.click(3000, 3000);
+    desk.open("house");
+    EXPECT_EQ(desk.caption("snaplab"_c), "");
+    EXPECT_EQ(desk.s.windowStep, 0);
+    EXPECT_EQ(desk.title(), fake::titleOf("Line(Enter beginning point of line:)", "house.mtd"));
+}
+
 } // namespace
 } // namespace mirtane

@@ -121,5 +121,38 @@ TEST(PlayProgram, KeepsDrawingsAndSettingsInItsHome)
     EXPECT_EQ(runPlay(folder, "look.play").out, "[]\n"); // a fresh home of its own
 }
 
+TEST(PlayProgram, ReadsAPipeAsItReadsAFile)
+{
+    const QTemporaryDir folder;
+    writeScript(folder, "a.play", "focused\nexpect alive == false\n");
+    const Outcome run = runPlay(folder, "/dev/stdin < /dev/null; cat a.play | '" MIRTANE_PLAY "' /dev/stdin");
+    EXPECT_EQ(run.status, 1) << run.err;
+    EXPECT_EQ(run.out, "\"pic1\"\n");
+}
+
+TEST(PlayProgram, RefusesWhatIsNoFileAndASecondOne)
+{
+    const QTemporaryDir folder;
+    writeScript(folder, "a.play", "alive\n");
+    for (const char* words : {".", "nowhere.play", "a.play a.play"})
+        EXPECT_EQ(runPlay(folder, words).status, 2) << words;
+}
+
+TEST(PlayProgram, SaysWhenItsAnswersCannotBeWritten)
+{
+    const QTemporaryDir folder;
+    writeScript(folder, "a.play", "alive\n");
+    EXPECT_EQ(runPlay(folder, "a.play >/dev/full 2>err; exit $?; true").status, 2);
+}
+
+TEST(PlayProgram, ExpectsWhatAQuestionWithItsOwnSignsAnswers)
+{
+    const QTemporaryDir folder;
+    writeScript(folder, "a.play", "expect image \"a == b.png\" == [1200,800]\nexpect alive == false\n");
+    const Outcome run = runPlay(folder, "a.play");
+    EXPECT_EQ(run.status, 1) << run.err;
+    EXPECT_NE(run.err.find("a.play:2: "), std::string::npos) << run.err;
+}
+
 } // namespace
 } // namespace mirtane
