@@ -5,6 +5,7 @@
 
 #include "geometry/angle.h"
 #include "geometry/arc.h"
+#include "geometry/direction.h"
 #include "geometry/fault.h"
 
 #include <cmath>
@@ -55,10 +56,11 @@ void Crossings::add(double x, double y)
 
 Crossings crossLines(Point a, Point b, Point c, Point d)
 {
+    Crossings found;
+    if (areParallel(directionOf(a, b), directionOf(c, d))) return found;
     const Vector u = between(a, b);
     const Vector v = between(c, d);
     const double share = quotient(cross(between(a, c), v), cross(u, v));
-    Crossings found;
     found.add(a.x + share * u.x, a.y + share * u.y);
     return found;
 }

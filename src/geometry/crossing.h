@@ -16,7 +16,8 @@ struct Crossings {
     void add(double x, double y);
 };
 
-// The endless lines through a, b and through c, d: one crossing, none if they are parallel or one is no line.
+// The endless lines through a, b and through c, d: one crossing, none if they are parallel as far as their
+// points tell or one is no line.
 Crossings crossLines(Point a, Point b, Point c, Point d);
 
 // The endless line through a, b and the circle: two, first the one further on towards b; one where they

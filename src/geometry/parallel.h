@@ -4,12 +4,14 @@
 // points that are rounded to 32 bits it would lean, and far off miss what it should meet.
 
 #include "geometry/crossing.h"
+#include "geometry/direction.h"
 
 namespace mirtane {
 
-// All points p with across . p = off; across is a unit vector.
+// All points p with across . p = off. Its direction is as sure as that of the line that it is drawn beside.
 struct ParallelLine {
-    double acrossX = 0, acrossY = 0, off = 0;
+    Direction across;
+    double off = 0;
 };
 
 // The line at a distance (world units) from the one through a and b, on the side on which towards lies; below

@@ -1,4 +1,5 @@
 #include "click_desk.h"
+#include "slanted.h"
 
 namespace mirtane {
 namespace {
@@ -229,6 +230,24 @@ TEST(SnapObject, TheLegMeetsEachKind)
         desk.laterClick(row.first, row.mouse, row.confined);
         desk.shoot("so");
         expectPoint(desk.s.pickLast, row.snapped, row.what);
+    }
+}
+
+TEST(SnapObject, ALegAlongALineDrawnParallelEndsWhereOrthoPutIt)
+{
+    fake::Slanted dice(1);
+    ClickDesk desk;
+    desk.ortho(true);
+    desk.line({}, {});
+    for (int i = 0; i < 3000; ++i) {
+        const Point place = dice.pointWithin({0, 0}, dice.chance() ? 300 : 30000);
+        const fake::Pair pair =
+            fake::drawnParallel(dice, place, dice.anySize(50, 1000), dice.between(0, 1.5707963));
+        desk.put(1, {.p1 = pair.other.from, .p2 = pair.other.to, .kind = kind::line});
+        desk.s.store.setStat(1, Stat::on);
+        desk.laterClick(pair.one.from, pair.other.at(dice.between(0.1, 0.9), 3), pair.one.to);
+        desk.shoot("so");
+        ASSERT_EQ(desk.s.pickLast, pair.one.to) << pair.how << " " << i;
     }
 }
 
