@@ -4,6 +4,7 @@
 #include "commands/prompt.h"
 #include "geometry/angle.h"
 #include "geometry/arc.h"
+#include "geometry/direction.h"
 #include "geometry/fault.h"
 #include "render/dimension_painters.h"
 #include "render/redraw.h"
@@ -64,6 +65,14 @@ void endAttempt(Session& s, Canvas& pic1)
     setPrompt(s, pic1);
 }
 
+// A step of rounding off the ray is on it, and what would read as a whole turn is none.
+bool isOnOneRay(const Session& s, double angle)
+{
+    const std::string digits = angleDigits(angle);
+    return digits == zeroAngle || digits == angleDigits(fullTurn) ||
+           runTheSameWay(directionOf(s.ptA, s.ptG), directionOf(s.ptA, s.ptH));
+}
+
 // Until the pointer moves, the arc goes through the second leg's point.
 void takeSecondLeg(Session& s, Canvas& pic1)
 {
@@ -71,8 +80,10 @@ void takeSecondLeg(Session& s, Canvas& pic1)
     s.arcStart = directionAngle(s.ptA, s.ptG, s.arcStart);
     s.arcEnd = directionAngle(s.ptA, s.ptH, s.arcEnd);
     const double angle = sweep(s.arcStart, s.arcEnd);
-    setText(s.controls["Text3"_c], angleDigits(angle));
-    if (s.controls["Text3"_c].text == zeroAngle) return endAttempt(s, pic1);
+    if (isOnOneRay(s, angle)) {
+        setText(s.controls["Text3"_c], std::string(zeroAngle));
+        return endAttempt(s, pic1);
+    }
     setText(s.controls["Text3"_c], formatAngle(angle, s.angFormat));
     setPrompt(s, pic1);
     showBand(s, pic1);

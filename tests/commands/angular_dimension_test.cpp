@@ -4,6 +4,7 @@
 #include "geometry/angle.h"
 #include "geometry/arc.h"
 #include "model/undo_log.h"
+#include "slanted.h"
 
 #include <cmath>
 #include <random>
@@ -15,6 +16,7 @@ using fake::expectNear;
 using fake::marks;
 using fake::only;
 using fake::Ops;
+using fake::Slanted;
 
 constexpr Point vertex{1000, 1000};
 
@@ -225,6 +227,53 @@ TEST(AngularDimension, LegsOnOneRayMakeNoDimensionInEitherForm)
             EXPECT_EQ(desk.s.promptText, "(Enter point of angle:)");
             EXPECT_EQ(desk.s.store.entCount, 1);
         }
+    }
+}
+
+// Far from the origin a step of rounding turns a short leg by much more than the text shows.
+TEST(AngularDimension, LegsOnOneRayAreRefusedBothWaysRoundAndARoundingStepOffIt)
+{
+    Slanted dice(9);
+    for (int i = 0; i < 3000; ++i) {
+        const double reach = dice.anySize(1, 1000000);
+        AngularDesk desk;
+        const Point at = dice.pointWithin({0, 0}, reach);
+        const auto onRay = [&, turn = dice.between(0, 6.2831853)](double way) {
+            return Point{static_cast<float>(at.x + way * std::cos(turn)),
+                         static_cast<float>(at.y - way * std::sin(turn))};
+        };
+        const Point one = onRay(dice.between(reach / 100, reach));
+        const Point other = onRay(dice.between(reach / 100, reach));
+        for (const auto& [first, second] : {std::pair{one, other}, {other, one}, {one, one}}) {
+            for (const Point p : {at, first, second}) desk.snap(p);
+            EXPECT_EQ(desk.text3(), ".000") << i;
+            EXPECT_EQ(desk.s.stepNo, 0) << i;
+            ASSERT_EQ(desk.s.promptText, "(Enter point of angle:)") << i;
+        }
+        EXPECT_EQ(desk.s.store.entCount, 1) << i;
+    }
+}
+
+TEST(AngularDimension, MeasuresWhatIsPlainlyAnAngleBothWaysRound)
+{
+    struct Row {
+        Point first, second;
+        const char *angle, *rest;
+    };
+    const Row rows[] = {
+        {{1000, 0}, {1000, -0.0175F}, ".001\xC2\xB0", "359.999\xC2\xB0"},
+        {{1000, 0}, {1000, -0.1745F}, ".010\xC2\xB0", "359.990\xC2\xB0"},
+        {{-1000, 0}, {-1000, 1.745F}, ".100\xC2\xB0", "359.900\xC2\xB0"},
+        {{300, 400}, {-300, -400}, "180.000\xC2\xB0", "180.000\xC2\xB0"}, // one line, but two rays
+    };
+    for (const Row& row : rows) {
+        AngularDesk desk;
+        for (const auto& [first, second] : {std::pair{row.first, row.second}, {row.second, row.first}}) {
+            for (const Point p : {Point{0, 0}, first, second}) desk.snap(p);
+            EXPECT_EQ(desk.text3(), first == row.first ? row.angle : row.rest);
+            desk.click({700, 100});
+        }
+        EXPECT_EQ(desk.s.store.entCount, 3) << row.angle;
     }
 }
 
