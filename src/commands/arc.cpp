@@ -2,10 +2,14 @@
 
 #include "commands/commit.h"
 #include "commands/prompt.h"
-#include "model/three_point_scratch.h"
 #include "geometry/angle.h"
+#include "geometry/direction.h"
 #include "geometry/fault.h"
+#include "model/three_point_scratch.h"
 #include "render/redraw.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace mirtane {
 namespace {
@@ -30,13 +34,49 @@ void takeRadiusPoint(Session& s, Canvas& pic1)
     s.arcEnd = s.arcAngleOne;
 }
 
-// Counts the way that the pointer goes round the centre. arcLastAngle is what the last move left, also of an arc
-// before this one; a crossing of angle 0 counts the wrong way, and the sum over the whole way decides.
+// Where the pointer is about the centre, and what the rounding of its place makes of that. Radians.
+struct Bearing {
+    double angle, noise;
+};
+
+// Near the centre and far from the origin the noise is more than a little.
+Bearing bearingOf(Point centre, Point pointer, double angle)
+{
+    constexpr double halfStepsOfAPlace = 1.5; // half a step level and half a step upright
+    Bearing bearing{angle, 0};
+    keep(bearing.noise, halfStepsOfAPlace * directionOf(centre, pointer).rounding);
+    return bearing;
+}
+
+// Along one axis of ortho the directions differ by their rounding: they are one, also over angle 0.
+bool areOne(Bearing a, Bearing b)
+{
+    constexpr double oneAngle = 1e-6;
+    const double apart = std::abs(a.angle - b.angle);
+    const double within = std::max(oneAngle, a.noise + b.noise);
+    return apart <= within || apart >= fullTurn - within;
+}
+
+double fromZero(Bearing bearing)
+{
+    return areOne(bearing, {0, 0}) ? 0 : bearing.angle;
+}
+
+int turnBetween(Bearing last, Bearing now)
+{
+    if (areOne(last, now)) return 0;
+    return fromZero(now) > fromZero(last) ? 1 : -1;
+}
+
+// Counts the way that the pointer goes round the centre, from the place in ptC, which it takes. arcLastAngle
+// is what the last move left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
+// the sum over the whole way decides.
 void wind(Session& s)
 {
+    const Bearing last = bearingOf(s.ptA, s.ptC, s.arcLastAngle);
+    s.ptC = s.pickLast;
     s.arcAngleTwo = directionAngle(s.ptA, s.ptC, s.arcAngleTwo);
-    if (s.arcAngleTwo > s.arcLastAngle) keep(s.arcWinding, s.arcWinding + 1);
-    if (s.arcAngleTwo < s.arcLastAngle) keep(s.arcWinding, s.arcWinding - 1);
+    keep(s.arcWinding, s.arcWinding + turnBetween(last, bearingOf(s.ptA, s.ptC, s.arcAngleTwo)));
     s.arcLastAngle = s.arcAngleTwo;
     if (s.arcWinding > 0) {
         s.arcStart = s.arcAngleOne;
@@ -61,7 +101,6 @@ void arcTwoStep(Session& s, Canvas& pic1)
     if (s.stepNo == 1) takeFirstPoint(s, pic1);
     if (s.stepNo == 2) takeRadiusPoint(s, pic1);
     if (s.stepNo != 3) return;
-    s.ptC = s.pickLast;
     wind(s);
     commitArc(s, pic1, s.ptA);
 }
@@ -73,7 +112,6 @@ void arcTwoBand(Session& s, Canvas& pic1)
         restorePicture(pic1);
         pic1.line(s.pickFirst.x, s.pickFirst.y, s.ptB.x, s.ptB.y);
     } else if (s.stepNo == 2) {
-        s.ptC = s.pickLast;
         wind(s);
         restorePicture(pic1);
         pic1.line(s.ptA.x, s.ptA.y, s.ptC.x, s.ptC.y);
