@@ -36,10 +36,16 @@ void takeOrthoAngle(Session& s, double degrees)
     setText(s.controls["angle"_c], formatNumber(folded, NumberFormat::paddedThousandths));
 }
 
+// What the field would show as a whole turn is none.
+double belowWholeTurn(double degrees)
+{
+    return below(degrees, 360) ? degrees : 0;
+}
+
 void takeTextRotation(Session& s, double degrees)
 {
-    s.textRotation = degrees;
-    setText(s.controls["textrot"_c], formatNumber(degrees, NumberFormat::paddedThousandths));
+    s.textRotation = belowWholeTurn(degrees);
+    setText(s.controls["textrot"_c], formatNumber(s.textRotation, NumberFormat::paddedThousandths));
 }
 
 } // namespace

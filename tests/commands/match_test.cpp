@@ -1,8 +1,13 @@
 #include "commands/match.h"
 
+#include "commands/text.h"
+
 #include "desk.h"
+#include "geometry/angle.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace mirtane {
 namespace {
@@ -117,6 +122,58 @@ TEST(TextRotationMatch, IsNotFolded)
     EXPECT_EQ(desk.text("textrot"_c), "135.000");
     EXPECT_EQ(desk.s.orthoAngle, 0);
     EXPECT_EQ(desk.s.curFunc, "Line");
+}
+
+void matchTextRotation(Desk& desk, Point from, Point to)
+{
+    desk.press("textrot"_c);
+    desk.type("m");
+    desk.click(from.x, from.y);
+    desk.click(to.x, to.y);
+}
+
+// Just below the level the angle computes as a whole turn or a little more.
+TEST(TextRotationMatch, IsBelowAWholeTurn)
+{
+    struct Row {
+        const char* what;
+        Point from, to;
+        double degrees;
+        const char* shown;
+    };
+    const Row rows[] = {
+        {"level", {1000, 1000}, {3000, 1000}, 0, "000.000"},
+        {"a rounding step below", {1000, 1000}, {4000, 1000.00006F}, 0, "000.000"},
+        {"more of them", {1000, 1000}, {1900, 1000.0005F}, 0, "000.000"},
+        {"far from the origin", {-500000, 250000}, {1500000, 250000.02F}, 0, "000.000"},
+        {"as much as the field would round up", {50, 0}, {100050, 0.8F}, 0, "000.000"},
+        {"as little as it shows", {50, 0}, {100050, 1.0F}, 359.999427, "359.999"},
+        {"a hundredth of a degree", {50, 0}, {100050, 17.45329F}, 359.99, "359.990"},
+        {"a rounding step above", {1000, 1000}, {4000, 999.99994F}, 1.166e-6, "000.000"},
+    };
+    for (const Row& row : rows) {
+        Desk desk;
+        matchTextRotation(desk, row.from, row.to);
+        EXPECT_NEAR(desk.s.textRotation, row.degrees, 1e-5) << row.what;
+        EXPECT_GE(desk.s.textRotation, 0) << row.what;
+        EXPECT_LT(desk.s.textRotation, 360) << row.what;
+        EXPECT_EQ(desk.text("textrot"_c), row.shown) << row.what;
+    }
+}
+
+TEST(TextRotationMatch, SetsTheNextLineOfTextApartWhateverTheDirection)
+{
+    Desk desk;
+    for (int i = 0; i < 2000; ++i) {
+        const auto along = static_cast<float>(std::pow(1.01, i % 1000)); // up to some 20,000
+        const float down = (i % 2 == 0 ? 1e-4F : -1e-4F) * static_cast<float>(i % 7);
+        matchTextRotation(desk, {0.5F, 0}, {i < 1000 ? along : -along, down});
+        const double rotation = desk.s.textRotation;
+        ASSERT_TRUE(rotation >= 0 && rotation < 360) << along << " " << down;
+        ASSERT_LT(std::stod(desk.text("textrot"_c)), 360) << along << " " << down;
+        ASSERT_NEAR(std::stod(desk.text("textrot"_c)), rotation, 0.000501) << along << " " << down;
+        ASSERT_NEAR(distance({0, 0}, nextLine({0, 0}, 50, rotation)), 55, 0.01) << along << " " << down;
+    }
 }
 
 } // namespace
