@@ -16,6 +16,13 @@ void beginEdit(App& app, const FunctionRow& row)
     app.s.editPending = 1;
 }
 
+// No prompt follows, which else puts the form away.
+void deleteAndClose(App& app)
+{
+    app.s.controls["frmedit"_c].visible = false;
+    deleteSelection(app.s, app.pic1);
+}
+
 void askForChanges(App& app)
 {
     Session& s = app.s;
@@ -30,7 +37,7 @@ void askForChanges(App& app)
 void startEdit(App& app, const std::string& name)
 {
     if (!somethingSelected(app.s) || name.empty()) return;
-    if (name == "Delete") return deleteSelection(app.s, app.pic1);
+    if (name == "Delete") return deleteAndClose(app);
     const FunctionRow* row = findFunction(name);
     if (row == nullptr) return;
     beginEdit(app, *row);

@@ -118,6 +118,32 @@ TEST(EditList, TheEmptyRowDoesNothing)
     EXPECT_EQ(desk.stat(1), Stat::sel);
 }
 
+TEST(EditList, EveryRowPutsTheFormAway)
+{
+    EditsDesk asks;
+    const std::vector<std::string> rows = (asks.selectAll(), asks.rows());
+    for (int row = 0; row < std::ssize(rows); ++row) {
+        if (row == fake::emptyRow) continue;
+        EditsDesk desk;
+        desk.selectAll();
+        desk.cancel();
+        ASSERT_TRUE(desk.visible("frmedit"_c));
+        desk.pick(row);
+        EXPECT_FALSE(desk.visible("frmedit"_c)) << rows[static_cast<std::size_t>(row)]; // not negative
+    }
+}
+
+TEST(EditList, OfNothingSelectedLeavesTheFormAsItIs)
+{
+    EditsDesk desk;
+    desk.selectAll();
+    desk.cancel();
+    desk.s.store.setStat(1, Stat::on);
+    desk.pick(fake::deleteRow);
+    EXPECT_TRUE(desk.visible("frmedit"_c));
+    EXPECT_EQ(desk.text("entry"_c), "Nothing selected!");
+}
+
 TEST(Delete, IsOneActionThatCountsAsUnsavedWork)
 {
     for (const bool fromForm : {false, true}) {
