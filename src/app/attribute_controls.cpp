@@ -103,6 +103,11 @@ void showLayers(Session& s)
 {
     s.controls["List1"_c].rows = s.layerTable.rows();
     s.controls["List1"_c].row = -1;
+    showWorkingLayer(s);
+}
+
+void showWorkingLayer(Session& s)
+{
     if (const Layer* working = s.layerTable.find(s.workLayer))
         setText(s.controls["Combo3"_c], working->row());
 }

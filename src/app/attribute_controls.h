@@ -12,6 +12,7 @@ void showLineSettings(Session& s);
 
 // Fills List1 with the layer rows, and Combo3 with that of the working layer.
 void showLayers(Session& s);
+void showWorkingLayer(Session& s); // Combo3 alone
 
 // The menus of line width (which are colours) and line style.
 void takeLineColor(App& app, ControlId menu);

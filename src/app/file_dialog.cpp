@@ -153,7 +153,7 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     s.controls["frmfile.Command1"_c].caption = flow.button;
     s.controls["frmfile.Command2"_c].caption = "Close";
     setText(s.controls["frmfile.Text2"_c], std::string(pattern.typeLine));
-    setText(s.controls["frmfile.Text1"_c], name);
+    setSelectedText(s.controls["frmfile.Text1"_c], name);
     s.saveFollowUp = follow::nothing;
     showFolder(app, folderThatExists(app, s.*pattern.folders));
     s.controls["frmfile"_c].visible = true;

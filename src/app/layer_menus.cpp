@@ -81,7 +81,7 @@ void nameLayer(Session& s, const std::string& name)
     if (name.empty()) return;
     if (Layer* row = s.layerTable.find(s.chosenLayer)) row->layerName = name;
     writeLayerName(s, s.chosenLayer, name);
-    fillList(s);
+    showLayers(s);
     s.controls.focus = "pic1"_c;
 }
 
@@ -98,7 +98,7 @@ void addLayer(Session& s, const std::string& name)
         ++s.layerTable.layerCount;
         writeLayerName(s, number, name);
     }
-    fillList(s);
+    showLayers(s);
     s.controls.focus = "pic1"_c;
 }
 
@@ -164,8 +164,11 @@ void hideOrDisplayLayer(App& app, int r)
 
 void chooseLayerToName(App& app, int r)
 {
-    app.s.chosenLayer = static_cast<std::int16_t>(r); // a row of the table, below 1,000
-    app.s.controls.focus = "Combo3"_c;
+    Session& s = app.s;
+    s.chosenLayer = static_cast<std::int16_t>(r); // a row of the table, below 1,000
+    Control& box = s.controls["Combo3"_c];
+    setSelectedText(box, box.text);
+    s.controls.focus = "Combo3"_c;
 }
 
 void unnameLayer(App& app, int r)

@@ -83,7 +83,7 @@ void askForPrintScale(App& app, ControlId)
     }
     std::string fitted = plainNumber(fittedScale(s, s.store));
     std::ranges::replace(fitted, 'e', 'E');
-    setText(s.controls["frmprintset.Text1"_c], fitted);
+    setSelectedText(s.controls["frmprintset.Text1"_c], fitted);
     setText(s.controls["frmprintset.Text2"_c], fitted);
     showScaleOfPicture(s);
     s.controls["frmprintset"_c].visible = true;

@@ -3,6 +3,7 @@
 #include "app/shell.h"
 
 #include "app/actions.h"
+#include "app/attribute_controls.h"
 #include "app/canvas_input.h"
 #include "app/fields.h"
 #include "app/file_dialog.h"
@@ -78,6 +79,13 @@ std::string inNumberStyle(const Session& s, float length)
 }
 
 void keyToControl(App& app, ControlId id, char32_t code)
+// Fields and the box of the layers forget what was half typed.
+void leave(Session& s, ControlId id)
+{
+    fieldLeft(s, id);
+    if (id == "Combo3"_c) showWorkingLayer(s);
+}
+
 {
     Session& s = app.s;
     if (id == "pic1"_c) return canvasKeyPress(s, app.pic1, code);
@@ -197,6 +205,7 @@ void Shell::clickRow(ControlId list, int row)
     moveToRow(list, row);
     if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
     const ControlId before = s_.controls.focus;
+        setCaret(s_.controls[id], s_.controls[id].caret); // what was selected is so no more
     App app{s_, pic1_, ports_, dxfScratch_};
     rowChosen(app, list, row);
     settle(before);
@@ -253,7 +262,7 @@ void Shell::settle(ControlId focusBefore)
 {
     // A form that went from the screen takes no keys with it.
     if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = "pic1"_c;
-    if (s_.controls.focus != focusBefore) fieldLeft(s_, focusBefore);
+    if (s_.controls.focus != focusBefore) leave(s_, focusBefore);
     s_.controls["promptlab"_c].caption = s_.promptText;
     showArmedSnap(s_);
 }

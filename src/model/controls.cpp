@@ -53,6 +53,12 @@ void setText(Control& control, std::string text)
     setCaret(control, characterCount(control.text));
 }
 
+void setSelectedText(Control& control, std::string text)
+{
+    setText(control, std::move(text));
+    control.anchor = 0;
+}
+
 void setCaret(Control& control, int position)
 {
     control.caret = std::clamp(position, 0, characterCount(control.text));

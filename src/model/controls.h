@@ -43,6 +43,10 @@ class Controls {
 // Replaces the text and puts the caret behind its last character.
 void setText(Control& control, std::string text);
 
+// Replaces the text and selects all of it, with the caret behind its last character: the next key types over
+// it.
+void setSelectedText(Control& control, std::string text);
+
 // Puts the caret at position (characters, clipped to the text) with nothing selected.
 void setCaret(Control& control, int position);
 

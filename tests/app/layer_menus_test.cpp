@@ -315,6 +315,80 @@ TEST(LayerBox, TakesEnterInTwoModesAlone)
     }
 }
 
+struct BoxRow {
+    const char* what;
+    void (*act)(LayerDesk& desk);
+    const char* shown;
+};
+
+TEST(LayerBox, ShowsTheWorkingLayerAgainAfterItsNameWasTaken)
+{
+    const BoxRow rows[] = {
+        {"another layer named", [](LayerDesk& d) { d.nameLayer(4, "walls"); }, "No :Wk :7"},
+        {"the working layer named", [](LayerDesk& d) { d.nameLayer(7, "walls"); }, "No :Wk :walls"},
+        {"a layer added", [](LayerDesk& d) { d.addLayer("roof"); }, "No :Wk :7"},
+        {"none added", [](LayerDesk& d) { d.addLayer(""); }, "No :Wk :7"},
+        {"the working layer un-named",
+         [](LayerDesk& d) {
+             d.nameLayer(7, "walls");
+             d.menuRow("ly9a"_c, 7);
+         },
+         "No :Wk :7"},
+        {"a layer un-named while something is typed",
+         [](LayerDesk& d) {
+             d.press("ly11"_c);
+             d.type("ro");
+             d.menuRow("ly9a"_c, 4);
+         },
+         "No :Wk :7"},
+    };
+    for (const BoxRow& row : rows) {
+        LayerDesk desk;
+        desk.menuRow("ly3"_c, 7);
+        row.act(desk);
+        EXPECT_EQ(desk.text("Combo3"_c), row.shown) << row.what;
+    }
+}
+
+TEST(LayerBox, ShowsTheWorkingLayerAgainWhenTheFocusGoes)
+{
+    const BoxRow rows[] = {
+        {"to the drawing", [](LayerDesk& d) { d.down(1, 100, 100); }, ""},
+        {"by a right click", [](LayerDesk& d) { d.cancel(); }, ""},
+        {"to another field", [](LayerDesk& d) { d.press("textrot"_c); }, ""},
+        {"by the key that goes on", [](LayerDesk& d) { d.shell.giveFocus("List1"_c); }, ""},
+        {"to a row of the list", [](LayerDesk& d) { d.pick(3); }, ""},
+        {"to a function", [](LayerDesk& d) { d.press("Command2"_c); }, ""},
+        {"to the file dialog", [](LayerDesk& d) { d.press("fil7"_c); }, ""},
+        {"to the window that leaves", [](LayerDesk& d) { d.shell.closeForm("frmMain"_c); }, ""},
+    };
+    for (const ControlId menu : {"ly9"_c, "ly11"_c, "ly7"_c}) {
+        for (const BoxRow& row : rows) {
+            LayerDesk desk;
+            desk.drawLine(100, 100, 400, 300);
+            desk.press(menu);
+            desk.press("Combo3"_c);
+            desk.type("half a na");
+            row.act(desk);
+            EXPECT_EQ(desk.text("Combo3"_c), "Yes:Wk :1") << menu.row().name << " " << row.what;
+        }
+    }
+}
+
+TEST(LayerBox, KeepsWhatIsTypedWhileItHasTheFocus)
+{
+    LayerDesk desk;
+    desk.press("ly11"_c);
+    desk.type("ro");
+    desk.move(300, 300);
+    desk.press("tk12"_c); // a check mark moves no focus
+    desk.press("ly6"_c);
+    desk.type("of");
+    EXPECT_EQ(desk.text("Combo3"_c), "roof");
+    desk.enter();
+    EXPECT_EQ(desk.row(16), "No :On :roof");
+}
+
 TEST(AddLayer, ClearsTheBoxAndKeepsTheList)
 {
     LayerDesk desk;

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
@@ -164,6 +166,34 @@ TEST(PrintDialog, TheFittedValuePrintsAtTheFittedSize)
     EXPECT_EQ(office.s.printFactor, 1);
     EXPECT_NEAR(office.scale(), 10, 1e-5);
     EXPECT_FALSE(office.isOpen());
+TEST(PrintDialog, TheFittedValueIsSelectedAndTypedOver)
+{
+    for (const char* keys : {"24", "13,5", "1000"}) {
+        Office office;
+        office.addLine();
+        office.ask();
+        EXPECT_EQ(office.s.controls[typed].anchor, 0);
+        EXPECT_EQ(office.s.controls[typed].caret, 2);
+        office.type(keys);
+        std::string expected = keys;
+        std::ranges::replace(expected, ',', '.');
+        EXPECT_EQ(office.text(typed), expected);
+        office.type("\r");
+        EXPECT_EQ(office.printer.pages, 1) << keys;
+        EXPECT_LT(office.s.printFactor, 1) << keys;
+    }
+}
+
+TEST(PrintDialog, BackspaceTakesTheFittedValueAwayWhole)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.type("\b");
+    EXPECT_EQ(office.text(typed), "");
+    EXPECT_EQ(office.text(fitted), "12");
+}
+
     EXPECT_EQ(office.stat(), Stat::on);
     EXPECT_EQ(office.s.controls.focus, "pic1"_c);
     EXPECT_FALSE(fake::marks(fake::opsOn(office.pic1)).empty()) << "the surface was not repainted";
