@@ -94,6 +94,18 @@ void showWhetherItOverwrites(Session& s)
     s.controls["frmfile.Command1"_c].caption = present ? "Overwrite?" : "Save";
 }
 
+FileChoice choiceOf(const Session& s, const std::string& name)
+{
+    return {s.controls["frmfile.Dir1"_c].text, name, s.controls["frmfile"_c].caption, s.filePattern};
+}
+
+// The drawing saved to the file that it is in: what everyone means, and what needs no warning.
+bool proposesOwnFile(const Session& s)
+{
+    const FileChoice choice = choiceOf(s, chosenName(s));
+    return savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile;
+}
+
 // The drive that the folder shown lies on is the longest that leads to it.
 int driveOf(const std::vector<std::string>& drives, const std::string& folder)
 {
@@ -156,6 +168,7 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     setSelectedText(s.controls["frmfile.Text1"_c], name);
     s.saveFollowUp = follow::nothing;
     showFolder(app, folderThatExists(app, s.*pattern.folders));
+    if (!proposesOwnFile(s)) showWhetherItOverwrites(s);
     s.controls["frmfile"_c].visible = true;
     s.controls.focus = "frmfile.Text1"_c;
 }
@@ -201,7 +214,7 @@ void confirmFileDialog(App& app, ControlId)
     if (!isSaving(s)) name = nameInList(s, name);
     setText(s.controls["frmfile.Text1"_c], name);
     (s.*patternOf(s).folders).last = folderShown(s);
-    const FileChoice choice{folderShown(s), name, s.controls["frmfile"_c].caption, s.filePattern};
+    const FileChoice choice = choiceOf(s, name);
     if (!isSaving(s)) {
         if (openFile(app, choice)) hideDialog(s);
     } else if (saveFile(app, choice)) {

@@ -19,16 +19,18 @@ bool isPlainName(const std::string& name)
     return name.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
 }
 
-std::string pathOf(const FileChoice& choice)
+// The drawing is from now on that of the file.
+void takeFile(FileState& s, const FileChoice& choice)
 {
-    return choice.folder + "/" + choice.name;
+    s.drawingName = choice.name;
+    s.drawingFile = pathOf(choice);
 }
 
 bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
 {
     Session& s = app.s;
     if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
-    if (what == SaveWhat::drawing) s.drawingName = choice.name;
+    if (what == SaveWhat::drawing) takeFile(s, choice);
     afterSave(s, what);
     if (what == SaveWhat::selected) redrawAll(s, app.pic1);
     return true;
@@ -57,7 +59,7 @@ bool openDrawingFile(App& app, const FileChoice& choice)
     if (choice.caption == "Load Layer") {
         mergeDrawing(app, *file);
     } else {
-        app.s.drawingName = choice.name;
+        takeFile(app.s, choice);
         openDrawing(app, *file);
     }
     setPrompt(app.s, app.pic1);
@@ -83,6 +85,7 @@ bool openDxfFile(App& app, const FileChoice& choice)
     if (!file) return false;
     s.dxfName = choice.name;
     s.drawingName = drawingNameOf(choice.name);
+    s.drawingFile.clear();        // what may be there under that name is another drawing
     s.drawings.last = s.dxf.last; // so that the drawing is saved beside the file that it came from
     openDxf(app, *file);
     setPrompt(s, app.pic1);
@@ -110,6 +113,11 @@ constexpr PatternRoutines patternRoutines[] = {
 };
 
 } // namespace
+
+std::string pathOf(const FileChoice& choice)
+{
+    return choice.folder + "/" + choice.name;
+}
 
 bool savesWholeDrawing(const FileChoice& choice)
 {

@@ -12,6 +12,8 @@ struct FileChoice {
     std::string pattern;
 };
 
+std::string pathOf(const FileChoice& choice);
+
 // A save of the drawing itself, and not of a part of it or of a library.
 bool savesWholeDrawing(const FileChoice& choice);
 

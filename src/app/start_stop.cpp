@@ -103,6 +103,7 @@ void clearDrawing(App& app)
     s.multipleLinesName = noName;
     newLayers(s);
     s.drawingName = "untitled.mtd";
+    s.drawingFile.clear();
     setPrompt(s, app.pic1);
 }
 

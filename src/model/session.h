@@ -133,6 +133,7 @@ struct FileState {
     std::int16_t saveFollowUp = follow::nothing;
     std::string drawingName = "untitled.mtd";
     std::string dxfName = "untitled.dxf";
+    std::string drawingFile; // full path of what was opened or saved as this drawing, if anything was
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;
     std::string programFolder;

@@ -79,14 +79,6 @@ TEST(FileNames, OfAnOpenDialogNeverTurnItsButton)
     EXPECT_EQ(desk.text("frmfile.Text1"_c), "house.mtd");
 }
 
-TEST(FileNames, ProposedOpenAsSaveEvenWhereTheFileExists)
-{
-    Desk desk;
-    desk.disk.files["/home/user/untitled.mtd"] = {};
-    desk.press("fil7"_c);
-    EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
-}
-
 TEST(FileNames, PickedFromTheListAreCopiedAndWarned)
 {
     Desk desk;
