@@ -43,7 +43,7 @@ void page(State& state)
 {
     PrintBench& b = printBench();
     for (auto _ : state) {
-        if (!b.printer.beginPage(b.file)) state.SkipWithError("no page");
+        if (!b.printer.beginPage({b.file, {}})) state.SkipWithError("no page");
         drawPage(b.session->store, pageMapping(*b.session, b.session->store), b.session->pageHeight,
                  b.printer);
         if (!b.printer.endPage()) state.SkipWithError("no file");

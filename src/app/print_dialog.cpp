@@ -36,30 +36,48 @@ double fittedScaleShown(const Session& s)
     return readNumber(s.controls["frmprintset.Text2"_c].text);
 }
 
+// Where a page may go: a file that was there before the session is somebody's, and stays.
+bool isFree(App& app, const std::string& file)
+{
+    return app.s.pageFiles.contains(file) || !app.ports.disk.isTaken(file);
+}
+
 // A drawing is printed beside the place where it is kept.
-std::string fileOfPage(App& app, std::string& name)
+std::string fileOfPage(App& app)
 {
     Session& s = app.s;
-    name = s.drawingName.substr(0, s.drawingName.find('.')) + ".pdf";
-    return folderThatExists(app, s.drawings) + "/" + name;
+    const std::string base = s.drawingName.substr(0, s.drawingName.find('.'));
+    const std::string start = folderThatExists(app, s.drawings) + "/" + base;
+    std::string file = start + ".pdf";
+    for (int number = 2; !isFree(app, file); ++number) file = start + "-" + std::to_string(number) + ".pdf";
+    return file;
 }
 
 bool putPageOut(Session& s, Printer& printer, const std::string& file)
 {
-    if (!printer.beginPage(file)) return false;
+    if (!printer.beginPage({file, s.drawingName})) return false;
     drawPage(s.store, pageMapping(s, s.store), s.pageHeight, printer);
     return printer.endPage();
+}
+
+void printIntoFile(App& app, Printer& printer)
+{
+    Session& s = app.s;
+    const std::string file = fileOfPage(app);
+    const bool done = putPageOut(s, printer, file);
+    if (done) s.pageFiles.insert(file);
+    setText(s.controls["entry"_c], done ? file.substr(file.rfind('/') + 1) : "File not saved!");
 }
 
 void printSelection(App& app)
 {
     Session& s = app.s;
     Printer* printer = app.ports.printer;
-    if (printer != nullptr && s.pageWidth > 0 && s.pageHeight > 0) {
-        std::string name;
-        const std::string file = fileOfPage(app, name);
-        const bool done = putPageOut(s, *printer, file);
-        if (printer->printsToFile()) setText(s.controls["entry"_c], done ? name : "File not saved!");
+    const bool hasPage = printer != nullptr && s.pageWidth > 0 && s.pageHeight > 0;
+    if (hasPage && printer->printsToFile()) {
+        printIntoFile(app, *printer);
+    } else if (hasPage) {
+        putPageOut(s, *printer, {});
     }
     dropSelection(app);
 }

@@ -58,7 +58,7 @@ void drawSelection(App& app, Printer& printer)
 Fault writePdf(App& app, const std::string& out, const Wishes& wishes)
 {
     PdfPrinter printer{QPageSize(wishes.paper)};
-    if (!printer.beginPage(out)) return "can't be drawn as a page";
+    if (!printer.beginPage({out, {}})) return "can't be drawn as a page";
     drawSelection(app, printer);
     if (printer.endPage()) return std::nullopt;
     return "can't be written: " + out;

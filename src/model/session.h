@@ -10,6 +10,7 @@
 #include "model/undo_log.h"
 
 #include <array>
+#include <set>
 
 namespace mirtane {
 
@@ -132,11 +133,12 @@ struct FileState {
     std::int32_t savedCount = 1; // entCount at the last load or save
     std::int16_t saveFollowUp = follow::nothing;
     std::string drawingName = "untitled.mtd";
-    std::string dxfName = "untitled.dxf";
     std::string drawingFile; // full path of what was opened or saved as this drawing, if anything was
+    std::string dxfName = "untitled.dxf";
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;
     std::string programFolder;
+    std::set<std::string> pageFiles; // full paths of the pages that were printed into files
     std::int32_t dimensionCount = 0; // kinds 7 to 10, counted by a load
     std::int16_t chosenLayer = 0;    // for naming, loading and saving a layer
     bool ended = false;

@@ -6,6 +6,12 @@
 
 namespace mirtane {
 
+// What a page goes by.
+struct PageName {
+    std::string file;  // where it goes if it becomes a file (absolute, UTF-8)
+    std::string title; // of the document that it is
+};
+
 // A printer as the page needs it. Coordinates and lengths are twips (1440 to the inch) from the upper left of
 // the printable area, y down; angles are counter-clockwise. Everything is printed in black.
 class Printer {
@@ -20,8 +26,8 @@ class Printer {
     // The user's choice of printer and paper. What has been read of the page stays.
     virtual void setup() = 0;
 
-    // A page begins; file is where it goes if it becomes one (absolute, UTF-8). False if it can't be begun.
-    virtual bool beginPage(const std::string& file) = 0;
+    // A page begins. False if it can't be begun.
+    virtual bool beginPage(const PageName& name) = 0;
     virtual void font(std::string_view name, double points) = 0;
     virtual void text(double x, double y, std::string_view utf8) = 0; // (x, y) its upper left
     virtual void pen(std::int16_t style, int width) = 0; // style as on the surface, width in device pixels

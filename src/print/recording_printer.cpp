@@ -54,7 +54,7 @@ void RecordingPrinter::note(std::string_view name, std::vector<PrintOp::Arg> arg
     printed_.push_back({name, std::move(args)});
 }
 
-bool RecordingPrinter::beginPage(const std::string&)
+bool RecordingPrinter::beginPage(const PageName&)
 {
     printed_.clear();
     return true;

@@ -31,7 +31,7 @@ class RecordingPrinter : public Printer {
     float pageHeight() const override { return height_; }
     bool printsToFile() const override { return false; }
     void setup() override {}
-    bool beginPage(const std::string& file) override;
+    bool beginPage(const PageName& name) override;
     void font(std::string_view name, double points) override;
     void text(double x, double y, std::string_view utf8) override;
     void pen(std::int16_t style, int width) override;

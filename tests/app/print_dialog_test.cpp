@@ -27,21 +27,25 @@ class TestPrinter : public RecordingPrinter {
 
     bool printsToFile() const override { return toFile; }
     void setup() override { ++setups; }
-    bool beginPage(const std::string& file) override
+    bool beginPage(const PageName& name) override
     {
         ++pages;
-        lastFile = file;
-        return RecordingPrinter::beginPage(file) && !refusesPages;
+        lastFile = name.file;
+        lastTitle = name.title;
+        return RecordingPrinter::beginPage(name) && !refusesPages;
     }
     bool endPage() override
     {
         ++ends;
-        return RecordingPrinter::endPage() && !refusesEnds;
+        if (!RecordingPrinter::endPage() || refusesEnds) return false;
+        if (toFile) disk->files[lastFile] = {1, 2, 3};
+        return true;
     }
 
     bool toFile = false, refusesPages = false, refusesEnds = false;
     int pages = 0, ends = 0, setups = 0;
-    std::string lastFile;
+    std::string lastFile, lastTitle;
+    fake::MemoryDisk* disk = nullptr; // where pages become files
 };
 
 // The program at its start, with a printer.
@@ -49,6 +53,7 @@ class Office {
   public:
     explicit Office(float width = 12240, float height = 15840) : printer(width, height)
     {
+        printer.disk = &disk;
         folders.folders = {"/", "/home", fake::home};
         pic1.setScale({0, 0, 4800, 3200});
         shell.start();
@@ -81,6 +86,13 @@ class Office {
     }
 
     void ask() { shell.click("picset"_c); }
+    // The first object, at the fitted scale.
+    void print()
+    {
+        s.store.setStat(1, Stat::sel);
+        ask();
+        press(printButton);
+    }
     void type(std::string_view keys)
     {
         for (const char c : keys) shell.keyPress(static_cast<unsigned char>(c)); // ASCII
@@ -154,18 +166,6 @@ TEST(PrintDialog, ShowsSevenDigitsWithAPoint)
     }
 }
 
-TEST(PrintDialog, TheFittedValuePrintsAtTheFittedSize)
-{
-    Office office;
-    office.addLine();
-    office.ask();
-    office.pic1.takeOps();
-    office.press(printButton);
-    EXPECT_EQ(office.printer.pages, 1);
-    EXPECT_EQ(office.printer.ends, 1);
-    EXPECT_EQ(office.s.printFactor, 1);
-    EXPECT_NEAR(office.scale(), 10, 1e-5);
-    EXPECT_FALSE(office.isOpen());
 TEST(PrintDialog, TheFittedValueIsSelectedAndTypedOver)
 {
     for (const char* keys : {"24", "13,5", "1000"}) {
@@ -194,6 +194,18 @@ TEST(PrintDialog, BackspaceTakesTheFittedValueAwayWhole)
     EXPECT_EQ(office.text(fitted), "12");
 }
 
+TEST(PrintDialog, TheFittedValuePrintsAtTheFittedSize)
+{
+    Office office;
+    office.addLine();
+    office.ask();
+    office.pic1.takeOps();
+    office.press(printButton);
+    EXPECT_EQ(office.printer.pages, 1);
+    EXPECT_EQ(office.printer.ends, 1);
+    EXPECT_EQ(office.s.printFactor, 1);
+    EXPECT_NEAR(office.scale(), 10, 1e-5);
+    EXPECT_FALSE(office.isOpen());
     EXPECT_EQ(office.stat(), Stat::on);
     EXPECT_EQ(office.s.controls.focus, "pic1"_c);
     EXPECT_FALSE(fake::marks(fake::opsOn(office.pic1)).empty()) << "the surface was not repainted";
@@ -343,6 +355,76 @@ TEST(PrintDialog, AFilePageIsNamedAfterTheDrawingAndShown)
     office.press(printButton);
     EXPECT_EQ(office.printer.lastFile, std::string(fake::home) + "/house.pdf");
     EXPECT_EQ(office.text("entry"_c), "house.pdf");
+}
+
+TEST(PrintDialog, APageHasTheDrawingsNameForItsTitle)
+{
+    for (const bool toFile : {false, true}) {
+        Office office;
+        office.printer.toFile = toFile;
+        office.s.drawingName = "maison \u00E0 c\u00F4t\u00E9.mtd";
+        office.addLine();
+        office.print();
+        EXPECT_EQ(office.printer.lastTitle, "maison \u00E0 c\u00F4t\u00E9.mtd") << toFile;
+    }
+}
+
+// The drawing "house.mtd", printed so often beside the files that are there.
+struct PageRow {
+    std::vector<const char*> there;
+    std::vector<const char*> written;
+};
+
+TEST(PrintDialog, AFilePageTakesThePlaceOfNoFileButItsOwn)
+{
+    const PageRow rows[] = {
+        {{}, {"house.pdf", "house.pdf"}},
+        {{"house.pdf"}, {"house-2.pdf", "house-2.pdf", "house-2.pdf"}},
+        {{"house.pdf", "house-2.pdf", "house-3.pdf"}, {"house-4.pdf"}},
+        {{"house.pdf", "house-3.pdf"}, {"house-2.pdf", "house-2.pdf"}},
+        {{"house-2.pdf"}, {"house.pdf", "house.pdf"}},
+        {{"house.mtd", "barn.pdf"}, {"house.pdf"}},
+    };
+    const std::string folder = std::string(fake::home) + "/";
+    for (const PageRow& row : rows) {
+        Office office;
+        office.printer.toFile = true;
+        office.s.drawingName = "house.mtd";
+        office.addLine();
+        for (const char* name : row.there) office.disk.files[folder + name] = {7};
+        for (const char* name : row.written) {
+            office.print();
+            EXPECT_EQ(office.printer.lastFile, folder + name);
+            EXPECT_EQ(office.text("entry"_c), name);
+        }
+        for (const char* name : row.there) EXPECT_EQ(office.disk.files[folder + name], Bytes{7}) << name;
+    }
+}
+
+TEST(PrintDialog, AFilePageOfAnotherFolderIsAnotherFile)
+{
+    Office office;
+    office.printer.toFile = true;
+    office.folders.folders.insert("/plans");
+    office.addLine();
+    office.print();
+    office.s.drawings.last = "/plans";
+    office.disk.files["/plans/untitled.pdf"] = {7};
+    office.print();
+    EXPECT_EQ(office.printer.lastFile, "/plans/untitled-2.pdf");
+}
+
+TEST(PrintDialog, AFilePageThatFailedIsNoneOfThisSession)
+{
+    Office office;
+    office.printer.toFile = true;
+    office.printer.refusesEnds = true;
+    office.addLine();
+    office.print();
+    office.printer.refusesEnds = false;
+    office.disk.files["/home/user/untitled.pdf"] = {7}; // came in the meantime
+    office.print();
+    EXPECT_EQ(office.text("entry"_c), "untitled-2.pdf");
 }
 
 TEST(PrintDialog, AFilePageThatFailsIsToldAndLosesNothing)

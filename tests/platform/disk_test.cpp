@@ -138,6 +138,18 @@ TEST_F(DiskTest, WhoMayReadAFileStaysAsItWas)
     EXPECT_EQ(made.st_mode & 0777U, 0640U);
 }
 
+TEST_F(DiskTest, APlaceIsTakenByWhateverStandsThere)
+{
+    ASSERT_TRUE(disk_.writeWhole(at("file"), {}));
+    ASSERT_TRUE(QDir(folder_.path()).mkpath("folder"));
+    ASSERT_TRUE(QFile::link("nowhere", folder_.filePath("link")));
+    ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
+    for (const char* name : {"file", "folder", "link", "pipe"}) EXPECT_TRUE(disk_.isTaken(at(name))) << name;
+    for (const char* name : {"none", "nowhere", "file/within", "File"}) {
+        EXPECT_FALSE(disk_.isTaken(at(name))) << name;
+    }
+}
+
 TEST_F(DiskTest, ThePlaceOfAPipeIsNotTaken)
 {
     ASSERT_EQ(mkfifo(at("pipe.mtd").c_str(), 0600), 0);

@@ -177,7 +177,7 @@ TEST_F(PdfFile, KnowsItsPaperInTwips)
 TEST_F(PdfFile, IsWrittenWhenThePageEndsAndNotBefore)
 {
     PdfPrinter printer{QPageSize(QPageSize::Letter)};
-    ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+    ASSERT_TRUE(printer.beginPage({path_.toStdString(), {}}));
     drawLine(printer);
     EXPECT_FALSE(QFile::exists(path_));
     EXPECT_TRUE(printer.endPage());
@@ -187,11 +187,30 @@ TEST_F(PdfFile, IsWrittenWhenThePageEndsAndNotBefore)
     EXPECT_TRUE(bytes.contains("/Count 1"));
 }
 
+TEST_F(PdfFile, HasItsTitle)
+{
+    const QString teller = QStandardPaths::findExecutable(QStringLiteral("pdfinfo"));
+    if (teller.isEmpty()) GTEST_SKIP() << "nothing here tells what stands in a PDF file";
+    for (const char* title : {"house.mtd", "\u00E9t\u00E9 (\u5BB6) \\ 2.mtd"}) {
+        PdfPrinter printer{QPageSize(QPageSize::Letter)};
+        ASSERT_TRUE(printer.beginPage({path_.toStdString(), title}));
+        drawLine(printer);
+        ASSERT_TRUE(printer.endPage());
+        QProcess told;
+        told.start(teller, {QStringLiteral("-enc"), QStringLiteral("UTF-8"), path_});
+        ASSERT_TRUE(told.waitForFinished());
+        const QStringList lines = QString::fromUtf8(told.readAllStandardOutput()).split('\n');
+        const QStringList titles = lines.filter(QStringLiteral("Title:"));
+        ASSERT_EQ(titles.size(), 1);
+        EXPECT_EQ(titles.first().mid(6).trimmed().toStdString(), title);
+    }
+}
+
 TEST_F(PdfFile, TakesThePlaceOfTheOneBefore)
 {
     PdfPrinter printer{QPageSize(QPageSize::Letter)};
     for (int run = 0; run < 2; ++run) {
-        ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+        ASSERT_TRUE(printer.beginPage({path_.toStdString(), {}}));
         drawLine(printer);
         ASSERT_TRUE(printer.endPage());
         EXPECT_TRUE(contents(path_).contains("/Count 1")) << run;
@@ -203,10 +222,10 @@ TEST_F(PdfFile, ThatCannotBeWrittenIsToldAndTheNextPageIsPrinted)
 {
     PdfPrinter printer{QPageSize(QPageSize::Letter)};
     const std::string nowhere = folder_.filePath(QStringLiteral("none/house.pdf")).toStdString();
-    const bool begun = printer.beginPage(nowhere);
+    const bool begun = printer.beginPage({nowhere, {}});
     if (begun) drawLine(printer);
     EXPECT_FALSE(begun && printer.endPage());
-    ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+    ASSERT_TRUE(printer.beginPage({path_.toStdString(), {}}));
     drawLine(printer);
     EXPECT_TRUE(printer.endPage());
     EXPECT_TRUE(contents(path_).startsWith("%PDF-"));
@@ -218,7 +237,7 @@ TEST_F(PdfFile, APointIsAsLargeAsThePenIsWide)
     const QString toPicture = QStandardPaths::findExecutable(QStringLiteral("pdftoppm"));
     if (toPicture.isEmpty()) GTEST_SKIP() << "nothing here turns a PDF file into a picture";
     PdfPrinter printer{QPageSize(QPageSize::Letter)};
-    ASSERT_TRUE(printer.beginPage(path_.toStdString()));
+    ASSERT_TRUE(printer.beginPage({path_.toStdString(), {}}));
     printer.pen(0, 14);
     printer.point(1440, 1440);
     ASSERT_TRUE(printer.endPage());
@@ -239,7 +258,7 @@ TEST_F(PdfFile, TakesNamesOfAnyLanguage)
 {
     const QString path = folder_.filePath(QStringLiteral("H\u00e4user \u6771.pdf"));
     PdfPrinter printer{QPageSize(QPageSize::A4)};
-    ASSERT_TRUE(printer.beginPage(path.toStdString()));
+    ASSERT_TRUE(printer.beginPage({path.toStdString(), {}}));
     drawLine(printer);
     ASSERT_TRUE(printer.endPage());
     EXPECT_TRUE(QFile::exists(path));

@@ -18,6 +18,8 @@ class MemoryDisk : public Disk {
         return found->second;
     }
 
+    bool isTaken(const std::string& path) override { return files.contains(path); }
+
     bool writeWhole(const std::string& path, const Bytes& bytes) override
     {
         ++writesTried;

@@ -146,6 +146,12 @@ std::optional<Bytes> QtDisk::read(const std::string& path)
     return bytes;
 }
 
+bool QtDisk::isTaken(const std::string& path)
+{
+    struct stat there = {};
+    return ::lstat(path.c_str(), &there) == 0;
+}
+
 // By the calls of the system, since the toolkit's own file of this sort passes over a flush or a close that
 // fails, and would put what is not on the disk in the old file's place.
 bool QtDisk::writeWhole(const std::string& path, const Bytes& bytes)

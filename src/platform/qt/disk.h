@@ -11,6 +11,7 @@ class QtDisk : public Disk {
     static constexpr std::int64_t largestRead = 512LL * 1024 * 1024;
 
     std::optional<Bytes> read(const std::string& path) override;
+    bool isTaken(const std::string& path) override;
     bool writeWhole(const std::string& path, const Bytes& bytes) override;
 };
 

@@ -151,10 +151,10 @@ PdfPrinter::PdfPrinter(const QPageSize& paper)
 {
 }
 
-bool PdfPrinter::beginPage(const std::string& file)
+bool PdfPrinter::beginPage(const PageName& name)
 {
     wait_.emplace();
-    file_ = file;
+    file_ = name.file;
     bytes_.clear();
     auto buffer = std::make_unique<QBuffer>(&bytes_);
     if (!buffer->open(QIODevice::WriteOnly)) return false;
@@ -163,6 +163,7 @@ bool PdfPrinter::beginPage(const std::string& file)
     writer->setPageMargins(QMarginsF(0, 0, 0, 0));
     writer->setResolution(static_cast<int>(pdfDotsPerInch)); // whole
     writer->setCreator(QStringLiteral("Mirtane 4.00"));
+    writer->setTitle(QString::fromStdString(name.title));
     buffer_ = std::move(buffer);
     device_ = std::move(writer);
     return beginOn(*device_, pdfDotsPerInch / twipsPerInch);
@@ -183,7 +184,7 @@ PicturePrinter::PicturePrinter(QPaintDevice& device, float width, float height, 
 {
 }
 
-bool PicturePrinter::beginPage(const std::string&)
+bool PicturePrinter::beginPage(const PageName&)
 {
     const bool begun = beginOn(device_, pixelsPerTwip_, pixelsPerTwip_ * twipsPerInch / pdfDotsPerInch);
     painter().setRenderHint(QPainter::Antialiasing);

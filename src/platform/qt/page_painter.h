@@ -66,7 +66,7 @@ class PdfPrinter : public PagePainter {
 
     bool printsToFile() const override { return true; }
     void setup() override {}
-    bool beginPage(const std::string& file) override;
+    bool beginPage(const PageName& name) override;
     bool endPage() override;
 
   private:
@@ -86,7 +86,7 @@ class PicturePrinter : public PagePainter {
 
     bool printsToFile() const override { return false; }
     void setup() override {}
-    bool beginPage(const std::string& file) override;
+    bool beginPage(const PageName& name) override;
 
   private:
     QPaintDevice& device_;

@@ -34,9 +34,10 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
 
     bool printsToFile() const override { return false; }
     void setup() override { QPrintDialog(device.get()).exec(); }
-    bool beginPage(const std::string&) override
+    bool beginPage(const PageName& name) override
     {
         wait_.emplace();
+        device->setDocName(QString::fromStdString(name.title)); // as the printer's queue shows it
         const bool begun = beginOn(*device, device->resolution() / twipsPerInch);
         if (!begun) wait_.reset(); // no end follows
         return begun;
