@@ -3,6 +3,7 @@
 #include "app/construction_line.h"
 #include "app/dispatch.h"
 #include "app/selection.h"
+#include "commands/kept_letters.h"
 #include "commands/live_text.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
@@ -231,7 +232,7 @@ void canvasKeyPress(Session& s, Canvas& pic1, char32_t code)
         if (s.stepNo == 0 && isDigit(code)) passToEntry(s, code);
         return;
     case CanvasKeys::name:
-        if (code >= U' ') passToEntry(s, code);
+        if (code >= U' ' && !refusesLetter(s.controls, code)) passToEntry(s, code);
         return;
     case CanvasKeys::liveText:
         return liveTextKey(s, pic1, code);

@@ -2,6 +2,8 @@
 
 #include "app/attribute_controls.h"
 #include "app/file_menus.h"
+#include "app/typed_entry.h"
+#include "commands/kept_letters.h"
 #include "geometry/fault.h"
 #include "render/redraw.h"
 
@@ -102,6 +104,13 @@ void addLayer(Session& s, const std::string& name)
     s.controls.focus = "pic1"_c;
 }
 
+void layerNameEntered(Session& s)
+{
+    const std::string name = s.controls["Combo3"_c].text;
+    if (mode(s) == "Name Layer") return nameLayer(s, name);
+    if (mode(s) == "Add Layer") addLayer(s, name);
+}
+
 bool isEmptyLayer(const EntityStore& store, int r)
 {
     const auto first = store.layer.begin() + 1;
@@ -196,12 +205,10 @@ void saveLayer(App& app, int r)
     openNamedFlow(app, "Save Layer", app.s.layerTable.find(r)->layerName + ".mtd");
 }
 
-void layerNameEntered(App& app)
+void layerNameKeyPress(App& app, char32_t code)
 {
-    Session& s = app.s;
-    const std::string name = s.controls["Combo3"_c].text;
-    if (mode(s) == "Name Layer") return nameLayer(s, name);
-    if (mode(s) == "Add Layer") addLayer(s, name);
+    if (code == enterKey) return layerNameEntered(app.s);
+    if (!refusesLetter(app.s.controls, code)) passKey(app.s.controls["Combo3"_c], code);
 }
 
 } // namespace mirtane

@@ -19,7 +19,7 @@ void unnameLayer(App& app, int r);
 void loadLayer(App& app, int r);
 void saveLayer(App& app, int r);
 
-// Enter in Combo3: names the chosen layer or adds one.
-void layerNameEntered(App& app);
+// A key in Combo3; Enter names the chosen layer or adds one.
+void layerNameKeyPress(App& app, char32_t code);
 
 } // namespace mirtane

@@ -2,6 +2,7 @@
 
 #include "app/file_menus.h"
 #include "app/starters.h"
+#include "commands/kept_letters.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
 #include "files/library_files.h"
@@ -159,12 +160,8 @@ void libraryNameEntered(Session& s, Canvas& pic1)
 {
     const LibraryRow* row = rowWith(&LibraryRow::create, s.curFunc);
     Control& entry = s.controls["entry"_c];
-    if (row == nullptr || entry.text.empty()) return;
-    if (hasName(s, row->library, entry.text)) {
-        setText(entry, "Name already exists!");
-        entry.anchor = 0; // all of it is selected, so that the next name is typed over it
-        return;
-    }
+    if (row == nullptr || entry.text.empty() || refusesText(s.controls, entry.text)) return;
+    if (hasName(s, row->library, entry.text)) return setSelectedText(entry, "Name already exists!");
     currentName(s, row->library) = entry.text;
     setText(entry, "");
     s.stepNo = 1;

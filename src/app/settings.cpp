@@ -1,6 +1,7 @@
 #include "app/settings.h"
 
 #include "geometry/fault.h"
+#include "text/code_page.h"
 #include "text/numbers.h"
 
 #include <charconv>
@@ -33,11 +34,12 @@ template <auto member> SettingRow number(const char* key)
             [](const Session& s) { return plainNumber(s.*member); }};
 }
 
+// Words go into the drawings too, and so only those that a drawing can keep are taken.
 template <auto member> SettingRow word(const char* key)
 {
     return {key,
             [](Session& s, const std::string& value) {
-                if (!value.empty()) s.*member = value;
+                if (!value.empty() && firstBeyondCodePage(value).empty()) s.*member = value;
             },
             [](const Session& s) { return s.*member; }};
 }

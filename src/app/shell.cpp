@@ -14,6 +14,7 @@
 #include "app/start_stop.h"
 #include "app/text_menus.h"
 #include "app/typed_entry.h"
+#include "commands/kept_letters.h"
 #include "commands/live_text.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -78,7 +79,6 @@ std::string inNumberStyle(const Session& s, float length)
     return formatMeasure({length, {numStyleOf(s.numStyle), s.dimTol, s.numComma == 1}});
 }
 
-void keyToControl(App& app, ControlId id, char32_t code)
 // Fields and the box of the layers forget what was half typed.
 void leave(Session& s, ControlId id)
 {
@@ -86,6 +86,7 @@ void leave(Session& s, ControlId id)
     if (id == "Combo3"_c) showWorkingLayer(s);
 }
 
+void keyToControl(App& app, ControlId id, char32_t code)
 {
     Session& s = app.s;
     if (id == "pic1"_c) return canvasKeyPress(s, app.pic1, code);
@@ -94,8 +95,7 @@ void leave(Session& s, ControlId id)
     if (id == "frmprintset.Text1"_c) return printScaleKeyPress(app, code);
     if (isNumericField(id)) return fieldKeyPress(app, id, code);
     if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
-    if (id == "Combo3"_c && code == enterKey) return layerNameEntered(app);
-    if (id.row().kind == ControlKind::combo) return passKey(s.controls[id], code);
+    if (id == "Combo3"_c) return layerNameKeyPress(app, code);
     const bool pressed = code == enterKey || code == U' ';
     if (isClickable(id) && pressed) {
         if (const Action action = actionOf(id)) action(app, id);
@@ -187,6 +187,17 @@ void Shell::keyPress(char32_t code)
     settle(before);
 }
 
+void Shell::type(std::u32string_view characters)
+{
+    char32_t refused = 0;
+    for (const char32_t code : characters) {
+        keyPress(code);
+        if (isRefusalOf(s_.controls["entry"_c].text, code)) refused = code;
+    }
+    // Where a name is typed in entry, the next letter stands there in place of what was said.
+    if (refused != 0) refusesLetter(s_.controls, refused);
+}
+
 void Shell::click(ControlId id)
 {
     if (ended() || !canBeUsed(s_.controls, id)) return;
@@ -194,6 +205,7 @@ void Shell::click(ControlId id)
     const ControlKind kind = id.row().kind;
     if (kind == ControlKind::field || kind == ControlKind::display || kind == ControlKind::combo) {
         s_.controls.focus = id;
+        setCaret(s_.controls[id], s_.controls[id].caret); // what was selected is so no more
     }
     App app{s_, pic1_, ports_, dxfScratch_};
     if (const Action action = actionOf(id)) action(app, id);
@@ -205,7 +217,6 @@ void Shell::clickRow(ControlId list, int row)
     moveToRow(list, row);
     if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
     const ControlId before = s_.controls.focus;
-        setCaret(s_.controls[id], s_.controls[id].caret); // what was selected is so no more
     App app{s_, pic1_, ports_, dxfScratch_};
     rowChosen(app, list, row);
     settle(before);

@@ -5,6 +5,8 @@
 #include "model/session.h"
 #include "render/canvas.h"
 
+#include <string_view>
+
 namespace mirtane {
 
 // The main object of the program without its window. Every event of the user comes in here, one at a time,
@@ -37,6 +39,9 @@ class Shell {
 
     // A key press, to the control that has the focus: a character's code, 13 Enter, 8 Backspace.
     void keyPress(char32_t code);
+    // Characters that come in one go, pasted or composed: a key press each, after which it is still said if
+    // one of them was refused.
+    void type(std::u32string_view characters);
 
     // A click on a button, toggle, menu entry, label or text box.
     void click(ControlId id);

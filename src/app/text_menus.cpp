@@ -3,6 +3,7 @@
 #include "app/attribute_controls.h"
 #include "app/selection.h"
 #include "app/starters.h"
+#include "commands/kept_letters.h"
 #include "commands/prompt.h"
 #include "edit/selection_run.h"
 #include "render/redraw.h"
@@ -152,8 +153,9 @@ void fontEntered(App& app)
     const Control& list = s.controls["List1"_c];
     const std::string mode = s.controls["Label3"_c].caption;
     if (list.row < 0 || list.row >= std::ssize(list.rows)) return;
-    s.controls.focus = "pic1"_c;
     const std::string font = list.rows[static_cast<std::size_t>(list.row)]; // not negative, tested above
+    if (refusesText(s.controls, font)) return;
+    s.controls.focus = "pic1"_c;
     if (mode == fontForTexts) {
         s.textFont = font;
         s.controls["setts"_c].font = font;

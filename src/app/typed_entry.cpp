@@ -4,6 +4,7 @@
 #include "app/construction_line.h"
 #include "app/dispatch.h"
 #include "app/library_menus.h"
+#include "commands/kept_letters.h"
 #include "commands/polygon.h"
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
@@ -63,6 +64,7 @@ void hatchScaleKey(Session& s, Canvas& pic1, char32_t code)
 void nameKey(Session& s, Canvas& pic1, char32_t code)
 {
     if (code == enterKey) return libraryNameEntered(s, pic1);
+    if (refusesLetter(s.controls, code)) return;
     passKey(s.controls["entry"_c], code);
 }
 

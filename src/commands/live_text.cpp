@@ -1,5 +1,6 @@
 #include "commands/live_text.h"
 
+#include "commands/kept_letters.h"
 #include "commands/leader.h"
 #include "commands/prompt.h"
 #include "commands/text.h"
@@ -81,6 +82,7 @@ void liveTextKey(Session& s, Canvas& pic1, char32_t code)
         return row->finish(s, pic1);
     }
     if (isControlCharacter(code) && code != backspace) return;
+    if (refusesLetter(s.controls, code)) return;
     if (code == backspace) takeBack(s);
     if (code != backspace) typeCharacter(s, code);
     setText(s.controls["Text3"_c], typedText(s));

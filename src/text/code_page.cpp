@@ -25,15 +25,34 @@ bool isOdd(char32_t code)
     return code >= firstOdd && code <= lastOdd;
 }
 
+const char32_t* oddCode(char32_t code)
+{
+    return std::ranges::find(oddCodes, code);
+}
+
 char32_t byteFor(char32_t code)
 {
+    if (!inCodePage(code)) return U'?';
     if (code <= lastByte && !isOdd(code)) return code;
-    const auto* const found = std::ranges::find(oddCodes, code);
-    if (found == std::end(oddCodes)) return U'?';
-    return firstOdd + static_cast<char32_t>(found - std::begin(oddCodes)); // below 32
+    return firstOdd + static_cast<char32_t>(oddCode(code) - std::begin(oddCodes)); // below 32
 }
 
 } // namespace
+
+bool inCodePage(char32_t code)
+{
+    return (code <= lastByte && !isOdd(code)) || oddCode(code) != std::end(oddCodes);
+}
+
+std::string_view firstBeyondCodePage(std::string_view utf8)
+{
+    while (!utf8.empty()) {
+        const Utf8Step step = firstCharacter(utf8);
+        if (!step.wellFormed || !inCodePage(step.code)) return utf8.substr(0, step.size);
+        utf8.remove_prefix(step.size);
+    }
+    return {};
+}
 
 std::string toCodePage(std::string_view utf8)
 {

@@ -7,6 +7,12 @@ namespace mirtane {
 
 // Files keep text in code page Windows-1252, one byte a character; in memory it is UTF-8.
 
+// Whether the code page has the character.
+bool inCodePage(char32_t code);
+
+// The first character of utf8 that the code page lacks; empty where it has them all.
+std::string_view firstBeyondCodePage(std::string_view utf8);
+
 // The bytes of utf8 for a file. A character that the code page lacks, and each malformed byte, becomes "?".
 std::string toCodePage(std::string_view utf8);
 

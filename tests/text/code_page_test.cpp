@@ -68,6 +68,20 @@ TEST(CodePage, WhatItLacksIsOneQuestionMark)
     for (const Pair& row : rows) EXPECT_EQ(toCodePage(row.utf8), row.bytes) << row.what;
 }
 
+TEST(CodePage, TellsTheFirstCharacterThatItLacks)
+{
+    const Pair rows[] = {
+        {"nothing", "", ""},
+        {"all there", "\xC3\x98 20 \xE2\x82\xAC\xC2\x81\xC2\xA0", ""},
+        {"at the start", "\xCE\xA9 and \xD0\x96", "\xCE\xA9"},
+        {"at the end", "d\xC3\xA9j\xC3\xA0 \xE5\xAE\xB6", "\xE5\xAE\xB6"},
+        {"of four bytes", "a\xF0\x9F\x98\x80z", "\xF0\x9F\x98\x80"},
+        {"an accent by itself", "e\xCC\x81", "\xCC\x81"},
+        {"a malformed byte", "a\xFFz", "\xFF"},
+    };
+    for (const Pair& row : rows) EXPECT_EQ(firstBeyondCodePage(row.utf8), row.bytes) << row.what;
+}
+
 TEST(CodePage, EachMalformedByteIsAQuestionMark)
 {
     const Pair rows[] = {

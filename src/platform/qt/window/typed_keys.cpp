@@ -31,6 +31,14 @@ bool isCommand(Qt::KeyboardModifiers held)
     return ctrl != alt || held.testFlag(Qt::MetaModifier);
 }
 
+// A letter and its accent, where they come one by one, become the letter that a drawing can keep. The name of
+// a file stays as it is spelt.
+std::u32string charactersFor(ControlId id, const QString& text)
+{
+    const bool namesFile = id == "frmfile.Text1"_c;
+    return (namesFile ? text : text.normalized(QString::NormalizationForm_C)).toStdU32String();
+}
+
 } // namespace
 
 QString typedBy(const QKeyEvent& event)
@@ -53,10 +61,8 @@ void typeAt(EventGate& gate, ControlId id, const QString& text)
     if (text.isEmpty()) return;
     if (!(gate.shell().session().controls.focus == id))
         gate.send([id](Shell& shell) { shell.giveFocus(id); });
-    const QList<uint> characters = text.toUcs4();
-    for (const uint character : characters) {
-        gate.send([character](Shell& shell) { shell.keyPress(character); });
-    }
+    const std::u32string characters = charactersFor(id, text);
+    gate.send([&characters](Shell& shell) { shell.type(characters); });
 }
 
 int codeOf(const QKeyEvent& event)

@@ -19,8 +19,8 @@ QString typedBy(const QKeyEvent& event);
 // The first line of a text as it can be typed: without control characters.
 QString typeable(const QString& text);
 
-// Gives the focus to the control unless it has it, and sends each character as a key press of its own, to the
-// control that has the focus at that moment: the first may move it.
+// Gives the focus to the control unless it has it, and sends the characters, each as a key press of its own,
+// to the control that has the focus at that moment: the first may move it.
 void typeAt(EventGate& gate, ControlId id, const QString& text);
 
 // The key's code as the shell wants it; 0 for a key that has none.
