@@ -99,6 +99,7 @@ const DispatchRow* dispatchOf(std::string_view name)
 void callStep(Session& s, Canvas& pic1)
 {
     const DispatchRow* row = dispatchOf(s.curFunc);
+    if (s.stepNo == 1) s.lastWay = {}; // a first point has no leg behind it
     if (row != nullptr && row->step != nullptr) row->step(s, pic1);
 }
 

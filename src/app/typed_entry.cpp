@@ -9,8 +9,8 @@
 #include "commands/prompt.h"
 #include "commands/vocabulary.h"
 #include "edit/concentric.h"
-#include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "geometry/way.h"
 #include "text/distance_grammar.h"
 #include "text/measure.h"
 #include "text/numbers.h"
@@ -68,27 +68,35 @@ void nameKey(Session& s, Canvas& pic1, char32_t code)
     passKey(s.controls["entry"_c], code);
 }
 
-// pickLast at distance d on the way from pickFirst to where it stands.
-void layAlongLine(Session& s, float d)
+// From pickFirst to pickLast. Where the pointer has not moved on from the end of a leg, the way of that leg.
+Way wayAhead(const Session& s)
 {
-    const Point from = s.pickFirst;
-    const Point to = s.pickLast;
-    const double length = distance(from, to);
-    keep(s.pickLast.x, from.x + d * quotient(to.x - from.x, length));
-    keep(s.pickLast.y, from.y - d * quotient(from.y - to.y, length));
+    return s.pickFirst == s.pickLast ? s.lastWay : wayBetween(s.pickFirst, s.pickLast);
+}
+
+// pickLast at distance d from pickFirst.
+void layAlong(Session& s, Way way, float d)
+{
+    if (!way.isAny()) return;
+    keep(s.pickLast.x, s.pickFirst.x + d * way.x);
+    keep(s.pickLast.y, s.pickFirst.y + d * way.y);
 }
 
 void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
 {
     constexpr float leastInEmptyDrawing = 0.012F; // a thousandth of an inch
     if (d < leastInEmptyDrawing && s.store.entCount == 1) return backToDrawing(s, pic1);
-    if (orthoIsOn(s)) {
+    const bool ortho = orthoIsOn(s);
+    const Way way = wayAhead(s);
+    if (ortho) {
         confinePickLast(s, d);
     } else {
-        layAlongLine(s, d);
+        layAlong(s, way, d);
     }
     countStep(s);
     if (row.typedDistance == TypedDistance::laysPoint) callStep(s, pic1);
+    // The ends of legs are rounded: taken from them, each way would lean a little more than the one before.
+    if (!ortho && s.lastWay.isAny()) s.lastWay = d < 0 ? -way : way;
     s.controls.focus = "pic1"_c;
 }
 

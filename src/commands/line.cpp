@@ -1,5 +1,6 @@
 #include "commands/line.h"
 
+#include "commands/chain.h"
 #include "commands/commit.h"
 #include "commands/prompt.h"
 #include "render/redraw.h"
@@ -20,7 +21,7 @@ void lineStep(Session& s, Canvas& pic1)
     s.ptD = s.ptB;
     commitEntity(s, pic1, addLine, paintScratchLine);
     s.ptA = s.ptB;
-    s.pickFirst = s.ptB;
+    goOnFromEnd(s);
     s.stepNo = 1;
     setRubberBandPen(pic1);
 }

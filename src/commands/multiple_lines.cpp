@@ -3,6 +3,7 @@
 
 #include "commands/multiple_lines.h"
 
+#include "commands/chain.h"
 #include "commands/prompt.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
@@ -210,12 +211,12 @@ void multipleLinesStep(Session& s, Canvas& pic1)
     } else if (s.stepNo == 2) {
         setPrompt(s, pic1);
         s.ptB = s.pickLast;
-        s.pickFirst = s.pickLast;
+        goOnFromEnd(s);
     } else if (s.stepNo > 2) {
         storeLegs(s, pic1);
         s.ptA = s.ptB;
         s.ptB = s.pickLast;
-        s.pickFirst = s.pickLast;
+        goOnFromEnd(s);
     }
 }
 

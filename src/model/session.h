@@ -3,6 +3,7 @@
 // All that the program knows between two events. A routine takes the smallest of these structs that it needs.
 
 #include "geometry/fault.h"
+#include "geometry/way.h"
 #include "model/controls.h"
 #include "model/entity_store.h"
 #include "model/layers.h"
@@ -60,6 +61,7 @@ struct ScratchPoints {
     Point pickFirst; // the first click of a function
     Point pickLast;  // each later click, after ortho and snap, and each move
     Point mousePos;  // the latest click, before ortho and snap
+    Way lastWay;     // of the last leg of a chain, none before there is one
     Point ptA, ptB, ptC, ptD, ptE, ptF, ptG, ptH;
     float workRadius = 0;
     double workAngle = 0; // 25 while the selection follows the pointer
@@ -82,7 +84,7 @@ struct BoundaryLeg {
 
 struct CanvasInput {
     std::int16_t snapKey = 0;     // 1 Shift held, 2 Ctrl held
-    std::int16_t orthoSector = 0; // 1 to 4, as the last move chose it
+    std::int16_t orthoSector = 1; // 1 to 4, as the last move chose it
     double orthoAngle = 0;        // radians
     double orthoAngleSaved = 0;   // what a cancel restores
     std::string orthoCaption = "Ortho/On";

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <vector>
+
 namespace mirtane {
 namespace {
 
@@ -231,6 +234,225 @@ TEST(Sizes, TakeADistanceAndReturnToTheBaseFunction)
         EXPECT_EQ(desk.title(), fake::titleOf("Line(Enter beginning point of line:)")) << name;
         EXPECT_EQ(desk.focused(), "pic1") << name;
     }
+}
+
+// -- a distance with no move of the pointer before it --
+
+TEST(TypedDistances, InAFreshProgramRunToTheRightBeforeThePointerHasMoved)
+{
+    struct Row {
+        ControlId starter;
+        const char* typed;
+        Point at, to; // where pickLast is then
+    };
+    const Row rows[] = {
+        {"Command1"_c, "5", {1000, 700}, {1060, 700}},   {"Command2"_c, "10", {1000, 700}, {1120, 700}},
+        {"Command4"_c, "2", {3000, 2500}, {3024, 2500}}, {"Command7"_c, "4", {123, 456}, {171, 456}},
+        {"Command9"_c, "1'", {-500, 80}, {-356, 80}},
+    };
+    for (const Row& row : rows) {
+        Desk desk;
+        desk.press(row.starter);
+        desk.down(1, row.at.x, row.at.y);
+        desk.type(row.typed);
+        desk.enter();
+        EXPECT_EQ(desk.s.pickLast, row.to) << row.starter.row().name;
+    }
+}
+
+TEST(TypedDistances, InAFreshProgramFollowTheOrthoAngleBeforeThePointerHasMoved)
+{
+    Desk desk;
+    desk.shell.giveFocus("angle"_c);
+    setText(desk.s.controls["angle"_c], "");
+    desk.type("30");
+    desk.enter();
+    desk.down(1, 1000, 1000);
+    desk.type("10");
+    desk.enter();
+    EXPECT_NEAR(desk.slot(1).p2.x, 1000 + 120 * 0.8660254, 1e-3);
+    EXPECT_NEAR(desk.slot(1).p2.y, 1000 - 60, 1e-3);
+}
+
+TEST(TypedDistances, OfAFreshConstructionLineRunToTheRightToo)
+{
+    Desk desk;
+    desk.press("blank"_c);
+    desk.down(1, 2000, 900);
+    desk.type("5");
+    desk.enter();
+    EXPECT_EQ(desk.s.blankStart, (Point{2060, 900}));
+}
+
+TEST(TypedDistances, FirstOfAllAfterCloseAndOpenHaveADirectionToo)
+{
+    Desk desk;
+    desk.saveAs("empty");
+    desk.press("fil5"_c);
+    desk.open("empty");
+    EXPECT_EQ(desk.s.orthoSector, 1);
+    desk.down(1, 1000, 700);
+    desk.type("10");
+    desk.enter();
+    EXPECT_EQ(desk.slot(1).p2, (Point{1120, 700}));
+}
+
+// A chain with ortho off from `from`, whose pointer moves once, to `aim`; then distances alone are typed.
+struct ChainRow {
+    const char* what;
+    Point from, aim;
+    std::vector<const char*> typed;
+    std::vector<double> along; // where each leg ends, units from `from` towards `aim`
+};
+
+const ChainRow chainRows[] = {
+    {"level", {1000, 1000}, {1300, 1000}, {"10", "5", "1'"}, {120, 180, 324}},
+    {"slanted", {1000, 1000}, {1600, 1800}, {"10", "2.5", "3"}, {120, 150, 186}},
+    {"straight up", {40, 900}, {40, 100}, {"1", "2", "3", "4"}, {12, 36, 72, 120}},
+    {"a negative one goes back, and the next goes on that way",
+     {500, 500},
+     {300, 900},
+     {"10", "-4", "2"},
+     {120, 72, 48}},
+    {"two negative ones", {500, 500}, {300, 900}, {"10", "-4", "-1"}, {120, 72, 84}},
+    {"negative from the start", {0, 2000}, {100, 1700}, {"-5", "3"}, {-60, -96}},
+    {"far from the origin",
+     {1000000, -700000},
+     {1000300, -700500},
+     {"9", "9", "9", "9", "9", "9"},
+     {108, 216, 324, 432, 540, 648}},
+};
+
+Point placeAlong(const ChainRow& row, double d)
+{
+    const double dx = row.aim.x - row.from.x, dy = row.aim.y - row.from.y;
+    const double length = std::hypot(dx, dy);
+    return {static_cast<float>(row.from.x + d * dx / length),
+            static_cast<float>(row.from.y + d * dy / length)};
+}
+
+TEST(TypedDistances, OfALineWithOrthoOffGoOnInTheDirectionOfTheLastLeg)
+{
+    for (const ChainRow& row : chainRows) {
+        Desk desk;
+        desk.drawLine(2, 0, 10, 0);
+        desk.press("freecurs"_c);
+        desk.click(row.from.x, row.from.y);
+        desk.move(row.aim.x, row.aim.y);
+        const double tolerance = std::abs(row.from.x) > 1e5 ? 0.2 : 1e-3;
+        for (std::size_t i = 0; i < row.typed.size(); ++i) {
+            desk.type(row.typed[i]);
+            desk.enter();
+            const Point end = placeAlong(row, row.along[i]);
+            const EntityRecord leg = desk.slot(static_cast<std::int32_t>(2 + i));
+            EXPECT_NEAR(leg.p2.x, end.x, tolerance) << row.what << " " << i;
+            EXPECT_NEAR(leg.p2.y, end.y, tolerance) << row.what << " " << i;
+            EXPECT_NE(leg.p1, leg.p2) << row.what << " " << i;
+        }
+    }
+}
+
+TEST(TypedDistances, OfMultipleLinesWithOrthoOffGoOnInTheDirectionOfTheLastLeg)
+{
+    for (const ChainRow& row : chainRows) {
+        Desk desk;
+        desk.drawLine(2, 0, 10, 0);
+        MultipleLine onThePath;
+        onThePath.name = "wall";
+        desk.s.multipleLinesLibrary.add(onThePath);
+        desk.press("freecurs"_c);
+        desk.press("Command10"_c);
+        desk.shell.clickRow("List1"_c, 0);
+        desk.click(row.from.x, row.from.y);
+        desk.move(row.aim.x, row.aim.y);
+        const double tolerance = std::abs(row.from.x) > 1e5 ? 0.2 : 1e-3;
+        for (std::size_t i = 0; i < row.typed.size(); ++i) {
+            desk.type(row.typed[i]);
+            desk.enter();
+            const Point end = placeAlong(row, row.along[i]);
+            EXPECT_NEAR(desk.s.pickLast.x, end.x, tolerance) << row.what << " " << i;
+            EXPECT_NEAR(desk.s.pickLast.y, end.y, tolerance) << row.what << " " << i;
+        }
+    }
+}
+
+TEST(TypedDistances, GoOnFromALegThatWasClickedOrSnappedOrReleased)
+{
+    Desk desk;
+    desk.drawLine(2000, 1000, 2300, 1400);
+    desk.press("freecurs"_c);
+    desk.click(1000, 1000);
+    desk.click(1300, 1400); // clicked
+    desk.type("5");
+    desk.enter();
+    EXPECT_EQ(desk.slot(3).p2, (Point{1336, 1448}));
+    desk.press("Command35"_c);
+    desk.click(2001, 1001); // onto the end at (2000, 1000)
+    desk.type("10");
+    desk.enter();
+    const double length = std::hypot(664.0, 448.0);
+    EXPECT_NEAR(desk.slot(5).p2.x, 2000 + 120 * 664 / length, 1e-3);
+    EXPECT_NEAR(desk.slot(5).p2.y, 1000 - 120 * 448 / length, 1e-3);
+    const Point from = desk.slot(5).p2;
+    desk.press("blank"_c);
+    desk.down(1, from.x, from.y + 500);
+    desk.press("blank"_c); // a leg straight down
+    desk.type("1");
+    desk.enter();
+    EXPECT_NEAR(desk.slot(7).p2.x, from.x, 1e-3);
+    EXPECT_NEAR(desk.slot(7).p2.y, from.y + 512, 1e-3);
+}
+
+TEST(TypedDistances, TakeTheNewDirectionOnceThePointerHasMoved)
+{
+    Desk desk;
+    desk.press("freecurs"_c);
+    desk.click(1000, 1000);
+    desk.move(1500, 1000);
+    desk.type("10");
+    desk.enter();
+    desk.move(1120, 1700);
+    desk.type("10");
+    desk.enter();
+    EXPECT_EQ(desk.slot(2).p2, (Point{1120, 1120}));
+    desk.move(1120, 1120); // onto the end itself, which is no direction
+    desk.type("10");
+    desk.enter();
+    EXPECT_EQ(desk.slot(3).p2, (Point{1120, 1240}));
+}
+
+TEST(TypedDistances, GoOnAlongALegThatOrthoMade)
+{
+    Desk desk;
+    desk.click(1000, 1000);
+    desk.move(1010, 400); // up
+    desk.type("10");
+    desk.enter();
+    desk.press("freecurs"_c);
+    desk.type("5");
+    desk.enter();
+    EXPECT_NEAR(desk.slot(2).p2.x, 1000, 1e-3);
+    EXPECT_NEAR(desk.slot(2).p2.y, 820, 1e-3);
+}
+
+// A dimension's offset is no leg: the line before it has no say in it.
+TEST(TypedDistances, ALineDrawnBeforeGivesAnotherFunctionNoDirection)
+{
+    Desk desk;
+    desk.press("freecurs"_c);
+    desk.click(1000, 1000);
+    desk.click(1300, 1000);
+    desk.cancel();
+    desk.press("Command11"_c);
+    desk.press("Command35"_c);
+    desk.click(1001, 1001);
+    desk.press("Command35"_c);
+    desk.click(1301, 1001);
+    desk.type("5");
+    desk.enter();
+    EXPECT_EQ(desk.s.store.entCount, 3);
+    EXPECT_EQ(desk.slot(2).kind, kind::linearDimension);
+    EXPECT_EQ(desk.slot(2).p3, (Point{1300, 1000}));
 }
 
 } // namespace
