@@ -102,10 +102,12 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
 
 void takeSize(Session& s, Canvas& pic1, float& size, float typed)
 {
-    size = typed;
+    const bool taken = typed > 0;
+    if (taken) size = typed;
     s.curFunc = s.baseFunc;
     s.stepNo = 0;
     backToDrawing(s, pic1);
+    if (!taken) setText(s.controls["entry"_c], "Size not changed: it must be above 0");
 }
 
 void actOnDistance(Session& s, Canvas& pic1, const FunctionRow& row)

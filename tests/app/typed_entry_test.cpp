@@ -236,6 +236,45 @@ TEST(Sizes, TakeADistanceAndReturnToTheBaseFunction)
     }
 }
 
+TEST(Sizes, TakeOnlyWhatIsAboveNothingAndSaySo)
+{
+    for (const char* style : {"us", "2f", "3i", "br"}) {
+        for (const char* typed : {"0", "-2", "-0", "0.000", "-1'6", "..", "-", "'", "0'0", "-.5", "-,25"}) {
+            for (const ControlId menu : {"tk3"_c, "dim7"_c}) {
+                Desk desk;
+                desk.s.numStyle = style;
+                desk.s.numComma = 1;
+                desk.s.textSize = 31;
+                desk.s.arrowSize = 17;
+                desk.press(menu);
+                desk.type(typed);
+                desk.enter();
+                const std::string what = std::string(menu.row().name) + " " + style + " " + typed;
+                EXPECT_EQ(desk.s.textSize, 31) << what;
+                EXPECT_EQ(desk.s.arrowSize, 17) << what;
+                EXPECT_EQ(desk.text("entry"_c), "Size not changed: it must be above 0") << what;
+                EXPECT_EQ(desk.s.curFunc, "Line") << what;
+                EXPECT_EQ(desk.s.stepNo, 0) << what;
+                EXPECT_EQ(desk.focused(), "pic1") << what;
+            }
+        }
+    }
+}
+
+TEST(Sizes, TakeTheSmallestThatIsAboveNothing)
+{
+    for (const char* style : {"us", "2f", "3i", "br"}) {
+        Desk desk;
+        desk.s.numStyle = style;
+        desk.press("tk3"_c);
+        desk.type(".001");
+        desk.enter();
+        EXPECT_GT(desk.s.textSize, 0) << style;
+        EXPECT_LT(desk.s.textSize, 1) << style;
+        EXPECT_EQ(desk.text("entry"_c), "") << style;
+    }
+}
+
 // -- a distance with no move of the pointer before it --
 
 TEST(TypedDistances, InAFreshProgramRunToTheRightBeforeThePointerHasMoved)
