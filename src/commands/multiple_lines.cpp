@@ -11,6 +11,7 @@
 #include "render/painters.h"
 #include "render/redraw.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace mirtane {
@@ -84,6 +85,22 @@ struct Corner {
     Place mitre(double offset) const { return beside(along(b, u, -offset * reach), u, offset); }
 };
 
+// How far ahead of a place another lies, in direction u.
+double ahead(Place from, Direction u, Place to)
+{
+    return (to.x - from.x) * u.x - (to.y - from.y) * u.y;
+}
+
+// The most by which rounding to 32 bits turns the way from a by b to c, as a sine. A coordinate is off by
+// half a unit at the most, in both directions at once by less than a whole one, and a leg has two ends.
+double turnOfRounding(Place a, Place b, Place c)
+{
+    constexpr double unit = 1.0 / (1 << 24); // of a coordinate
+    double largest = 0;
+    for (const Place p : {a, b, c}) largest = std::max({largest, std::abs(p.x), std::abs(p.y)});
+    return 2 * unit * largest * (quotient(1, between(a, b)) + quotient(1, between(b, c)));
+}
+
 Corner cornerAt(Point a, Point b, Point c, bool orthoIsOn)
 {
     Corner corner{placeOf(b), directionOf(a, b), 0};
@@ -93,13 +110,14 @@ Corner cornerAt(Point a, Point b, Point c, bool orthoIsOn)
     const double run = between(corner.b, foot);
     double half = eighthTurn; // half a right angle, which is what a foot on B itself means
     keep(half, std::atan(quotient(height, run)) / 2);
-    double sign = between(beside(foot, corner.u, -height), next) < height ? -1 : 1;
-    const bool turnsBack = between(placeOf(a), foot) < between(placeOf(a), corner.b);
-    if (!orthoIsOn && turnsBack) {
-        half += quarterTurn;
-        sign = -sign;
+    const double sign = between(beside(foot, corner.u, -height), next) < height ? -1 : 1;
+    double reach = std::tan(half);
+    if (!orthoIsOn && ahead(corner.b, corner.u, foot) < 0) { // the turn is a sharp one
+        // Lines beside a path that comes straight back never cross: they end squarely.
+        if (height <= between(corner.b, next) * turnOfRounding(placeOf(a), corner.b, next)) return corner;
+        reach = quotient(1, reach);
     }
-    keep(corner.reach, std::tan(half) * sign);
+    keep(corner.reach, reach * sign);
     return corner;
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <memory>
 #include <numbers>
+#include <random>
 #include <vector>
 
 namespace mirtane {
@@ -148,6 +149,95 @@ TEST(MultipleLines, EveryTurnEndsWhereTheTwoOffsetLinesCross)
                 expectNear(run.slot(1 + i).p2, expected.x, expected.y, 0.01);
             }
         }
+    }
+}
+
+// A wall of many corners: legs of all lengths, so that a leg may run back further than twice the one before.
+TEST(MultipleLines, EveryMitreOfARandomWallLiesWhereItsOffsetLinesCross)
+{
+    std::mt19937 random(20261122);
+    const auto between = [&random](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    for (const double far : {0.0, 3000.0, -40000.0}) {
+        for (int wall = 0; wall < 60; ++wall) {
+            Drawn run({18, -7, 0, 2.5F});
+            run.ortho(false);
+            std::vector<Point> corners = {{static_cast<float>(far), static_cast<float>(-far / 3)}};
+            double heading = between(0, 360);
+            for (int i = 0; i < 9; ++i) {
+                const double a = heading * std::numbers::pi / 180;
+                const double leg = std::pow(10, between(1.5, 3.5));
+                corners.push_back({static_cast<float>(corners.back().x + leg * std::cos(a)),
+                                   static_cast<float>(corners.back().y - leg * std::sin(a))});
+                const double turn = between(3, 165);
+                heading += wall % 2 == 0 ? turn : -turn;
+            }
+            for (const Point p : corners) run.click(p);
+            std::int32_t slot = 1;
+            for (std::size_t i = 0; i + 2 < corners.size(); ++i) {
+                for (const float offset : {18.0F, -7.0F, 0.0F, 2.5F}) {
+                    const Point mitre = trueMitre(corners[i], corners[i + 1], corners[i + 2], offset);
+                    SCOPED_TRACE(testing::Message()
+                                 << "wall " << wall << " at " << far << ", corner " << i + 1);
+                    expectNear(run.slot(slot).p2, mitre.x, mitre.y, far == 0 ? 0.02 : 0.2);
+                    ++slot;
+                }
+            }
+        }
+    }
+}
+
+TEST(MultipleLines, ALegThatRunsBackFurtherThanTwiceTheLastIsMitredTruly)
+{
+    struct Row {
+        const char* what;
+        Point a, b, c;
+    };
+    const Row rows[] = {
+        {"level, past the first corner", {500, 300}, {560, 300}, {340, 360}},
+        {"level, the other side", {500, 300}, {560, 300}, {340, 220}},
+        {"upright", {-80, 40}, {-80, 0}, {-30, 190}},
+        {"slanted", {0, 0}, {30, -40}, {-120, 200}},
+        {"slanted, far from the origin", {60000, 80000}, {60030, 79960}, {59880, 80200}},
+        {"exactly twice", {0, 0}, {50, 0}, {-50, 30}},
+        {"ten times", {0, 0}, {50, 0}, {-450, -40}},
+    };
+    for (const Row& row : rows) {
+        for (const float offset : {9.0F, -4.0F}) {
+            Drawn run({offset});
+            run.ortho(false);
+            for (const Point p : {row.a, row.b, row.c}) run.click(p);
+            const Point mitre = trueMitre(row.a, row.b, row.c, offset);
+            SCOPED_TRACE(testing::Message() << row.what << " at " << offset);
+            expectNear(run.slot(1).p2, mitre.x, mitre.y, 0.05);
+        }
+    }
+}
+
+// Two lines beside one path there and back never cross.
+TEST(MultipleLines, ALegStraightBackHasNoMitreAndEndsSquarely)
+{
+    struct Row {
+        const char* what;
+        Point a, b, c, end; // of the line at 10
+    };
+    const Row rows[] = {
+        {"level", {100, 200}, {300, 200}, {50, 200}, {300, 210}},
+        {"upright", {100, 200}, {100, 20}, {100, 900}, {110, 20}},
+        {"slanted", {0, 0}, {300, -400}, {150, -200}, {308, -394}},
+        {"as near as rounding lets it",
+         {1000.1F, 0.3F},
+         {1300.1F, 100.3F},
+         {1150.1F, 50.3F},
+         {1296.938F, 109.787F}},
+    };
+    for (const Row& row : rows) {
+        Drawn run({10});
+        run.ortho(false);
+        for (const Point p : {row.a, row.b, row.c}) run.click(p);
+        SCOPED_TRACE(row.what);
+        expectNear(run.slot(1).p2, row.end.x, row.end.y, 0.01);
     }
 }
 
