@@ -90,10 +90,10 @@ void passNumberToEntry(Session& s, char32_t code)
     if (isPartOfNumber(code)) passToEntry(s, code);
 }
 
-// What is made needs its name first: else its points would go to whatever was named last.
-bool waitsForName(const Session& s, const FunctionRow& row)
+// The click is a point of its own: neither ortho nor the first point of an earlier function has a say in it.
+bool takesSnapAsItIs(const Session& s, const FunctionRow& row)
 {
-    return row.canvasKeys == CanvasKeys::name && s.stepNo == 0;
+    return row.orthoOnClick == Ortho::unlessSnapped && snapIsOn(s);
 }
 
 void endSelection(Session& s, Canvas& pic1)
@@ -130,16 +130,18 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
         return;
     }
     const FunctionRow* row = findFunction(s.curFunc);
-    if (row == nullptr || waitsForName(s, *row)) return;
+    if (row == nullptr || waitsForName(*row, s.stepNo)) return;
     if (button == leftButton) countStep(s);
     storeClick(s, at);
     if (s.curFunc == "Object Select") return pickClick(s, pic1);
     s.pointWasSnapped = false;
-    confineClick(s, *row);
+    const bool isSnapped = takesSnapAsItIs(s, *row); // asked before the snap is disarmed
+    if (!isSnapped) confineClick(s, *row);
     holdSnap(s, pic1);
     oneShotSnap(s, pic1);
     s.controls["snaplab"_c].caption.clear();
-    if (row->samePointCancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
+    const bool cancels = row->samePointCancels && !isSnapped;
+    if (cancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
     callStep(s, pic1);
     updateGauge(s);
 }

@@ -1,6 +1,7 @@
 #include "app/construction_line.h"
 
 #include "app/dispatch.h"
+#include "commands/vocabulary.h"
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
 #include "render/redraw.h"
@@ -26,11 +27,17 @@ void turnOn(Session& s, Canvas& pic1)
     s.curFunc = "Blank Line";
 }
 
-// The suspended function takes the start of the leg as its next click, past ortho and snap.
+// The suspended function takes the start of the leg as its next click, past ortho and snap. While it waits
+// for a name it takes none.
 void turnOff(Session& s, Canvas& pic1)
 {
     s.controls["blank"_c].caption = "Blank/Off";
     resetPicture(pic1);
+    const FunctionRow* row = findFunction(s.blankSavedFunc);
+    if (row != nullptr && waitsForName(*row, s.stepNo)) {
+        s.curFunc = s.blankSavedFunc;
+        return;
+    }
     countStep(s);
     if (s.stepNo == 1) s.pickFirst = s.blankStart;
     if (s.stepNo > 1) s.pickLast = s.blankStart;

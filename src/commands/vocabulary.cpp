@@ -53,6 +53,7 @@ constexpr auto fromList = Starts::fromList;
 constexpr auto fromEdits = Starts::fromEdits;
 constexpr auto byMatchKey = Starts::byMatchKey;
 constexpr auto confined = Ortho::confined;
+constexpr auto unlessSnapped = Ortho::unlessSnapped;
 constexpr auto freely = Ortho::free;
 constexpr auto canvasNumber = CanvasKeys::numberOnceBegun;
 constexpr auto canvasName = CanvasKeys::name;
@@ -75,7 +76,7 @@ constexpr FunctionRow rows[] = {
     {"Point",                 "Command8",  atOnce,   true,  confined,           freely,             canvasNumber,                 distance,                       discarded,                       true,  0, pointPrompts},
     {"Polygon",               "Command9",  atOnce,   true,  confined,           confined,           CanvasKeys::sidesAtStart,     EntryKeys::sidesAtStart,        laysPoint,                       true,  0, polygonPrompts},
     {"Multiple Lines",        "Command10", fromList, true,  confined,           confined,           canvasNumber,                 distance,                       laysPoint,                       true,  0, multipleLinesPrompts},
-    {"Create Multiple Lines", "ml3",       atOnce,   false, confined,           confined,           canvasName,                   name,                           discarded,                       true,  0, createMultipleLinesPrompts},
+    {"Create Multiple Lines", "ml3",       atOnce,   false, confined,           unlessSnapped,      canvasName,                   name,                           discarded,                       true,  0, createMultipleLinesPrompts},
     {"Ortho Dimension",       "Command11", atOnce,   true,  confined,           Ortho::onlyAtStep3, canvasNumber,                 distance,                       laysPoint,                       true,  0, orthoDimensionPrompts},
     {"Radial Dimension",      "Command12", atOnce,   true,  freely,             freely,             canvasNumber,                 distance,                       discarded,                       true,  0, radialDimensionPrompts},
     {"Angular Dimension",     "Command13", atOnce,   true,  freely,             freely,             canvasNumber,                 distance,                       discarded,                       true,  0, angularDimensionPrompts},
@@ -137,6 +138,7 @@ bool applies(Ortho rule, std::int16_t stepNo)
 {
     switch (rule) {
     case Ortho::confined:
+    case Ortho::unlessSnapped:
         return true;
     case Ortho::free:
         return false;
@@ -146,6 +148,11 @@ bool applies(Ortho rule, std::int16_t stepNo)
         return stepNo != 3;
     }
     return true;
+}
+
+bool waitsForName(const FunctionRow& row, std::int16_t stepNo)
+{
+    return row.canvasKeys == CanvasKeys::name && stepNo == 0;
 }
 
 bool isSelectionFunction(std::string_view name)

@@ -19,7 +19,13 @@ enum class Starts : std::uint8_t {
 };
 
 // Where the pointer is turned onto the ortho axes.
-enum class Ortho : std::uint8_t { confined, free, onlyAtStep3, notAtStep3 };
+enum class Ortho : std::uint8_t {
+    confined,
+    unlessSnapped, // no leg of the function's own leads to the click, so a snap gives the point itself
+    free,
+    onlyAtStep3,
+    notAtStep3
+};
 
 // What the drawing does with a key while the function runs.
 enum class CanvasKeys : std::uint8_t {
@@ -90,6 +96,9 @@ const FunctionRow* findFunction(std::string_view name);
 const FunctionRow* functionStartedBy(std::string_view control);
 
 bool applies(Ortho rule, std::int16_t stepNo);
+
+// What is made needs its name first: else its points would go to whatever was named last.
+bool waitsForName(const FunctionRow& row, std::int16_t stepNo);
 
 // The three functions that select: a change to one of them keeps the selection.
 bool isSelectionFunction(std::string_view name);

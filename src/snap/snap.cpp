@@ -75,11 +75,16 @@ void pressSnapButton(Session& s, Canvas& pic1, ControlId button)
     s.controls["snaplab"_c].caption = row->label;
 }
 
+bool snapIsOn(const Session& s)
+{
+    return !s.controls["snapbox"_c].text.empty() || s.snapKey != 0;
+}
+
 void showArmedSnap(Session& s)
 {
     const std::string& armed = s.controls["snapbox"_c].text;
     for (const SnapRow& row : snapRows) s.controls[row.button].checked = row.code == armed;
-    s.controls["pic1"_c].checked = !armed.empty() || s.snapKey != 0;
+    s.controls["pic1"_c].checked = snapIsOn(s);
 }
 
 } // namespace mirtane

@@ -7,12 +7,23 @@ namespace mirtane {
 namespace {
 
 constexpr std::string_view takePoint[] = {
-    "Ortho Dimension", "3pt. Circle", "3pt. Arc",     "Curve",  "Radial Dimension", "Angular Dimension",
-    "Place Associate", "Break",       "Measure Area", "Leader", "Create Associate", "Ortho Angle Match"};
+    "Ortho Dimension",      "3pt. Circle", "3pt. Arc",     "Curve",  "Radial Dimension", "Angular Dimension",
+    "Place Associate",      "Break",       "Measure Area", "Leader", "Create Associate", "Ortho Angle Match",
+    "Create Multiple Lines"};
 
-constexpr std::string_view takeObjectPoint[] = {
-    "3pt. Arc",          "3pt. Circle", "Curve",      "Point", "Ortho Dimension",  "Radial Dimension",
-    "Angular Dimension", "Leader",      "Place Text", "Break", "Create Associate", "Place Associate"};
+constexpr std::string_view takeObjectPoint[] = {"3pt. Arc",
+                                                "3pt. Circle",
+                                                "Curve",
+                                                "Point",
+                                                "Ortho Dimension",
+                                                "Radial Dimension",
+                                                "Angular Dimension",
+                                                "Leader",
+                                                "Place Text",
+                                                "Break",
+                                                "Create Associate",
+                                                "Place Associate",
+                                                "Create Multiple Lines"};
 
 // Up to its third click Stretch places its window and its reference point.
 constexpr std::int16_t stretchMoves = 4;

@@ -72,6 +72,14 @@ struct LibraryDesk : Desk {
         choose(0);
     }
 
+    // A boundary ten tiles wide, closed.
+    void fillSquare()
+    {
+        for (const Point p : {Point{2000, 2000}, {3000, 2000}, {3000, 3000}, {2000, 3000}, {2000, 2000}}) {
+            click(p.x, p.y);
+        }
+    }
+
     const std::vector<std::string>& rows() const { return session->controls["List1"_c].rows; }
     std::string path(const LibraryCase& library, const std::string& base) const
     {
@@ -265,13 +273,12 @@ TEST(LibraryMenus, RemovedRowsAreNotDrawnThoughTheirNameIsTheOneForNone)
     desk.create(hatches, "one");
     desk.press(hatches.place);
     desk.choose(0);
-    desk.saveFirst(hatches); // spends the name
     desk.removeFirst(hatches);
+    desk.s.savedCount = desk.s.store.entCount;
+    desk.press("fil5"_c); // a Close leaves no name in use
     const std::int32_t slots = desk.s.store.entCount;
     EXPECT_EQ(desk.s.hatchName, "??????");
-    for (const Point p : {Point{2000, 2000}, {3000, 2000}, {3000, 3000}, {2000, 3000}, {2000, 2000}}) {
-        desk.click(p.x, p.y);
-    }
+    desk.fillSquare();
     EXPECT_EQ(desk.s.curFunc, "Place Hatch");
     EXPECT_EQ(desk.s.stepNo, 0);
     EXPECT_EQ(desk.s.store.entCount, slots);
@@ -378,6 +385,55 @@ TEST(LibraryMenus, AClickBeforeTheNameCountsForNothing)
         desk.enter();
         EXPECT_EQ(desk.s.stepNo, 1) << library.select;
     }
+}
+
+TEST(LibraryMenus, AReleasedConstructionLineBeforeTheNameCountsForNothingEither)
+{
+    for (const LibraryCase& library : libraries) {
+        for (const float legs : {0.0F, 1.0F, 2.0F}) {
+            for (const int releases : {1, 3}) {
+                LibraryDesk desk;
+                desk.create(library, "one");
+                const std::int32_t pieces = desk.s.store.entCount;
+                const std::int32_t rows = desk.s.hatchLibrary.count + desk.s.multipleLinesLibrary.count;
+                desk.s.store.setStat(1, Stat::sel);
+                desk.press(library.create);
+                const Point before = desk.s.pickFirst;
+                for (int i = 0; i < releases; ++i) {
+                    desk.press("blank"_c);
+                    for (float leg = 0; leg < legs; ++leg) desk.click(700 + 100 * leg, 900);
+                    desk.press("blank"_c);
+                }
+                const std::string what = std::string(library.createFunction) + " " + std::to_string(legs);
+                EXPECT_EQ(desk.s.stepNo, 0) << what;
+                EXPECT_EQ(desk.s.curFunc, library.createFunction) << what;
+                EXPECT_EQ(desk.s.pickFirst, before) << what;
+                EXPECT_EQ(desk.caption("blank"_c), "Blank/Off") << what;
+                EXPECT_EQ(desk.focused(), "pic1") << what;
+                EXPECT_EQ(desk.s.store.entCount, pieces) << what;
+                EXPECT_EQ(desk.s.hatchLibrary.count + desk.s.multipleLinesLibrary.count, rows) << what;
+                EXPECT_EQ(desk.stat(1), Stat::sel) << what;
+                desk.type("two");
+                desk.enter();
+                EXPECT_EQ(desk.s.stepNo, 1) << what;
+                desk.click(1000, 1000);
+                if (desk.s.curFunc == "Create Hatch") desk.click(1120, 1040);
+                EXPECT_EQ(desk.s.curFunc, "Line") << what;
+                EXPECT_EQ(desk.rows(), (Names{"one", "two"})) << what;
+            }
+        }
+    }
+}
+
+TEST(LibraryMenus, OnceNamedAReleasedConstructionLineIsTheReferencePoint)
+{
+    LibraryDesk desk;
+    desk.startCreating(multipleLines, "wall");
+    desk.press("blank"_c);
+    desk.click(1000, 1003);
+    desk.press("blank"_c);
+    ASSERT_EQ(desk.s.multipleLinesLibrary.count, 1);
+    EXPECT_FLOAT_EQ(desk.s.multipleLinesLibrary.rows[0].m1, 7);
 }
 
 TEST(LibraryMenus, ADrawingOpenedAsAnAssociateIsNone)

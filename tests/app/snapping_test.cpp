@@ -422,6 +422,94 @@ TEST_F(Snapping, AnArmedPerpendicularIsDisarmedByAClickOfAConstructionLine)
     EXPECT_FALSE(desk.s.controls["Command39"_c].checked);
 }
 
+// The reference point of a set, with ortho on as it starts, at an ortho angle, after a line that ended at
+// (300, 250). The line of the set is slot 1; the snaps find what is there besides.
+class ReferencePoint : public Desk {
+  public:
+    // Where the reference point goes; at is the click.
+    Point taken(ControlId button, int heldKey, Point at, double orthoDegrees)
+    {
+        s.orthoAngle = s.orthoAngleSaved = orthoDegrees / degreesPerRadian;
+        line({1000, 1000}, {1600, 1000});
+        line({1900, 1300}, {2500, 1700});
+        line({2500, 1300}, {1900, 1700});
+        EntityRecord circle;
+        circle.kind = kind::circle;
+        circle.p1 = {3600, 2600};
+        circle.rad = 300;
+        add(circle);
+        s.store.setStat(s.store.entCount - 4, Stat::sel);
+        s.pickFirst = {300, 250};
+        press("ml3"_c);
+        type("wall");
+        enter();
+        if (heldKey != 0) shell.keyDown(heldKey);
+        if (heldKey == 0) press(button);
+        click(at.x, at.y);
+        EXPECT_EQ(s.multipleLinesLibrary.count, 1);
+        EXPECT_EQ(s.curFunc, "Line");
+        return s.ptA;
+    }
+    void line(Point a, Point b)
+    {
+        EntityRecord r;
+        r.kind = kind::line;
+        r.p1 = a;
+        r.p2 = b;
+        add(r);
+    }
+
+  private:
+    void add(const EntityRecord& r)
+    {
+        s.store.setRecord(s.store.entCount, r);
+        s.store.setStat(s.store.entCount, Stat::on);
+        ++s.store.entCount;
+    }
+};
+
+TEST(ReferencePointOfMultipleLines, IsWhatTheSnapFoundWhateverOrthoSays)
+{
+    struct Row {
+        const char* what;
+        ControlId button;
+        int heldKey;
+        Point at, reference;
+    };
+    const Row rows[] = {
+        {"point", "Command35"_c, 0, {1585, 1011}, {1600, 1000}},
+        {"point, far off", "Command35"_c, 0, {2540, 1320}, {2500, 1300}},
+        {"object, level", "Command36"_c, 0, {1300, 1030}, {1300, 1000}},
+        {"object, slanted", "Command36"_c, 0, {2050, 1400}, {2050, 1400}},
+        {"object, circle", "Command36"_c, 0, {3600, 2940}, {3600, 2900}},
+        {"intersection", "Command37"_c, 0, {2210, 1490}, {2200, 1500}},
+        {"percentage", "Command38"_c, 0, {1100, 1010}, {1150, 1000}},
+        {"perpendicular, which is for lines: the click", "Command39"_c, 0, {1300, 1030}, {1300, 1030}},
+        {"tangent, which is for lines: the click", "Command40"_c, 0, {3500, 2900}, {3500, 2900}},
+        {"midpoint", "Command21"_c, 0, {1290, 1020}, {1300, 1000}},
+        {"midpoint of a circle", "Command21"_c, 0, {3620, 2890}, {3300, 2600}},
+        {"held Ctrl", {}, ctrlKey, {1015, 990}, {1000, 1000}},
+        {"held Shift", {}, shiftKey, {1450, 960}, {1450, 1000}},
+        {"held Shift with nothing near: the click", {}, shiftKey, {4500, 300}, {4500, 300}},
+    };
+    for (const double degrees : {0.0, 30.0, 77.5}) {
+        for (const Row& row : rows) {
+            ReferencePoint desk;
+            const Point p = desk.taken(row.button, row.heldKey, row.at, degrees);
+            EXPECT_NEAR(p.x, row.reference.x, 1e-2) << row.what << " at " << degrees;
+            EXPECT_NEAR(p.y, row.reference.y, 1e-2) << row.what << " at " << degrees;
+        }
+    }
+}
+
+TEST(ReferencePointOfMultipleLines, MayBeThePointOnWhichTheFunctionBeforeEnded)
+{
+    ReferencePoint desk;
+    desk.line({300, 250}, {700, 250});
+    const Point p = desk.taken("Command35"_c, 0, {310, 240}, 0);
+    EXPECT_EQ(p, (Point{300, 250}));
+}
+
 TEST_F(Snapping, SelectedObjectsTakePartAndHiddenOnesDoNot)
 {
     line({1000, 1000}, {3000, 1000});
