@@ -8,7 +8,7 @@ namespace {
 // Where the first point is while there is no boundary.
 constexpr Point nowhere{1000000, 1000000};
 
-// The index of the leg that is taken next; the last one that there is when the table is full.
+// The index of the leg that is taken next.
 std::size_t next(const CanvasInput& input)
 {
     return static_cast<std::size_t>(input.boundaryCount); // from 0 to the last index of the table
@@ -20,15 +20,17 @@ void begin(Session& s)
     s.boundary[0].from = s.pickFirst;
 }
 
-void addLeg(CanvasInput& input, Point from, Point to)
+// The last place is for the leg that closes.
+bool hasRoom(const CanvasInput& input)
 {
-    if (input.boundaryFull) return;
-    input.boundary[next(input)] = {from, to};
-    if (next(input) + 1 < input.boundary.size()) {
-        ++input.boundaryCount;
-    } else {
-        input.boundaryFull = true;
-    }
+    return next(input) + 1 < input.boundary.size();
+}
+
+BoundaryClick refuse(Session& s)
+{
+    setText(s.controls["entry"_c], "100 edges at most: close the boundary");
+    --s.stepNo;
+    return BoundaryClick::refused;
 }
 
 void drawLine(Canvas& pic1, Point from, Point to)
@@ -45,10 +47,12 @@ BoundaryClick takeBoundaryClick(Session& s)
         return BoundaryClick::taken;
     }
     if (isOnFirstPoint(s)) {
-        if (!s.boundaryFull) s.boundary[next(s)] = {s.pickFirst, s.pickLast};
+        s.boundary[next(s)] = {s.pickFirst, s.pickLast};
         return BoundaryClick::closed;
     }
-    addLeg(s, s.pickFirst, s.pickLast);
+    if (!hasRoom(s)) return refuse(s);
+    s.boundary[next(s)] = {s.pickFirst, s.pickLast};
+    ++s.boundaryCount;
     s.pickFirst = s.pickLast;
     return BoundaryClick::taken;
 }
@@ -66,7 +70,6 @@ std::span<const BoundaryLeg> closedBoundary(const CanvasInput& input)
 void dropBoundary(CanvasInput& input)
 {
     input.boundaryCount = 0;
-    input.boundaryFull = false;
     input.boundary[0].from = nowhere;
 }
 
@@ -75,8 +78,7 @@ void boundaryBand(Session& s, Canvas& pic1)
     if (s.stepNo < 1) return;
     restorePicture(pic1);
     drawLine(pic1, s.pickFirst, s.pickLast);
-    const std::size_t taken = s.boundaryFull ? s.boundary.size() : next(s);
-    for (const BoundaryLeg& leg : std::span(s.boundary).first(taken)) drawLine(pic1, leg.from, leg.to);
+    for (const BoundaryLeg& leg : std::span(s.boundary).first(next(s))) drawLine(pic1, leg.from, leg.to);
 }
 
 } // namespace mirtane

@@ -12,12 +12,14 @@
 namespace mirtane {
 
 enum class BoundaryClick {
-    taken,  // the boundary goes on
-    closed, // the last leg leads back to the first point
+    taken,   // the boundary goes on
+    refused, // it has no room but for the leg that closes it; the click is no step
+    closed,  // the last leg leads back to the first point
 };
 
 // Takes the click of a step: pickFirst at step 1, which begins a boundary, and pickLast above. pickFirst is
-// then the point that the next leg starts from. Legs past the hundredth are lost.
+// then the point that the next leg starts from. The hundredth leg is the one that closes: any other is
+// refused, and entry says so.
 BoundaryClick takeBoundaryClick(Session& s);
 
 // Whether the click of this step is on the first point, above step 1.

@@ -101,9 +101,8 @@ struct CanvasInput {
     std::array<std::string, 100> textBuffer; // live typing, one character each
     std::int32_t textLength = 0;             // goes on rising past the buffer
 
-    std::int32_t boundaryCount = 0; // legs taken of a boundary, up to the index of the last one
+    std::int32_t boundaryCount = 0; // legs taken of a boundary, up to the index of the one that closes it
     std::array<BoundaryLeg, 100> boundary;
-    bool boundaryFull = false; // the last leg is taken too: further ones have no place
 };
 
 // The visible world rectangle: a copy of the surface's scale, for culling.

@@ -83,20 +83,37 @@ TEST(Boundary, ANewOneForgetsTheLast)
     EXPECT_EQ(desk.s.boundary[0].from, (Point{500, 600}));
 }
 
-TEST(Boundary, TheHundredthLegIsTakenAndThoseBehindAreLost)
+constexpr const char* full = "100 edges at most: close the boundary";
+
+// The hundredth edge is the one that closes: were it any other, the boundary could no more be closed.
+TEST(Boundary, AfterNinetyNineLegsOnlyTheOneThatClosesIsTaken)
 {
     BoundaryDesk desk;
     desk.click(0, 0);
-    for (int i = 1; i <= 100; ++i) desk.click(static_cast<float>(i), 1);
+    for (int i = 1; i <= 99; ++i) desk.click(static_cast<float>(i), 1);
+    EXPECT_EQ(lastClick, BoundaryClick::taken);
+    EXPECT_EQ(desk.text("entry"_c), "");
+    for (int i = 100; i <= 40000; ++i) {
+        setText(desk.s.controls["entry"_c], "");
+        desk.click(static_cast<float>(i), 1);
+        ASSERT_EQ(desk.text("entry"_c), full) << i;
+    }
+    EXPECT_EQ(lastClick, BoundaryClick::refused);
     EXPECT_EQ(desk.s.boundaryCount, 99);
-    EXPECT_EQ(desk.s.boundary[99].to, (Point{100, 1}));
-    for (int i = 101; i <= 40000; ++i) desk.click(static_cast<float>(i), 1);
-    EXPECT_EQ(desk.s.boundaryCount, 99);
-    EXPECT_EQ(desk.s.boundary[99].to, (Point{100, 1}));
+    EXPECT_EQ(desk.s.boundary[98].to, (Point{99, 1}));
+    EXPECT_EQ(desk.s.pickFirst, (Point{99, 1})) << "the next edge starts from the last that was taken";
+    EXPECT_EQ(desk.s.stepNo, 100) << "a refused click is no step";
+    desk.ops();
+    desk.move(50, 70);
+    const Ops band = fake::only(desk.ops(), "line");
+    EXPECT_EQ(band.size(), 100U);
+    EXPECT_EQ(band.front(), "line 99 1 50 70");
+    EXPECT_EQ(band.back(), "line 98 1 99 1");
     desk.click(0, 0);
     EXPECT_EQ(lastClick, BoundaryClick::closed);
     ASSERT_EQ(closedBoundary(desk.s).size(), 100U);
-    EXPECT_EQ(closedBoundary(desk.s)[99].to, (Point{100, 1})) << "closing has no place either";
+    EXPECT_EQ(closedBoundary(desk.s)[99].from, (Point{99, 1}));
+    EXPECT_EQ(closedBoundary(desk.s)[99].to, (Point{0, 0}));
 }
 
 TEST(Boundary, NinetyNineLegsLeaveAPlaceForTheOneThatCloses)

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <numbers>
+
 namespace mirtane {
 namespace {
 
@@ -108,11 +111,58 @@ TEST(MeasureArea, AnUnclosedBoundaryGoesOnCollecting)
 {
     AreaDesk desk;
     desk.click(0, 0);
-    for (int i = 1; i < 300; ++i) desk.click(static_cast<float>(i), static_cast<float>(i % 7));
+    for (int i = 1; i < 100; ++i) desk.click(static_cast<float>(i), static_cast<float>(i % 7));
     EXPECT_EQ(desk.s.curFunc, "Measure Area");
     EXPECT_EQ(desk.text("entry"_c), "");
     desk.click(0, 0);
     EXPECT_NE(desk.text("entry"_c), "");
+}
+
+// The corners of a polygon with equal sides about a point.
+std::vector<Point> cornersOf(int sides, double radius, Point centre, bool clockwise)
+{
+    std::vector<Point> corners;
+    for (int i = 0; i < sides; ++i) {
+        const double a = (clockwise ? -1 : 1) * 2 * std::numbers::pi * i / sides;
+        corners.push_back({static_cast<float>(centre.x + radius * std::cos(a)),
+                           static_cast<float>(centre.y + radius * std::sin(a))});
+    }
+    return corners;
+}
+
+TEST(MeasureArea, OfAHundredEdgesIsWhole)
+{
+    struct Row {
+        const char* what;
+        Point centre;
+        bool clockwise;
+    };
+    const Row rows[] = {{"about the origin", {0, 0}, false},
+                        {"aside", {5000, 4000}, true},
+                        {"far off", {-90000, 70000}, false}};
+    for (const Row& row : rows) {
+        for (const int sides : {98, 99, 100}) {
+            AreaDesk desk;
+            const double radius = 1440;
+            const double area =
+                sides / 2.0 * radius * radius * std::sin(2 * std::numbers::pi / sides) / 20736;
+            const std::string shown = desk.area(cornersOf(sides, radius, row.centre, row.clockwise));
+            EXPECT_NEAR(std::stod(shown), area, area / 1000) << row.what << " " << sides;
+        }
+    }
+}
+
+TEST(MeasureArea, OfMoreThanAHundredEdgesIsNotMadeUp)
+{
+    for (const int sides : {101, 102, 130, 500}) {
+        AreaDesk desk;
+        const std::vector<Point> corners = cornersOf(sides, 1440, {3000, 2000}, sides % 2 == 0);
+        for (const Point p : corners) desk.click(p.x, p.y);
+        EXPECT_EQ(desk.text("entry"_c), "100 edges at most: close the boundary") << sides;
+        EXPECT_EQ(desk.s.curFunc, "Measure Area") << sides;
+        EXPECT_EQ(desk.s.boundaryCount, 99) << "the legs so far stay";
+        EXPECT_EQ(desk.s.pickFirst, corners[99]) << sides;
+    }
 }
 
 TEST(MeasureArea, IsBoundedHoweverWideTheBoundary)

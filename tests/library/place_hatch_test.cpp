@@ -1,6 +1,7 @@
 #include "library/hatch.h"
 
 #include "library/boundary.h"
+#include "library/hatch_fill.h"
 #include "library_desk.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,13 @@ struct HatchDesk : LibraryDesk {
         s.baseFunc = s.lastFunc = s.curFunc;
         s.hatchName = "Brick";
         s.hatchLibrary.add(fake::hatchLine("Brick", {0, 10}, {20, 10}, 20, 20));
+    }
+    // How many slots a fill of the closed polygon takes, whatever the clicks do.
+    std::int32_t filledBy(const std::vector<Point>& corners)
+    {
+        const auto legs = fake::legsThrough(corners);
+        const auto pieces = fillHatch({legs, s.hatchLibrary.used(), s.hatchName, 1, 0});
+        return static_cast<std::int32_t>(pieces.size()) + 1;
     }
     void square()
     {
@@ -163,6 +171,27 @@ TEST(PlaceHatch, AFullTableLosesPiecesWithoutHarm)
     desk.square();
     EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 3);
     EXPECT_EQ(desk.stat(EntityStore::slotCount - 1), Stat::on);
+}
+
+TEST(PlaceHatch, FillsABoundaryOfAHundredEdgesAndRefusesOneMore)
+{
+    for (const int extra : {0, 1, 40}) {
+        HatchDesk desk;
+        std::vector<Point> corners = {{0, 0}, {960, 0}, {1920, 0}}; // a comb, its teeth downward
+        for (int i = 96; i >= 0; --i) {
+            corners.push_back({static_cast<float>(20 * i), i % 2 == 0 ? 100.0F : 120.0F});
+        }
+        ASSERT_EQ(corners.size(), 100U);
+        for (const Point p : corners) desk.click(p.x, p.y);
+        EXPECT_EQ(desk.text("entry"_c), "");
+        for (int i = 0; i < extra; ++i) desk.click(static_cast<float>(-20 - i), 100);
+        EXPECT_EQ(desk.text("entry"_c), extra == 0 ? "" : "100 edges at most: close the boundary") << extra;
+        EXPECT_EQ(desk.s.store.entCount, 1) << extra;
+        desk.click(0, 0);
+        EXPECT_EQ(desk.s.stepNo, 0) << extra;
+        EXPECT_EQ(desk.s.store.entCount, HatchDesk().filledBy(corners)) << extra;
+        EXPECT_GT(desk.s.store.entCount, 150) << extra;
+    }
 }
 
 TEST(PlaceHatch, RepaintsAllAndLeavesTheRubberBandPen)
