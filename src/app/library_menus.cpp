@@ -9,6 +9,7 @@
 #include "library/boundary.h"
 #include "library/libraries.h"
 #include "model/insertion.h"
+#include "model/missing.h"
 #include "model/title.h"
 #include "render/redraw.h"
 #include "text/code_page.h"
@@ -77,6 +78,12 @@ std::string_view listCaption(const Session& s)
     return s.controls["Label3"_c].caption;
 }
 
+// A hatch that is saved while one is being placed goes on being the one that boundaries are filled with.
+bool isBeingPlaced(const Session& s, const LibraryRow& row)
+{
+    return row.library == Library::hatches && s.baseFunc == row.function;
+}
+
 Bytes bytesOf(const Session& s, Library library, const std::string& name)
 {
     if (library == Library::multipleLines) return multipleLinesBytes(s.multipleLinesLibrary, name);
@@ -96,11 +103,14 @@ void readyToPlaceAssociate(App& app, const LibraryRow& row)
 void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std::string& name)
 {
     Session& s = app.s;
-    if (row.library == Library::multipleLines) addMultipleLines(s.multipleLinesLibrary, file);
-    if (row.library == Library::hatches) addHatch(s.hatchLibrary, file);
-    if (row.library == Library::associates) addAssociate(s, file, name);
+    Missing missing;
+    if (row.library == Library::multipleLines)
+        missing.pieces = addMultipleLines(s.multipleLinesLibrary, file);
+    if (row.library == Library::hatches) missing.pieces = addHatch(s.hatchLibrary, file);
+    if (row.library == Library::associates) missing.pieces = addAssociate(s, file, name);
     refillNames(s, row.library, row.select);
     if (row.library == Library::associates) readyToPlaceAssociate(app, row);
+    tellMissing(s.controls, missing);
 }
 
 } // namespace
@@ -179,7 +189,7 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     if (!isLiveName(name) || !isLiveName(toCodePage(name))) return false;
     const bool saved =
         app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
-    name = noName;
+    if (!isBeingPlaced(s, *row)) name = noName;
     s.stepNo = 0;
     return saved;
 }

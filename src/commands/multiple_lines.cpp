@@ -8,6 +8,7 @@
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "model/insertion.h"
+#include "model/missing.h"
 #include "render/painters.h"
 #include "render/redraw.h"
 
@@ -134,8 +135,10 @@ template <class Use> void forEachLine(Session& s, Use use)
     }
 }
 
-void storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
+// False when the table has no slot for it.
+bool storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
 {
+    const bool fits = EntityStore::holds(s.store.entCount);
     EntityRecord r = s.store.record(s.store.entCount);
     r.p1 = row.legStart;
     r.p2 = row.legEnd;
@@ -149,21 +152,24 @@ void storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
     pic1.setColor(row.colour);
     pic1.setStyle(row.style);
     paintLineSegment(pic1, s, r.p1, r.p2);
+    return fits;
 }
 
 void storeLegs(Session& s, Canvas& pic1)
 {
     const Corner corner = cornerUnderway(s);
+    Missing missing;
     restorePicture(pic1);
     forEachLine(s, [&](MultipleLine& row) {
         row.legEnd = narrowed(corner.mitre(row.m1), row.legEnd);
-        storeLine(s, pic1, row);
+        if (!storeLine(s, pic1, row)) ++missing.pieces;
         row.legStart = row.legEnd;
     });
     pic1.snapshot();
     setRubberBandPen(pic1);
     endGroup(s.log);
     updateGauge(s);
+    tellMissing(s.controls, missing);
 }
 
 void drawLine(Canvas& pic1, Point from, Point to)
@@ -198,13 +204,18 @@ bool isSelectedLine(const EntityStore& store, std::int32_t slot)
     return store.kind[at] == kind::line && store.stat[at] == Stat::sel;
 }
 
-// False when the table is full.
-bool takeSelectedLines(Session& s)
+// False when the table is full. missing counts the lines that it had no room for.
+bool takeSelectedLines(Session& s, Missing& missing)
 {
     Direction u;
     bool hasDirection = false;
+    bool isFull = false;
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         if (!isSelectedLine(s.store, i)) continue;
+        if (isFull) {
+            ++missing.pieces;
+            continue;
+        }
         const EntityRecord line = s.store.record(i);
         if (!hasDirection) u = referenceDirection(s, line);
         hasDirection = true;
@@ -213,10 +224,10 @@ bool takeSelectedLines(Session& s)
         row.colour = line.color;
         row.style = line.style;
         row.name = s.multipleLinesName;
-        s.multipleLinesLibrary.add(std::move(row));
-        if (s.multipleLinesLibrary.count >= MultipleLinesLibrary::rowLimit) return false;
+        if (!s.multipleLinesLibrary.add(std::move(row))) ++missing.pieces;
+        isFull = s.multipleLinesLibrary.count >= MultipleLinesLibrary::rowLimit;
     }
-    return true;
+    return !isFull;
 }
 
 } // namespace
@@ -263,7 +274,8 @@ void multipleLinesBand(Session& s, Canvas& pic1)
 void createMultipleLinesStep(Session& s, Canvas& pic1)
 {
     if (s.stepNo != 2 || s.multipleLinesName == noName) return;
-    if (!takeSelectedLines(s)) return;
+    Missing missing;
+    if (!takeSelectedLines(s, missing)) return tellMissing(s.controls, missing);
     changeStat(s.store, Stat::sel, Stat::on);
     s.stepNo = 0;
     s.curFunc = s.baseFunc;

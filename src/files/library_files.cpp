@@ -10,13 +10,18 @@ constexpr int mostPieces = 60000;
 constexpr int mostHatchRows = 30000;
 constexpr int mostMultipleLines = 99;
 
-// Reads whole records, most of them at the most, and gives each to take().
+// Reads whole records and gives each to take(), most of them at the most, which tells whether it had room.
+// Gives how many found no place.
 template <class Record, class Take>
-void readRecords(const Bytes& file, int most, bool (*read)(ByteReader&, Record&), Take take)
+std::int32_t readRecords(const Bytes& file, int most, bool (*read)(ByteReader&, Record&), Take take)
 {
     ByteReader in(file);
     Record record;
-    for (int i = 0; i < most && in.remaining() > 0 && read(in, record); ++i) take(record);
+    std::int32_t without = 0;
+    for (int i = 0; in.remaining() > 0 && read(in, record); ++i) {
+        if (i >= most || !take(record)) ++without;
+    }
+    return without;
 }
 
 template <class Row>
@@ -30,14 +35,15 @@ Bytes bytesOf(const LibraryTable<Row>& library, std::string_view name, void (*wr
     return file;
 }
 
-void addPiece(Session& s, const EntityRecord& piece, std::string_view name)
+bool addPiece(Session& s, const EntityRecord& piece, std::string_view name)
 {
     const std::int32_t slot = s.store.entCount;
     ++s.store.entCount;
-    if (!EntityStore::holds(slot)) return;
+    if (!EntityStore::holds(slot)) return false;
     s.store.setRecord(slot, piece);
     s.store.setStat(slot, Stat::out);
     s.store.ownerName[EntityStore::at(slot)] = name;
+    return true;
 }
 
 } // namespace
@@ -62,21 +68,23 @@ Bytes multipleLinesBytes(const MultipleLinesLibrary& library, std::string_view n
     return bytesOf(library, name, writeMultipleLine);
 }
 
-void addAssociate(Session& s, const Bytes& file, std::string_view name)
+std::int32_t addAssociate(Session& s, const Bytes& file, std::string_view name)
 {
-    readRecords(file, mostPieces, readRecord, [&](const EntityRecord& piece) { addPiece(s, piece, name); });
     markUsed(s.layerTable, 0);
+    return readRecords(file, mostPieces, readRecord,
+                       [&](const EntityRecord& piece) { return addPiece(s, piece, name); });
 }
 
-void addHatch(HatchLibrary& library, const Bytes& file)
+std::int32_t addHatch(HatchLibrary& library, const Bytes& file)
 {
-    readRecords(file, mostHatchRows, readHatchRow, [&](const HatchRow& row) { library.add(row); });
+    return readRecords(file, mostHatchRows, readHatchRow,
+                       [&](const HatchRow& row) { return library.add(row); });
 }
 
-void addMultipleLines(MultipleLinesLibrary& library, const Bytes& file)
+std::int32_t addMultipleLines(MultipleLinesLibrary& library, const Bytes& file)
 {
-    readRecords(file, mostMultipleLines, readMultipleLine,
-                [&](const MultipleLine& row) { library.add(row); });
+    return readRecords(file, mostMultipleLines, readMultipleLine,
+                       [&](const MultipleLine& row) { return library.add(row); });
 }
 
 std::string_view baseName(std::string_view fileName)

@@ -17,13 +17,13 @@ Bytes multipleLinesBytes(const MultipleLinesLibrary& library, std::string_view n
 
 // Adds the pieces of the file (at most 60,000) to the drawing's table as hidden slots that belong to name: an
 // associate is called as its file. Their layers stay as stored, but layer 0 is then marked used. No undo
-// record. The gauge is left to the caller.
-void addAssociate(Session& s, const Bytes& file, std::string_view name);
+// record. The gauge is left to the caller. Gives how many pieces found no place.
+std::int32_t addAssociate(Session& s, const Bytes& file, std::string_view name);
 
 // Add the rows of the file (at most 30,000 and 99) behind those of the library. They bear the names in the
-// file. Rows past the table's end are lost while its count goes on.
-void addHatch(HatchLibrary& library, const Bytes& file);
-void addMultipleLines(MultipleLinesLibrary& library, const Bytes& file);
+// file. Rows past the table's end are lost while its count goes on. They give how many rows found no place.
+std::int32_t addHatch(HatchLibrary& library, const Bytes& file);
+std::int32_t addMultipleLines(MultipleLinesLibrary& library, const Bytes& file);
 
 // What an associate is called that is read from a file of this name: what stands before the first ".".
 std::string_view baseName(std::string_view fileName);

@@ -7,6 +7,7 @@
 #include "library/turned_angle.h"
 #include "model/insertion.h"
 #include "model/kind_table.h"
+#include "model/missing.h"
 #include "render/entity_painter.h"
 #include "render/redraw.h"
 
@@ -15,27 +16,32 @@ namespace {
 
 // -- creating --
 
-void addPiece(Session& s, EntityRecord piece)
+// False when the table has no slot for it.
+bool addPiece(Session& s, EntityRecord piece)
 {
     const std::int32_t slot = s.store.entCount;
     ++s.store.entCount;
-    if (!EntityStore::holds(slot)) return;
+    if (!EntityStore::holds(slot)) return false;
     shift(piece, -s.pickLast.x, -s.pickLast.y);
     piece.layer = s.workLayer;
     writeFieldsOfKind(s.store, slot, piece);
     s.store.kind[EntityStore::at(slot)] += kind::associatePiece;
     s.store.setStat(slot, Stat::out);
     s.store.ownerName[EntityStore::at(slot)] = s.associateName;
+    return true;
 }
 
-void addPiecesOfSelection(Session& s)
+Missing addPiecesOfSelection(Session& s)
 {
+    Missing missing;
     const std::int32_t end = s.store.end(); // the pieces come behind it
     for (std::int32_t i = 1; i < end; ++i) {
         const std::size_t at = EntityStore::at(i);
-        if (s.store.stat[at] == Stat::sel && isDrawnKind(s.store.kind[at])) addPiece(s, s.store.record(i));
+        if (s.store.stat[at] != Stat::sel || !isDrawnKind(s.store.kind[at])) continue;
+        if (!addPiece(s, s.store.record(i))) ++missing.pieces;
     }
     markUsed(s.layerTable, s.workLayer);
+    return missing;
 }
 
 // -- placing --
@@ -90,7 +96,8 @@ template <class Use> void forEachPlaced(const Session& s, Use use)
     }
 }
 
-void addPlaced(Session& s, EntityRecord object)
+// False when the table has no slot for it.
+bool addPlaced(Session& s, EntityRecord object)
 {
     const std::int32_t slot = s.store.entCount;
     object.layer = s.workLayer;
@@ -100,6 +107,7 @@ void addPlaced(Session& s, EntityRecord object)
     // associate.
     if (EntityStore::holds(slot)) s.store.ownerName[EntityStore::at(slot)].clear();
     commitInGroup(s);
+    return EntityStore::holds(slot);
 }
 
 } // namespace
@@ -131,13 +139,14 @@ void createAssociateStep(Session& s, Canvas& pic1)
         return;
     }
     if (s.stepNo != 2) return;
-    addPiecesOfSelection(s);
+    const Missing missing = addPiecesOfSelection(s);
     changeStat(s.store, Stat::sel, Stat::on);
     s.curFunc = s.baseFunc;
     s.stepNo = 0;
     redrawAll(s, pic1);
     setPrompt(s, pic1);
     refillNames(s, Library::associates, "Select Associate");
+    tellMissing(s.controls, missing);
 }
 
 void placeAssociateStep(Session& s, Canvas& pic1)
@@ -149,12 +158,16 @@ void placeAssociateStep(Session& s, Canvas& pic1)
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 2) return;
     computePixelMapping(s, pic1);
-    forEachPlaced(s, [&s](const EntityRecord& object) { addPlaced(s, object); });
+    Missing missing;
+    forEachPlaced(s, [&](const EntityRecord& object) {
+        if (!addPlaced(s, object)) ++missing.pieces;
+    });
     updateGauge(s);
     endGroup(s.log);
     redrawAll(s, pic1);
     s.stepNo = 0;
     setPrompt(s, pic1);
+    tellMissing(s.controls, missing);
 }
 
 void placeAssociateBand(Session& s, Canvas& pic1)

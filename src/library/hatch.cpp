@@ -15,7 +15,8 @@ namespace {
 
 // -- placing --
 
-void addPiece(Session& s, EntityRecord r)
+// False when the table has no slot for it.
+bool addPiece(Session& s, EntityRecord r)
 {
     const std::int32_t slot = s.store.entCount;
     r.layer = s.workLayer;
@@ -27,14 +28,19 @@ void addPiece(Session& s, EntityRecord r)
     }
     s.store.setStat(slot, Stat::on);
     commitInGroup(s);
+    return EntityStore::holds(slot);
 }
 
-void fill(Session& s)
+Missing fill(Session& s)
 {
+    Missing missing;
     const HatchFill wanted{closedBoundary(s), s.hatchLibrary.used(), s.hatchName, s.hatchScale,
                            s.hatchRotation};
-    for (const HatchPiece& piece : fillHatch(wanted)) addPiece(s, hatchObject(piece, wanted));
+    for (const HatchPiece& piece : fillHatch(wanted, missing)) {
+        if (!addPiece(s, hatchObject(piece, wanted))) ++missing.pieces;
+    }
     endGroup(s.log);
+    return missing;
 }
 
 // -- creating --
@@ -76,8 +82,10 @@ bool takeGeometry(const EntityRecord& r, Point corner, HatchRow& row)
     }
 }
 
-void takeSelection(Session& s, Point first, Point second)
+// Gives what the table had no row for.
+Missing takeSelection(Session& s, Point first, Point second)
 {
+    Missing missing;
     const Point size = relativeTo(first, second);
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         if (s.store.stat[EntityStore::at(i)] != Stat::sel) continue;
@@ -89,8 +97,9 @@ void takeSelection(Session& s, Point first, Point second)
         row.hatchTileH = size.y;
         row.hatchColor = r.color;
         row.hatchKind = r.kind;
-        s.hatchLibrary.add(std::move(row));
+        if (!s.hatchLibrary.add(std::move(row))) ++missing.pieces;
     }
+    return missing;
 }
 
 } // namespace
@@ -105,11 +114,12 @@ void placeHatchStep(Session& s, Canvas& pic1)
     const bool closed = takeBoundaryClick(s) == BoundaryClick::closed;
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (!closed) return;
-    fill(s);
+    const Missing missing = fill(s);
     dropBoundary(s);
     s.stepNo = 0;
     redrawAll(s, pic1);
     setPrompt(s, pic1);
+    tellMissing(s.controls, missing);
 }
 
 void createHatchStep(Session& s, Canvas& pic1)
@@ -120,7 +130,7 @@ void createHatchStep(Session& s, Canvas& pic1)
     }
     if (s.stepNo != 3) return;
     // Without a name the rows would be removed ones from the start.
-    if (s.hatchName != noName) takeSelection(s, s.ptA, s.pickLast);
+    const Missing missing = s.hatchName == noName ? Missing{} : takeSelection(s, s.ptA, s.pickLast);
     changeStat(s.store, Stat::sel, Stat::on);
     s.curFunc = s.baseFunc;
     s.stepNo = 0;
@@ -128,6 +138,7 @@ void createHatchStep(Session& s, Canvas& pic1)
     setPrompt(s, pic1);
     s.hatchName = noName;
     refillNames(s, Library::hatches, "Select Hatch");
+    tellMissing(s.controls, missing);
 }
 
 } // namespace mirtane

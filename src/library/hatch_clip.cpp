@@ -93,9 +93,12 @@ HatchClip::HatchClip(const Polygon& polygon, const HatchGrid& grid)
 
 void HatchClip::add(const HatchPiece& piece, Place middle)
 {
-    if (isFull()) return;
+    if (isSpent()) return;
+    const bool fits = tried_ < hatchTableRows && !isClosed_;
     ++tried_;
-    if (isInside(polygon_, middle)) pieces_.push_back(piece);
+    if (!isInside(polygon_, middle)) return;
+    if (fits) pieces_.push_back(piece);
+    if (!fits) ++dropped_;
 }
 
 bool HatchClip::isBeyondGrid(Place low, Place high) const

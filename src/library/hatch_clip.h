@@ -30,8 +30,14 @@ class HatchClip {
     void arc(Point centre, float radius, double a1, double a2, std::int16_t style);
     void point(Point p, std::int16_t style);
 
-    // No further piece would be taken. Pieces outside count too.
-    bool isFull() const { return tried_ >= hatchTableRows; }
+    // From now on pieces are only counted.
+    void close() { isClosed_ = true; }
+
+    // No further piece would be taken, or counted. Pieces outside count too.
+    bool isSpent() const { return tried_ >= hatchRowsCounted; }
+
+    // How many pieces inside were not taken.
+    std::int64_t dropped() const { return dropped_; }
 
     std::vector<HatchPiece> take() { return std::move(pieces_); }
 
@@ -66,6 +72,8 @@ class HatchClip {
     Place low_, high_; // the box of the grid
     std::vector<HatchPiece> pieces_;
     std::size_t tried_ = 0;
+    std::int64_t dropped_ = 0;
+    bool isClosed_ = false;
     std::vector<Cut> cuts_;
     std::vector<double> angles_; // of the crossings of the circle at hand
 };

@@ -5,6 +5,7 @@
 #include "library/turned_angle.h"
 #include "model/kind_table.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace mirtane {
@@ -59,7 +60,7 @@ void clipRow(HatchClip& clip, const HatchRow& row, Point origin, float scale)
 
 } // namespace
 
-std::vector<HatchPiece> fillHatch(const HatchFill& fill)
+std::vector<HatchPiece> fillHatch(const HatchFill& fill, Missing& missing)
 {
     const std::vector<const HatchRow*> rows = rowsOf(fill);
     if (rows.empty() || fill.boundary.empty()) return {};
@@ -67,14 +68,18 @@ std::vector<HatchPiece> fillHatch(const HatchFill& fill)
     const Tile tile{firstPoint(fill), std::abs(fill.scale * rows.front()->hatchTileW),
                     std::abs(fill.scale * rows.front()->hatchTileH)};
     const HatchGrid grid = hatchGrid(polygon, tile);
-    const std::vector<HatchCell> cells = reachedCells(polygon, grid);
+    // Beyond a table's worth cells are listed to be counted, as far as that is no more work than filling one.
+    const std::size_t mostCells = std::max(hatchTableRows, hatchRowsCounted / rows.size());
+    const std::vector<HatchCell> cells = reachedCells(polygon, grid, mostCells);
     if (cells.empty()) return {};
     HatchClip clip(polygon, grid);
     clip.expect(cells.size() * rows.size()); // 30,001 times 1,000 at the most
-    for (const HatchCell& cell : cells) {
-        for (const HatchRow* row : rows) clipRow(clip, *row, originIn(cell, *row), fill.scale);
-        if (clip.isFull()) break;
+    for (std::size_t i = 0; i < cells.size() && !clip.isSpent(); ++i) {
+        if (i == hatchTableRows) clip.close(); // further cells have no place in their table
+        for (const HatchRow* row : rows) clipRow(clip, *row, originIn(cells[i], *row), fill.scale);
     }
+    missing.pieces += clip.dropped();
+    missing.orMore = missing.orMore || clip.isSpent() || cells.size() == mostCells;
     return clip.take();
 }
 

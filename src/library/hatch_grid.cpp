@@ -194,7 +194,7 @@ HatchGrid hatchGrid(const Polygon& polygon, const Tile& tile)
             GridLines(extentInX(overDiagonal(polygon)), tile.corner.y, tile.height)};
 }
 
-std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& grid)
+std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& grid, std::size_t most)
 {
     std::vector<HatchCell> reached;
     if (grid.uprights.areNone() || grid.levels.areNone()) return reached;
@@ -202,12 +202,12 @@ std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& gri
     const LevelSpans levels(polygon, grid);
     std::vector<Column> columns;
     double row = grid.levels.first();
-    while (!grid.levels.isLast(row) && reached.size() < hatchTableRows) {
+    while (!grid.levels.isLast(row) && reached.size() < most) {
         const double next = grid.levels.after(row);
         const float top = grid.levels.at(row), bottom = grid.levels.at(next);
         columns.clear();
-        levels.addColumns(top, hatchTableRows - reached.size(), columns);
-        levels.addColumns(bottom, hatchTableRows - reached.size(), columns);
+        levels.addColumns(top, most - reached.size(), columns);
+        levels.addColumns(bottom, most - reached.size(), columns);
         uprights.addColumns(top, bottom, columns);
         sortOnce(columns);
         for (const Column& column : columns) reached.push_back({column.left, top, column.right, bottom});
@@ -215,7 +215,7 @@ std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& gri
         const bool isIdle = columns.empty() && levels.endBefore(bottom);
         row = isIdle ? std::max(next, grid.levels.upTo(uprights.nextLow())) : next;
     }
-    reached.resize(std::min(reached.size(), hatchTableRows));
+    reached.resize(std::min(reached.size(), most));
     return reached;
 }
 

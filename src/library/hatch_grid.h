@@ -10,8 +10,11 @@
 
 namespace mirtane {
 
-// No table of a fill has more rows; what comes behind is dropped without a word.
+// No table of a fill has more rows; what comes behind is dropped.
 inline constexpr std::size_t hatchTableRows = 30001;
+
+// So far are dropped pieces counted, those taken included: no drawing has room for more.
+inline constexpr std::size_t hatchRowsCounted = 2 * hatchTableRows;
 
 // The distances of the lines, world units, and where they are counted from.
 struct Tile {
@@ -58,7 +61,8 @@ struct HatchCell {
 };
 
 // The cells of which some side is in part, in more than a point, inside the polygon: row by row from the top,
-// each from the left. A polygon within one cell reaches none.
-std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& grid);
+// each from the left. A polygon within one cell reaches none. At the most so many are given as asked for.
+std::vector<HatchCell> reachedCells(const Polygon& polygon, const HatchGrid& grid,
+                                    std::size_t most = hatchTableRows);
 
 } // namespace mirtane

@@ -1,5 +1,6 @@
 #include "model/insertion.h"
 
+#include "model/missing.h"
 #include "text/numbers.h"
 
 namespace mirtane {
@@ -171,7 +172,8 @@ void commitSlot(Session& s)
 void updateGauge(Session& s)
 {
     std::string percent = formatNumber(s.store.entCount / slotsPerPercent, NumberFormat::paddedThousandths);
-    if (s.store.entCount >= warnFromCount) {
+    // What is missing says more than the warning that it may come to that.
+    if (s.store.entCount >= warnFromCount && !tellsMissing(s.controls)) {
         setText(s.controls["entry"_c], "You are out of memory! Save and exit now.");
     }
     if (s.numComma == 1) percent = withComma(percent);

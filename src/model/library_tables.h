@@ -68,10 +68,13 @@ template <class Row> struct LibraryTable {
     std::span<Row> used() { return std::span(rows).first(end()); }
     std::span<const Row> used() const { return std::span(rows).first(end()); }
 
-    void add(Row row)
+    // False for a row that is dropped.
+    bool add(Row row)
     {
-        if (count < rowLimit) rows[static_cast<std::size_t>(count)] = std::move(row); // never negative
+        const bool fits = count < rowLimit;
+        if (fits) rows[static_cast<std::size_t>(count)] = std::move(row); // never negative
         ++count;
+        return fits;
     }
 
     std::vector<Row> rows;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,9 @@ template <std::integral Whole> std::string plainNumber(Whole value)
 {
     return std::to_string(value);
 }
+
+// A count with a "," before each group of three digits: "8,412".
+std::string withThousands(std::int64_t count);
 
 // How many places a number is shown with, and how many zeros stand before its point at the least.
 enum class NumberFormat {

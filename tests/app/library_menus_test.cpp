@@ -436,6 +436,120 @@ TEST(LibraryMenus, OnceNamedAReleasedConstructionLineIsTheReferencePoint)
     EXPECT_FLOAT_EQ(desk.s.multipleLinesLibrary.rows[0].m1, 7);
 }
 
+TEST(LibraryMenus, AHatchSavedWhileOneIsPlacedStaysTheCurrentOne)
+{
+    for (const bool fails : {false, true}) {
+        for (const int row : {0, 1}) {
+            LibraryDesk desk;
+            desk.create(hatches, "one");
+            desk.create(hatches, "two");
+            desk.press(hatches.place);
+            desk.choose(1);
+            desk.click(2000, 2000);
+            desk.disk.refusesWrites = fails;
+            desk.press(hatches.save);
+            desk.choose(row);
+            desk.press("frmfile.Command1"_c);
+            if (fails) desk.press("frmfile.Command2"_c);
+            EXPECT_EQ(desk.s.hatchName, row == 0 ? "one" : "two") << fails;
+            const std::int32_t slots = desk.s.store.entCount;
+            desk.fillSquare();
+            EXPECT_EQ(desk.s.curFunc, "Place Hatch") << fails;
+            EXPECT_GT(desk.s.store.entCount, slots + 50) << fails;
+        }
+    }
+}
+
+TEST(LibraryMenus, AHatchSavedBetweenTwoBoundariesOrDuringAMeasureStaysTheCurrentOne)
+{
+    for (const bool measures : {false, true}) {
+        LibraryDesk desk;
+        desk.create(hatches, "one");
+        desk.press(hatches.place);
+        desk.choose(0);
+        desk.fillSquare();
+        if (measures) desk.press("ut3"_c);
+        desk.saveFirst(hatches);
+        desk.cancel(); // the next boundary begins where the last one ended
+        const std::int32_t slots = desk.s.store.entCount;
+        desk.fillSquare();
+        EXPECT_GT(desk.s.store.entCount, slots + 50) << measures;
+    }
+}
+
+// The desk's drawing full up to a number of free slots.
+void fillTable(LibraryDesk& desk, std::int32_t freeSlots)
+{
+    desk.s.store.entCount = EntityStore::slotCount - freeSlots;
+}
+
+TEST(LibraryMenus, WhatTheTableCouldNotTakeWholeIsSaidAfterTheWarningThatItIsFull)
+{
+    LibraryDesk desk;
+    desk.drawLine(1000, 1020, 1100, 1020);
+    desk.s.store.setStat(2, Stat::sel);
+    desk.create(multipleLines, "wall");
+    desk.s.store.setStat(2, Stat::sel);
+    desk.create(associates, "pair");
+    desk.create(hatches, "lines");
+    fillTable(desk, 1);
+
+    desk.press(associates.place);
+    desk.choose(0);
+    desk.click(2000, 2000);
+    EXPECT_EQ(desk.text("entry"_c), "The table is full: 1 piece is missing");
+    EXPECT_EQ(desk.text("memy"_c), "100.003");
+
+    desk.press(multipleLines.place);
+    desk.choose(0);
+    for (const Point p : {Point{2100, 2000}, {2500, 2000}, {2500, 2600}}) desk.click(p.x, p.y);
+    EXPECT_EQ(desk.text("entry"_c), "The table is full: 2 pieces are missing");
+    desk.cancel();
+
+    desk.press(hatches.place);
+    desk.choose(0);
+    desk.fillSquare();
+    EXPECT_TRUE(desk.text("entry"_c).starts_with("The table is full: 2")) << desk.text("entry"_c);
+    EXPECT_TRUE(desk.text("entry"_c).ends_with(" pieces are missing"));
+    desk.click(1, 1);
+    EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.") << "of the next click";
+}
+
+TEST(LibraryMenus, AFileThatTheTableCouldNotTakeWholeSaysSo)
+{
+    struct Row {
+        const LibraryCase& library;
+        std::int32_t taken; // rows or slots, before three pieces are opened
+        const char* said;
+    };
+    const Row rows[] = {
+        {hatches, 998, "The table is full: 1 piece is missing"},
+        {hatches, 2000, "The table is full: 3 pieces are missing"},
+        {hatches, 997, ""},
+        {multipleLines, 999, "The table is full: 2 pieces are missing"},
+        {multipleLines, 997, ""},
+        {associates, 60000, "The table is full: 2 pieces are missing"},
+        {associates, 60001, "The table is full: 3 pieces are missing"},
+        {associates, 1, ""},
+    };
+    for (const Row& row : rows) {
+        LibraryDesk desk;
+        for (int i = 0; i < 2; ++i) desk.drawLine(1000, 1020, 1100, 1020);
+        for (const std::int32_t slot : {2, 3}) desk.s.store.setStat(slot, Stat::sel);
+        desk.create(row.library, "three");
+        desk.saveFirst(row.library);
+        desk.removeFirst(row.library);
+        desk.s.hatchLibrary.count = desk.s.multipleLinesLibrary.count = desk.s.store.entCount = 1;
+        (&row.library == &hatches         ? desk.s.hatchLibrary.count
+         : &row.library == &multipleLines ? desk.s.multipleLinesLibrary.count
+                                          : desk.s.store.entCount) = row.taken;
+        setText(desk.s.controls["entry"_c], "");
+        desk.openLibrary(row.library, "three");
+        EXPECT_FALSE(desk.visible("frmfile"_c)) << row.library.select << " " << row.taken;
+        EXPECT_EQ(desk.text("entry"_c), row.said) << row.library.select << " " << row.taken;
+    }
+}
+
 TEST(LibraryMenus, ADrawingOpenedAsAnAssociateIsNone)
 {
     LibraryDesk desk;

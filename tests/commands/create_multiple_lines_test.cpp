@@ -193,6 +193,27 @@ TEST(CreateMultipleLines, StopsAtOnceWhenTheTableIsFull)
     EXPECT_TRUE(creation.s.controls["List1"_c].rows.empty());
 }
 
+TEST(CreateMultipleLines, SaysHowManyLinesTheTableHadNoRoomFor)
+{
+    struct Row {
+        std::int32_t count; // rows in use, of 1,000
+        const char* said;   // with twelve lines
+    };
+    const Row rows[] = {{987, ""},
+                        {988, ""},
+                        {989, "The table is full: 1 piece is missing"},
+                        {995, "The table is full: 7 pieces are missing"},
+                        {1000, "The table is full: 12 pieces are missing"},
+                        {1700, "The table is full: 12 pieces are missing"}};
+    for (const Row& row : rows) {
+        Creation creation;
+        creation.s.multipleLinesLibrary.count = row.count;
+        for (int i = 0; i < 12; ++i) creation.line({0, 110}, {50, 110});
+        creation.click({0, 100});
+        EXPECT_EQ(creation.s.controls["entry"_c].text, row.said) << row.count;
+    }
+}
+
 TEST(CreateMultipleLines, ALineOfNoLengthGivesNoDirectionAndDoesNoHarm)
 {
     Creation creation;

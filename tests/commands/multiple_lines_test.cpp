@@ -449,6 +449,23 @@ TEST(MultipleLines, PointsOnOneSpotDoNoHarm)
     }
 }
 
+TEST(MultipleLines, ACornerSaysHowManyOfItsLinesTheTableHadNoRoomFor)
+{
+    struct Row {
+        std::int32_t freeSlots; // of three lines
+        const char* said;
+    };
+    const Row rows[] = {{0, "The table is full: 3 pieces are missing"},
+                        {1, "The table is full: 2 pieces are missing"},
+                        {2, "The table is full: 1 piece is missing"}};
+    for (const Row& row : rows) {
+        Drawn run({10, 20, -5});
+        run.s.store.entCount = EntityStore::slotCount - row.freeSlots;
+        for (const Point p : {Point{0, 0}, {100, 0}, {100, 100}}) run.click(p);
+        EXPECT_EQ(run.s.controls["entry"_c].text, row.said) << row.freeSlots;
+    }
+}
+
 TEST(MultipleLines, AFullTableLosesLinesWithoutHarm)
 {
     Drawn run({10, 20});

@@ -51,6 +51,27 @@ TEST(CreateAssociate, TakesTheCoordinatesRelativeToTheReferencePoint)
     }
 }
 
+TEST(CreateAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
+{
+    struct Row {
+        std::int32_t freeSlots; // of 1,500 pieces
+        const char* said;
+    };
+    const Row rows[] = {{0, "The table is full: 1,500 pieces are missing"},
+                        {500, "The table is full: 1,000 pieces are missing"},
+                        {501, "The table is full: 999 pieces are missing"},
+                        {1499, "The table is full: 1 piece is missing"},
+                        {1500, ""}};
+    for (const Row& row : rows) {
+        CreateDesk desk;
+        for (int i = 0; i < 1500; ++i) desk.add(fake::circle({0, 0}, 1));
+        desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
+        desk.click(100, 200);
+        EXPECT_EQ(desk.text("entry"_c), row.said) << row.freeSlots;
+        EXPECT_EQ(desk.s.stepNo, 0);
+    }
+}
+
 TEST(CreateAssociate, KeepsTheOtherFieldsOfTheKind)
 {
     CreateDesk desk;

@@ -90,6 +90,37 @@ TEST(CreateHatch, TakesCirclesArcsAndPoints)
     EXPECT_EQ(desk.row(2).hatchRad, 0);
 }
 
+TEST(CreateHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
+{
+    struct Row {
+        std::int32_t count; // rows in use, of 1,000
+        const char* said;   // with 1,200 lines and a text, which is no piece
+    };
+    const Row rows[] = {{0, "The table is full: 200 pieces are missing"},
+                        {1000, "The table is full: 1,200 pieces are missing"},
+                        {5000, "The table is full: 1,200 pieces are missing"},
+                        {801, "The table is full: 1,001 pieces are missing"}};
+    for (const Row& row : rows) {
+        CreateDesk desk;
+        for (int i = 0; i < 1200; ++i) desk.add(fake::line({105, 215}, {125, 215}));
+        desk.add(fake::sampleOf(kind::text));
+        desk.s.hatchLibrary.count = row.count;
+        desk.tile();
+        EXPECT_EQ(desk.text("entry"_c), row.said) << row.count;
+    }
+    CreateDesk desk;
+    desk.add(fake::line({105, 215}, {125, 215}));
+    desk.add(fake::line({105, 216}, {125, 216}));
+    desk.s.hatchLibrary.count = 999;
+    desk.tile();
+    EXPECT_EQ(desk.text("entry"_c), "The table is full: 1 piece is missing");
+    CreateDesk fits;
+    fits.add(fake::line({105, 215}, {125, 215}));
+    fits.s.hatchLibrary.count = 999;
+    fits.tile();
+    EXPECT_EQ(fits.text("entry"_c), "");
+}
+
 TEST(CreateHatch, PassesOverOtherKindsAndWhatIsNotSelected)
 {
     CreateDesk desk;

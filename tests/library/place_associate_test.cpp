@@ -338,7 +338,32 @@ TEST(PlaceAssociate, AFullTableLosesObjectsWithoutHarm)
     desk.s.store.entCount = EntityStore::slotCount;
     desk.click(100, 100);
     EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 2);
-    EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.");
+}
+
+TEST(PlaceAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
+{
+    struct Row {
+        const char* what;
+        std::int32_t freeSlots; // of five pieces, one of them a text
+        bool reversed;
+        const char* said;
+    };
+    const Row rows[] = {
+        {"all of them", 0, false, "The table is full: 5 pieces are missing"},
+        {"some", 2, false, "The table is full: 3 pieces are missing"},
+        {"one", 4, false, "The table is full: 1 piece is missing"},
+        {"a reversed text is not missed", 3, true, "The table is full: 1 piece is missing"},
+        {"none, at the last slot", 5, false, "You are out of memory! Save and exit now."},
+    };
+    for (const Row& row : rows) {
+        PlaceDesk desk;
+        if (row.reversed) desk.reverse();
+        for (int i = 0; i < 4; ++i) desk.piece(fake::circle({0, 0}, 1));
+        desk.piece(fake::sampleOf(kind::text));
+        desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
+        desk.click(100, 100);
+        EXPECT_EQ(desk.text("entry"_c), row.said) << row.what;
+    }
 }
 
 TEST(PlaceAssociate, TheGhostFollowsThePointerOverTheCleanPicture)

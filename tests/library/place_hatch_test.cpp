@@ -194,6 +194,53 @@ TEST(PlaceHatch, FillsABoundaryOfAHundredEdgesAndRefusesOneMore)
     }
 }
 
+struct MissingRow {
+    const char* what;
+    std::int32_t freeSlots; // of the four pieces
+    const char* said;
+};
+
+constexpr MissingRow missingRows[] = {
+    {"all of them", 0, "The table is full: 4 pieces are missing"},
+    {"all but one", 1, "The table is full: 3 pieces are missing"},
+    {"one", 3, "The table is full: 1 piece is missing"},
+    {"none", 4, ""},
+};
+
+TEST(PlaceHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
+{
+    for (const MissingRow& row : missingRows) {
+        HatchDesk desk;
+        desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
+        desk.square();
+        EXPECT_EQ(desk.text("entry"_c), row.said) << row.what;
+    }
+}
+
+TEST(PlaceHatch, SaysHowManyPiecesAreBeyondAFillsOwnTable)
+{
+    struct Row {
+        float width, height; // of the boundary; the tile is 20 by 20 with a piece in each
+        const char* said;
+    };
+    const Row rows[] = {
+        {4000, 3000, ""},                                                           // 30,000
+        {4000, 3020, "The table is full: 199 pieces are missing"},                  // 30,200
+        {20, 640000, "The table is full: 1,999 pieces are missing"},                // 32,000
+        {5000, 4700, "The table is full: 28,749 pieces are missing"},               // 58,750
+        {100000, 100000, "The table is full: more than 30,001 pieces are missing"}, // 25,000,000
+    };
+    for (const Row& row : rows) {
+        HatchDesk desk;
+        for (const Point p :
+             {Point{0, 0}, {row.width, 0}, {row.width, row.height}, {0, row.height}, {0, 0}}) {
+            desk.click(p.x, p.y);
+        }
+        EXPECT_EQ(desk.text("entry"_c), row.said) << row.width << " " << row.height;
+        EXPECT_LE(desk.s.store.entCount, 30002) << row.width << " " << row.height;
+    }
+}
+
 TEST(PlaceHatch, RepaintsAllAndLeavesTheRubberBandPen)
 {
     HatchDesk desk;

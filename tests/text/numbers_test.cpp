@@ -273,5 +273,28 @@ TEST(WithComma, ReplacesEveryPoint)
     EXPECT_EQ(withComma(""), "");
 }
 
+TEST(WithThousands, SetsACommaBeforeEachGroupOfThree)
+{
+    struct Row {
+        std::int64_t count;
+        const char* shown;
+    };
+    const Row rows[] = {
+        {0, "0"},
+        {7, "7"},
+        {999, "999"},
+        {1000, "1,000"},
+        {8412, "8,412"},
+        {60001, "60,001"},
+        {999999, "999,999"},
+        {1000000, "1,000,000"},
+        {-4, "-4"},
+        {-999, "-999"},
+        {-1234567, "-1,234,567"},
+        {9223372036854775807, "9,223,372,036,854,775,807"},
+    };
+    for (const Row& row : rows) EXPECT_EQ(withThousands(row.count), row.shown);
+}
+
 } // namespace
 } // namespace mirtane
