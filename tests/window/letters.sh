@@ -20,7 +20,7 @@ start_program
 
 press $text
 press 300 300
-type_letters "Ø20 Ωä"
+type_letters "ø20 Ωä"
 until_true entry_speaks
 xdotool key Return
 sleep 0.2
@@ -53,7 +53,7 @@ xdotool type house
 xdotool key Return
 until_true no_window_called "Save File"
 until_true test -s "$OUT_DIR/house.mtd"
-for words in 'Ø20 ä' 'murés ß'; do in_file "$words" || fail "not in the file: $words"; done
+for words in 'ø20 ä' 'murés ß'; do in_file "$words" || fail "not in the file: $words"; done
 
 menu $file Up 1
 until_true program_ended
