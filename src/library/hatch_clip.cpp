@@ -69,8 +69,7 @@ Place higherOf(Place a, Place b)
 template <class Value> void sortOnce(std::vector<Value>& values)
 {
     std::ranges::sort(values);
-    const auto repeated = std::ranges::unique(values);
-    values.erase(repeated.begin(), repeated.end());
+    values.erase(std::unique(values.begin(), values.end()), values.end());
 }
 
 } // namespace

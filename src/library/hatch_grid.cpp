@@ -107,8 +107,9 @@ class LevelSpans {
     // Adds the columns along the spans on one level, of each span as many as there is room for.
     void addColumns(float level, std::size_t room, std::vector<Column>& columns) const
     {
-        for (const LineSpan& span : std::ranges::equal_range(spans_, level, {}, &LineSpan::line)) {
-            if (span.extent.low < span.extent.high) addColumnsAlong(span.extent, room, columns);
+        auto span = std::ranges::lower_bound(spans_, level, {}, &LineSpan::line);
+        for (; span != spans_.end() && span->line == level; ++span) {
+            if (span->extent.low < span->extent.high) addColumnsAlong(span->extent, room, columns);
         }
     }
 
@@ -134,8 +135,7 @@ class LevelSpans {
 void sortOnce(std::vector<Column>& columns)
 {
     std::ranges::sort(columns);
-    const auto repeated = std::ranges::unique(columns);
-    columns.erase(repeated.begin(), repeated.end());
+    columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
 }
 
 } // namespace

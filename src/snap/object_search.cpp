@@ -28,9 +28,9 @@ struct Limits {
     // No branch for each side: where an object lies can't be foretold.
     bool meetsBox(Point a, Point b) const
     {
-        const bool inX = (std::min(a.x, b.x) <= right) & (std::max(a.x, b.x) >= left);
-        const bool inY = (std::min(a.y, b.y) <= bottom) & (std::max(a.y, b.y) >= top);
-        return inX & inY;
+        const int inX = int{std::min(a.x, b.x) <= right} & int{std::max(a.x, b.x) >= left};
+        const int inY = int{std::min(a.y, b.y) <= bottom} & int{std::max(a.y, b.y) >= top};
+        return (inX & inY) != 0;
     }
 
     float room, left, top, right, bottom;
