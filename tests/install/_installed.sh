@@ -83,9 +83,7 @@ opens_library() {
     menu $associates Up 3
     until_true window_called "Open Associate"
     xdotool key Tab Tab Tab End Return
-    sleep 0.3
     press $second_folder
-    sleep 0.3
     press $first_file
     press $open_button
     until_true title_has "Place Associate"

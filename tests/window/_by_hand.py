@@ -1,15 +1,19 @@
 """Plays a .play file in the real window, with a pointer and keys, as a person at the desk would.
 
-_by_hand.py PLAY WINDOW PROCESS SOURCE: the window must stand at the upper left of the screen, with 4 world units to
-the pixel. It ends with a message and status 1 where the title does not tell of the function that should run.
+_by_hand.py PLAY WINDOW PROCESS SCREEN SOURCE: PROCESS and SCREEN are those of the program and of the display. The
+window must stand at the upper left of the screen, with 4 world units to the pixel. It ends with a message and status 1
+where the title does not tell of the function that should run.
 """
 
+import contextlib
+import glob
 import re
 import subprocess
 import sys
 import time
 
-PLAY, WINDOW, PROCESS, SOURCE = sys.argv[1:]
+PLAY, WINDOW, PROCESS, SCREEN, SOURCE = sys.argv[1:]
+CLICK = ("click", "--delay", 0)  # left to itself, xdotool sleeps for a tenth of a second
 DRAWING_LEFT, DRAWING_TOP, UNITS = 165, 28, 4
 PANEL_WIDTH, STATUS_HEIGHT = 216, 26
 
@@ -32,7 +36,27 @@ LIBRARY_OF = {"Command10": "sets", "ml3": "sets", "ml6": "sets", "ht3": "hatches
 
 
 def xdotool(*words):
-    return subprocess.run(["xdotool", *map(str, words)], check=True, capture_output=True, text=True).stdout
+    out = subprocess.run(["xdotool", *map(str, words)], check=True, capture_output=True, text=True).stdout
+    if words[0] not in ("search", "getwindowname", "getwindowgeometry"):
+        settle()
+    return out
+
+
+def activity():
+    """What all threads of the program and of its screen do, and how often each has woken up."""
+    found = []
+    for status in glob.glob(f"/proc/{PROCESS}/task/*/status") + glob.glob(f"/proc/{SCREEN}/task/*/status"):
+        with contextlib.suppress(OSError):
+            found += re.findall(r"^(?:State|.*ctxt_switches):.*", open(status, encoding="ascii").read(), re.M)
+    return found
+
+
+def settle():
+    """Waits until the program has done what came in: all sleep, and none has woken up from one look to the next."""
+    before, now = None, activity()
+    while before != now or any("(running)" in line or "(disk sleep)" in line for line in now):
+        time.sleep(0.005)
+        before, now = now, activity()
 
 
 def until(condition, what):
@@ -86,14 +110,13 @@ class Hand:
 
     def move(self, x, y):
         self.at(*self.pixel(x, y))
-        time.sleep(0.05)
 
     def click(self, x, y):
         self.at(*self.pixel(x, y))
-        self.at(*self.pixel(x, y), "click", 1)
+        self.at(*self.pixel(x, y), *CLICK, 1)
 
     def cancel(self, x, y):
-        self.at(*self.pixel(x, y), "click", 3)
+        self.at(*self.pixel(x, y), *CLICK, 3)
 
     def of_panel(self, x):
         return x + self.width - 1024
@@ -102,19 +125,17 @@ class Hand:
         self.library = LIBRARY_OF.get(name, self.library)
         self.naming = name in ("ml3", "ht5", "ass7")
         if name in BUTTONS:
-            self.at(*BUTTONS[name], "click", 1)
+            self.at(*BUTTONS[name], *CLICK, 1)
         elif name in FIELDS:
-            self.at(self.of_panel(FIELDS[name][0]), FIELDS[name][1], "click", 1)
+            self.at(self.of_panel(FIELDS[name][0]), FIELDS[name][1], *CLICK, 1)
         elif name.startswith("frmfilter."):
             self.press_in_filter(name)
         else:
             self.take_entry(MENUS[self.entries[name][0]], self.entries[name][1])
 
     def take_entry(self, x, downs):
-        self.at(x, 14, "click", 1)
-        time.sleep(0.2)
+        self.at(x, 14, *CLICK, 1)
         xdotool("key", *["Down"] * downs, "Return")
-        time.sleep(0.1)
 
     def press_in_filter(self, name):
         """Of its menus only that of the colours is used."""
@@ -125,16 +146,13 @@ class Hand:
             menu, downs = self.entries[name]
             self.in_filter(*FILTER[menu])
             xdotool("key", *["Down"] * (downs - 1), "Return")  # its heading is greyed
-            time.sleep(0.2)
 
     def in_filter(self, x, y):
         """As long as a hand holds it: the screen learns which window has the keys in the meantime."""
         geometry = xdotool("getwindowgeometry", "--shell", form(FILTER_NAME))
         left, top = (int(re.search(rf"^{side}=(-?\d+)", geometry, re.M)[1]) for side in ("X", "Y"))
         self.at(left + x, top + y, "mousedown", 1)
-        time.sleep(0.2)
         xdotool("mouseup", 1)
-        time.sleep(0.2)
 
     def pick(self, name, row):
         if name == "frmfilter.List1":
@@ -142,8 +160,7 @@ class Hand:
             self.in_filter(60, 68 + ROW_HEIGHT * int(row))
             return
         index = self.index_of(row[1:]) if row.startswith("=") else int(row)
-        self.at(self.of_panel(916), FIRST_ROW + ROW_HEIGHT * index, "click", 1)
-        time.sleep(0.05)
+        self.at(self.of_panel(916), FIRST_ROW + ROW_HEIGHT * index, *CLICK, 1)
 
     def index_of(self, text):
         return EDITS.index(text) if text in EDITS else self.names[self.library].index(text)
@@ -151,13 +168,10 @@ class Hand:
     def put(self, name, text):
         if name == "frmfile.Text1":
             until(lambda: form("^(Open|Save)"), "the file dialog")
-            time.sleep(0.3)
             if self.library:
                 self.names[self.library].append(text)
         elif name in FIELDS:
             self.press(name)
-        else:
-            time.sleep(0.1)
         xdotool("key", "ctrl+a")
         xdotool("type", "--delay", 20, "--", text)
 
@@ -169,7 +183,6 @@ class Hand:
 
     def enter(self):
         xdotool("key", "Return")
-        time.sleep(0.05)
 
     def backspace(self):
         xdotool("key", "BackSpace")
@@ -191,7 +204,6 @@ class Hand:
             until(lambda: not form("^(Open|Save) "), "the file dialog to go")
         elif question.startswith("get frmprintset.visible == true"):
             until(lambda: form("^Print$"), "the print form")
-            time.sleep(0.3)
 
 
 def play():

@@ -14,14 +14,12 @@ in_form() {
     local WINDOW X Y WIDTH HEIGHT SCREEN
     eval "$(xdotool getwindowgeometry --shell "$(xdotool search --all --onlyvisible --pid "$program" --name "$1")")"
     xdotool mousemove $((X + $2)) $((Y + $3)) mousedown 1
-    sleep 0.2
     xdotool mouseup 1
 }
 
 # confined X Y: moves there and clicks, so that the second point keeps to its axis.
 confined() {
     point "$1" "$2"
-    sleep 0.1
     press "$1" "$2"
 }
 
@@ -81,7 +79,6 @@ edit 330 62
 until_true title_has "Trim(Click near object to which to trim:)"
 press 620 400
 away
-sleep 0.3
 title_has "Trim(Click near object to which to trim:)" || fail "a click beside everything has ended the trim"
 press 546 220
 away

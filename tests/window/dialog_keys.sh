@@ -31,7 +31,6 @@ until_true window_called "Save File"
 xdotool key Tab Tab
 xdotool type pl
 xdotool key Return
-sleep 0.2
 xdotool key shift+Tab shift+Tab ctrl+a
 xdotool type beta
 import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/save.png"
@@ -47,7 +46,6 @@ until_true pixels_are $drawing 0
 menu $file Down 1
 until_true window_called "Open Drawing"
 xdotool key Tab Down
-sleep 0.2
 import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/open.png"
 xdotool key Return
 until_true no_window_called "Open Drawing"
@@ -60,9 +58,7 @@ until_true title_has untitled.mtd
 menu $file Down 1
 until_true window_called "Open Drawing"
 xdotool key Tab Tab Home Return
-sleep 0.2
 xdotool key shift+Tab End
-sleep 0.2
 import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/parent.png"
 xdotool key Tab Tab Tab Return
 until_true no_window_called "Open Drawing"

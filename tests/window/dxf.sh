@@ -26,7 +26,6 @@ until_true entry_speaks
 window_called "Save DXF" && fail "a DXF file was offered without a selection"
 
 press $select_last
-sleep 0.2
 menu $utilities Up 1
 until_true window_called "Save DXF"
 xdotool key ctrl+a
@@ -43,7 +42,6 @@ import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/save_changes.png"
 xdotool key Tab Tab Tab Tab Tab Return
 until_true window_called "Open DXF"
 press $first_file
-sleep 0.2
 import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/open_dxf.png"
 press $open_button
 until_true no_window_called "Open DXF"

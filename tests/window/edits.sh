@@ -17,14 +17,12 @@ in_form() {
     local WINDOW X Y WIDTH HEIGHT SCREEN
     eval "$(xdotool getwindowgeometry --shell "$(xdotool search --all --onlyvisible --pid "$program" --name "$1")")"
     xdotool mousemove $((X + $2)) $((Y + $3)) mousedown 1
-    sleep 0.2
     xdotool mouseup 1
 }
 
 # confined X Y: moves there and clicks, so that the second point keeps to its axis.
 confined() {
     point "$1" "$2"
-    sleep 0.1
     press "$1" "$2"
 }
 
@@ -93,7 +91,6 @@ row 3
 until_true title_has "Copy(Enter reference point:)"
 press 310 228
 point 310 328
-sleep 0.1
 number 10
 until_true title_has "(Left click for another copy:)"
 press 500 600
@@ -170,12 +167,9 @@ picture concentric
 select_in 170 200 450 400
 edit 2 3
 until_true window_called "Change Properties"
-sleep 0.2
 in_form "Change Properties" 90 13
-sleep 0.2
 for _ in 1 2 3 4; do xdotool key Down; done
 xdotool key Return
-sleep 0.2
 picture change
 in_form "Change Properties" 278 372
 until_true no_window_called "Change Properties"
@@ -193,7 +187,6 @@ row 13
 away
 until_true pixels_are $drawing 202
 row 13
-sleep 0.2
 pixels_are $drawing 202 || fail "a delete of nothing has deleted something"
 
 # Layers: a new line on layer 3 goes and comes with it, and never while it is the working one.
@@ -208,7 +201,6 @@ until_true pixels_are $drawing 403
 menu $layers Down 4
 row 3
 away
-sleep 0.2
 pixels_are $drawing 403 || fail "the working layer was hidden"
 menu $layers Down 1
 row 1
@@ -235,7 +227,6 @@ press $box
 number walls
 until_true row_is_other 3 "$unnamed"
 away
-sleep 0.2
 named=$(row_look 3)
 menu $layers Down 7
 number roof

@@ -33,7 +33,6 @@ until_true looks_other "$zero" $ortho_text
 press 500 600 3
 press 300 400
 point 400 310
-sleep 0.1
 press 400 310
 press 600 600 3
 point 620 620

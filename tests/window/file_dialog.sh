@@ -19,7 +19,6 @@ until_true pixels_are $drawing 201
 menu $file Up 1
 until_true window_called "Save Changes"
 xdotool key Escape
-sleep 0.2
 window_called "Save Changes" || fail "Escape has closed the dialog"
 xdotool key ctrl+a
 xdotool type barn

@@ -25,7 +25,6 @@ start_program
 [ "$(bright $entry_text)" = 0 ] || fail "entry isn't empty at the start"
 menu $help_menu Down 1
 until_true window_called "Mirtane 4.00 Help"
-sleep 0.3
 [ "$(bright $page_text)" = 0 ] || fail "the form shows something, although the manual is missing"
 xdotool windowmove "$(help_form)" 0 100 # it hides what entry says
 until_true brighter_than 100 $entry_text
@@ -49,7 +48,6 @@ import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/help.png"
 first=$(look $page_text)
 xdotool type abc
 xdotool key BackSpace Delete Return
-sleep 0.3
 looks_other "$first" $page_text && fail "the manual has been written into"
 xdotool key Next
 until_true looks_other "$first" $page_text

@@ -3,21 +3,18 @@
 # again, exported and printed. The window is so large that a pixel is 4 units all along, as when it starts.
 set -eu
 here=$(dirname "$0")
-if [ -z "${HOUSE_DISPLAY:-}" ]; then
-    exec env HOUSE_DISPLAY=1 xvfb-run --auto-servernum \
-        --server-args="-screen 0 2800x1700x24 -dpi 96 -noreset" bash "$0"
-fi
 . "$here/_window.sh"
 
 source_dir=$here/../..
 drawing="165 28 1029 772"
+screen_size=2800x1700
 
 open_display
 cp "$source_dir"/data/libraries/*.mt? "$OUT_DIR/"
 start_program
 xdotool windowsize "$window" 2790 1670
-sleep 0.5
-python3 "$here/_by_hand.py" "$source_dir/data/samples/house.play" "$window" "$program" "$source_dir" ||
+sleep 0.5 # the program itself waits for the size to rest
+python3 "$here/_by_hand.py" "$source_dir/data/samples/house.play" "$window" "$program" "$screen" "$source_dir" ||
     fail "the house was not drawn"
 
 until_true test -s "$OUT_DIR/house.pdf"
@@ -28,9 +25,8 @@ grep -q EOF "$OUT_DIR/house.dxf" || fail "the DXF file has no end"
 
 # The picture of a whole window of common size.
 xdotool windowsize "$window" 1410 826
-sleep 0.5
+sleep 0.5 # the program itself waits for the size to rest
 press 27 391
 until_true pixels_over $drawing 20000
 point 700 800
-sleep 0.3
 import -window root -crop 1410x826+0+0 +repage "$OUT_DIR/house.png"

@@ -20,7 +20,6 @@ first_row() { press 916 380; }
 # confined X Y: moves there and clicks, so that the point keeps to its axis.
 confined() {
     point "$1" "$2"
-    sleep 0.1
     press "$1" "$2"
 }
 level_line() {
@@ -61,7 +60,6 @@ until_true pixels_are $drawing 62
 
 # Nothing is made of nothing.
 menu $hatch Down 3
-sleep 0.3
 title_has "Create Hatch" && fail "a hatch was begun without a selection"
 
 # Hatch: a tile of 30 by 30 pixels with two lines; four rows of tiles fill the square with eight lines.
@@ -142,7 +140,6 @@ picture multiple_lines
 menu $utilities Down 2
 until_true title_has "Measure Area(Enter first point on boundary:)"
 away
-sleep 0.2
 letters_over 40 && fail "there is a text in entry before anything was measured"
 square "Measure Area(Enter next point on boundary)"
 until_true letters_over 100

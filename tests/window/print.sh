@@ -7,7 +7,6 @@ line="27 69" circle="64 69" select_window="64 238" file=27
 
 confined() {
     point "$1" "$2"
-    sleep 0.1
     press "$1" "$2"
 }
 
@@ -28,7 +27,6 @@ press_cancel() {
     local WINDOW X Y WIDTH HEIGHT SCREEN
     eval "$(xdotool getwindowgeometry --shell "$(xdotool search --all --onlyvisible --pid "$program" --name '^Print$')")"
     xdotool mousemove $((X + WIDTH - 40)) $((Y + HEIGHT - 28)) mousedown 1
-    sleep 0.2
     xdotool mouseup 1
 }
 
@@ -41,7 +39,6 @@ select_all() {
 print() {
     menu $file Down "$print_entry"
     until_true window_called '^Print$'
-    sleep 0.3
 }
 # page NAME: the file as a picture of 72 dots to the inch, the program's name in its corner whitened.
 page() {
@@ -74,14 +71,11 @@ print
 form_look fitted
 xdotool key ctrl+a
 xdotool type 40
-sleep 0.3
 until_true pages_differ fitted smaller
 xdotool key ctrl+a
 xdotool type 1
-sleep 0.3
 until_true pages_differ smaller refused
 xdotool key Return
-sleep 0.3
 window_called '^Print$' || fail "a value below the fitted one was taken"
 [ ! -e "$OUT_DIR/untitled.pdf" ] || fail "a page for a value that is refused"
 press_cancel

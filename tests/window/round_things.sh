@@ -16,7 +16,6 @@ choose() {
 # take X Y: a click with the pointer there beforehand, so that ortho knows the way.
 take() {
     point "$1" "$2"
-    sleep 0.1
     press "$1" "$2"
 }
 
@@ -69,9 +68,7 @@ until_true title_has "(Enter radius of arc:)"
 take 700 140
 until_true title_has "(Enter end of arc:)"
 point 695 110
-sleep 0.1
 point 670 90
-sleep 0.1
 take 640 80
 until_true title_has "(Enter center of arc:)"
 point 400 400
@@ -142,6 +139,5 @@ for left in 7 6 5 4 3 2 1 0; do
 done
 for _ in 1 2 3 4 5 6 7 8; do
     xdotool key ctrl+y
-    sleep 0.1
 done
 until_true pixels_are $drawing "$shown"

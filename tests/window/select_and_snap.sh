@@ -20,7 +20,6 @@ picture() { import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/$1.png"; }
 # confined X Y: moves there and clicks, so that the second point keeps to its axis.
 confined() {
     point "$1" "$2"
-    sleep 0.1
     press "$1" "$2"
 }
 
@@ -30,7 +29,6 @@ in_form() {
     local WINDOW X Y WIDTH HEIGHT SCREEN
     eval "$(xdotool getwindowgeometry --shell "$(xdotool search --all --onlyvisible --pid "$program" --name "$1")")"
     xdotool mousemove $((X + $2)) $((Y + $3)) mousedown 1
-    sleep 0.2
     xdotool mouseup 1
 }
 
@@ -82,7 +80,6 @@ pixels_are 355 129 100 170 0 || fail "something stands between the two"
 # A refused snap changes nothing: no perpendicular before the line has begun.
 press 27 333
 point 600 650
-sleep 0.2
 looks_like "$unnamed" $snap_label || fail "perpendicular was armed before the first click"
 
 # A pick turns the line dotted, a second turns it back; beyond its end nothing is picked.
@@ -94,12 +91,10 @@ dotted() { [ "$(pixels 350 129 1 172)" -lt 130 ]; }
 until_true dotted
 press 350 304
 point 600 650
-sleep 0.2
 dotted || fail "a click beyond the end has unmarked the line"
 picture selected
 press 600 600 3
 until_true window_called Edits
-sleep 0.2
 picture edits
 press 600 650
 until_true no_window_called Edits
@@ -108,7 +103,6 @@ press 353 220
 point 600 650
 until_true pixels_are 350 128 1 173 173
 press 600 600 3
-sleep 0.3
 no_window_called Edits || fail "the edits come up with nothing selected"
 
 # A window takes what lies wholly inside; Deselect All, then Delete, in the form; Ctrl+Z brings back what was deleted.
@@ -143,12 +137,9 @@ until_true pixels_are $drawing 817
 filter_to() {
     press $filter
     until_true window_called "Filter Settings"
-    sleep 0.2
     in_form "Filter Settings" 36 13
-    sleep 0.2
     for ((i = 0; i < $1; ++i)); do xdotool key Down; done
     xdotool key Return
-    sleep 0.2
     picture "filter$1"
     in_form "Filter Settings" 278 372
     until_true no_window_called "Filter Settings"
@@ -159,7 +150,6 @@ filter_to() {
 }
 filter_to 2
 until_true title_has "Window Select Filtered(Place window around objects:)"
-sleep 0.2
 pixels_are 350 128 1 173 173 || fail "a filter for circles has selected a line"
 filter_to 1
 until_true dotted
@@ -190,7 +180,6 @@ press 469 250
 confined 600 250
 press 600 600 3
 point 600 650
-sleep 0.3
 picture shift
 pixels_are 469 250 132 1 132 || fail "the line does not begin where the pointer was"
 pixels_are 466 250 3 1 0 || fail "Shift, let go in a field, still snaps"

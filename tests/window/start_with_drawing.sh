@@ -25,7 +25,6 @@ cp sheet.mtd "plans/my sheet.mtd"
 cp -- sheet.mtd ./--help.mtd
 
 launch ./mirtane
-sleep 0.5
 pixels_are $drawing 0 || fail "the drawing isn't empty at the start"
 empty=$(look $drawing)
 menu $file Down 1
@@ -35,7 +34,6 @@ xdotool key Return
 until_true title_has sheet.mtd
 until_true no_window_called "Open Drawing"
 until_true pixels_over $drawing 20000
-sleep 0.3
 opened=$(look $drawing)
 leave
 

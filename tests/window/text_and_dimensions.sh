@@ -16,13 +16,11 @@ looks_other() { [ "$(look "$2" "$3" "$4" "$5")" != "$1" ]; }
 snap() {
     press $snap_point
     press "$1" "$2"
-    sleep 0.1
 }
 # line WORDS: typed and placed.
 line() {
     type_letters "$1"
     xdotool key Return
-    sleep 0.1
 }
 rotation() {
     press $turn
@@ -99,7 +97,6 @@ for ((column = 0; column < 3; ++column)); do
     press $((x + 60)) 376
     until_true title_has "(Enter shoulder point:)"
     point $((x + 120)) 290
-    sleep 0.1
     press $((x + 120)) 285
     until_true title_has "(Click near circle or arc:)"
     bright $((x + 121)) 278 60 14 30
@@ -144,7 +141,6 @@ until_true title_has "Text Edit(Click near upper-left of text:)"
 # The letters are in the file as they were typed, one byte each; what was replaced is not.
 menu $file Down 3
 until_true window_called "Save"
-sleep 0.2
 xdotool key Return
 until_true test -s "$OUT_DIR/untitled.mtd"
 for words in 'Größe ø5 çà ü' 'second ñ' 'wäre 2'; do
