@@ -4,6 +4,7 @@
 #include "app/construction_line.h"
 #include "app/dispatch.h"
 #include "app/edit_list.h"
+#include "app/endings.h"
 #include "app/fields.h"
 #include "app/file_dialog.h"
 #include "app/file_menus.h"
@@ -33,10 +34,8 @@ template <void (*zoom)(Session&, Canvas&)> void zoomAction(App& app, ControlId)
 
 void startZoomWindow(App& app, ControlId)
 {
-    Session& s = app.s;
-    // A window of the selection that has its first corner begins anew, and the title that comes back says so.
-    if (s.windowStep > 0 && isWindowFunction(s.curFunc) && !zoomWindowIsOn(s)) showPromptOfStep(s, 0);
-    zoomWindowStart(s, app.pic1);
+    beginWindowAnew(app.s); // so that the prompt that comes back is true
+    zoomWindowStart(app.s, app.pic1);
 }
 
 template <bool (*flip)(EntityStore&, UndoLog&)> void undoAction(App& app, ControlId)

@@ -2,6 +2,7 @@
 
 #include "app/construction_line.h"
 #include "app/dispatch.h"
+#include "app/endings.h"
 #include "app/selection.h"
 #include "commands/kept_letters.h"
 #include "commands/live_text.h"
@@ -9,7 +10,6 @@
 #include "commands/vocabulary.h"
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
-#include "library/boundary.h"
 #include "model/insertion.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -21,10 +21,6 @@ namespace {
 
 constexpr int leftButton = 1;
 constexpr int rightButton = 2;
-
-// A parked point lies this far (world units, both ways) from the first one, so that the first click of the
-// next action is not taken for a second click on the same spot.
-constexpr float parkedAway = 200;
 
 bool takesWindow(const Session& s)
 {
@@ -153,19 +149,12 @@ void cancel(Session& s, Canvas& pic1, Point at)
     s.liveAngle = 0;
     s.workAngle = 0;
     s.controls["snaplab"_c].caption.clear();
-    s.controls["blank"_c].caption = "Blank/Off";
     setText(s.controls["snapbox"_c], "");
-    s.pickLast = {s.pickFirst.x + parkedAway, s.pickFirst.y + parkedAway};
-    s.stepNo = 0;
-    s.windowStep = 0;
-    s.textLength = 0;
-    dropBoundary(s);
-    s.pointWasSnapped = false;
+    parkPickLast(s);
+    forgetWhatIsBegun(s);
     setRubberBandPen(pic1);
     s.curFunc = s.baseFunc;
     resetPicture(pic1);
-    s.orthoAngle = s.orthoAngleSaved;
-    s.controls["freecurs"_c].caption = s.orthoCaption;
     setPrompt(s, pic1);
     if (s.curFunc == "Text Edit" || s.editPending == 1) {
         endSelection(s, pic1);

@@ -1,6 +1,7 @@
 #include "app/construction_line.h"
 
 #include "app/dispatch.h"
+#include "app/endings.h"
 #include "commands/vocabulary.h"
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
@@ -18,12 +19,11 @@ void disarmSnap(Session& s)
 
 void turnOn(Session& s, Canvas& pic1)
 {
+    beginWindowAnew(s);
     s.controls["blank"_c].caption = "Blank/On";
     s.blankStep = 0;
     resetPicture(pic1);
-    // A prompt shown meanwhile turns the caption off; the suspended function must not be lost to a second
-    // click.
-    if (s.curFunc != "Blank Line") s.blankSavedFunc = s.curFunc;
+    s.blankSavedFunc = s.curFunc;
     s.curFunc = "Blank Line";
 }
 

@@ -1,6 +1,7 @@
 #include "app/file_flows.h"
 
 #include "app/attribute_controls.h"
+#include "app/endings.h"
 #include "app/library_menus.h"
 #include "app/open_drawing.h"
 #include "commands/prompt.h"
@@ -30,9 +31,11 @@ bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
 {
     Session& s = app.s;
     if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
+    endWhatIsBegun(s, app.pic1);
     if (what == SaveWhat::drawing) takeFile(s, choice);
+    const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
     afterSave(s, what);
-    if (what == SaveWhat::selected) redrawAll(s, app.pic1);
+    if (marksGo) redrawAll(s, app.pic1);
     return true;
 }
 
@@ -55,6 +58,7 @@ bool openDrawingFile(App& app, const FileChoice& choice)
 {
     const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
     if (!file) return false;
+    endWhatIsBegun(app.s, app.pic1);
     forgetOwners(app.s.store);
     if (choice.caption == "Load Layer") {
         mergeDrawing(app, *file);
@@ -71,6 +75,7 @@ bool saveDxfFile(App& app, const FileChoice& choice)
     Session& s = app.s;
     const DxfFile file = dxfFile(s.store, app.dxfScratch);
     if (!app.ports.disk.writeWhole(pathOf(choice), file.bytes)) return false;
+    endWhatIsBegun(s, app.pic1);
     s.dxfName = choice.name;
     if (!file.whole) return true; // what can't be written ends the export there, and the selection stays
     changeStat(s.store, Stat::sel, Stat::on);
@@ -83,6 +88,7 @@ bool openDxfFile(App& app, const FileChoice& choice)
     Session& s = app.s;
     const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
     if (!file) return false;
+    endWhatIsBegun(s, app.pic1);
     s.dxfName = choice.name;
     s.drawingName = drawingNameOf(choice.name);
     s.drawingFile.clear();        // what may be there under that name is another drawing

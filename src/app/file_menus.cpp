@@ -1,5 +1,6 @@
 #include "app/file_menus.h"
 
+#include "app/endings.h"
 #include "app/file_dialog.h"
 #include "app/start_stop.h"
 #include "dxf/dxf_names.h"
@@ -63,7 +64,7 @@ void openFileFlow(App& app, ControlId entry)
 {
     const auto* const row = std::ranges::find(flowRows, entry, &FlowRow::entry);
     if (row == std::end(flowRows)) return;
-    if (row->needsSelection && countWithStat(app.s.store, Stat::sel) == 0) {
+    if (row->needsSelection && !hasSelection(app.s)) {
         setText(app.s.controls["entry"_c], "Nothing Selected!");
         return;
     }

@@ -109,6 +109,13 @@ void showChangeDialog(App& app)
     showDialog(app.s, changeTitle);
 }
 
+void closeChangeDialog(Session& s)
+{
+    if (!s.controls["frmfilter"_c].visible || !isChange(s)) return;
+    resetCriteria(s);
+    hideDialog(s);
+}
+
 void takeFilterKind(App& app, ControlId menu)
 {
     app.s.filterKind = static_cast<std::int16_t>(valueOf(kindRows, menu)); // 1 to 7

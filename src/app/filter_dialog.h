@@ -9,6 +9,9 @@ namespace mirtane {
 void showFilterDialog(App& app, ControlId);
 void showChangeDialog(App& app);
 
+// The dialog of a change goes with its function; the criteria keep nothing of it.
+void closeChangeDialog(Session& s);
+
 void takeFilterKind(App& app, ControlId menu);
 void takeFilterColor(App& app, ControlId menu);
 void takeFilterStyle(App& app, ControlId menu);

@@ -1,5 +1,6 @@
 #include "app/library_menus.h"
 
+#include "app/endings.h"
 #include "app/file_menus.h"
 #include "app/starters.h"
 #include "commands/kept_letters.h"
@@ -10,7 +11,7 @@
 #include "library/libraries.h"
 #include "model/insertion.h"
 #include "model/missing.h"
-#include "model/title.h"
+#include "model/shown_prompt.h"
 #include "render/redraw.h"
 #include "text/code_page.h"
 
@@ -121,10 +122,10 @@ void listLibrary(App& app, ControlId menu)
     const auto* const list = std::ranges::find(listMenus, menu, &ListMenu::menu);
     if (list == std::end(listMenus)) return;
     const LibraryRow* row = rowOfList(list->caption);
-    if (row == nullptr || !offerNames(s, row->library, list->caption)) return;
-    if (menu == "ht3"_c) {
-        s.controls["frmMain"_c].caption = mainTitle(s.drawingName, "Place Hatch(Select hatch from list:)");
-    }
+    if (row == nullptr || !hasLiveName(s, row->library)) return;
+    endWhatIsBegun(s, app.pic1);
+    offerNames(s, row->library, list->caption);
+    if (menu == "ht3"_c) showPrompt(s, row->function, "(Select hatch from list:)");
 }
 
 void chooseFromLibrary(App& app, int index)
@@ -143,6 +144,7 @@ void removeFromLibrary(App& app, int index)
     const LibraryRow* row = rowWith(&LibraryRow::remove, listCaption(s));
     const std::string name = nameAt(s, index);
     if (row == nullptr || name.empty()) return;
+    endWhatIsBegun(s, app.pic1);
     removeName(s, row->library, name);
     refillNames(s, row->library, row->remove);
 }
@@ -190,7 +192,7 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     const bool saved =
         app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
     if (!isBeingPlaced(s, *row)) name = noName;
-    s.stepNo = 0;
+    endWhatIsBegun(s, app.pic1);
     return saved;
 }
 
@@ -201,6 +203,7 @@ bool openLibraryFile(App& app, const FileChoice& choice)
     if (row == nullptr || hasName(app.s, row->library, name)) return false;
     const std::optional<Bytes> file = app.ports.disk.read(choice.folder + "/" + choice.name);
     if (!file) return false;
+    endWhatIsBegun(app.s, app.pic1);
     addToLibrary(app, *row, *file, name);
     return true;
 }

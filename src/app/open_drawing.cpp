@@ -1,7 +1,6 @@
 #include "app/open_drawing.h"
 
 #include "app/attribute_controls.h"
-#include "app/starters.h"
 #include "dxf/dxf_reader.h"
 #include "files/drawing_file.h"
 #include "geometry/fault.h"
@@ -39,7 +38,6 @@ void showTakenLayers(Session& s)
 void openDrawing(App& app, const Bytes& file)
 {
     Session& s = app.s;
-    dropWhatWasBegun(s, app.pic1);
     replaceDrawing(s, file);
     fitView(s, app.pic1);
     showTakenAttributes(app);
@@ -55,7 +53,6 @@ void openDrawing(App& app, const Bytes& file)
 void openDxf(App& app, const Bytes& file)
 {
     Session& s = app.s;
-    dropWhatWasBegun(s, app.pic1);
     forgetOwners(s.store);
     readDxf(s, file, textWidthOn(app.pic1));
     s.stepNo = 0;

@@ -1,7 +1,7 @@
 #include "app/print_dialog.h"
 
+#include "app/endings.h"
 #include "app/file_dialog.h"
-#include "app/starters.h"
 #include "app/typed_entry.h"
 #include "geometry/fault.h"
 #include "print/page.h"
@@ -93,7 +93,7 @@ void showScaleOfPicture(Session& s)
 void askForPrintScale(App& app, ControlId)
 {
     Session& s = app.s;
-    beginAnew(s, app.pic1);
+    endWhatIsBegun(s, app.pic1);
     s.printFactor = 1;
     if (countWithStat(s.store, Stat::sel) == 0) {
         setText(s.controls["entry"_c], "Nothing selected!");
@@ -121,7 +121,7 @@ void confirmPrint(App& app, ControlId)
     const double fitted = fittedScaleShown(s);
     if (typed < fitted) return;
     keep(s.printFactor, quotient(fitted, typed));
-    s.stepNo = 0;
+    endWhatIsBegun(s, app.pic1);
     printSelection(app);
     hideDialog(s);
 }

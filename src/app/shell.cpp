@@ -274,7 +274,6 @@ void Shell::settle(ControlId focusBefore)
     // A form that went from the screen takes no keys with it.
     if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = "pic1"_c;
     if (s_.controls.focus != focusBefore) leave(s_, focusBefore);
-    s_.controls["promptlab"_c].caption = s_.promptText;
     showArmedSnap(s_);
 }
 

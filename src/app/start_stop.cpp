@@ -2,9 +2,9 @@
 
 #include "app/actions.h"
 #include "app/attribute_controls.h"
+#include "app/endings.h"
 #include "app/file_dialog.h"
 #include "app/settings.h"
-#include "app/starters.h"
 #include "commands/prompt.h"
 #include "render/redraw.h"
 
@@ -71,10 +71,9 @@ bool hasUnsavedWork(const Session& s)
 
 void leaveProgram(App& app)
 {
-    app.s.stepNo = 0;
+    endWhatIsBegun(app.s, app.pic1);
     app.s.saveFollowUp = follow::exit;
     if (hasUnsavedWork(app.s)) {
-        beginAnew(app.s, app.pic1); // who then stays goes on so
         offerToSave(app, follow::exit);
     } else {
         endProgram(app);
@@ -91,7 +90,7 @@ void endProgram(App& app)
 void clearDrawing(App& app)
 {
     Session& s = app.s;
-    dropWhatWasBegun(s, app.pic1);
+    endWhatIsBegun(s, app.pic1);
     app.pic1.clear();
     app.pic1.clearSnapshot();
     s.store.entCount = 1;

@@ -1,6 +1,7 @@
 #include "app/text_menus.h"
 
 #include "app/attribute_controls.h"
+#include "app/endings.h"
 #include "app/selection.h"
 #include "app/starters.h"
 #include "commands/kept_letters.h"
@@ -86,6 +87,7 @@ bool holdsWords(std::int16_t kind)
 void changeSelectedFont(App& app, const std::string& font)
 {
     Session& s = app.s;
+    endWhatIsBegun(s, app.pic1);
     const auto rule = [&](EntityRecord r) {
         r.t2 = font;
         if (r.kind == kind::text) r.style = 0;
@@ -95,8 +97,6 @@ void changeSelectedFont(App& app, const std::string& font)
         runOnSelection(s, Sources::goOut, rule, holdsWords);
         endRun(s, app.pic1);
     }
-    s.curFunc = s.baseFunc;
-    setPrompt(s, app.pic1);
     showEditFunctions(s);
 }
 

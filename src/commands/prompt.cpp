@@ -2,7 +2,7 @@
 
 #include "commands/vocabulary.h"
 #include "geometry/fault.h"
-#include "model/title.h"
+#include "model/shown_prompt.h"
 #include "render/redraw.h"
 #include "text/measure.h"
 #include "text/numbers.h"
@@ -44,10 +44,12 @@ std::string currentNumber(const Session& s, PromptNumber number)
     return {};
 }
 
-void showInTitle(Session& s)
+std::string textOf(Session& s, const Prompt& prompt)
 {
-    s.controls["frmMain"_c].caption = mainTitle(s.drawingName, s.curFunc + s.promptText);
-    s.savedTitle = s.controls["frmMain"_c].caption; // what a Zoom Window that is still on goes back to
+    std::string text(prompt.text);
+    if (prompt.number == PromptNumber::none) return text;
+    setText(s.controls["Text3"_c], currentNumber(s, prompt.number));
+    return text + s.controls["Text3"_c].text + std::string(prompt.textBehind);
 }
 
 } // namespace
@@ -56,22 +58,14 @@ void showPromptOfStep(Session& s, std::int16_t stepNo)
 {
     const FunctionRow* row = findFunction(s.curFunc);
     const Prompt* prompt = row == nullptr ? nullptr : promptAt(row->prompts, stepNo);
-    if (prompt != nullptr) {
-        s.promptText = prompt->text;
-        if (prompt->number != PromptNumber::none) {
-            setText(s.controls["Text3"_c], currentNumber(s, prompt->number));
-            s.promptText += s.controls["Text3"_c].text;
-            s.promptText += prompt->textBehind;
-        }
-    }
-    showInTitle(s);
+    showPrompt(s, s.curFunc, prompt == nullptr ? s.functionPrompt.text : textOf(s, *prompt));
 }
 
 void setPrompt(Session& s, Canvas& pic1)
 {
     showPromptOfStep(s, s.stepNo);
     s.liveAngle = 0;
-    s.controls["blank"_c].caption = "Blank/Off";
+    s.controls["blank"_c].caption = s.curFunc == "Blank Line" ? "Blank/On" : "Blank/Off";
     s.controls["frmedit"_c].visible = false;
     if (s.baseFunc == s.lastFunc) return;
     s.lastFunc = s.baseFunc;

@@ -41,13 +41,19 @@ struct Attributes {
     std::string multipleLinesName{noName};
 };
 
+// A prompt and the function whose it is.
+struct FunctionPrompt {
+    std::string function, text;
+};
+
 struct FunctionState {
     std::string curFunc = "Line";  // the function that runs
     std::string baseFunc = "Line"; // the one that a cancel returns to
     std::string lastFunc = "Line"; // baseFunc as setPrompt last saw it
     std::int16_t stepNo = 0;       // clicks and entries taken so far
-    std::string promptText;
-    std::int16_t editPending = 0; // 1 while a function chosen from the edit list runs
+    std::string promptText;        // as shown
+    FunctionPrompt functionPrompt; // what is shown but while Zoom Window is on
+    std::int16_t editPending = 0;  // 1 while a function chosen from the edit list runs
 };
 
 // One click or entry more. At the end of its 16 bits the count stays as it is.
@@ -112,7 +118,6 @@ struct View {
     float pixelOriginX = 0, pixelOriginY = 0;
     float pixelPerUnitX = 0, pixelPerUnitY = 0;
     std::string savedPrompt; // caption of snaplab before Zoom Window
-    std::string savedTitle;  // caption of the main window before Zoom Window
 };
 
 // What follows once a drawing with unsaved work has been saved or given up.

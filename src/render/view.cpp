@@ -1,7 +1,7 @@
 #include "render/view.h"
 
 #include "geometry/fault.h"
-#include "model/title.h"
+#include "model/shown_prompt.h"
 #include "render/redraw.h"
 #include "render/text_painter.h"
 
@@ -25,7 +25,7 @@ void show(Session& s, Canvas& pic1, const Scale& scale)
 void endZoomWindow(Session& s)
 {
     s.controls["snaplab"_c].caption = s.savedPrompt;
-    s.controls["frmMain"_c].caption = s.savedTitle;
+    endPassingPrompt(s);
 }
 
 } // namespace
@@ -95,14 +95,11 @@ void pan(Session& s, Canvas& pic1, double widths, double heights)
 void zoomWindowStart(Session& s, Canvas& pic1)
 {
     // A second press must not take its own caption for the one to come back.
-    if (!zoomWindowIsOn(s)) {
-        s.savedPrompt = s.controls["snaplab"_c].caption;
-        s.savedTitle = s.controls["frmMain"_c].caption;
-    }
+    if (!zoomWindowIsOn(s)) s.savedPrompt = s.controls["snaplab"_c].caption;
     s.windowStep = 0;
     s.wholeViewFlag = 0;
     s.controls["snaplab"_c].caption = zoomWindowOn;
-    s.controls["frmMain"_c].caption = mainTitle(s.drawingName, "Zoom Window(Place window around area.)");
+    showPassingPrompt(s, "Zoom Window", "(Place window around area.)");
     resetPicture(pic1);
     pic1.refresh();
 }

@@ -145,6 +145,26 @@ bool isFunction(const std::string& name)
     return findFunction(name) != nullptr;
 }
 
+// One prompt, wherever it is shown.
+void checkPrompt(const Session& s, Faults& faults)
+{
+    faults.unless(s.controls["promptlab"_c].caption == s.promptText, "the prompt shown");
+    faults.unless(s.controls["frmMain"_c].caption.ends_with(s.promptText), "the prompt in the title");
+}
+
+// What the controls tell of what is under way.
+void checkUnderWay(const Session& s, Faults& faults)
+{
+    const bool blankIsOff = s.controls["blank"_c].caption == "Blank/Off";
+    faults.unless(blankIsOff == (s.curFunc != "Blank Line"), "the caption of blank");
+    const bool asksForCorner = s.promptText == "(Enter opposite corner of window:)";
+    const bool zooms = s.controls["snaplab"_c].caption == "Zoom Window is on:";
+    faults.unless(zooms || asksForCorner == (s.windowStep > 0), "windowStep");
+    const bool borrowsOrtho = s.curFunc == "Ellipse" || s.curFunc == "Blank Line";
+    faults.unless(borrowsOrtho || s.controls["freecurs"_c].caption == s.orthoCaption,
+                  "ortho is not given back");
+}
+
 void checkState(const Session& s, Faults& faults)
 {
     constexpr std::string_view styles[] = {"us", "2f", "3i", "br"};
@@ -155,7 +175,6 @@ void checkState(const Session& s, Faults& faults)
     faults.unless(s.windowStep >= 0 && s.windowStep <= 2, "windowStep");
     faults.unless(s.boundaryCount >= 0 && s.boundaryCount < std::ssize(s.boundary), "boundaryCount");
     faults.unless(std::ranges::find(styles, s.numStyle) != std::end(styles), "numStyle is " + s.numStyle);
-    faults.unless(s.controls["promptlab"_c].caption == s.promptText, "the prompt shown");
 }
 
 void checkNumbers(const Session& s, Faults& faults)
@@ -225,6 +244,8 @@ std::string faultOf(const Stage& stage, Manner manner)
     checkLibraries(s, manner, faults);
     checkControls(s, faults);
     checkState(s, faults);
+    checkPrompt(s, faults);
+    checkUnderWay(s, faults);
     checkView(stage, faults);
     if (manner != Manner::tame) return faults.first();
     checkNumbers(s, faults);

@@ -1,0 +1,24 @@
+#include "model/shown_prompt.h"
+
+namespace mirtane {
+
+void showPrompt(Session& s, std::string_view function, std::string_view text)
+{
+    s.functionPrompt = {std::string(function), std::string(text)};
+    endPassingPrompt(s);
+}
+
+void showPassingPrompt(Session& s, std::string_view doing, std::string_view text)
+{
+    s.promptText = text;
+    s.controls["promptlab"_c].caption = text;
+    s.controls["frmMain"_c].caption = "Mirtane 4.00    Drawing Name: " + s.drawingName +
+                                      "    Current Function: " + std::string(doing) + s.promptText;
+}
+
+void endPassingPrompt(Session& s)
+{
+    showPassingPrompt(s, s.functionPrompt.function, s.functionPrompt.text);
+}
+
+} // namespace mirtane

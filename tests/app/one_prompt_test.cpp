@@ -1,0 +1,109 @@
+// The title, the line below the drawing and the session never tell of two different prompts.
+
+#include "desk.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace mirtane {
+namespace {
+
+using fake::Desk;
+
+void expectOnePrompt(const Desk& desk, const std::string& doing, const std::string& prompt)
+{
+    EXPECT_EQ(desk.title(), fake::titleOf(doing + prompt));
+    EXPECT_EQ(desk.caption("promptlab"_c), prompt);
+    EXPECT_EQ(desk.s.promptText, prompt);
+}
+
+TEST(OnePrompt, OfTheListOfHatches)
+{
+    Desk desk;
+    desk.drawLine(100, 100, 400, 137);
+    desk.s.store.setStat(1, Stat::sel);
+    desk.press("ht5"_c);
+    desk.type("rows");
+    desk.enter();
+    desk.click(100, 100);
+    desk.click(420, 150);
+    desk.cancel();
+    desk.click(300, 410);
+    desk.press("ht3"_c);
+    expectOnePrompt(desk, "Place Hatch", "(Select hatch from list:)");
+    desk.press("Command43"_c);
+    expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+    desk.cancel();
+    expectOnePrompt(desk, "Place Hatch", "(Select hatch from list:)");
+    desk.shell.clickRow("List1"_c, 0);
+    expectOnePrompt(desk, "Place Hatch", "(Enter the first point on the boundary:)");
+}
+
+TEST(OnePrompt, OfZoomWindowFinishedCancelledAndEndedByASnap)
+{
+    using Way = void (*)(Desk&);
+    constexpr Way ways[] = {
+        [](Desk& desk) {
+            desk.click(20, 30);
+            desk.click(900, 700);
+        },
+        [](Desk& desk) { desk.cancel(); },
+        [](Desk& desk) { desk.press("Command35"_c); },
+    };
+    for (const Way way : ways) {
+        Desk desk;
+        desk.press("Command4"_c);
+        desk.click(300, 410);
+        desk.press("Command43"_c);
+        expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+        desk.press("Command43"_c);
+        expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+        way(desk);
+        expectOnePrompt(desk, "2pt. Arc", "(Enter radius of arc:)");
+    }
+}
+
+TEST(OnePrompt, OfAFunctionStartedOverZoomWindowThatHasNoneOfItsOwn)
+{
+    Desk desk;
+    desk.press("Command43"_c);
+    desk.press("dim11"_c);
+    expectOnePrompt(desk, "Move Dimension Text", "(Enter beginning point of line:)");
+    desk.cancel();
+    expectOnePrompt(desk, "Move Dimension Text", "(Enter beginning point of line:)");
+}
+
+TEST(OnePrompt, OfTheCornersOfAWindow)
+{
+    for (const ControlId other : {"Command43"_c, "blank"_c}) {
+        Desk desk;
+        desk.press("Command19"_c);
+        expectOnePrompt(desk, "Window Select", "(Place window around objects:)");
+        desk.click(300, 410);
+        expectOnePrompt(desk, "Window Select", "(Enter opposite corner of window:)");
+        desk.press(other);
+        EXPECT_EQ(desk.s.windowStep, 0);
+        desk.press(other);
+        desk.cancel();
+        expectOnePrompt(desk, "Window Select", "(Place window around objects:)");
+    }
+}
+
+TEST(OnePrompt, OfAConstructionLineThatIsGivenNothingToEnter)
+{
+    Desk desk;
+    desk.press("blank"_c);
+    desk.click(300, 410);
+    desk.type("5");
+    desk.backspace();
+    desk.enter();
+    EXPECT_EQ(desk.s.curFunc, "Blank Line");
+    EXPECT_EQ(desk.caption("blank"_c), "Blank/On");
+    desk.press("blank"_c);
+    EXPECT_EQ(desk.s.curFunc, "Line");
+    EXPECT_EQ(desk.caption("blank"_c), "Blank/Off");
+}
+
+} // namespace
+} // namespace mirtane
