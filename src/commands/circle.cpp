@@ -2,9 +2,9 @@
 
 #include "commands/commit.h"
 #include "commands/prompt.h"
-#include "model/three_point_scratch.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "model/three_point_scratch.h"
 #include "render/redraw.h"
 
 namespace mirtane {

@@ -3,10 +3,10 @@
 #include "commands/arc.h"
 #include "commands/commit.h"
 #include "commands/prompt.h"
-#include "model/three_point_scratch.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "geometry/foot.h"
+#include "model/three_point_scratch.h"
 #include "render/redraw.h"
 
 namespace mirtane {

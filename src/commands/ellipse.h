@@ -5,8 +5,8 @@
 
 namespace mirtane {
 
-// "Ellipse": the two ends of its first axis, and the end of the second, which ortho holds at right angles to the
-// first whatever the user's own ortho setting.
+// "Ellipse": the two ends of its first axis, and the end of the second, which ortho holds at right angles to
+// the first whatever the user's own ortho setting.
 void ellipseStep(Session& s, Canvas& pic1);
 void ellipseBand(Session& s, Canvas& pic1);
 

@@ -20,10 +20,7 @@ class FieldReader {
     explicit FieldReader(ByteReader& in) : in_(in) {}
 
     template <class... Number> void operator()(Number&... field) { in_.numbers(field...); }
-    template <TextField... Text> void operator()(Text&... field)
-    {
-        (take(field), ...);
-    }
+    template <TextField... Text> void operator()(Text&... field) { (take(field), ...); }
 
   private:
     // Most texts of a drawing are empty: those cost no conversion.

@@ -1,4 +1,5 @@
-// geometry/three_point.cpp: each step is stored in 32 bits, and one that faults leaves 0, as later steps rely on it.
+// geometry/three_point.cpp: each step is stored in 32 bits, and one that faults leaves 0, as later steps rely
+// on it.
 
 #include "geometry/three_point.h"
 
@@ -84,8 +85,10 @@ ThreePointCircle threePointCircle(Point p1, Point p2, Point p3, const BisectorMa
     found.chordMiddle = movedAlong(p1, chord / 2, u);
     found.toMarkerA = single(distance(p3, markers.a));
     found.toMarkerB = single(distance(p3, markers.b));
-    if (found.toMarkerA < found.toMarkerB) found.centre = movedAcross(found.chordMiddle, offset, u, held.centre);
-    if (found.toMarkerA > found.toMarkerB) found.centre = movedAcross(found.chordMiddle, -offset, u, held.centre);
+    if (found.toMarkerA < found.toMarkerB)
+        found.centre = movedAcross(found.chordMiddle, offset, u, held.centre);
+    if (found.toMarkerA > found.toMarkerB)
+        found.centre = movedAcross(found.chordMiddle, -offset, u, held.centre);
     keep(found.radius, distance(found.centre, p1));
     return found;
 }

@@ -6,8 +6,8 @@ namespace mirtane {
 
 // A circle through three points by the program's own construction, in 32-bit numbers.
 
-// Two markers on the perpendicular bisector of the first chord, one on each side: they tell on which side of the
-// chord the third point lies.
+// Two markers on the perpendicular bisector of the first chord, one on each side: they tell on which side of
+// the chord the third point lies.
 struct BisectorMarkers {
     Point a, b;
 };
@@ -23,10 +23,10 @@ struct ThreePointCircle {
     float toMarkerB = 0;
 };
 
-// The construction takes the magnitude of the cosine at p1, so it is exact only while the angle there is at most 90
-// degrees: with an obtuse one the circle passes through p1 and p2 and misses p3. With p3 on the line of the first
-// chord, the centre is the chord's middle, or, where p3 is as far from both markers, that of held, and the radius
-// the centre's distance to p1.
+// The construction takes the magnitude of the cosine at p1, so it is exact only while the angle there is at
+// most 90 degrees: with an obtuse one the circle passes through p1 and p2 and misses p3. With p3 on the line
+// of the first chord, the centre is the chord's middle, or, where p3 is as far from both markers, that of
+// held, and the radius the centre's distance to p1.
 ThreePointCircle threePointCircle(Point p1, Point p2, Point p3, const BisectorMarkers& markers,
                                   const ThreePointCircle& held);
 

@@ -23,7 +23,8 @@ void pressSnapButton(Session& s, Canvas& pic1, ControlId button);
 // Whether the next click will snap, by a button or a key.
 bool snapIsOn(const Session& s);
 
-// Shows the button of the armed snap pressed and the others not, and on pic1 whether the next click will snap.
+// Shows the button of the armed snap pressed and the others not, and on pic1 whether the next click will
+// snap.
 void showArmedSnap(Session& s);
 
 } // namespace mirtane

@@ -4,7 +4,8 @@
 
 namespace mirtane {
 
-// The form of the filter, which also serves for changing properties: the layers, and a box for each criterion.
+// The form of the filter, which also serves for changing properties: the layers, and a box for each
+// criterion.
 void layFilterForm(const ControlMaker& maker, QWidget& form);
 
 } // namespace mirtane

@@ -52,7 +52,8 @@ void FormWindow::show(const Control& now)
 void FormWindow::moveOverParent()
 {
     const QRect below = parentWidget()->geometry();
-    if (!testAttribute(Qt::WA_Resized)) adjustSize(); // before it is first shown a form has no size of its own
+    if (!testAttribute(Qt::WA_Resized))
+        adjustSize(); // before it is first shown a form has no size of its own
     if (form_ == "frmhelp"_c) resize(below.size() - helpSmallerBy);
     move(below.center() - rect().center());
 }

@@ -163,8 +163,8 @@ void SurfaceWidget::inputMethodEvent(QInputMethodEvent* event)
     event->accept();
 }
 
-// A key that is let go while another widget has the keys would count as held for ever. Nothing is copied to the
-// screen here: that would call the focus back from where the user has just put it.
+// A key that is let go while another widget has the keys would count as held for ever. Nothing is copied to
+// the screen here: that would call the focus back from where the user has just put it.
 void SurfaceWidget::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
