@@ -34,7 +34,7 @@ int signOfSum(const std::array<double, 6>& terms)
             part = sum.rest;
             carried = sum.rounded;
         }
-        std::ranges::rotate(parts, parts.begin() + 1);
+        std::rotate(parts.begin(), parts.begin() + 1, parts.end());
         parts.back() = carried;
     }
     const auto largest = std::find_if(parts.rbegin(), parts.rend(), [](double part) { return part != 0; });
