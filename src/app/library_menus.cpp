@@ -154,8 +154,10 @@ void saveFromLibrary(App& app, int index)
     Session& s = app.s;
     const LibraryRow* row = rowWith(&LibraryRow::save, listCaption(s));
     if (row == nullptr) return;
-    currentName(s, row->library) = nameAt(s, index);
-    openNamedFlow(app, row->save, currentName(s, row->library) + std::string(row->extension));
+    std::string& name = currentName(s, row->library);
+    s.nameToSave = nameAt(s, index);
+    if (!isBeingPlaced(s, *row) || !isLiveName(name)) name = s.nameToSave;
+    openNamedFlow(app, row->save, s.nameToSave + std::string(row->extension));
 }
 
 void createInLibrary(App& app, ControlId menu)
@@ -186,12 +188,13 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     Session& s = app.s;
     const LibraryRow* row = rowWith(&LibraryRow::pattern, choice.pattern);
     if (row == nullptr) return false;
-    std::string& name = currentName(s, row->library);
+    std::string& current = currentName(s, row->library);
+    const std::string name = isBeingPlaced(s, *row) ? s.nameToSave : current;
     // Nothing is saved under no name, and nothing that would be read back as removed.
     if (!isLiveName(name) || !isLiveName(toCodePage(name))) return false;
     const bool saved =
         app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
-    if (!isBeingPlaced(s, *row)) name = noName;
+    if (!isBeingPlaced(s, *row)) current = noName;
     endWhatIsBegun(s, app.pic1);
     return saved;
 }

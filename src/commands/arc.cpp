@@ -69,19 +69,23 @@ int turnBetween(Bearing last, Bearing now)
 }
 
 // Counts the way that the pointer goes round the centre, from the place in ptC, which it takes. arcLastAngle
-// is what the last move left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
+// is what the last turn left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
 // the sum over the whole way decides.
 void wind(Session& s)
 {
     const Bearing last = bearingOf(s.ptA, s.ptC, s.arcLastAngle);
     s.ptC = s.pickLast;
     s.arcAngleTwo = directionAngle(s.ptA, s.ptC, s.arcAngleTwo);
-    keep(s.arcWinding, s.arcWinding + turnBetween(last, bearingOf(s.ptA, s.ptC, s.arcAngleTwo)));
-    s.arcLastAngle = s.arcAngleTwo;
-    if (s.arcWinding > 0) {
+    const int turn = turnBetween(last, bearingOf(s.ptA, s.ptC, s.arcAngleTwo));
+    keep(s.arcWinding, s.arcWinding + turn);
+    if (turn != 0) s.arcLastAngle = s.arcAngleTwo; // so that a slow way adds up
+    // Under ortho a turn is one count, and the first one, from what an earlier arc left, may cancel it: then
+    // the last turn tells the way, as an arc without one would not be seen.
+    const int way = s.arcWinding == 0 ? turn : s.arcWinding;
+    if (way > 0) {
         s.arcStart = s.arcAngleOne;
         s.arcEnd = s.arcAngleTwo;
-    } else if (s.arcWinding < 0) {
+    } else if (way < 0) {
         s.arcStart = s.arcAngleTwo;
         s.arcEnd = s.arcAngleOne;
     }

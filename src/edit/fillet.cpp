@@ -8,6 +8,7 @@
 #include "geometry/foot.h"
 #include "geometry/nearest.h"
 #include "geometry/parallel.h"
+#include "geometry/side.h"
 
 #include <optional>
 #include <utility>
@@ -41,10 +42,12 @@ class CentreSearch {
     double radius_;
 };
 
-// The point of the object nearest to the centre of the arc; none of an arc about that centre.
-std::optional<Point> touching(const EntityRecord& object, Point centre, float radius)
+// The point of the object nearest to the centre of the arc; none of an arc about that centre. A line of which
+// no side was clicked has the centre on it.
+std::optional<Point> touching(const EntityRecord& object, Point centre, const Session& s)
 {
-    if (radius == 0) return centre;
+    if (s.filletRadius == 0) return centre;
+    if (object.kind == kind::line && sideOfLine(s.mousePos, object.p1, object.p2) == 0) return centre;
     if (object.kind == kind::line) return footOfPerpendicular(centre, object.p1, object.p2, centre);
     if (object.p1 == centre) return std::nullopt;
     return nearestOnCircle(centre, object.p1, object.rad);
@@ -60,8 +63,8 @@ std::optional<Fillet> filletOf(const Session& s, const EntityRecord& first, cons
     const Crossings found = CentreSearch(s).of(first, second);
     if (found.count == 0) return std::nullopt;
     const Point centre = nearerCrossing(found, s.mousePos, s.pickLast);
-    const auto firstTouch = touching(first, centre, s.filletRadius);
-    const auto secondTouch = touching(second, centre, s.filletRadius);
+    const auto firstTouch = touching(first, centre, s);
+    const auto secondTouch = touching(second, centre, s);
     if (!firstTouch || !secondTouch) return std::nullopt;
     return Fillet{centre, *firstTouch, *secondTouch};
 }

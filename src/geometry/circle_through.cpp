@@ -2,6 +2,7 @@
 
 #include "geometry/angle.h"
 #include "geometry/arc.h"
+#include "geometry/direction.h"
 #include "geometry/fault.h"
 
 #include <cmath>
@@ -10,6 +11,7 @@ namespace mirtane {
 
 std::optional<CircleThrough> circleThrough(Point a, Point b, Point c)
 {
+    if (areParallel(directionOf(a, b), directionOf(b, c))) return std::nullopt;
     const double bx = static_cast<double>(b.x) - a.x; // widened before the differences, as below
     const double by = static_cast<double>(b.y) - a.y;
     const double cx = static_cast<double>(c.x) - a.x;

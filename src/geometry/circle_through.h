@@ -12,8 +12,8 @@ struct CircleThrough {
 };
 
 // The circle through three points, whatever the angles between them. (Circles and arcs that are drawn or
-// scaled come from three_point.h, which is exact for some only.) None if the points lie on one line, two of
-// them are one, or no coordinate can hold the centre.
+// scaled come from three_point.h, which is exact for some only.) None if the points lie on one line as far as
+// they tell, two of them are one, or no coordinate can hold the centre.
 std::optional<CircleThrough> circleThrough(Point a, Point b, Point c);
 
 // The ends of the arc through three points on a circle, radians. It runs counter-clockwise through the middle

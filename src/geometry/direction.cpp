@@ -15,6 +15,9 @@ constexpr double halfStep = 0x1p-24;
 // level and upright.
 constexpr double halfStepsInDoubt = 8;
 
+// What is turned is turned by degrees times a literal of six digits, which is off by as much at a whole turn.
+constexpr double turnInDoubt = 3e-6; // radians
+
 double largestCoordinate(Point a, Point b)
 {
     return std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
@@ -33,7 +36,7 @@ Direction directionOf(Point a, Point b)
 bool areParallel(const Direction& a, const Direction& b)
 {
     const double sine = a.x * b.y - a.y * b.x;
-    const double inDoubt = halfStepsInDoubt * (a.rounding + b.rounding);
+    const double inDoubt = turnInDoubt + halfStepsInDoubt * (a.rounding + b.rounding);
     return !(std::abs(sine) > inDoubt); // so written, a NaN is parallel
 }
 

@@ -146,6 +146,7 @@ struct FileState {
     std::string programFolder;
     std::set<std::string> pageFiles; // full paths of the pages that were printed into files
     std::int32_t dimensionCount = 0; // kinds 7 to 10, counted by a load
+    std::string nameToSave;          // of a library, as its list gave it to the file dialog
     std::int16_t chosenLayer = 0;    // for naming, loading and saving a layer
     bool ended = false;
 };

@@ -48,6 +48,46 @@ TEST(ArcTwo, WindsByTheTurnFromAxisToAxisWhateverTheMovesAlongThem)
     }
 }
 
+// The first move is held against the direction of the arc before, or of none: a turn that comes out as none by that
+// is one all the same.
+TEST(ArcTwo, OfATurnThatTheFirstMoveCancelsIsSeen)
+{
+    Slanted dice(7);
+    for (int i = 0; i < 400; ++i) {
+        const double turned = dice.between(1, 89);
+        const int from = dice.below(4);
+        const int to = from == 0 || (from < 3 && dice.chance()) ? from + 1 : from - 1; // not over angle 0
+        const Point centre = dice.pointWithin({0, 0}, 3000);
+        Desk desk;
+        setOrthoAngle(desk, turned);
+        start(desk, "Command4"_c, Ortho::on);
+        desk.s.arcLastAngle = dice.between(0, 6.28);
+        const auto nearAxis = [&](int axis) {
+            return onCircle(centre, dice.between(100, 900), turned + 90 * axis + dice.between(-40, 40));
+        };
+        clickAt(desk, centre);
+        clickAt(desk, nearAxis(from));
+        for (int move = 0; move < 3; ++move) moveTo(desk, nearAxis(from));
+        for (int move = 0; move < 3; ++move) moveTo(desk, nearAxis(to));
+        downAt(desk, nearAxis(to));
+        const EntityRecord r = lastSlot(desk);
+        EXPECT_GT(turnedBetween(r.a1, r.a2), 1) << turned << " " << from << " " << to;
+        desk.cancel();
+    }
+}
+
+// Slower than a rounding step a move, but a long way in all.
+TEST(ArcTwo, WindsAlongASlowWayFarFromTheOrigin)
+{
+    Desk desk;
+    start(desk, "Command4"_c, Ortho::off);
+    clickAt(desk, {1000000, 1000000});
+    clickAt(desk, {1000005, 1000000});
+    for (int step = 1; step <= 12; ++step) moveTo(desk, {1000005, 1000000 - 0.0625F * static_cast<float>(step)});
+    downAt(desk, {1000005, 999999.25F});
+    EXPECT_NEAR(turnedBetween(lastSlot(desk).a1, lastSlot(desk).a2), 0.149, 0.001);
+}
+
 // One axis lies at angle 0 but for the rounding, so that the pointer's direction is now 0, now nearly a turn.
 TEST(ArcTwo, DoesNotTurnAlongAnAxisAtAngleZero)
 {

@@ -3,7 +3,9 @@
 // Lines as they come about on the screen, each point rounded to 32 bits as it is stored: legs drawn with
 // ortho, their copies, pieces and offsets.
 
+#include "geometry/angle.h"
 #include "geometry/ortho.h"
+#include "model/kind_table.h"
 
 #include <algorithm>
 #include <cmath>
@@ -92,7 +94,7 @@ inline Pair drawnParallel(Slanted& dice, Point place, double size, double orthoA
     const Segment leg = dice.leg(somewhere(), someLength(), orthoAngle);
     const Point by = dice.pointWithin({0, 0}, size);
     const double cut = dice.between(0.2, 0.8);
-    switch (dice.below(7)) {
+    switch (dice.below(8)) {
     case 0:
         return {"two legs", leg, dice.leg(somewhere(), someLength(), orthoAngle)};
     case 1:
@@ -103,6 +105,10 @@ inline Pair drawnParallel(Slanted& dice, Point place, double size, double orthoA
         return {"halves", piece(leg, 0, cut), piece(leg, cut, 1)};
     case 4:
         return {"an offset", leg, offset(leg, dice.between(-size, size))};
+    case 6: {
+        const Turn halfTurn(somewhere(), (dice.chance() ? 180 : -180) * radiansPerDegree);
+        return {"turned half round", leg, {halfTurn.of(leg.from), halfTurn.of(leg.to)}};
+    }
     case 5:
         return {"a piece of a copy", leg, piece(copied(leg, by), cut, 1)};
     default:
