@@ -20,7 +20,7 @@ void makeSomeRound(EntityStore& store)
         const std::size_t at = EntityStore::at(i);
         store.stat[at] = Stat::sel;
         if (i % 12 > 1) continue;
-        store.kind[at] = i % 12 == 0 ? kind::circle : kind::arc;
+        store.kind[at] = i % 12 == 0 ? Kind::circle : Kind::arc;
         store.rad[at] = static_cast<float>(5 + i % 90); // small whole numbers
         store.a1[at] = i % 6;
         store.a2[at] = i % 5 + 0.5;

@@ -30,13 +30,13 @@ class ObjectDice {
     EntityRecord object(std::int32_t number)
     {
         EntityRecord r;
-        r.kind = static_cast<std::int16_t>(number % 5 + 1); // 1 to 5
+        r.kind = everyKind[number % 5]; // lines to points
         r.color = white;
         r.p1 = {between(0, width), between(0, height)};
         r.p2 = {r.p1.x + between(-40, 40), r.p1.y + between(-40, 40)};
         r.p3.x = between(0, 1);
         r.rad = between(2, 30);
-        if (r.kind != kind::arc) return r;
+        if (r.kind != Kind::arc) return r;
         r.a1 = between(0, 6);
         r.a2 = between(0, 6);
         r.p2 = polarPoint(r.p1, r.rad, r.a1);
@@ -165,7 +165,7 @@ void ghost(State& state)
     EditBench& b = ghostBench();
     b.show(b.surface, allInView);
     b.startAgain("Move", 1);
-    editMoveCopy(b.s, b.surface);
+    editMove(b.s, b.surface);
     float way = 0;
     for (auto _ : state) {
         way = way < 60 ? way + 1 : 0;
@@ -203,11 +203,11 @@ void registerEditMeasures()
     };
     const auto step2 = std::int16_t{2};
     const auto step3 = std::int16_t{3};
-    add("Move of 20,000", editUnseen, "Move", step2, editMoveCopy);
+    add("Move of 20,000", editUnseen, "Move", step2, editMove);
     add("Rotate of 20,000", editUnseen, "Rotate", step3, editRotate);
     add("Mirror Copy of 20,000", editUnseen, "Mirror Copy", step2, editMirror);
     add("a copy of the records", copyRecords);
-    add("Move of 20,000, shown", editShown, "Move", step2, editMoveCopy);
+    add("Move of 20,000, shown", editShown, "Move", step2, editMove);
     add("a copy, and a redraw", copyAndRedraw);
     add("ghost of 2,000", ghost);
     add("the 2,000 painted", paintOnce);

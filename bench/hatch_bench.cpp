@@ -24,7 +24,7 @@ HatchRow row(Point a, Point b)
     r.h2 = b;
     r.hatchTileW = 24;
     r.hatchTileH = 16;
-    r.hatchKind = kind::line;
+    r.hatchKind = Kind::line;
     return r;
 }
 

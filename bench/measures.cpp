@@ -1,6 +1,6 @@
 #include "measures.h"
 
-#include "app/open_drawing.h"
+#include "app/files/open_drawing.h"
 #include "files/drawing_file.h"
 #include "render/redraw.h"
 #include "render/view.h"

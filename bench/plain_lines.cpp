@@ -90,7 +90,7 @@ Limits limitsOf(const EntityStore& store)
 {
     Limits all{INFINITY, INFINITY, -INFINITY, -INFINITY};
     for (std::size_t i = 1; i < EntityStore::at(store.end()); ++i) {
-        if (store.stat[i] != Stat::on || store.kind[i] != kind::line) continue;
+        if (store.stat[i] != Stat::on || store.kind[i] != Kind::line) continue;
         const Point a = store.p1[i];
         const Point b = store.p2[i];
         all = {std::min({all.left, a.x, b.x}), std::min({all.top, a.y, b.y}), std::max({all.right, a.x, b.x}),

@@ -28,14 +28,14 @@ float even(std::mt19937& engine, float low, float high)
 EntityRecord anObject(std::mt19937& engine)
 {
     EntityRecord r;
-    r.kind = static_cast<std::int16_t>(1 + engine() % 10); // 1 to 10
+    r.kind = everyKind[engine() % drawnKinds];
     const Point at{even(engine, 0, width), even(engine, 0, height)};
     for (Point* p : {&r.p1, &r.p2, &r.p3, &r.p4, &r.p5})
         *p = {at.x + even(engine, -40, 40), at.y + even(engine, -40, 40)};
     r.rad = even(engine, 2, 40);
     r.a1 = even(engine, 0, 6.28F);
     r.a2 = even(engine, 0, 6.28F);
-    if (r.kind == kind::ellipse) r.p3.x = even(engine, 0.2F, 1);
+    if (r.kind == Kind::ellipse) r.p3.x = even(engine, 0.2F, 1);
     return r;
 }
 
@@ -111,7 +111,7 @@ Limits boxOfAll(const EntityStore& store)
 {
     Limits all{INFINITY, INFINITY, -INFINITY, -INFINITY};
     for (std::size_t i = 1; i < EntityStore::at(store.end()); ++i) {
-        if (store.stat[i] != Stat::on || store.kind[i] > kind::lastDrawn) continue;
+        if (store.stat[i] != Stat::on || store.kind[i] > Kind::angularDimension) continue;
         const Point a = store.p1[i];
         const Point b = store.p2[i];
         const float r = store.rad[i];

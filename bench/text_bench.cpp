@@ -54,7 +54,7 @@ EntityRecord aText(std::mt19937& engine, Rotations rotations)
     constexpr std::int32_t colors[] = {0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF,
                                        0xFF00FF, 0x0080FF, 0x00FFFF, 0xFFFFFF};
     EntityRecord r;
-    r.kind = kind::text;
+    r.kind = Kind::text;
     r.p1 = {static_cast<float>(engine() % width), static_cast<float>(engine() % height)}; // exact
     r.p2.x = size;
     r.p4 = r.p1;

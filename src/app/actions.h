@@ -12,4 +12,7 @@ Action actionOf(ControlId id);
 // Buttons, toggles and menu entries: what is greyed when it has no action.
 bool isClickable(ControlId id);
 
+// Greys the buttons and entries that nothing would answer.
+void greyWhatHasNoRoutine(Controls& controls);
+
 } // namespace mirtane

@@ -1,80 +1,29 @@
 #include "app/settings.h"
 
-#include "geometry/fault.h"
-#include "text/code_page.h"
-#include "text/numbers.h"
-
-#include <charconv>
-#include <cmath>
+#include "model/attribute_rows.h"
 
 namespace mirtane {
 namespace {
 
-// The whole text is one number.
-bool isNumber(const std::string& text)
-{
-    double value = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stopped, fault] = std::from_chars(text.data(), end, value);
-    return fault == std::errc{} && stopped == end && std::isfinite(value);
-}
-
-struct SettingRow {
+struct FolderRow {
     std::string key;
-    void (*take)(Session& s, const std::string& value);
-    std::string (*give)(const Session& s);
+    FolderPair FileState::*pair;
+    std::string FolderPair::*folder;
 };
 
-template <auto member> SettingRow number(const char* key)
+const std::vector<FolderRow>& folderRows()
 {
-    return {key,
-            [](Session& s, const std::string& value) {
-                if (isNumber(value)) keep(s.*member, readNumber(value));
-            },
-            [](const Session& s) { return plainNumber(s.*member); }};
-}
-
-// Words go into the drawings too, and so only those that a drawing can keep are taken.
-template <auto member> SettingRow word(const char* key)
-{
-    return {key,
-            [](Session& s, const std::string& value) {
-                if (!value.empty() && firstBeyondCodePage(value).empty()) s.*member = value;
-            },
-            [](const Session& s) { return s.*member; }};
-}
-
-template <auto pair, auto member> SettingRow folder(const char* key)
-{
-    return {key,
-            [](Session& s, const std::string& value) {
-                if (!value.empty()) (s.*pair).*member = value;
-            },
-            [](const Session& s) { return (s.*pair).*member; }};
-}
-
-const std::vector<SettingRow>& settingRows()
-{
-    static const std::vector<SettingRow> rows = {
-        word<&Session::textFont>("tnam"),
-        number<&Session::textSize>("tsize"),
-        number<&Session::arrowSize>("asize"),
-        number<&Session::dimStyle>("dstyle"),
-        number<&Session::textJust>("tjust"),
-        number<&Session::dimTol>("ntol"),
-        number<&Session::numComma>("ncom"),
-        number<&Session::angFormat>("acom"),
-        word<&Session::numStyle>("nstyle"),
-        folder<&Session::drawings, &FolderPair::working>("wkd"),
-        folder<&Session::associates, &FolderPair::working>("wkmtad"),
-        folder<&Session::hatches, &FolderPair::working>("wkmthd"),
-        folder<&Session::multipleLines, &FolderPair::working>("wkmtmd"),
-        folder<&Session::dxf, &FolderPair::working>("wkdxfd"),
-        folder<&Session::drawings, &FolderPair::last>("wkp"),
-        folder<&Session::associates, &FolderPair::last>("wkmtap"),
-        folder<&Session::hatches, &FolderPair::last>("wkmthp"),
-        folder<&Session::multipleLines, &FolderPair::last>("wkmtmp"),
-        folder<&Session::dxf, &FolderPair::last>("wkdxfp"),
+    static const std::vector<FolderRow> rows = {
+        {"wkd", &FileState::drawings, &FolderPair::working},
+        {"wkmtad", &FileState::associates, &FolderPair::working},
+        {"wkmthd", &FileState::hatches, &FolderPair::working},
+        {"wkmtmd", &FileState::multipleLines, &FolderPair::working},
+        {"wkdxfd", &FileState::dxf, &FolderPair::working},
+        {"wkp", &FileState::drawings, &FolderPair::last},
+        {"wkmtap", &FileState::associates, &FolderPair::last},
+        {"wkmthp", &FileState::hatches, &FolderPair::last},
+        {"wkmtmp", &FileState::multipleLines, &FolderPair::last},
+        {"wkdxfp", &FileState::dxf, &FolderPair::last},
     };
     return rows;
 }
@@ -84,15 +33,23 @@ const std::vector<SettingRow>& settingRows()
 void readSettings(Session& s, SettingsStore& store)
 {
     const std::map<std::string, std::string> values = store.read();
-    for (const SettingRow& row : settingRows()) {
-        if (const auto found = values.find(row.key); found != values.end()) row.take(s, found->second);
+    for (const AttributeRow& row : attributeRows()) {
+        const auto found = values.find(std::string(row.key));
+        if (!row.key.empty() && found != values.end()) row.takeText(s, found->second);
+    }
+    for (const FolderRow& row : folderRows()) {
+        const auto found = values.find(row.key);
+        if (found != values.end() && !found->second.empty()) (s.*row.pair).*row.folder = found->second;
     }
 }
 
 void writeSettings(const Session& s, SettingsStore& store)
 {
     std::map<std::string, std::string> values;
-    for (const SettingRow& row : settingRows()) values[row.key] = row.give(s);
+    for (const AttributeRow& row : attributeRows()) {
+        if (!row.key.empty()) values[std::string(row.key)] = row.text(s);
+    }
+    for (const FolderRow& row : folderRows()) values[row.key] = (s.*row.pair).*row.folder;
     store.write(values);
 }
 

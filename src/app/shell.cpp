@@ -3,24 +3,28 @@
 #include "app/shell.h"
 
 #include "app/actions.h"
-#include "app/attribute_controls.h"
-#include "app/canvas_input.h"
-#include "app/fields.h"
-#include "app/file_dialog.h"
-#include "app/filter_dialog.h"
-#include "app/layer_menus.h"
-#include "app/list_modes.h"
-#include "app/print_dialog.h"
+#include "app/dialogs/filter_dialog.h"
+#include "app/dialogs/print_dialog.h"
+#include "app/drawing/canvas_input.h"
+#include "app/files/file_dialog.h"
+#include "app/menus/attribute_controls.h"
+#include "app/menus/file_menus.h"
+#include "app/menus/layer_menus.h"
+#include "app/menus/list_modes.h"
+#include "app/menus/text_menus.h"
 #include "app/start_stop.h"
-#include "app/text_menus.h"
-#include "app/typed_entry.h"
+#include "app/typing/fields.h"
+#include "app/typing/keys.h"
+#include "app/typing/typed_entry.h"
 #include "commands/kept_letters.h"
 #include "commands/live_text.h"
 #include "render/redraw.h"
 #include "render/view.h"
 #include "snap/snap.h"
+#include "tables/list_modes.h"
 #include "text/measure.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace mirtane {
@@ -48,9 +52,9 @@ struct ListRow {
 
 // Rows that do their work at a click.
 constexpr ListRow listRows[] = {
-    {"List1"_c, listRowClicked},       {"frmfilter.List1"_c, chooseFilterLayer},
-    {"frmfile.File1"_c, chooseFile},   {"frmfile.Dir1"_c, chooseFolder},
-    {"frmfile.Drive1"_c, chooseDrive},
+    {ids::selectionList, listRowClicked}, {ids::filterLayerList, chooseFilterLayer},
+    {ids::fileList, chooseFile},          {ids::folderList, chooseFolder},
+    {ids::driveList, chooseDrive},
 };
 
 void rowChosen(App& app, ControlId list, int row)
@@ -60,21 +64,21 @@ void rowChosen(App& app, ControlId list, int row)
     }
 }
 
-bool listsFonts(const Session& s)
+bool listsFonts(const Controls& controls)
 {
-    const std::string& mode = s.controls["Label3"_c].caption;
-    return mode == "Select Font" || mode == "Change Selected Font";
+    const std::string& mode = controls[ids::listMode].caption;
+    return mode == list_mode::selectFont || mode == list_mode::changeSelectedFont;
 }
 
 void listEnter(App& app, ControlId list)
 {
-    if (list == "List1"_c && listsFonts(app.s)) return fontEntered(app);
-    if (list == "frmfile.File1"_c) return confirmFileDialog(app, list);
+    if (list == ids::selectionList && listsFonts(app.s.controls)) return fontEntered(app);
+    if (list == ids::fileList) return confirmFileDialog(app, list);
     const int row = app.s.controls[list].row;
     if (hasRow(app.s.controls[list], row)) rowChosen(app, list, row);
 }
 
-std::string inNumberStyle(const Session& s, float length)
+std::string inNumberStyle(const Attributes& s, float length)
 {
     return formatMeasure({length, {numStyleOf(s.numStyle), s.dimTol, s.numComma == 1}});
 }
@@ -83,23 +87,52 @@ std::string inNumberStyle(const Session& s, float length)
 void leave(Session& s, ControlId id)
 {
     fieldLeft(s, id);
-    if (id == "Combo3"_c) showWorkingLayer(s);
+    if (id == ids::layerCombo) showWorkingLayer(s);
 }
 
 void keyToControl(App& app, ControlId id, char32_t code)
 {
     Session& s = app.s;
-    if (id == "pic1"_c) return canvasKeyPress(s, app.pic1, code);
-    if (id == "entry"_c) return entryKeyPress(s, app.pic1, code);
-    if (id == "frmfile.Text1"_c) return fileNameKeyPress(app, code);
-    if (id == "frmprintset.Text1"_c) return printScaleKeyPress(app, code);
+    if (id == ids::drawing) return canvasKeyPress(s, app.pic1, code);
+    if (id == ids::entry) return entryKeyPress(s, app.pic1, code);
+    if (id == ids::fileName) return fileNameKeyPress(app, code);
+    if (id == ids::printScale) return printScaleKeyPress(app, code);
     if (isNumericField(id)) return fieldKeyPress(app, id, code);
     if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
-    if (id == "Combo3"_c) return layerNameKeyPress(app, code);
+    if (id == ids::layerCombo) return layerNameKeyPress(app, code);
     const bool pressed = code == enterKey || code == U' ';
     if (isClickable(id) && pressed) {
         if (const Action action = actionOf(id)) action(app, id);
     }
+}
+
+bool isTextBox(ControlId id)
+{
+    const ControlKind kind = id.row().kind;
+    return kind == ControlKind::field || kind == ControlKind::display || kind == ControlKind::combo;
+}
+
+struct FormRow {
+    ControlId form;
+    void (*close)(App& app, ControlId form);
+};
+
+constexpr FormRow formRows[] = {
+    {ids::mainForm, [](App& app, ControlId) { leaveProgram(app); }},
+    {ids::fileForm, [](App& app, ControlId) { closeFileDialog(app); }},
+    {ids::filterForm, cancelFilter},
+    {ids::printForm, cancelPrint},
+};
+
+// A form closes as by its Cancel; one that has none only goes.
+void closeFormOf(App& app, ControlId form)
+{
+    const auto* const row = std::ranges::find(formRows, form, &FormRow::form);
+    if (row != std::end(formRows)) return row->close(app, form);
+    Controls& controls = app.s.controls;
+    const bool hadFocus = formOf(controls.focus) == form;
+    controls[form].visible = false;
+    if (hadFocus) controls.focus = ids::drawing;
 }
 
 } // namespace
@@ -110,60 +143,63 @@ void Shell::start()
 {
     App app{s_, pic1_, ports_, dxfScratch_};
     startProgram(app);
+    greyWhatHasNoRoutine(s_.controls);
     settle(s_.controls.focus);
 }
 
-void Shell::openDrawing(const std::string& path)
+// An event: nothing once the program has ended; afterwards focus, fields and the snap's label are brought in
+// order.
+template <class Act> void Shell::event(Act act)
 {
     if (ended()) return;
     const ControlId before = s_.controls.focus;
     App app{s_, pic1_, ports_, dxfScratch_};
-    openDrawingAt(app, path);
+    act(app);
     settle(before);
+}
+
+template <class Act> void Shell::eventOf(ControlId id, Act act)
+{
+    if (canBeUsed(s_.controls, id)) event(act);
+}
+
+void Shell::openDrawing(const std::string& path)
+{
+    event([&](App& app) { openDrawingAt(app, path); });
 }
 
 void Shell::mouseDown(int button, Point at)
 {
-    if (ended()) return;
-    giveFocus("pic1"_c); // a field that is left so forgets what was half typed
-    const ControlId before = s_.controls.focus;
-    canvasMouseDown(s_, pic1_, button, at);
-    settle(before);
+    giveFocus(ids::drawing); // a field that is left so forgets what was half typed
+    event([&](App&) { canvasMouseDown(s_, pic1_, button, at); });
 }
 
 void Shell::mouseMove(Point at)
 {
-    if (ended()) return;
-    const ControlId before = s_.controls.focus;
-    canvasMouseMove(s_, pic1_, at);
-    s_.controls["pointerlab"_c].caption = inNumberStyle(s_, at.x) + "  " + inNumberStyle(s_, at.y);
-    settle(before);
+    event([&](App&) {
+        canvasMouseMove(s_, pic1_, at);
+        s_.controls[ids::pointerLine].caption = inNumberStyle(s_, at.x) + "  " + inNumberStyle(s_, at.y);
+    });
 }
 
 void Shell::wheel(double steps, Point at)
 {
     constexpr double factorOfOneStep = 1.25;
-    if (ended()) return;
-    const ControlId before = s_.controls.focus;
-    zoomAbout(s_, pic1_, at, std::pow(factorOfOneStep, steps));
-    repaintTextPreview(s_, pic1_);
-    canvasMouseMove(s_, pic1_, at); // the rubber band, if there is one, goes on at the new scale
-    settle(before);
+    event([&](App&) {
+        zoomAbout(s_, pic1_, at, std::pow(factorOfOneStep, steps));
+        repaintTextPreview(s_, pic1_);
+        canvasMouseMove(s_, pic1_, at); // the rubber band, if there is one, goes on at the new scale
+    });
 }
 
 void Shell::keyDown(int code)
 {
-    if (ended()) return;
-    const ControlId before = s_.controls.focus;
-    canvasKeyDown(s_, pic1_, code);
-    settle(before);
+    event([&](App&) { canvasKeyDown(s_, pic1_, code); });
 }
 
 void Shell::keyUp(int)
 {
-    if (ended()) return;
-    canvasKeyUp(s_);
-    settle(s_.controls.focus);
+    event([&](App&) { canvasKeyUp(s_); });
 }
 
 void Shell::resized()
@@ -179,12 +215,8 @@ void Shell::redraw()
 
 void Shell::keyPress(char32_t code)
 {
-    if (ended()) return;
-    const ControlId before = s_.controls.focus;
-    if (!canBeUsed(s_.controls, before)) return;
-    App app{s_, pic1_, ports_, dxfScratch_};
-    keyToControl(app, before, code);
-    settle(before);
+    const ControlId focused = s_.controls.focus;
+    eventOf(focused, [&](App& app) { keyToControl(app, focused, code); });
 }
 
 void Shell::type(std::u32string_view characters)
@@ -192,7 +224,7 @@ void Shell::type(std::u32string_view characters)
     char32_t refused = 0;
     for (const char32_t code : characters) {
         keyPress(code);
-        if (isRefusalOf(s_.controls["entry"_c].text, code)) refused = code;
+        if (isRefusalOf(s_.controls[ids::entry].text, code)) refused = code;
     }
     // Where a name is typed in entry, the next letter stands there in place of what was said.
     if (refused != 0) refusesLetter(s_.controls, refused);
@@ -200,42 +232,36 @@ void Shell::type(std::u32string_view characters)
 
 void Shell::click(ControlId id)
 {
-    if (ended() || !canBeUsed(s_.controls, id)) return;
-    const ControlId before = s_.controls.focus;
-    const ControlKind kind = id.row().kind;
-    if (kind == ControlKind::field || kind == ControlKind::display || kind == ControlKind::combo) {
-        s_.controls.focus = id;
-        setCaret(s_.controls[id], s_.controls[id].caret); // what was selected is so no more
-    }
-    App app{s_, pic1_, ports_, dxfScratch_};
-    if (const Action action = actionOf(id)) action(app, id);
-    settle(before);
+    eventOf(id, [&](App& app) {
+        if (isTextBox(id)) {
+            s_.controls.focus = id;
+            setCaret(s_.controls[id], s_.controls[id].caret); // what was selected is so no more
+        }
+        if (const Action action = actionOf(id)) action(app, id);
+    });
 }
 
 void Shell::clickRow(ControlId list, int row)
 {
     moveToRow(list, row);
-    if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
-    const ControlId before = s_.controls.focus;
-    App app{s_, pic1_, ports_, dxfScratch_};
-    rowChosen(app, list, row);
-    settle(before);
+    if (!hasRow(s_.controls[list], row)) return;
+    eventOf(list, [&](App& app) { rowChosen(app, list, row); });
 }
 
 void Shell::moveToRow(ControlId list, int row)
 {
-    if (ended() || !canBeUsed(s_.controls, list) || !hasRow(s_.controls[list], row)) return;
-    const ControlId before = s_.controls.focus;
-    s_.controls[list].row = row;
-    s_.controls.focus = list;
-    App app{s_, pic1_, ports_, dxfScratch_};
-    if (list == "frmfile.File1"_c) chooseFile(app, row);
-    settle(before);
+    if (!hasRow(s_.controls[list], row)) return;
+    eventOf(list, [&](App& app) {
+        s_.controls[list].row = row;
+        s_.controls.focus = list;
+        if (list == ids::fileList) chooseFile(app, row);
+    });
 }
 
 void Shell::doubleClickRow(ControlId list, int row)
 {
-    const bool takesSecondClick = list == "frmfile.File1"_c || (list == "List1"_c && listsFonts(s_));
+    const bool takesSecondClick =
+        list == ids::fileList || (list == ids::selectionList && listsFonts(s_.controls));
     if (!takesSecondClick) return;
     clickRow(list, row);
     keyPress(enterKey);
@@ -243,36 +269,18 @@ void Shell::doubleClickRow(ControlId list, int row)
 
 void Shell::giveFocus(ControlId id)
 {
-    if (ended() || !canBeUsed(s_.controls, id)) return;
-    const ControlId before = s_.controls.focus;
-    s_.controls.focus = id;
-    settle(before);
+    eventOf(id, [&](App&) { s_.controls.focus = id; });
 }
 
 void Shell::closeForm(ControlId form)
 {
-    if (ended()) return;
-    const ControlId before = s_.controls.focus;
-    App app{s_, pic1_, ports_, dxfScratch_};
-    if (form == "frmMain"_c) {
-        leaveProgram(app);
-    } else if (form == "frmfile"_c) {
-        closeFileDialog(app);
-    } else if (form == "frmfilter"_c) {
-        cancelFilter(app, form);
-    } else if (form == "frmprintset"_c) {
-        cancelPrint(app, form);
-    } else {
-        s_.controls[form].visible = false;
-        if (formOf(before) == form) s_.controls.focus = "pic1"_c;
-    }
-    settle(before);
+    event([&](App& app) { closeFormOf(app, form); });
 }
 
 void Shell::settle(ControlId focusBefore)
 {
     // A form that went from the screen takes no keys with it.
-    if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = "pic1"_c;
+    if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = ids::drawing;
     if (s_.controls.focus != focusBefore) leave(s_, focusBefore);
     showArmedSnap(s_);
 }

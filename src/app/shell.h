@@ -58,6 +58,10 @@ class Shell {
     const Session& session() const { return s_; }
 
   private:
+    // Carries out act(app) as one event; of a control, only while that can be used.
+    template <class Act> void event(Act act);
+    template <class Act> void eventOf(ControlId id, Act act);
+
     // After each event: the lost-focus event of the control that had the focus before, and the prompt line.
     void settle(ControlId focusBefore);
 

@@ -1,19 +1,18 @@
 #include "app/start_stop.h"
 
-#include "app/actions.h"
-#include "app/attribute_controls.h"
-#include "app/endings.h"
-#include "app/file_dialog.h"
+#include "app/drawing/endings.h"
+#include "app/menus/attribute_controls.h"
 #include "app/settings.h"
 #include "commands/prompt.h"
 #include "render/redraw.h"
+#include "tables/list_modes.h"
 
 namespace mirtane {
 namespace {
 
 // The program's folder stays the working folder, and so a row of the drives, even where files begin
 // elsewhere.
-void setFolders(Session& s, const std::string& programFolder, const std::string& ownFolder)
+void setFolders(FileState& s, const std::string& programFolder, const std::string& ownFolder)
 {
     s.programFolder = programFolder;
     for (FolderPair* pair : {&s.drawings, &s.associates, &s.hatches, &s.multipleLines, &s.dxf}) {
@@ -26,19 +25,12 @@ void newLayers(Session& s)
 {
     s.workLayer = 1;
     resetLayers(s.layerTable);
-    s.controls["Label3"_c].caption = "Set Working Layer";
+    s.controls[ids::listMode].caption = list_mode::setWorkingLayer;
     showLayers(s);
 }
 
-void greyWhatHasNoRoutine(Controls& controls)
-{
-    for (std::size_t i = 0; i < controlCount; ++i) {
-        const ControlId id{static_cast<std::uint16_t>(i)}; // the table has a few hundred rows
-        if (isClickable(id)) controls[id].enabled = actionOf(id) != nullptr;
-    }
-}
-
-constexpr ControlId laterForms[] = {"frmfile"_c, "frmfilter"_c, "frmedit"_c, "frmprintset"_c, "frmhelp"_c};
+constexpr ControlId laterForms[] = {ids::fileForm, ids::filterForm, ids::editsForm, ids::printForm,
+                                    ids::helpForm};
 
 } // namespace
 
@@ -47,7 +39,6 @@ void startProgram(App& app)
     Session& s = app.s;
     setFolders(s, app.ports.programFolder, app.ports.ownFolder);
     newLayers(s);
-    greyWhatHasNoRoutine(s.controls);
     if (const Printer* printer = app.ports.printer) {
         s.pageWidth = printer->pageWidth();
         s.pageHeight = printer->pageHeight();
@@ -67,17 +58,6 @@ void startProgram(App& app)
 bool hasUnsavedWork(const Session& s)
 {
     return s.savedCount < s.store.entCount;
-}
-
-void leaveProgram(App& app)
-{
-    endWhatIsBegun(app.s, app.pic1);
-    app.s.saveFollowUp = follow::exit;
-    if (hasUnsavedWork(app.s)) {
-        offerToSave(app, follow::exit);
-    } else {
-        endProgram(app);
-    }
 }
 
 void endProgram(App& app)

@@ -5,11 +5,8 @@
 namespace mirtane {
 
 // The start of the program: the sixteen layers, the settings, the function "Line" and its prompt. The session
-// is a new one; controls without a routine are greyed.
+// is a new one.
 void startProgram(App& app);
-
-// The close button of the window: ends the program, or offers to save unsaved work first.
-void leaveProgram(App& app);
 
 // Writes the settings and ends the program.
 void endProgram(App& app);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr double offArc = 1.5; // sizes from the arc to the text
 
-double bisectorOf(const Session& s)
+double bisectorOf(const ScratchPoints& s)
 {
     const double bisector = s.arcStart + sweep(s.arcStart, s.arcEnd) / 2;
     return bisector >= fullTurn ? bisector - fullTurn : bisector;
@@ -48,7 +48,7 @@ void paintScratchAngularDim(const Session& s, Canvas& pic1)
     d.a2 = s.arcEnd;
     d.style = s.dimStyle;
     paintAngularDim(pic1, s, d);
-    paintDimText(pic1, {s.ptB, s.arrowSize, s.dimAngle, false, s.textFont, s.controls["Text3"_c].text});
+    paintDimText(pic1, {s.ptB, s.arrowSize, s.dimAngle, false, s.textFont, s.controls[ids::workText].text});
 }
 
 void showBand(Session& s, Canvas& pic1)
@@ -66,7 +66,7 @@ void endAttempt(Session& s, Canvas& pic1)
 }
 
 // A step of rounding off the ray is on it, and what would read as a whole turn is none.
-bool isOnOneRay(const Session& s, double angle)
+bool isOnOneRay(const ScratchPoints& s, double angle)
 {
     const std::string digits = angleDigits(angle);
     return digits == zeroAngle || digits == angleDigits(fullTurn) ||
@@ -81,10 +81,10 @@ void takeSecondLeg(Session& s, Canvas& pic1)
     s.arcEnd = directionAngle(s.ptA, s.ptH, s.arcEnd);
     const double angle = sweep(s.arcStart, s.arcEnd);
     if (isOnOneRay(s, angle)) {
-        setText(s.controls["Text3"_c], std::string(zeroAngle));
+        setText(s.controls[ids::workText], std::string(zeroAngle));
         return endAttempt(s, pic1);
     }
-    setText(s.controls["Text3"_c], formatAngle(angle, s.angFormat));
+    setText(s.controls[ids::workText], formatAngle(angle, s.angFormat));
     setPrompt(s, pic1);
     showBand(s, pic1);
 }

@@ -71,7 +71,7 @@ int turnBetween(Bearing last, Bearing now)
 // Counts the way that the pointer goes round the centre, from the place in ptC, which it takes. arcLastAngle
 // is what the last turn left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
 // the sum over the whole way decides.
-void wind(Session& s)
+void wind(ScratchPoints& s)
 {
     const Bearing last = bearingOf(s.ptA, s.ptC, s.arcLastAngle);
     s.ptC = s.pickLast;

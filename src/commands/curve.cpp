@@ -34,7 +34,7 @@ void joinNextArc(Session& s)
 }
 
 // The centre lies on the normal through the junction J, as far from J as from C: |JC|^2 / (2 |J foot of C|).
-void constructTangentCircle(Session& s)
+void constructTangentCircle(ScratchPoints& s)
 {
     const Point junction = s.ptA;
     const Point c = s.ptC;

@@ -35,8 +35,8 @@ void takeFirstAxis(Session& s, Canvas& pic1)
     s.ptC = onTheWay(s.ptA, s.ptB, 0.5, s.ptC);
     s.pickFirst = s.ptC;
     s.orthoAngle = directionAngle(s.ptA, s.ptB, s.orthoAngle);
-    s.orthoCaption = s.controls["freecurs"_c].caption;
-    s.controls["freecurs"_c].caption = "Ortho/On";
+    s.orthoCaption = s.controls[ids::orthoToggle].caption;
+    s.controls[ids::orthoToggle].caption = "Ortho/On";
 }
 
 void takeSecondAxis(Session& s, Canvas& pic1)
@@ -46,10 +46,10 @@ void takeSecondAxis(Session& s, Canvas& pic1)
     commitEntity(s, pic1, addEllipse, paintScratchEllipse);
     readyForNext(s, pic1);
     s.orthoAngle = s.orthoAngleSaved;
-    s.controls["freecurs"_c].caption = s.orthoCaption;
+    s.controls[ids::orthoToggle].caption = s.orthoCaption;
 }
 
-void drawAxes(const Session& s, Canvas& pic1)
+void drawAxes(const ScratchPoints& s, Canvas& pic1)
 {
     restorePicture(pic1);
     pic1.line(s.ptA.x, s.ptA.y, s.ptB.x, s.ptB.y);

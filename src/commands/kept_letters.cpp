@@ -22,7 +22,7 @@ bool refusesText(Controls& controls, std::string_view utf8)
 {
     const std::string_view letter = firstBeyondCodePage(utf8);
     if (letter.empty()) return false;
-    setSelectedText(controls["entry"_c], refusalOf(letter));
+    setSelectedText(controls[ids::entry], refusalOf(letter));
     return true;
 }
 

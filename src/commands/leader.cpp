@@ -2,8 +2,8 @@
 
 #include "commands/commit.h"
 #include "commands/leader_shoulder.h"
-#include "commands/live_text.h"
 #include "commands/prompt.h"
+#include "commands/typed_text.h"
 #include "render/dimension_painters.h"
 #include "render/redraw.h"
 #include "render/text_painter.h"
@@ -13,7 +13,7 @@ namespace {
 
 void paintText3(const Session& s, Canvas& pic1, Point at)
 {
-    paintDimText(pic1, {at, s.arrowSize, 0, false, s.textFont, s.controls["Text3"_c].text});
+    paintDimText(pic1, {at, s.arrowSize, 0, false, s.textFont, s.controls[ids::workText].text});
 }
 
 void takeElbow(Session& s)
@@ -45,7 +45,7 @@ void paintScratchLeader(const Session& s, Canvas& pic1)
 // Text3 may hold what another function has left there.
 void endTyping(Session& s, Canvas& pic1)
 {
-    setText(s.controls["Text3"_c], typedText(s));
+    setText(s.controls[ids::workText], typedText(s));
     restorePicture(pic1);
     setPrompt(s, pic1);
 }

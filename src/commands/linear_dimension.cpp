@@ -36,7 +36,7 @@ Direction across(Direction u)
 
 // The extension lines run as the pointer lies from the second point. A pointer on that point gives no
 // direction: they keep the one they had.
-Direction extensionDirection(const Session& s, Point pointer)
+Direction extensionDirection(const ScratchPoints& s, Point pointer)
 {
     const Direction u = directionBetween(s.ptF, pointer);
     return std::isfinite(u.x + u.y) ? u : across(directionBetween(s.ptH, s.ptG));
@@ -62,7 +62,7 @@ void writeLabel(Session& s, Canvas& pic1)
     const std::string text = lengthText(s, length);
     const float width = textWidthIn(pic1, s.textFont, s.arrowSize, text);
     const DimensionLabel label = labelOfLine(s.ptG, s.ptH, s.arrowSize, width);
-    setText(s.controls["Text3"_c], text);
+    setText(s.controls[ids::workText], text);
     s.ptA = label.at;
     s.dimAngle = label.degrees;
 }
@@ -77,7 +77,7 @@ void paintScratchLinearDim(const Session& s, Canvas& pic1)
     d.s1 = s.dimStyle;
     d.s2 = s.arrowSize;
     paintLinearDim(pic1, s, d);
-    paintDimText(pic1, {s.ptA, s.arrowSize, s.dimAngle, false, s.textFont, s.controls["Text3"_c].text});
+    paintDimText(pic1, {s.ptA, s.arrowSize, s.dimAngle, false, s.textFont, s.controls[ids::workText].text});
 }
 
 void endAttempt(Session& s, Canvas& pic1)
@@ -108,7 +108,7 @@ void takeSecondPoint(Session& s, Canvas& pic1)
     showBand(s, pic1, s.ptF);
 }
 
-void goOnAlongLine(Session& s)
+void goOnAlongLine(ScratchPoints& s)
 {
     const Point foot = footOfPerpendicular(s.pickLast, s.ptH, s.ptG, s.ptG);
     s.ptE = s.ptF;
@@ -120,7 +120,7 @@ void goOnAlongLine(Session& s)
 void commitDimension(Session& s, Canvas& pic1)
 {
     writeLabel(s, pic1);
-    if (s.controls["Text3"_c].text == zeroLength) return endAttempt(s, pic1);
+    if (s.controls[ids::workText].text == zeroLength) return endAttempt(s, pic1);
     commitEntity(s, pic1, addLinearDim, paintScratchLinearDim, pen::solid);
     s.pickFirst = s.ptF;
     setPrompt(s, pic1);

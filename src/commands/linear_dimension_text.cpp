@@ -19,7 +19,7 @@ constexpr double textShare = 0.75; // of the width as measured, which is what th
 
 } // namespace
 
-std::string lengthText(const Session& s, float length)
+std::string lengthText(const Attributes& s, float length)
 {
     const NumberDisplay display{numStyleOf(s.numStyle), s.dimTol, s.numComma == 1};
     return formatMeasure({length, display});

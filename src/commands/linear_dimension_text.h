@@ -8,7 +8,7 @@ namespace mirtane {
 
 // A length (world units) in the figures that the drawing is set to. Of dimensions, only feet and inches have
 // a text that says there is nothing to measure: zeroLength.
-std::string lengthText(const Session& s, float length);
+std::string lengthText(const Attributes& s, float length);
 inline constexpr std::string_view zeroLength = "0";
 
 struct DimensionLabel {

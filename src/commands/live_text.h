@@ -1,7 +1,6 @@
 #pragma once
 
-// Text typed straight onto the drawing, character by character, with a preview over the clean picture. The
-// characters stand in textBuffer and, joined, in Text3.
+// Text typed straight onto the drawing, character by character, with a preview over the clean picture.
 
 #include "model/session.h"
 #include "render/canvas.h"
@@ -15,14 +14,5 @@ void liveTextKey(Session& s, Canvas& pic1, char32_t code);
 
 // Puts the preview back on a picture that was just redrawn. Nothing where no text is typed.
 void repaintTextPreview(Session& s, Canvas& pic1);
-
-// textBuffer, as far as it is filled, as one string.
-std::string typedText(const Session& s);
-
-// Begins with a text that stands already, in textBuffer and Text3.
-void loadTypedText(Session& s, const std::string& text);
-
-// No character typed, Text3 empty.
-void clearTypedText(Session& s);
 
 } // namespace mirtane

@@ -33,7 +33,7 @@ void takeOrthoAngle(Session& s, double degrees)
     const double folded = foldedDegrees(degrees);
     s.orthoAngle = folded / degreesPerRadian;
     s.orthoAngleSaved = s.orthoAngle;
-    setText(s.controls["angle"_c], formatNumber(folded, NumberFormat::paddedThousandths));
+    setText(s.controls[ids::orthoAngle], formatNumber(folded, NumberFormat::paddedThousandths));
 }
 
 // What the field would show as a whole turn is none.
@@ -45,7 +45,17 @@ double belowWholeTurn(double degrees)
 void takeTextRotation(Session& s, double degrees)
 {
     s.textRotation = belowWholeTurn(degrees);
-    setText(s.controls["textrot"_c], formatNumber(s.textRotation, NumberFormat::paddedThousandths));
+    setText(s.controls[ids::textRotation], formatNumber(s.textRotation, NumberFormat::paddedThousandths));
+}
+
+template <void (*take)(Session&, double degrees)> void matchStep(Session& s, Canvas& pic1)
+{
+    if (s.stepNo == 1) setPrompt(s, pic1);
+    if (s.stepNo != 2) return;
+    take(s, directionAngle(s.pickFirst, s.pickLast, 0) * degreesPerRadian);
+    returnToBase(s);
+    setPrompt(s, pic1);
+    resetPicture(pic1);
 }
 
 } // namespace
@@ -61,20 +71,14 @@ double foldedDegrees(double degrees)
     return degrees;
 }
 
-void matchStep(Session& s, Canvas& pic1)
+void orthoAngleMatchStep(Session& s, Canvas& pic1)
 {
-    if (s.stepNo == 1) setPrompt(s, pic1);
-    if (s.stepNo != 2) return;
-    const double degrees = directionAngle(s.pickFirst, s.pickLast, 0) * degreesPerRadian;
-    if (s.curFunc == "Ortho Angle Match") {
-        takeOrthoAngle(s, degrees);
-    } else {
-        takeTextRotation(s, degrees);
-    }
-    s.curFunc = s.baseFunc;
-    s.stepNo = 0;
-    setPrompt(s, pic1);
-    resetPicture(pic1);
+    matchStep<takeOrthoAngle>(s, pic1);
+}
+
+void textRotationMatchStep(Session& s, Canvas& pic1)
+{
+    matchStep<takeTextRotation>(s, pic1);
 }
 
 void matchBand(Session& s, Canvas& pic1)

@@ -6,7 +6,8 @@
 namespace mirtane {
 
 // "Ortho Angle Match" and "Text Rotation Match": read an angle from two clicks and return to baseFunc.
-void matchStep(Session& s, Canvas& pic1);
+void orthoAngleMatchStep(Session& s, Canvas& pic1);
+void textRotationMatchStep(Session& s, Canvas& pic1);
 void matchBand(Session& s, Canvas& pic1);
 
 // Degrees of a direction folded towards the horizontal, so that ortho lies along a line drawn either way:

@@ -15,8 +15,8 @@ void measureDistanceStep(Session& s, Canvas& pic1)
     float length = 0;
     keep(length, distance(s.ptA, s.ptB));
     const NumberDisplay display{numStyleOf(s.numStyle), s.dimTol, s.numComma == 1};
-    setText(s.controls["entry"_c], formatMeasure({length, display}));
-    setText(s.controls["Text3"_c], "");
+    setText(s.controls[ids::entry], formatMeasure({length, display}));
+    setText(s.controls[ids::workText], "");
     restorePicture(pic1);
     s.ptA = s.ptB;
     s.pickFirst = s.ptB;

@@ -11,6 +11,7 @@
 #include "model/missing.h"
 #include "render/painters.h"
 #include "render/redraw.h"
+#include "tables/list_modes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -125,7 +126,7 @@ Corner cornerAt(Point a, Point b, Point c, bool orthoIsOn)
 // With ortho on, every leg turns by a right angle.
 Corner cornerUnderway(const Session& s)
 {
-    return cornerAt(s.ptA, s.ptB, s.pickLast, s.controls["freecurs"_c].caption == "Ortho/On");
+    return cornerAt(s.ptA, s.ptB, s.pickLast, s.controls[ids::orthoToggle].caption == "Ortho/On");
 }
 
 template <class Use> void forEachLine(Session& s, Use use)
@@ -145,7 +146,7 @@ bool storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
     r.layer = s.workLayer;
     r.color = row.colour;
     r.style = row.style;
-    r.kind = kind::line;
+    r.kind = Kind::line;
     s.store.setRecord(s.store.entCount, r);
     s.store.setStat(s.store.entCount, Stat::on);
     commitInGroup(s);
@@ -180,7 +181,7 @@ void drawLine(Canvas& pic1, Point from, Point to)
 // -- creating a set --
 
 // The reference line of a set that is made runs through ptA in this direction.
-Direction referenceDirection(Session& s, const EntityRecord& firstLine)
+Direction referenceDirection(ScratchPoints& s, const EntityRecord& firstLine)
 {
     constexpr double farAway = 10000; // world units
     const Direction u = directionOf(firstLine.p1, firstLine.p2);
@@ -201,7 +202,7 @@ double offsetOf(Point of, Point p, Direction u)
 bool isSelectedLine(const EntityStore& store, std::int32_t slot)
 {
     const std::size_t at = EntityStore::at(slot);
-    return store.kind[at] == kind::line && store.stat[at] == Stat::sel;
+    return store.kind[at] == Kind::line && store.stat[at] == Stat::sel;
 }
 
 // False when the table is full. missing counts the lines that it had no room for.
@@ -277,13 +278,12 @@ void createMultipleLinesStep(Session& s, Canvas& pic1)
     Missing missing;
     if (!takeSelectedLines(s, missing)) return tellMissing(s.controls, missing);
     changeStat(s.store, Stat::sel, Stat::on);
-    s.stepNo = 0;
-    s.curFunc = s.baseFunc;
+    returnToBase(s);
     setPrompt(s, pic1);
     redrawAll(s, pic1);
     std::vector<std::string> names = listedNames(s.multipleLinesLibrary);
     if (!names.empty()) s.multipleLinesName = names.back();
-    showNames(s.controls, "Select Multiple Lines", std::move(names));
+    showNames(s.controls, list_mode::selectMultipleLines, std::move(names));
 }
 
 } // namespace mirtane

@@ -48,7 +48,7 @@ void polygonStep(Session& s, Canvas& pic1)
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 2) return;
     commitSides(s, pic1);
-    setText(s.controls["calc"_c], "");
+    setText(s.controls[ids::typedDigits], "");
     s.pickFirst = s.pickLast;
     readyForNext(s, pic1);
 }

@@ -1,9 +1,9 @@
 #include "commands/prompt.h"
 
-#include "commands/vocabulary.h"
 #include "geometry/fault.h"
 #include "model/shown_prompt.h"
 #include "render/redraw.h"
+#include "tables/functions.h"
 #include "text/measure.h"
 #include "text/numbers.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr double unitsPerInch = 12;
 
-std::string sizeText(const Session& s, float size)
+std::string sizeText(const Attributes& s, float size)
 {
     return formatSize(size, {numStyleOf(s.numStyle), s.dimTol, s.numComma == 1});
 }
@@ -48,8 +48,8 @@ std::string textOf(Session& s, const Prompt& prompt)
 {
     std::string text(prompt.text);
     if (prompt.number == PromptNumber::none) return text;
-    setText(s.controls["Text3"_c], currentNumber(s, prompt.number));
-    return text + s.controls["Text3"_c].text + std::string(prompt.textBehind);
+    setText(s.controls[ids::workText], currentNumber(s, prompt.number));
+    return text + s.controls[ids::workText].text + std::string(prompt.textBehind);
 }
 
 } // namespace
@@ -65,12 +65,13 @@ void setPrompt(Session& s, Canvas& pic1)
 {
     showPromptOfStep(s, s.stepNo);
     s.liveAngle = 0;
-    s.controls["blank"_c].caption = s.curFunc == "Blank Line" ? "Blank/On" : "Blank/Off";
-    s.controls["frmedit"_c].visible = false;
+    s.controls[ids::blankToggle].caption =
+        functionRow(s.curFunc).clicks == Clicks::layConstructionLine ? "Blank/On" : "Blank/Off";
+    s.controls[ids::editsForm].visible = false;
     if (s.baseFunc == s.lastFunc) return;
     s.lastFunc = s.baseFunc;
     if (isSelectionFunction(s.curFunc)) return;
-    setText(s.controls["entry"_c], "");
+    setText(s.controls[ids::entry], "");
     changeStat(s.store, Stat::sel, Stat::on);
     redrawAll(s, pic1);
 }

@@ -17,8 +17,7 @@ namespace {
 bool isRound(const EntityStore& store, std::int32_t slot)
 {
     if (slot < 0) return false;
-    const std::int16_t kind = store.kind[EntityStore::at(slot)];
-    return kind == kind::circle || kind == kind::arc;
+    return isRound(store.kind[EntityStore::at(slot)]);
 }
 
 void takeCircle(Session& s, Canvas& pic1)
@@ -28,14 +27,14 @@ void takeCircle(Session& s, Canvas& pic1)
     if (!isRound(s.store, slot)) {
         s.stepNo = 0;
         setPrompt(s, pic1);
-        s.controls.focus = "pic1"_c;
+        s.controls.focus = ids::drawing;
         return;
     }
     const EntityRecord r = s.store.record(slot);
     s.ptA = r.p1;
     s.workRadius = r.rad;
     s.ptC = polarPoint(s.ptA, s.workRadius, 0); // stays for an elbow at the centre, which shows no direction
-    setText(s.controls["Text3"_c], lengthText(s, s.workRadius));
+    setText(s.controls[ids::workText], lengthText(s, s.workRadius));
 }
 
 void takeElbow(Session& s)
@@ -59,7 +58,7 @@ void paintScratchRadialDim(const Session& s, Canvas& pic1)
     d.s1 = s.dimStyle;
     d.s2 = s.arrowSize;
     paintRadialDim(pic1, s, d);
-    paintDimText(pic1, {s.ptD, s.arrowSize, 0, false, s.textFont, s.controls["Text3"_c].text});
+    paintDimText(pic1, {s.ptD, s.arrowSize, 0, false, s.textFont, s.controls[ids::workText].text});
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "commands/text.h"
 
-#include "commands/live_text.h"
 #include "commands/prompt.h"
+#include "commands/typed_text.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 #include "model/insertion.h"
@@ -24,17 +24,17 @@ struct PlacedLine {
 
 PlacedLine placeTypedLine(Session& s, Canvas& pic1)
 {
-    const float width = textWidthIn(pic1, s.textFont, s.textSize, s.controls["Text3"_c].text);
+    const float width = textWidthIn(pic1, s.textFont, s.textSize, s.controls[ids::workText].text);
     return {justifiedStart(s.pickFirst, width, s.textRotation, s.textJust), width};
 }
 
 void paintTypedLine(const Session& s, Canvas& pic1, Point start)
 {
-    paintText(pic1, {start, s.textSize, s.textRotation, s.controls["tk12"_c].checked, s.textFont,
-                     s.controls["Text3"_c].text});
+    paintText(pic1, {start, s.textSize, s.textRotation, s.controls[ids::underlinedText].checked, s.textFont,
+                     s.controls[ids::workText].text});
 }
 
-void takeLocation(Session& s, Point at)
+void takeLocation(ScratchPoints& s, Point at)
 {
     s.pickFirst = at;
     s.ptA = at;
@@ -70,7 +70,7 @@ void placeTextBand(Session& s, Canvas& pic1)
     if (s.stepNo != 2) return;
     takeLocation(s, s.pickLast);
     restorePicture(pic1);
-    repaintTextPreview(s, pic1);
+    repaintPreview(s, pic1, placeTextPreview);
 }
 
 void placeTextPreview(Session& s, Canvas& pic1)
@@ -81,11 +81,11 @@ void placeTextPreview(Session& s, Canvas& pic1)
 void placeTextLine(Session& s, Canvas& pic1)
 {
     if (s.textLength > 0) {
-        setText(s.controls["Text3"_c], typedText(s));
+        setText(s.controls[ids::workText], typedText(s));
         countStep(s);
         setPrompt(s, pic1);
         commitTypedLine(s, pic1);
-        s.controls.focus = "pic1"_c;
+        s.controls.focus = ids::drawing;
     }
     clearTypedText(s);
 }

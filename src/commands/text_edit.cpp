@@ -1,11 +1,12 @@
 #include "commands/text_edit.h"
 
-#include "commands/live_text.h"
 #include "commands/prompt.h"
+#include "commands/typed_text.h"
 #include "model/insertion.h"
 #include "render/redraw.h"
 #include "render/text_painter.h"
 #include "snap/pick.h"
+#include "tables/kinds.h"
 
 namespace mirtane {
 namespace {
@@ -16,18 +17,18 @@ bool stillThere(const Session& s)
     const std::int32_t slot = s.pickedIndex;
     if (slot < 1 || slot >= s.store.end()) return false;
     const std::size_t at = EntityStore::at(slot);
-    const std::int16_t kind = s.store.kind[at];
+    const Kind kind = s.store.kind[at];
     const Stat stat = s.store.stat[at];
-    return kind >= kind::text && kind <= kind::lastDrawn && stat != Stat::out && stat != Stat::none;
+    return hasWords(kind) && stat != Stat::out && stat != Stat::none;
 }
 
 EntityRecord editedRecord(Session& s, Canvas& pic1)
 {
     constexpr float clippingFactor = 1.2F; // of the width, as for a new text
     EntityRecord r = s.store.record(s.pickedIndex);
-    r.t1 = s.controls["Text3"_c].text;
-    if (r.kind != kind::angularDimension) r.style = 0;
-    if (r.kind == kind::text) r.rad = clippingFactor * textWidthIn(pic1, r.t2, r.p2.x, r.t1);
+    r.t1 = s.controls[ids::workText].text;
+    if (r.kind != Kind::angularDimension) r.style = 0;
+    if (r.kind == Kind::text) r.rad = clippingFactor * textWidthIn(pic1, r.t2, r.p2.x, r.t1);
     return r;
 }
 
@@ -63,7 +64,7 @@ void textEditStep(Session& s, Canvas& pic1)
     if (found) beginTyping(s);
     redrawAll(s, pic1);
     if (found) {
-        repaintTextPreview(s, pic1);
+        repaintPreview(s, pic1, textEditPreview);
         return;
     }
     s.stepNo = 0;
@@ -75,8 +76,8 @@ void textEditPreview(Session& s, Canvas& pic1)
     if (!stillThere(s)) return;
     const EntityRecord r = s.store.record(s.pickedIndex);
     Lettering lettering = letteringOf(r);
-    lettering.words = s.controls["Text3"_c].text;
-    if (r.kind == kind::text) {
+    lettering.words = s.controls[ids::workText].text;
+    if (r.kind == Kind::text) {
         paintText(pic1, lettering);
     } else {
         paintDimText(pic1, lettering);
@@ -90,7 +91,7 @@ void finishTextEdit(Session& s, Canvas& pic1)
     clearTypedText(s);
     s.stepNo = 0;
     setPrompt(s, pic1);
-    s.controls.focus = "pic1"_c;
+    s.controls.focus = ids::drawing;
 }
 
 } // namespace mirtane

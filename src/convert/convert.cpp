@@ -1,14 +1,14 @@
 #include "convert/convert.h"
 
-#include "app/open_drawing.h"
+#include "app/files/open_drawing.h"
 #include "app/shell.h"
 #include "convert/exports.h"
 #include "dxf/tolerant.h"
-#include "model/kind_table.h"
 #include "platform/qt/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/surface.h"
 #include "render/view.h"
+#include "tables/kinds.h"
 
 #include <memory>
 #include <new>

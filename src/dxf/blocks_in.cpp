@@ -18,7 +18,7 @@ BlockLines linesByBlock(const EntityStore& store)
     std::vector<std::int32_t>* lines = nullptr;
     const std::string* name = nullptr;
     for (std::int32_t i = 1; i < store.end(); ++i) {
-        if (store.kind[EntityStore::at(i)] != kind::line) continue;
+        if (store.kind[EntityStore::at(i)] != Kind::line) continue;
         const std::string& tag = store.dxfTag[EntityStore::at(i)];
         if (name == nullptr || *name != tag) lines = &blocks[tag]; // lines of one block stand together
         name = &tag;
@@ -61,7 +61,7 @@ void addCopy(EntityStore& store, std::size_t from, const Placement& by)
     slot.style() = store.style[from];
     slot.color() = store.color[from];
     slot.dxfTag() = noName;
-    slot.close(kind::line);
+    slot.close(Kind::line);
 }
 
 // An insert without a name stands for all lines that belong to no block, those of earlier inserts too.
@@ -89,7 +89,7 @@ void placeDxfBlocks(EntityStore& store)
     const std::int32_t end = store.end();
     for (std::int32_t i = 1; i < end; ++i) {
         const std::size_t at = EntityStore::at(i);
-        if (store.kind[at] != kind::blockInsert) continue;
+        if (store.kind[at] != blockInsertKind) continue;
         const auto block = blocks.find(store.dxfTag[at]);
         if (block == blocks.end()) continue;
         Placement by{store.p1[at], store.p2[at], store.a1[at]};

@@ -23,7 +23,7 @@ void convertRound(EntityStore& store, std::size_t at)
 {
     toWorld(store.p1[at]);
     keep(store.rad[at], store.rad[at] * worldPerFile);
-    if (store.kind[at] == kind::arc) placeArcPoints(store, at);
+    if (store.kind[at] == Kind::arc) placeArcPoints(store, at);
 }
 
 // A segment's bulge as a point beside the middle of its chord.
@@ -50,7 +50,7 @@ void convertSegment(Session& s, std::size_t at, BulgePoint& bulgePoint)
     EntityStore& store = s.store;
     toWorld(store.p1[at]);
     toWorld(store.p2[at]);
-    store.kind[at] = kind::line;
+    store.kind[at] = Kind::line;
     if (store.p3[at].x == 0) return;
     s.ptA = store.p1[at];
     s.ptC = store.p2[at];
@@ -62,7 +62,7 @@ void convertSegment(Session& s, std::size_t at, BulgePoint& bulgePoint)
     store.a1[at] = s.arcStart;
     store.a2[at] = s.arcEnd;
     placeArcPoints(store, at);
-    store.kind[at] = kind::arc;
+    store.kind[at] = Kind::arc;
 }
 
 } // namespace
@@ -73,23 +73,16 @@ void convertDxfSlots(Session& s, const TextWidthOf& widthOf)
     BulgePoint bulgePoint;
     for (std::int32_t i = 1; i < store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
-        switch (store.kind[at]) {
-        case kind::line:
+        const Kind kind = store.kind[at];
+        if (kind == Kind::line) {
             toWorld(store.p1[at]);
             toWorld(store.p2[at]);
-            break;
-        case kind::circle:
-        case kind::arc:
+        } else if (isRound(kind)) {
             convertRound(store, at);
-            break;
-        case kind::text:
+        } else if (kind == Kind::text) {
             convertText(store, i, widthOf);
-            break;
-        case kind::polylineSegment:
+        } else if (kind == polylineSegmentKind) {
             convertSegment(s, at, bulgePoint);
-            break;
-        default:
-            break;
         }
     }
 }

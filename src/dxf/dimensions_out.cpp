@@ -54,17 +54,24 @@ void DxfDimensions::text(const EntityRecord& r, double degrees)
 bool DxfDimensions::write(const EntityRecord& r)
 {
     switch (r.kind) {
-    case kind::radialDimension:
+    case Kind::radialDimension:
         return radial(r);
-    case kind::angularDimension:
+    case Kind::angularDimension:
         return angular(r);
-    case kind::leader:
+    case Kind::leader:
         leader(r);
         return true;
-    default:
+    case Kind::line:
+    case Kind::circle:
+    case Kind::arc:
+    case Kind::ellipse:
+    case Kind::point:
+    case Kind::text:
+    case Kind::linearDimension:
         linear(r);
         return true;
     }
+    return true;
 }
 
 void DxfDimensions::extension(Point from, Point to, float h)

@@ -3,7 +3,7 @@
 // Dimensions and leaders taken apart into lines, arcs and a text. All geometry is in file units and 32 bits.
 
 #include "dxf/records_out.h"
-#include "model/entity_record.h"
+#include "tables/entity_record.h"
 
 namespace mirtane {
 

@@ -83,7 +83,7 @@ void takeAttributes(Session& s, std::size_t at)
 {
     s.curColor = s.store.color[at];
     s.curStyle = s.store.style[at];
-    if (s.store.kind[at] != kind::text) return;
+    if (s.store.kind[at] != Kind::text) return;
     s.textSize = s.store.p2[at].x;
     s.textFont = s.store.t2[at];
 }
@@ -91,9 +91,9 @@ void takeAttributes(Session& s, std::size_t at)
 // The lines of a block's definition and the inserts are not seen; the lines placed by the inserts are.
 void hideDefinitions(EntityStore& store, std::size_t at)
 {
-    const std::int16_t k = store.kind[at];
-    const bool definition = k == kind::line && store.dxfTag[at] != noName;
-    if (definition || k == kind::blockInsert || k == kind::polylineSegment) store.stat[at] = Stat::out;
+    const Kind k = store.kind[at];
+    const bool definition = k == Kind::line && store.dxfTag[at] != noName;
+    if (definition || k == blockInsertKind || k == polylineSegmentKind) store.stat[at] = Stat::out;
 }
 
 } // namespace
@@ -124,7 +124,7 @@ void finishDxf(Session& s)
     for (std::int32_t n = 0; n < s.layerTable.layerCount; ++n) {
         keep(slot.p1().x, n + layer::nameOffset);
         if (const Layer* const row = s.layerTable.find(n)) slot.t1() = row->layerName;
-        slot.close(kind::layerName);
+        slot.close(layerNameKind);
     }
     s.savedCount = store.entCount;
 }

@@ -5,6 +5,7 @@
 #include "dxf/records_out.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "tables/kinds.h"
 
 #include <cmath>
 #include <initializer_list>
@@ -114,33 +115,37 @@ class ObjectWriter {
 bool ObjectWriter::write(std::int32_t slot)
 {
     const std::size_t at = EntityStore::at(slot);
-    const std::int16_t k = store_.kind[at];
-    if (k < kind::line || k > kind::lastDrawn) return true;
-    records_.setPen(store_.color[at], k <= kind::ellipse ? store_.style[at] : std::int16_t{0});
+    const Kind k = store_.kind[at];
+    if (!isDrawnKind(k)) return true;
+    records_.setPen(store_.color[at], hasLineStyle(k) ? store_.style[at] : std::int16_t{0});
     const Point p1 = toFile(store_.p1[at]);
     const float radius = store_.rad[at] / worldPerFile;
     switch (k) {
-    case kind::line:
+    case Kind::line:
         records_.line(p1, toFile(store_.p2[at]));
         return true;
-    case kind::circle:
+    case Kind::circle:
         records_.circle(p1, radius);
         return true;
-    case kind::arc:
+    case Kind::arc:
         records_.arc(p1, radius, store_.a1[at], store_.a2[at]);
         return true;
-    case kind::ellipse:
+    case Kind::ellipse:
         ellipse(at);
         return true;
-    case kind::point:
+    case Kind::point:
         records_.line(p1, p1);
         return true;
-    case kind::text:
+    case Kind::text:
         text(at);
         return true;
-    default:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return dimensions_.write(store_.record(slot));
     }
+    return true;
 }
 
 // Each line runs from the new point back to the one before it.

@@ -8,11 +8,8 @@
 namespace mirtane {
 
 // Kinds that exist only while a file is read.
-namespace kind {
-inline constexpr std::int16_t polylineSegment = 30; // p1 start, p2 end, p3.x bulge
-inline constexpr std::int16_t blockInsert =
-    35; // p1 place, p2 scales, a1 rotation (radians), dxfTag the block
-} // namespace kind
+inline constexpr Kind polylineSegmentKind{30}; // p1 start, p2 end, p3.x bulge
+inline constexpr Kind blockInsertKind{35};     // p1 place, p2 scales, a1 rotation (radians), dxfTag the block
 
 // Raises entCount, which goes on beyond the table but not beyond its own type.
 inline void countSlots(EntityStore& store, std::int64_t more)
@@ -41,7 +38,7 @@ class OpenSlot {
     std::string& dxfTag() { return field(store_.dxfTag, spareTag_); }
 
     // The slot is an object of that kind, "on"; the next one is open.
-    void close(std::int16_t kind)
+    void close(Kind kind)
     {
         field(store_.kind, spare_.kind) = kind;
         store_.setStat(store_.entCount, Stat::on);

@@ -64,7 +64,7 @@ void DxfRecordReader::endSegment(Polyline& line)
     slot_.p3().x = line.bulge;
     slot_.dxfTag() = noName;
     const Point end = slot_.p2();
-    slot_.close(kind::polylineSegment);
+    slot_.close(polylineSegmentKind);
     slot_.p1() = end;
     line.vertices = 1;
     line.bulge = 0;
@@ -82,7 +82,7 @@ void DxfRecordReader::closePolyline(const Polyline& line)
     }
     slot_.p2() = line.first;
     slot_.p3().x = line.bulge;
-    slot_.close(kind::polylineSegment);
+    slot_.close(polylineSegmentKind);
 }
 
 } // namespace mirtane

@@ -15,11 +15,11 @@ const std::string untagged{noName};
 void DxfRecordReader::read(std::string_view name, const std::string& block)
 {
     if (name == "LINE") {
-        if (takeGroups(&DxfRecordReader::takeLine)) finish(kind::line, block);
+        if (takeGroups(&DxfRecordReader::takeLine)) finish(Kind::line, block);
     } else if (name == "CIRCLE") {
-        if (takeGroups(&DxfRecordReader::takeCircle)) finish(kind::circle, untagged);
+        if (takeGroups(&DxfRecordReader::takeCircle)) finish(Kind::circle, untagged);
     } else if (name == "ARC") {
-        if (takeGroups(&DxfRecordReader::takeArc)) finish(kind::arc, untagged);
+        if (takeGroups(&DxfRecordReader::takeArc)) finish(Kind::arc, untagged);
     } else if (name == "TEXT") {
         text();
     } else if (name == "INSERT") {
@@ -29,7 +29,7 @@ void DxfRecordReader::read(std::string_view name, const std::string& block)
     }
 }
 
-void DxfRecordReader::finish(std::int16_t kind, const std::string& tag)
+void DxfRecordReader::finish(Kind kind, const std::string& tag)
 {
     slot_.dxfTag() = tag;
     slot_.close(kind);
@@ -40,14 +40,14 @@ void DxfRecordReader::text()
     slot_.p2().y = 0;
     slot_.a1() = 0;
     slot_.t2() = "Garamond";
-    if (takeGroups(&DxfRecordReader::takeText)) finish(kind::text, untagged);
+    if (takeGroups(&DxfRecordReader::takeText)) finish(Kind::text, untagged);
 }
 
 void DxfRecordReader::insert()
 {
     slot_.p2() = {1, 1};
     slot_.a1() = 0;
-    if (takeGroups(&DxfRecordReader::takeInsert)) slot_.close(kind::blockInsert);
+    if (takeGroups(&DxfRecordReader::takeInsert)) slot_.close(blockInsertKind);
 }
 
 // Gives whether the record counts.

@@ -36,7 +36,7 @@ class DxfRecordReader {
 
     void text();
     void insert();
-    void finish(std::int16_t kind, const std::string& tag);
+    void finish(Kind kind, const std::string& tag);
 
     struct Polyline;
     void polyline();

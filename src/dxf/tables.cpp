@@ -1,29 +1,22 @@
 #include "dxf/tables.h"
 
+#include "tables/pens.h"
+
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 
 namespace mirtane {
 namespace {
 
-struct ColorRow {
-    std::int32_t color; // 0xBBGGRR
-    std::string_view value;
-};
+// As a file writes them, six characters wide.
+constexpr std::string_view writtenColors[] = {"     1", "     2", "     3", "     4",
+                                              "     5", "     6", "     7", "     8"};
+static_assert(std::size(writtenColors) == std::size(pens));
 
-constexpr ColorRow writtenColors[] = {
-    {0xFF0000, "     1"}, {0x00FF00, "     2"}, {0xFFFF00, "     3"},
-    {0x0000FF, "     4"}, {0xFF00FF, "     5"}, {0x0080FF, "     6"},
-    {0x00FFFF, "     7"}, {0xE0E0E0, "     8"}, {0xFFFFFF, "     8"},
-};
-
-constexpr std::int32_t blue = 0xFF0000;
-
-// By number, from 0 on.
-constexpr std::int32_t readColors[] = {
-    blue,     0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x0080FF, 0x00FFFF,
-    0xE0E0E0, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x0080FF, 0x00FFFF,
-};
+// The numbers run through the pens twice; the first time the last of them is the grey that stands for it.
+constexpr int greyNumber = 8;
+constexpr int lastNumber = 15;
 
 // By style, from 0 on.
 constexpr std::string_view writtenLineTypes[] = {"CONTINUOUS", "DASHED", "DOT", "DASHDOT", "PHANTOM"};
@@ -51,15 +44,15 @@ template <class Row, std::size_t count> Row rowOrFirst(const Row (&rows)[count],
 
 std::string_view dxfColor(std::int32_t color)
 {
-    for (const ColorRow& row : writtenColors) {
-        if (row.color == color) return row.value;
-    }
-    return dxfColor(blue);
+    const auto* const found = std::ranges::find(pens, color == fileGrey ? pens[7].color : color, &Pen::color);
+    return writtenColors[found == std::end(pens) ? 0 : found - std::begin(pens)];
 }
 
 std::int32_t colorOfDxf(int number)
 {
-    return rowOrFirst(readColors, number);
+    if (number == greyNumber) return fileGrey;
+    if (number < 1 || number > lastNumber) number = 1;
+    return pens[static_cast<std::size_t>(number - 1) % std::size(pens)].color; // not negative
 }
 
 std::string_view dxfLineType(std::int16_t style)

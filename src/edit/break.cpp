@@ -86,15 +86,22 @@ bool breakArc(const EntityRecord& arc, Cut& cut, Pieces& pieces)
 bool breakObject(const EntityRecord& r, Cut& cut, Pieces& pieces)
 {
     switch (r.kind) {
-    case kind::line:
+    case Kind::line:
         return breakLine(r, cut, pieces);
-    case kind::circle:
+    case Kind::circle:
         return breakCircle(r, cut, pieces);
-    case kind::arc:
+    case Kind::arc:
         return breakArc(r, cut, pieces);
-    default:
+    case Kind::ellipse:
+    case Kind::point:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return false;
     }
+    return false;
 }
 
 void breakSelection(Session& s, Cut cut)

@@ -8,7 +8,7 @@ namespace mirtane {
 bool somethingSelected(Session& s)
 {
     if (countWithStat(s.store, Stat::sel) > 0) return true;
-    setText(s.controls["entry"_c], "Nothing selected!");
+    setText(s.controls[ids::entry], "Nothing selected!");
     return false;
 }
 
@@ -21,14 +21,14 @@ void deleteSelection(Session& s, Canvas& pic1)
     turnSources(s, selectedSlots(s.store), Sources::goOut);
     --s.savedCount; // no slot was added, yet there is something to save
     closeGroup(s, pic1);
-    s.controls.focus = "pic1"_c;
+    s.controls.focus = ids::drawing;
 }
 
 void deselect(Session& s, Canvas& pic1)
 {
     s.workAngle = 0;
     deselectAll(s, pic1);
-    s.controls.focus = "pic1"_c;
+    s.controls.focus = ids::drawing;
 }
 
 void changeSelection(Session& s, Canvas& pic1, const Changes& changes)
@@ -36,8 +36,7 @@ void changeSelection(Session& s, Canvas& pic1, const Changes& changes)
     runOnSelection(s, Sources::goOut, [&changes](EntityRecord r) {
         r.layer = changes.layer.value_or(r.layer);
         r.color = changes.color.value_or(r.color);
-        const bool hasLineStyle = r.kind >= kind::line && r.kind <= kind::ellipse;
-        if (hasLineStyle) r.style = changes.style.value_or(r.style);
+        if (hasLineStyle(r.kind)) r.style = changes.style.value_or(r.style);
         return r;
     });
     endRun(s, pic1);

@@ -2,22 +2,17 @@
 
 #include "edit/selection_run.h"
 #include "geometry/fault.h"
-#include "model/kind_table.h"
+#include "model/record_moves.h"
 
 #include <utility>
 
 namespace mirtane {
 namespace {
 
-bool isRound(std::int16_t kind)
-{
-    return kind == kind::circle || kind == kind::arc;
-}
-
 EntityRecord offset(EntityRecord r, float by)
 {
     keep(r.rad, static_cast<double>(by) + r.rad); // widened before the sum
-    if (r.kind != kind::arc) return r;
+    if (r.kind != Kind::arc) return r;
     placeArcPoints(r);
     return r;
 }

@@ -4,7 +4,7 @@
 #include "geometry/angle.h"
 #include "geometry/arc.h"
 #include "geometry/nearest.h"
-#include "model/kind_table.h"
+#include "model/record_moves.h"
 
 #include <cmath>
 
@@ -36,9 +36,9 @@ End endToMove(const EntityRecord& arc, double cut, double pick)
 
 } // namespace
 
-bool isLineOrArc(std::int16_t kind)
+bool isLineOrArc(Kind kind)
 {
-    return kind == kind::line || kind == kind::arc;
+    return kind == Kind::line || kind == Kind::arc;
 }
 
 Point nearerCrossing(const Crossings& found, Point to, Point held)
@@ -50,7 +50,7 @@ Point nearerCrossing(const Crossings& found, Point to, Point held)
 EntityRecord lineLike(const EntityRecord& like, Point from, Point to)
 {
     EntityRecord line = like;
-    line.kind = kind::line;
+    line.kind = Kind::line;
     line.p1 = from;
     line.p2 = to;
     return line;
@@ -59,7 +59,7 @@ EntityRecord lineLike(const EntityRecord& like, Point from, Point to)
 EntityRecord arcLike(const EntityRecord& like, Point centre, float radius, double a1, double a2)
 {
     EntityRecord arc = like;
-    arc.kind = kind::arc;
+    arc.kind = Kind::arc;
     arc.p1 = centre;
     arc.rad = radius;
     arc.a1 = a1;
@@ -106,7 +106,7 @@ EntityRecord cutArc(const EntityRecord& arc, Point at, const EntityRecord& held)
         cut.a2 = held.a2;
         break;
     }
-    if (cut.a1 == cut.a2) cut.kind = kind::circle;
+    if (cut.a1 == cut.a2) cut.kind = Kind::circle;
     cut.p4 = arcPoints(cut.p1, cut.rad, cut.a1, cut.a2).middle;
     return cut;
 }

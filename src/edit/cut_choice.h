@@ -4,11 +4,11 @@
 // pick, the click in p5 by which the object was selected. "Trim" and "Fillet" ask here, of lines in two ways.
 
 #include "geometry/crossing.h"
-#include "model/entity_record.h"
+#include "tables/entity_record.h"
 
 namespace mirtane {
 
-bool isLineOrArc(std::int16_t kind);
+bool isLineOrArc(Kind kind);
 
 // Of the points of found (one at least) the one nearer to the given point. With both equally near, held comes
 // back.

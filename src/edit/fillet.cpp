@@ -23,8 +23,8 @@ class CentreSearch {
 
     Crossings of(const EntityRecord& first, const EntityRecord& second) const
     {
-        const bool firstIsLine = first.kind == kind::line;
-        const bool secondIsLine = second.kind == kind::line;
+        const bool firstIsLine = first.kind == Kind::line;
+        const bool secondIsLine = second.kind == Kind::line;
         if (firstIsLine && secondIsLine) return crossParallels(beside(first), beside(second));
         if (firstIsLine) return crossParallelCircle(beside(first), second.p1, inside(second));
         if (secondIsLine) return crossParallelCircle(beside(second), first.p1, inside(first));
@@ -47,8 +47,8 @@ class CentreSearch {
 std::optional<Point> touching(const EntityRecord& object, Point centre, const Session& s)
 {
     if (s.filletRadius == 0) return centre;
-    if (object.kind == kind::line && sideOfLine(s.mousePos, object.p1, object.p2) == 0) return centre;
-    if (object.kind == kind::line) return footOfPerpendicular(centre, object.p1, object.p2, centre);
+    if (object.kind == Kind::line && sideOfLine(s.mousePos, object.p1, object.p2) == 0) return centre;
+    if (object.kind == Kind::line) return footOfPerpendicular(centre, object.p1, object.p2, centre);
     if (object.p1 == centre) return std::nullopt;
     return nearestOnCircle(centre, object.p1, object.rad);
 }
@@ -82,7 +82,7 @@ void cutTo(Session& s, std::int32_t slot, Point touch)
 {
     const EntityRecord object = s.store.record(slot);
     const EntityRecord held = s.store.record(s.store.entCount);
-    addObject(s, object.kind == kind::line ? filletedLine(object, touch, held) : cutArc(object, touch, held));
+    addObject(s, object.kind == Kind::line ? filletedLine(object, touch, held) : cutArc(object, touch, held));
     turnSources(s, {slot}, Sources::goOut);
 }
 

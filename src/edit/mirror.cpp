@@ -5,7 +5,9 @@
 #include "edit/text_baseline.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "model/record_moves.h"
 #include "render/redraw.h"
+#include "tables/kinds.h"
 
 #include <limits>
 #include <utility>
@@ -75,7 +77,7 @@ EntityRecord mirrored(Canvas& pic1, const MirrorLine& line, EntityRecord r)
     const Baseline old = baselineUnder(pic1, r, r.t1);
     mapPairs(r, row->mapped, [&line](Point p) { return line.of(p); });
     if (row->sweeps) mirrorSweep(r, line);
-    if (r.kind == kind::angularDimension) r.p4 = polarPoint(r.p1, r.rad, r.a1);
+    if (r.kind == Kind::angularDimension) r.p4 = polarPoint(r.p1, r.rad, r.a1);
     if (row->rotation != nullptr) layMirroredText(r, line, old, r.*row->rotation);
     return r;
 }

@@ -2,6 +2,7 @@
 
 #include "commands/prompt.h"
 #include "edit/selection_run.h"
+#include "model/record_moves.h"
 #include "render/entity_painter.h"
 #include "render/redraw.h"
 
@@ -44,24 +45,36 @@ void setOffset(Session& s)
     }
 }
 
-} // namespace
-
-void editMoveCopy(Session& s, Canvas& pic1)
+void copyWithOffset(Session& s, Sources sources)
 {
-    if (s.stepNo < 1) return;
-    const bool moves = s.curFunc == "Move";
-    if (s.stepNo == 1) {
-        if (moves) liftSelection(s, pic1);
-        setPrompt(s, pic1);
-        return;
-    }
     setOffset(s);
-    runOnSelection(s, moves ? Sources::goOut : Sources::stay, [&s](EntityRecord r) {
+    runOnSelection(s, sources, [&s](EntityRecord r) {
         shift(r, s.editDX, s.editDY);
         return r;
     });
-    if (moves) return endRun(s, pic1);
-    closeGroup(s, pic1);
+}
+
+} // namespace
+
+void editMove(Session& s, Canvas& pic1)
+{
+    if (s.stepNo < 1) return;
+    if (s.stepNo == 1) {
+        liftSelection(s, pic1);
+        setPrompt(s, pic1);
+        return;
+    }
+    copyWithOffset(s, Sources::goOut);
+    endRun(s, pic1);
+}
+
+void editCopy(Session& s, Canvas& pic1)
+{
+    if (s.stepNo < 1) return;
+    if (s.stepNo > 1) {
+        copyWithOffset(s, Sources::stay);
+        closeGroup(s, pic1);
+    }
     setPrompt(s, pic1);
 }
 

@@ -12,7 +12,7 @@
 namespace mirtane {
 namespace {
 
-constexpr KindSet linearDimensions = kindsBetween(kind::linearDimension, kind::linearDimension);
+constexpr KindSet linearDimensions = inKind(Kind::linearDimension);
 
 void pickText(Session& s, const Canvas& pic1)
 {
@@ -34,7 +34,7 @@ bool stillThere(const Session& s)
     const std::int32_t slot = s.pickedIndex;
     if (slot < 1 || slot >= s.store.end()) return false;
     const std::size_t at = EntityStore::at(slot);
-    return s.store.kind[at] == kind::linearDimension && s.store.isShown(slot);
+    return s.store.kind[at] == Kind::linearDimension && s.store.isShown(slot);
 }
 
 void slideText(Session& s, const EntityRecord& r)

@@ -4,6 +4,7 @@
 #include "edit/selection_run.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "model/record_moves.h"
 
 namespace mirtane {
 namespace {
@@ -41,12 +42,16 @@ void editRotate(Session& s, Canvas& pic1)
 {
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 3) return;
-    if (s.curFunc == "Radial Copy") {
-        makeRing(s);
-    } else {
-        s.editAngle = s.editDegrees * radiansPerDegree;
-        turnSelection(s, Sources::goOut);
-    }
+    s.editAngle = s.editDegrees * radiansPerDegree;
+    turnSelection(s, Sources::goOut);
+    endRun(s, pic1);
+}
+
+void editRadialCopy(Session& s, Canvas& pic1)
+{
+    if (s.stepNo == 1) setPrompt(s, pic1);
+    if (s.stepNo != 3) return;
+    makeRing(s);
     endRun(s, pic1);
 }
 

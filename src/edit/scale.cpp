@@ -9,7 +9,9 @@
 #include "geometry/angle.h"
 #include "geometry/ellipse.h"
 #include "geometry/fault.h"
+#include "model/record_moves.h"
 #include "model/three_point_scratch.h"
+#include "tables/kinds.h"
 
 #include <cmath>
 #include <iterator>
@@ -169,7 +171,7 @@ constexpr ScaleRule rules[] = {
     scaleAngularDimension,
 };
 
-static_assert(std::size(rules) == kind::lastDrawn);
+static_assert(std::size(rules) == drawnKinds);
 
 } // namespace
 
@@ -179,7 +181,7 @@ void editScale(Session& s, Canvas& pic1)
     if (s.stepNo != 3) return;
     const Scaling scaling{s.pickFirst, s.editDX, s.editDY, pic1};
     runOnSelection(s, Sources::goOut, [&scaling](EntityRecord r) {
-        rules[r.kind - 1](scaling, r);
+        rules[placeOf(r.kind)](scaling, r);
         return r;
     });
     endRun(s, pic1);

@@ -1,7 +1,9 @@
 #include "edit/selection_run.h"
 
 #include "commands/prompt.h"
+#include "model/kind_fields.h"
 #include "render/redraw.h"
+#include "tables/kinds.h"
 
 namespace mirtane {
 
@@ -44,8 +46,7 @@ void endRun(Session& s, Canvas& pic1)
 {
     s.editPending = 0;
     s.workAngle = 0; // before the redraw, which leaves out a selection that follows the pointer
-    s.stepNo = 0;
-    s.curFunc = s.baseFunc;
+    returnToBase(s);
     closeGroup(s, pic1);
     setPrompt(s, pic1);
 }

@@ -5,8 +5,8 @@
 // in one group, so that undo needs nothing from any edit.
 
 #include "model/insertion.h"
-#include "model/kind_table.h"
 #include "render/canvas.h"
+#include "tables/kinds.h"
 
 namespace mirtane {
 
@@ -29,7 +29,7 @@ void turnSources(Session& s, const std::vector<std::int32_t>& selected, Sources 
 // rule gives the changed object for each selected one that takes, a test of the kind, says yes to.
 // All selected objects then become what sources says. The group stays open.
 template <class Rule>
-void runOnSelection(Session& s, Sources sources, Rule rule, bool (*takes)(std::int16_t) = isDrawnKind)
+void runOnSelection(Session& s, Sources sources, Rule rule, bool (*takes)(Kind) = isDrawnKind)
 {
     const std::vector<std::int32_t> selected = selectedSlots(s.store);
     for (const std::int32_t slot : selected) {

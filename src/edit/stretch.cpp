@@ -8,7 +8,7 @@
 #include "geometry/arc.h"
 #include "geometry/circle_through.h"
 #include "geometry/fault.h"
-#include "model/kind_table.h"
+#include "model/record_moves.h"
 #include "render/redraw.h"
 #include "text/utf8.h"
 
@@ -114,7 +114,7 @@ constexpr void (*rules[])(const Pull&, EntityRecord&) = {
     pullLeader,          // leader
     pullWhole,           // angular
 };
-static_assert(std::size(rules) == kind::lastDrawn);
+static_assert(std::size(rules) == drawnKinds);
 
 // The second corner is where the pointer really was: ortho and snaps have no say in a window.
 void takeWindow(Session& s)
@@ -135,7 +135,7 @@ void pullSelection(Session& s)
     keep(s.editDY, static_cast<double>(s.pickLast.y) - s.pickFirst.y); // widened before the difference
     const Pull pull{s.stretchLeft, s.stretchTop, s.stretchRight, s.stretchBottom, s.editDX, s.editDY, s};
     runOnSelection(s, Sources::goOut, [&pull](EntityRecord r) {
-        rules[r.kind - kind::line](pull, r); // only drawn kinds are selected
+        rules[placeOf(r.kind)](pull, r); // only drawn kinds are selected
         return r;
     });
 }

@@ -2,7 +2,7 @@
 
 #include "geometry/angle.h"
 #include "geometry/fault.h"
-#include "model/kind_table.h"
+#include "tables/kinds.h"
 
 namespace mirtane {
 namespace {
@@ -36,7 +36,7 @@ void layText(EntityRecord& r, const Baseline& on, double degrees)
     if (row == nullptr || row->rotation == nullptr) return;
     keep(r.*row->rotation, degrees);
     r.*row->textStart = on.start;
-    if (r.kind != kind::text) return;
+    if (r.kind != Kind::text) return;
     r.p1 = on.start;
     if (r.p2.y == justifiedRight) r.p1 = on.end;
     if (r.p2.y == justifiedCentre) r.p1 = middleOf(on);

@@ -3,8 +3,8 @@
 // The baseline of an object's text, from where its painting starts to where its string ends. Edits that may
 // turn a text round work on both ends, so that it still reads forwards.
 
-#include "model/entity_record.h"
 #include "render/canvas.h"
+#include "tables/entity_record.h"
 
 namespace mirtane {
 

@@ -19,8 +19,8 @@ constexpr double onAxisWithin = 0.001;
 
 Crossings crossingsOf(const EntityRecord& object, const EntityRecord& boundary)
 {
-    const bool toLine = boundary.kind == kind::line;
-    if (object.kind == kind::line) {
+    const bool toLine = boundary.kind == Kind::line;
+    if (object.kind == Kind::line) {
         if (toLine) return crossLines(object.p1, object.p2, boundary.p1, boundary.p2);
         return crossLineCircle(object.p1, object.p2, boundary.p1, boundary.rad);
     }
@@ -51,7 +51,7 @@ class Trim {
         const EntityRecord object = s_.store.record(slot);
         if (!isLineOrArc(object.kind)) return true;
         const Crossings found = crossingsTo(object);
-        if (boundary_.kind == kind::line && object.kind == kind::line) {
+        if (boundary_.kind == Kind::line && object.kind == Kind::line) {
             if (found.count == 0 || isFarOff(found.points[0])) return false;
         } else if (found.count == 0) {
             s_.store.setStat(slot, Stat::on);
@@ -66,7 +66,7 @@ class Trim {
     Crossings crossingsTo(const EntityRecord& object) const
     {
         Crossings found = crossingsOf(object, boundary_);
-        if (object.kind == kind::arc && boundary_.kind == kind::line) {
+        if (object.kind == Kind::arc && boundary_.kind == Kind::line) {
             for (Point& p : found.points) p = onAxis(p, object.p1, object.rad);
         }
         return found;
@@ -75,13 +75,13 @@ class Trim {
     // An arc is cut where it was picked, a line where the boundary was.
     Point chosenBy(const EntityRecord& object) const
     {
-        return object.kind == kind::arc ? object.p5 : s_.mousePos;
+        return object.kind == Kind::arc ? object.p5 : s_.mousePos;
     }
 
     EntityRecord cutTo(const EntityRecord& object, Point at) const
     {
-        if (object.kind == kind::arc) return cutArc(object, at, s_.store.record(s_.store.entCount));
-        return trimmedLine(object, at, boundary_.kind == kind::line ? toSpareAtLine : toSpareAtRound);
+        if (object.kind == Kind::arc) return cutArc(object, at, s_.store.record(s_.store.entCount));
+        return trimmedLine(object, at, boundary_.kind == Kind::line ? toSpareAtLine : toSpareAtRound);
     }
 
     bool isFarOff(Point p) const

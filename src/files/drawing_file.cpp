@@ -5,6 +5,8 @@
 #include "files/entity_record_codec.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "model/attribute_rows.h"
+#include "tables/pens.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,23 +14,14 @@
 namespace mirtane {
 namespace {
 
-// The light grey that a file may hold is read as white.
-constexpr std::int32_t fileGrey = 0xE0E0E0;
-
 // Slot 0 as the current attributes fill it.
 EntityRecord headerRecord(const Session& s)
 {
     EntityRecord r = s.store.record(0);
-    r.p1 = {s.textSize, s.arrowSize};
-    r.p2 = {static_cast<float>(s.dimStyle), static_cast<float>(s.textJust)}; // 16 bits fit a float
-    r.p3 = {s.dimTol, static_cast<float>(s.numComma)};                       // as above
-    r.p4.x = static_cast<float>(s.angFormat);                                // as above
-    r.t1 = s.numStyle;
-    r.t2 = s.textFont;
-    r.layer = s.workLayer;
-    r.color = s.curColor;
-    r.style = s.curStyle;
-    r.kind = kind::header;
+    for (const AttributeRow& row : attributeRows()) {
+        if (row.fillHeader != nullptr) row.fillHeader(r, s);
+    }
+    r.kind = headerKind;
     return r;
 }
 
@@ -40,7 +33,7 @@ bool isWritten(const Session& s, std::int32_t slot, SaveWhat what)
     case SaveWhat::layer:
         return s.store.layer[at] == s.chosenLayer;
     case SaveWhat::selected:
-        return stat == Stat::sel || s.store.kind[at] == kind::layerName;
+        return stat == Stat::sel || s.store.kind[at] == layerNameKind;
     case SaveWhat::drawing:
         break;
     }
@@ -90,10 +83,10 @@ void countDimensionsAndLayers(Session& s)
     highest = 0;
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
-        const std::int16_t k = s.store.kind[at];
-        if (k >= kind::linearDimension && k <= kind::angularDimension) ++s.dimensionCount;
+        const Kind k = s.store.kind[at];
+        if (isDimension(k)) ++s.dimensionCount;
         std::int16_t named = 0; // a layer's number has 16 bits: a value beyond them names none
-        if (k == kind::layerName && keep(named, s.store.p1[at].x - layer::nameOffset))
+        if (k == layerNameKind && keep(named, s.store.p1[at].x - layer::nameOffset))
             highest = std::max<std::int32_t>(highest, named);
         highest = std::max<std::int32_t>(highest, s.store.layer[at]);
     }
@@ -103,18 +96,9 @@ void countDimensionsAndLayers(Session& s)
 void takeHeader(Session& s)
 {
     const EntityRecord header = s.store.record(0);
-    keep(s.textSize, header.p1.x);
-    keep(s.arrowSize, header.p1.y);
-    keep(s.dimStyle, header.p2.x);
-    keep(s.textJust, header.p2.y);
-    keep(s.dimTol, header.p3.x);
-    keep(s.numComma, header.p3.y);
-    keep(s.angFormat, header.p4.x);
-    s.textFont = header.t2;
-    s.numStyle = header.t1;
-    s.workLayer = header.layer;
-    s.curColor = header.color;
-    s.curStyle = header.style;
+    for (const AttributeRow& row : attributeRows()) {
+        if (row.takeHeader != nullptr) row.takeHeader(s, header);
+    }
 }
 
 // The working layer may lie above the rows that the objects call for; it still gets a row to be shown.
@@ -125,15 +109,21 @@ void rebuildLayers(Session& s)
     s.layerTable.resetRow(s.workLayer, s.workLayer);
 }
 
+// The slots that serve other ends, layer names among them, have the numbers above those of objects.
+bool marksItsLayer(Kind kind)
+{
+    return isDrawnKind(kind) || numberOf(kind) <= 0;
+}
+
 void nameAndMarkLayers(Session& s)
 {
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
         std::int16_t named = 0;
-        if (s.store.kind[at] == kind::layerName && keep(named, s.store.p1[at].x - layer::nameOffset)) {
+        if (s.store.kind[at] == layerNameKind && keep(named, s.store.p1[at].x - layer::nameOffset)) {
             if (Layer* row = s.layerTable.find(named)) row->layerName = s.store.t1[at];
         }
-        if (s.store.kind[at] <= kind::lastDrawn) markUsed(s.layerTable, s.store.layer[at]);
+        if (marksItsLayer(s.store.kind[at])) markUsed(s.layerTable, s.store.layer[at]);
     }
 }
 
@@ -200,7 +190,7 @@ void mergeLayer(Session& s, const Bytes& file, std::int16_t layer)
     readRecords(file, [&s, layer](EntityRecord record) {
         record.layer = layer;
         storeRecord(s, s.store.entCount, record);
-        if (record.kind != kind::layerName) ++s.store.entCount;
+        if (record.kind != layerNameKind) ++s.store.entCount;
     });
 }
 
@@ -208,7 +198,7 @@ void setTextAnchors(EntityStore& store, const TextWidthOf& widthOf)
 {
     for (std::int32_t i = 1; i < store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
-        if (store.kind[at] != kind::text) continue;
+        if (store.kind[at] != Kind::text) continue;
         const double back = setback(widthOf(store.record(i)), store.p2[at].y);
         const double direction = directionOf(store.a1[at]);
         if (!std::isfinite(back) || !std::isfinite(direction)) continue;
@@ -223,12 +213,12 @@ void fixUpLinesAndCircles(EntityStore& store)
     for (std::int32_t i = 1; i < store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
         const Point a = store.p1[at];
-        if (store.kind[at] == kind::line) {
+        if (store.kind[at] == Kind::line) {
             const Point b = store.p2[at];
             const double length = distance(a, b);
             keep(store.p3[at].x, a.x + length / 2 * quotient(b.x - a.x, length));
             keep(store.p3[at].y, a.y - length / 2 * quotient(a.y - b.y, length));
-        } else if (store.kind[at] == kind::circle) {
+        } else if (store.kind[at] == Kind::circle) {
             keep(store.p2[at].x, a.x - store.rad[at]);
             keep(store.p2[at].y, a.y);
         }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/bytes.h"
-#include "model/entity_record.h"
+#include "tables/entity_record.h"
 
 namespace mirtane {
 

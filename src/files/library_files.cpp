@@ -35,14 +35,14 @@ Bytes bytesOf(const LibraryTable<Row>& library, std::string_view name, void (*wr
     return file;
 }
 
-bool addPiece(Session& s, const EntityRecord& piece, std::string_view name)
+bool addPiece(EntityStore& store, const EntityRecord& piece, std::string_view name)
 {
-    const std::int32_t slot = s.store.entCount;
-    ++s.store.entCount;
+    const std::int32_t slot = store.entCount;
+    ++store.entCount;
     if (!EntityStore::holds(slot)) return false;
-    s.store.setRecord(slot, piece);
-    s.store.setStat(slot, Stat::out);
-    s.store.ownerName[EntityStore::at(slot)] = name;
+    store.setRecord(slot, piece);
+    store.setStat(slot, Stat::out);
+    store.ownerName[EntityStore::at(slot)] = name;
     return true;
 }
 
@@ -72,7 +72,7 @@ std::int32_t addAssociate(Session& s, const Bytes& file, std::string_view name)
 {
     markUsed(s.layerTable, 0);
     return readRecords(file, mostPieces, readRecord,
-                       [&](const EntityRecord& piece) { return addPiece(s, piece, name); });
+                       [&](const EntityRecord& piece) { return addPiece(s.store, piece, name); });
 }
 
 std::int32_t addHatch(HatchLibrary& library, const Bytes& file)

@@ -19,13 +19,18 @@ HalfAxis firstAxis(const Ellipse& e)
 }
 
 // The point at so many half axes along the first and across it, counter-clockwise.
-Point at(const Ellipse& e, double along, double across)
+ExactPoint at(const Ellipse& e, double along, double across)
 {
     const HalfAxis axis = firstAxis(e);
     const double s = across * e.ratio;
-    Point p = e.centre;
-    keep(p.x, e.centre.x + along * axis.x - s * axis.y);
-    keep(p.y, e.centre.y - along * axis.y - s * axis.x);
+    return {e.centre.x + along * axis.x - s * axis.y, e.centre.y - along * axis.y - s * axis.x};
+}
+
+Point narrowed(ExactPoint exact, Point otherwise)
+{
+    Point p = otherwise;
+    keep(p.x, exact.x);
+    keep(p.y, exact.y);
     return p;
 }
 
@@ -33,12 +38,19 @@ Point at(const Ellipse& e, double along, double across)
 
 Point ellipsePoint(const Ellipse& e, double theta)
 {
-    return at(e, std::cos(theta), std::sin(theta));
+    return narrowed(at(e, std::cos(theta), std::sin(theta)), e.centre);
+}
+
+std::array<ExactPoint, 4> exactAxisEnds(const Ellipse& e)
+{
+    return {ExactPoint{e.axisEnd.x, e.axisEnd.y}, at(e, -1, 0), at(e, 0, 1), at(e, 0, -1)};
 }
 
 std::array<Point, 4> axisEnds(const Ellipse& e)
 {
-    return {e.axisEnd, at(e, -1, 0), at(e, 0, 1), at(e, 0, -1)};
+    const std::array<ExactPoint, 4> exact = exactAxisEnds(e);
+    return {e.axisEnd, narrowed(exact[1], e.centre), narrowed(exact[2], e.centre),
+            narrowed(exact[3], e.centre)};
 }
 
 HalfAxes halfAxes(const Ellipse& e)

@@ -21,6 +21,12 @@ Point ellipsePoint(const Ellipse& e, double theta);
 // one a quarter turn on first.
 std::array<Point, 4> axisEnds(const Ellipse& e);
 
+// The same in double: an end may lie beyond what a coordinate can hold.
+struct ExactPoint {
+    double x, y;
+};
+std::array<ExactPoint, 4> exactAxisEnds(const Ellipse& e);
+
 // The longer and the shorter half axis, world units.
 struct HalfAxes {
     double longer, shorter;

@@ -6,10 +6,13 @@
 #include "library/libraries.h"
 #include "library/turned_angle.h"
 #include "model/insertion.h"
-#include "model/kind_table.h"
+#include "model/kind_fields.h"
 #include "model/missing.h"
+#include "model/record_moves.h"
 #include "render/entity_painter.h"
 #include "render/redraw.h"
+#include "tables/kinds.h"
+#include "tables/list_modes.h"
 
 namespace mirtane {
 namespace {
@@ -25,7 +28,7 @@ bool addPiece(Session& s, EntityRecord piece)
     shift(piece, -s.pickLast.x, -s.pickLast.y);
     piece.layer = s.workLayer;
     writeFieldsOfKind(s.store, slot, piece);
-    s.store.kind[EntityStore::at(slot)] += kind::associatePiece;
+    s.store.kind[EntityStore::at(slot)] = pieceOf(piece.kind);
     s.store.setStat(slot, Stat::out);
     s.store.ownerName[EntityStore::at(slot)] = s.associateName;
     return true;
@@ -70,17 +73,17 @@ void mirrorArc(EntityRecord& r)
 void mirrorPairs(EntityRecord& r)
 {
     mapPairs(r, kindRow(r.kind)->moved, [](Point p) { return Point{-p.x, p.y}; });
-    if (r.kind == kind::arc) mirrorArc(r);
+    if (r.kind == Kind::arc) mirrorArc(r);
 }
 
-bool isMirrored(std::int16_t kind)
+bool isMirrored(Kind kind)
 {
     return kindRow(kind)->textStart == nullptr;
 }
 
 Placement placementAtPointer(const Session& s)
 {
-    return {s.pickLast, s.associateRotation, s.controls["ass5"_c].checked};
+    return {s.pickLast, s.associateRotation, s.controls[ids::reverseAssociate].checked};
 }
 
 // Calls use(object) for each object that a placement of the current associate makes. The bound is taken
@@ -114,9 +117,8 @@ bool addPlaced(Session& s, EntityRecord object)
 
 bool placePiece(const EntityRecord& piece, const Placement& placement, EntityRecord& object)
 {
-    if (piece.kind <= kind::associatePiece) return false;
     EntityRecord placed = piece;
-    placed.kind = static_cast<std::int16_t>(piece.kind - kind::associatePiece); // above 0, tested above
+    placed.kind = objectOf(piece.kind);
     const KindRow* row = kindRow(placed.kind);
     if (row == nullptr || (placement.reversed && !isMirrored(placed.kind))) return false;
     if (placement.reversed) mirrorPairs(placed);
@@ -124,7 +126,7 @@ bool placePiece(const EntityRecord& piece, const Placement& placement, EntityRec
     const Turn turn(placement.at, placement.rotation);
     mapPairs(placed, row->moved, [&turn](Point p) { return turn.of(p); });
     turnAngles(placed, placement.rotation);
-    if (placed.kind == kind::arc && !placement.reversed) {
+    if (placed.kind == Kind::arc && !placement.reversed) {
         placed.p2 = polarPoint(placed.p1, placed.rad, placed.a1);
         placed.p3 = polarPoint(placed.p1, placed.rad, placed.a2);
     }
@@ -141,11 +143,10 @@ void createAssociateStep(Session& s, Canvas& pic1)
     if (s.stepNo != 2) return;
     const Missing missing = addPiecesOfSelection(s);
     changeStat(s.store, Stat::sel, Stat::on);
-    s.curFunc = s.baseFunc;
-    s.stepNo = 0;
+    returnToBase(s);
     redrawAll(s, pic1);
     setPrompt(s, pic1);
-    refillNames(s, Library::associates, "Select Associate");
+    refillNames(s, Library::associates, list_mode::selectAssociate);
     tellMissing(s.controls, missing);
 }
 

@@ -28,7 +28,7 @@ bool hasRoom(const CanvasInput& input)
 
 BoundaryClick refuse(Session& s)
 {
-    setText(s.controls["entry"_c], "100 edges at most: close the boundary");
+    setText(s.controls[ids::entry], "100 edges at most: close the boundary");
     --s.stepNo;
     return BoundaryClick::refused;
 }

@@ -7,8 +7,9 @@
 #include "library/hatch_fill.h"
 #include "library/libraries.h"
 #include "model/insertion.h"
-#include "model/kind_table.h"
+#include "model/kind_fields.h"
 #include "render/redraw.h"
+#include "tables/list_modes.h"
 
 namespace mirtane {
 namespace {
@@ -59,11 +60,11 @@ bool takeGeometry(const EntityRecord& r, Point corner, HatchRow& row)
     row.h1 = relativeTo(corner, r.p1);
     row.hatchStyle = r.style;
     switch (r.kind) {
-    case kind::line:
+    case Kind::line:
         row.h2 = relativeTo(corner, r.p2);
         row.hatchA1 = directionAngle(r.p1, r.p2, 0);
         return true;
-    case kind::arc:
+    case Kind::arc:
         row.h2 = relativeTo(corner, r.p2);
         row.h3 = relativeTo(corner, r.p3);
         row.h4 = relativeTo(corner, r.p4);
@@ -71,15 +72,21 @@ bool takeGeometry(const EntityRecord& r, Point corner, HatchRow& row)
         row.hatchA2 = r.a2;
         row.hatchRad = r.rad;
         return true;
-    case kind::circle:
+    case Kind::circle:
         row.hatchRad = r.rad;
         return true;
-    case kind::point:
+    case Kind::point:
         row.hatchStyle = 0;
         return true;
-    default:
+    case Kind::ellipse:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return false;
     }
+    return false;
 }
 
 // Gives what the table had no row for.
@@ -132,12 +139,11 @@ void createHatchStep(Session& s, Canvas& pic1)
     // Without a name the rows would be removed ones from the start.
     const Missing missing = s.hatchName == noName ? Missing{} : takeSelection(s, s.ptA, s.pickLast);
     changeStat(s.store, Stat::sel, Stat::on);
-    s.curFunc = s.baseFunc;
-    s.stepNo = 0;
+    returnToBase(s);
     redrawAll(s, pic1);
     setPrompt(s, pic1);
     s.hatchName = noName;
-    refillNames(s, Library::hatches, "Select Hatch");
+    refillNames(s, Library::hatches, list_mode::selectHatch);
     tellMissing(s.controls, missing);
 }
 

@@ -117,7 +117,7 @@ void HatchClip::line(Point a, Point b, std::int16_t style)
     findCuts(start, end);
     Place from = start;
     for (const Cut& cut : cuts_) {
-        const HatchPiece piece{kind::line, style, pointOf(from), pointOf(cut.at)};
+        const HatchPiece piece{Kind::line, style, pointOf(from), pointOf(cut.at)};
         if (piece.from != piece.to) add(piece, {(from.x + cut.at.x) / 2, (from.y + cut.at.y) / 2});
         from = cut.at;
     }
@@ -189,7 +189,7 @@ void HatchClip::circle(Point centre, float radius, std::int16_t style)
     if (!(radius >= 0) || !std::isfinite(dot(low, high)) || isBeyondGrid(low, high)) return;
     findCrossings(centre, radius);
     if (angles_.size() < 2) {
-        add({kind::circle, style, centre, {}, radius}, {high.x, centre.y});
+        add({Kind::circle, style, centre, {}, radius}, {high.x, centre.y});
         return;
     }
     for (std::size_t i = 0; i < angles_.size(); ++i) {
@@ -220,7 +220,7 @@ void HatchClip::arc(Point centre, float radius, double a1, double a2, std::int16
 void HatchClip::addStretch(Point centre, float radius, double a1, double a2, std::int16_t style)
 {
     const Point middle = polarPoint(centre, radius, middleAngle(a1, a2));
-    add({kind::arc, style, centre, {}, radius, a1, a2}, placeOf(middle));
+    add({Kind::arc, style, centre, {}, radius, a1, a2}, placeOf(middle));
 }
 
 // Leaves the directions of the crossings in angles_, sorted, each once.
@@ -257,7 +257,7 @@ void HatchClip::crossCircle(const Edge& edge, Point centre, float radius)
 
 void HatchClip::point(Point p, std::int16_t style)
 {
-    if (std::isfinite(p.x) && std::isfinite(p.y)) add({kind::point, style, p, {}}, placeOf(p));
+    if (std::isfinite(p.x) && std::isfinite(p.y)) add({Kind::point, style, p, {}}, placeOf(p));
 }
 
 } // namespace mirtane

@@ -8,7 +8,7 @@ namespace mirtane {
 
 // An object of a fill.
 struct HatchPiece {
-    std::int16_t kind = 0; // line, circle, arc or point
+    Kind kind{}; // line, circle, arc or point
     std::int16_t style = 0;
     Point from, to;        // the ends of a line; from alone is a point, or the centre of a circle or arc
     float radius = 0;      // world units

@@ -3,7 +3,8 @@
 #include "geometry/angle.h"
 #include "geometry/arc.h"
 #include "library/turned_angle.h"
-#include "model/kind_table.h"
+#include "model/record_moves.h"
+#include "tables/kinds.h"
 
 #include <algorithm>
 #include <cmath>
@@ -45,15 +46,20 @@ void clipRow(HatchClip& clip, const HatchRow& row, Point origin, float scale)
 {
     const auto placed = [&](Point p) { return Point{origin.x + scale * p.x, origin.y + scale * p.y}; };
     switch (row.hatchKind) {
-    case kind::line:
+    case Kind::line:
         return clip.line(placed(row.h1), placed(row.h2), row.hatchStyle);
-    case kind::circle:
+    case Kind::circle:
         return clip.circle(placed(row.h1), scale * row.hatchRad, row.hatchStyle);
-    case kind::arc:
+    case Kind::arc:
         return clip.arc(placed(row.h1), scale * row.hatchRad, row.hatchA1, row.hatchA2, row.hatchStyle);
-    case kind::point:
+    case Kind::point:
         return clip.point(placed(row.h1), row.hatchStyle);
-    default:
+    case Kind::ellipse:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return; // a file may hold anything
     }
 }
@@ -93,7 +99,7 @@ EntityRecord hatchObject(const HatchPiece& piece, const HatchFill& fill)
     r.rad = piece.radius;
     r.a1 = piece.a1;
     r.a2 = piece.a2;
-    if (piece.kind == kind::arc) placeArcPoints(r);
+    if (piece.kind == Kind::arc) placeArcPoints(r);
     if (fill.rotation == 0) return r;
     const Turn turn(firstPoint(fill), fill.rotation);
     mapPairs(r, kindRow(r.kind)->mapped, [&turn](Point p) { return turn.of(p); });

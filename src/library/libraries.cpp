@@ -30,9 +30,7 @@ bool hasPieces(const EntityStore& store)
 {
     for (std::int32_t i = 1; i < store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
-        const int ofObject = store.kind[at] - kind::associatePiece;
-        const bool isPiece = ofObject > 0 && ofObject <= kind::lastDrawn;
-        if (isPiece && isLiveName(store.ownerName[at])) return true;
+        if (isDrawnKind(objectOf(store.kind[at])) && isLiveName(store.ownerName[at])) return true;
     }
     return false;
 }
@@ -47,7 +45,7 @@ void removeOwner(EntityStore& store, std::string_view name)
 
 } // namespace
 
-std::string& currentName(Session& s, Library library)
+std::string& currentName(Attributes& s, Library library)
 {
     switch (library) {
     case Library::multipleLines:

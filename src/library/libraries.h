@@ -14,7 +14,7 @@ namespace mirtane {
 enum class Library : std::uint8_t { multipleLines, hatches, associates };
 
 // The name of the library that is in use, noName for none.
-std::string& currentName(Session& s, Library library);
+std::string& currentName(Attributes& s, Library library);
 
 // Whether there is anything to choose from.
 bool hasLiveName(const Session& s, Library library);

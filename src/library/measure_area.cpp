@@ -59,14 +59,13 @@ void measureAreaStep(Session& s, Canvas& pic1)
     const bool closed = takeBoundaryClick(s) == BoundaryClick::closed;
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (!closed) return;
-    setText(s.controls["Text3"_c], "");
-    setText(s.controls["entry"_c], areaText(s) + " Square");
+    setText(s.controls[ids::workText], "");
+    setText(s.controls[ids::entry], areaText(s) + " Square");
     dropBoundary(s);
-    s.curFunc = s.baseFunc;
-    s.stepNo = 0;
+    returnToBase(s);
     resetPicture(pic1);
     setPrompt(s, pic1);
-    s.controls.focus = "pic1"_c;
+    s.controls.focus = ids::drawing;
 }
 
 } // namespace mirtane

@@ -47,6 +47,11 @@ Controls::Controls()
     }
 }
 
+bool orthoIsOn(const Controls& controls)
+{
+    return controls[ids::orthoToggle].caption != "Ortho/Off";
+}
+
 void setText(Control& control, std::string text)
 {
     control.text = std::move(text);
@@ -79,7 +84,7 @@ void backspaceIn(Control& control)
 ControlId formOf(ControlId id)
 {
     const std::string_view name = id.row().name;
-    ControlId form = "frmMain"_c;
+    ControlId form = ids::mainForm;
     if (id.row().kind == ControlKind::form) return id;
     if (const auto dot = name.find('.'); dot != std::string_view::npos)
         findControl(name.substr(0, dot), form);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/control_table.h"
+#include "tables/controls.h"
 
 #include <array>
 #include <string>
@@ -34,11 +34,14 @@ class Controls {
     Control& operator[](ControlId id) { return controls_[id.index]; }
     const Control& operator[](ControlId id) const { return controls_[id.index]; }
 
-    ControlId focus = "pic1"_c;
+    ControlId focus = ids::drawing;
 
   private:
     std::array<Control, controlCount> controls_;
 };
+
+// Whether ortho confines points: its button says so.
+bool orthoIsOn(const Controls& controls);
 
 // Replaces the text and puts the caret behind its last character.
 void setText(Control& control, std::string text);

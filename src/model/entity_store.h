@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/entity_record.h"
+#include "tables/entity_record.h"
 
 #include <vector>
 
@@ -41,7 +41,8 @@ struct EntityStore {
     std::vector<float> s1, s2, rad;
     std::vector<double> a1, a2, a3;
     std::vector<std::int32_t> color;
-    std::vector<std::int16_t> layer, style, kind;
+    std::vector<std::int16_t> layer, style;
+    std::vector<Kind> kind;
     std::vector<std::string> t1, t2;
     std::vector<Stat> stat;
     std::vector<std::string> ownerName, dxfTag; // in memory only

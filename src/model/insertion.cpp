@@ -9,7 +9,7 @@ namespace {
 constexpr double slotsPerPercent = 600;       // of 60,000 slots
 constexpr std::int32_t warnFromCount = 59900; // entCount
 
-template <class Fill> void fillNextSlot(Session& s, std::int16_t kind, Fill fill)
+template <class Fill> void fillNextSlot(Session& s, Kind kind, Fill fill)
 {
     const std::int32_t slot = s.store.entCount;
     EntityRecord r = s.store.record(slot);
@@ -26,7 +26,7 @@ template <class Fill> void fillNextSlot(Session& s, std::int16_t kind, Fill fill
 void fillWords(const Session& s, EntityRecord& r)
 {
     r.style = 0;
-    r.t1 = s.controls["Text3"_c].text;
+    r.t1 = s.controls[ids::workText].text;
     r.t2 = s.textFont;
 }
 
@@ -43,7 +43,7 @@ void fillDimensionStyle(const Session& s, EntityRecord& r)
 
 void addLine(Session& s)
 {
-    fillNextSlot(s, kind::line, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::line, [&](EntityRecord& r) {
         r.p1 = s.ptA;
         r.p2 = s.ptB;
     });
@@ -51,7 +51,7 @@ void addLine(Session& s)
 
 void addCircle(Session& s)
 {
-    fillNextSlot(s, kind::circle, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::circle, [&](EntityRecord& r) {
         r.p1 = s.ptF;
         r.rad = s.workRadius;
     });
@@ -59,7 +59,7 @@ void addCircle(Session& s)
 
 void addArc(Session& s)
 {
-    fillNextSlot(s, kind::arc, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::arc, [&](EntityRecord& r) {
         r.p1 = s.ptA;
         r.p2 = s.ptB;
         r.p3 = s.ptC;
@@ -72,7 +72,7 @@ void addArc(Session& s)
 
 void addEllipse(Session& s)
 {
-    fillNextSlot(s, kind::ellipse, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::ellipse, [&](EntityRecord& r) {
         r.p1 = s.ptB;
         r.p2 = s.ptC;
         r.p3.x = s.ptF.x;
@@ -81,18 +81,18 @@ void addEllipse(Session& s)
 
 void addPoint(Session& s)
 {
-    fillNextSlot(s, kind::point, [&](EntityRecord& r) { r.p1 = s.ptA; });
+    fillNextSlot(s, Kind::point, [&](EntityRecord& r) { r.p1 = s.ptA; });
 }
 
 void addText(Session& s, float textWidth)
 {
     // Wider than the text, as it serves as a radius for culling text at any rotation.
     constexpr float clippingFactor = 1.2F;
-    fillNextSlot(s, kind::text, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::text, [&](EntityRecord& r) {
         fillWords(s, r);
         r.p1 = s.ptA;
         r.p2 = {s.textSize, static_cast<float>(s.textJust)}; // 0, 1 or 2 in a coordinate field
-        r.p3.x = s.controls["tk12"_c].checked ? 1.0F : 0.0F;
+        r.p3.x = s.controls[ids::underlinedText].checked ? 1.0F : 0.0F;
         r.p4 = s.pickFirst;
         r.rad = textWidth * clippingFactor;
         r.a1 = s.textRotation;
@@ -101,7 +101,7 @@ void addText(Session& s, float textWidth)
 
 void addLinearDim(Session& s)
 {
-    fillNextSlot(s, kind::linearDimension, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::linearDimension, [&](EntityRecord& r) {
         fillDimensionStyle(s, r);
         r.p1 = s.ptE;
         r.p2 = s.ptF;
@@ -114,7 +114,7 @@ void addLinearDim(Session& s)
 
 void addRadialDim(Session& s)
 {
-    fillNextSlot(s, kind::radialDimension, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::radialDimension, [&](EntityRecord& r) {
         fillDimensionStyle(s, r);
         r.p1 = s.ptA;
         r.p2 = s.ptB;
@@ -126,7 +126,7 @@ void addRadialDim(Session& s)
 
 void addLeader(Session& s)
 {
-    fillNextSlot(s, kind::leader, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::leader, [&](EntityRecord& r) {
         fillDimensionStyle(s, r);
         r.p1 = s.ptA;
         r.p2 = s.ptB;
@@ -138,7 +138,7 @@ void addLeader(Session& s)
 // This kind is crossed: both sizes hold the arrow size, and the arrow style stands in the line style's field.
 void addAngularDim(Session& s)
 {
-    fillNextSlot(s, kind::angularDimension, [&](EntityRecord& r) {
+    fillNextSlot(s, Kind::angularDimension, [&](EntityRecord& r) {
         fillWords(s, r);
         r.style = s.dimStyle;
         r.p1 = s.ptA;
@@ -174,10 +174,10 @@ void updateGauge(Session& s)
     std::string percent = formatNumber(s.store.entCount / slotsPerPercent, NumberFormat::paddedThousandths);
     // What is missing says more than the warning that it may come to that.
     if (s.store.entCount >= warnFromCount && !tellsMissing(s.controls)) {
-        setText(s.controls["entry"_c], "You are out of memory! Save and exit now.");
+        setText(s.controls[ids::entry], "You are out of memory! Save and exit now.");
     }
     if (s.numComma == 1) percent = withComma(percent);
-    setText(s.controls["memy"_c], percent);
+    setText(s.controls[ids::memoryGauge], percent);
 }
 
 } // namespace mirtane

@@ -28,9 +28,9 @@ std::vector<std::string> listedNames(const EntityStore& store)
 
 void showNames(Controls& controls, std::string_view caption, std::vector<std::string> names)
 {
-    controls["Label3"_c].caption = caption;
-    controls["List1"_c].rows = std::move(names);
-    controls["List1"_c].row = -1;
+    controls[ids::listMode].caption = caption;
+    controls[ids::selectionList].rows = std::move(names);
+    controls[ids::selectionList].row = -1;
 }
 
 } // namespace mirtane

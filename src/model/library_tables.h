@@ -23,7 +23,7 @@ struct HatchRow {
     double hatchA1 = 0, hatchA2 = 0; // a line's direction; an arc's start and end, radians
     std::int32_t hatchColor = 0;     // kept, and not used when filling
     std::int16_t hatchStyle = 0;
-    std::int16_t hatchKind = 0; // line, circle, arc or point
+    Kind hatchKind{}; // line, circle, arc or point
 
     friend bool operator==(const HatchRow&, const HatchRow&) = default;
 };

@@ -20,12 +20,12 @@ std::string missingText(const Missing& missing)
 
 void tellMissing(Controls& controls, const Missing& missing)
 {
-    if (missing.pieces > 0) setText(controls["entry"_c], missingText(missing));
+    if (missing.pieces > 0) setText(controls[ids::entry], missingText(missing));
 }
 
 bool tellsMissing(const Controls& controls)
 {
-    return controls["entry"_c].text.starts_with(tableIsFull);
+    return controls[ids::entry].text.starts_with(tableIsFull);
 }
 
 } // namespace mirtane

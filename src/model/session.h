@@ -62,6 +62,13 @@ inline void countStep(FunctionState& state)
     keep(state.stepNo, state.stepNo + 1);
 }
 
+// The base function again, at its start.
+inline void returnToBase(FunctionState& state)
+{
+    state.curFunc = state.baseFunc;
+    state.stepNo = 0;
+}
+
 // Geometry on its way from the commands to the insertion routines. Points are world coordinates.
 struct ScratchPoints {
     Point pickFirst; // the first click of a function

@@ -11,9 +11,9 @@ void showPrompt(Session& s, std::string_view function, std::string_view text)
 void showPassingPrompt(Session& s, std::string_view doing, std::string_view text)
 {
     s.promptText = text;
-    s.controls["promptlab"_c].caption = text;
-    s.controls["frmMain"_c].caption = "Mirtane 4.00    Drawing Name: " + s.drawingName +
-                                      "    Current Function: " + std::string(doing) + s.promptText;
+    s.controls[ids::promptLine].caption = text;
+    s.controls[ids::mainForm].caption = "Mirtane 4.00    Drawing Name: " + s.drawingName +
+                                        "    Current Function: " + std::string(doing) + s.promptText;
 }
 
 void endPassingPrompt(Session& s)

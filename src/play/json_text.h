@@ -4,7 +4,7 @@
 // what JSON has no number for (NaN, infinities) is null.
 
 #include "geometry/point.h"
-#include "model/entity_record.h"
+#include "tables/entity_record.h"
 
 #include <charconv>
 #include <cmath>

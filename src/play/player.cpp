@@ -177,7 +177,7 @@ void resizeCommand(Stage& stage, Words& words)
 
 void closeCommand(Stage& stage, Words&)
 {
-    stage.shell.closeForm("frmMain"_c);
+    stage.shell.closeForm(ids::mainForm);
 }
 
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1); // of words: the line ends in a text

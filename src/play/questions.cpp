@@ -55,7 +55,7 @@ std::string slotObject(const EntityStore& store, std::int32_t slot)
                        {"color", json(r.color)},
                        {"layer", json(r.layer)},
                        {"style", json(r.style)},
-                       {"kind", json(r.kind)},
+                       {"kind", json(numberOf(r.kind))},
                        {"t1", json(r.t1)},
                        {"t2", json(r.t2)},
                        {"stat", json(store.stat[at])},
@@ -154,7 +154,7 @@ std::string hatchObject(const HatchRow& r)
                        {"hatchA2", json(r.hatchA2)},
                        {"hatchColor", json(r.hatchColor)},
                        {"hatchStyle", json(r.hatchStyle)},
-                       {"hatchKind", json(r.hatchKind)}});
+                       {"hatchKind", json(numberOf(r.hatchKind))}});
 }
 
 std::string multipleLineObject(const MultipleLine& r)

@@ -1,7 +1,11 @@
 #pragma once
 
-#include "play/player.h"
+#include "play/stage.h"
 #include "play/words.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace mirtane::play {
 

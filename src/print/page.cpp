@@ -1,9 +1,12 @@
 #include "print/page.h"
 
 #include "geometry/angle.h"
+#include "geometry/ellipse.h"
 #include "geometry/fault.h"
 #include "render/dimension_strokes.h"
 #include "render/text_painter.h"
+#include "tables/kinds.h"
+#include "tables/pens.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,21 +34,9 @@ struct Bounds {
     }
 };
 
-Point opposite(Point p, Point centre)
-{
-    return {2 * centre.x - p.x, 2 * centre.y - p.y};
-}
-
 void feedEllipse(Bounds& box, const EntityRecord& r)
 {
-    // The second axis stands a quarter turn on from the first.
-    const float dx = r.p1.x - r.p2.x;
-    const float dy = r.p2.y - r.p1.y;
-    const Point second{r.p2.x - dy * r.p3.x, r.p2.y - dx * r.p3.x};
-    for (const Point end : {r.p1, second}) {
-        box.feed(end);
-        box.feed(opposite(end, r.p2));
-    }
+    for (const Point end : axisEnds({r.p1, r.p2, r.p3.x})) box.feed(end);
 }
 
 void feedRound(Bounds& box, const EntityRecord& r)
@@ -63,24 +54,24 @@ void feedRecord(Bounds& box, const EntityRecord& r)
 {
     using R = EntityRecord;
     switch (r.kind) {
-    case kind::line:
+    case Kind::line:
         return feedAll(box, r, &R::p1, &R::p2);
-    case kind::circle:
-    case kind::arc:
+    case Kind::circle:
+    case Kind::arc:
         return feedRound(box, r);
-    case kind::ellipse:
+    case Kind::ellipse:
         return feedEllipse(box, r);
-    case kind::point:
+    case Kind::point:
         return feedAll(box, r, &R::p1);
-    case kind::text:
+    case Kind::text:
         return feedAll(box, r, &R::p1, &R::p4);
-    case kind::linearDimension:
+    case Kind::linearDimension:
         return feedAll(box, r, &R::p1, &R::p2, &R::p3, &R::p4, &R::p5);
-    case kind::radialDimension:
-    case kind::leader:
-    case kind::angularDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return feedAll(box, r, &R::p1, &R::p2, &R::p3, &R::p5);
-    default:
+
         return;
     }
 }
@@ -89,8 +80,7 @@ template <class Take> void forEachSelected(const EntityStore& store, Take take)
 {
     for (std::int32_t i = 1; i < store.end(); ++i) {
         const std::size_t at = EntityStore::at(i);
-        const bool drawn = store.kind[at] >= kind::line && store.kind[at] <= kind::lastDrawn;
-        if (store.stat[at] == Stat::sel && drawn) take(store.record(i));
+        if (store.stat[at] == Stat::sel && isDrawnKind(store.kind[at])) take(store.record(i));
     }
 }
 
@@ -104,22 +94,11 @@ void measureSelection(PrintState& page, const EntityStore& store)
     page.printMaxY = box.most.y;
 }
 
-// An object's colour is its pen: on paper it is a width, in device pixels.
-struct WidthRow {
-    std::int32_t color;
-    int width;
-};
-
-constexpr WidthRow widthRows[] = {
-    {0xFF0000, 1}, {0x00FF00, 2},  {0xFFFF00, 4},  {0x0000FF, 6},
-    {0xFF00FF, 8}, {0x0080FF, 10}, {0x00FFFF, 12}, {0xFFFFFF, 14},
-};
-
-// A colour outside the table keeps the width of the object before it.
+// An object's colour is its pen. One that is none keeps the width of the object before it.
 void takeWidth(int& width, std::int32_t color)
 {
-    const auto* const row = std::ranges::find(widthRows, color, &WidthRow::color);
-    if (row != std::end(widthRows)) width = row->width;
+    const auto* const found = std::ranges::find(pens, color, &Pen::color);
+    if (found != std::end(pens)) width = found->paperWidth;
 }
 
 // Strokes of a dimension go to the page as they go to the surface.
@@ -172,17 +151,21 @@ void drawGeometry(const EntityRecord& r, double pageHeight, const PageMapping& m
     const double x = mapping.x(r.p1.x);
     const double y = mapping.y(r.p1.y);
     switch (r.kind) {
-    case kind::line:
+    case Kind::line:
         return strokes.line(r.p1, r.p2);
-    case kind::circle:
+    case Kind::circle:
         return printer.circle(x, y, mapping.scale * r.rad);
-    case kind::arc:
+    case Kind::arc:
         return printer.arc(x, y, mapping.scale * r.rad, r.a1, r.a2);
-    case kind::ellipse:
+    case Kind::ellipse:
         return drawEllipse(r, pageHeight, mapping, strokes);
-    case kind::point:
+    case Kind::point:
         return printer.point(x, y);
-    default:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return dimensionStrokes(shapeOf(r), strokes);
     }
 }
@@ -234,13 +217,13 @@ void drawPage(const EntityStore& store, const PageMapping& mapping, double pageH
     printer.font("Garamond", 8);
     printer.text(0, 0, "Mirtane 4.00");
     forEachSelected(store, [&](const EntityRecord& r) {
-        if (r.kind >= kind::text) printWords(r, mapping, printer);
+        if (hasWords(r.kind)) printWords(r, mapping, printer);
     });
     int width = 1;
     forEachSelected(store, [&](const EntityRecord& r) {
-        if (r.kind == kind::text) return;
+        if (r.kind == Kind::text) return;
         takeWidth(width, r.color);
-        printer.pen(r.kind <= kind::ellipse ? r.style : std::int16_t{0}, width);
+        printer.pen(hasLineStyle(r.kind) ? r.style : std::int16_t{0}, width);
         drawGeometry(r, pageHeight, mapping, printer);
     });
 }

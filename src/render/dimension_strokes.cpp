@@ -227,15 +227,20 @@ void angularDimStrokes(const DimensionShape& d, StrokeSink& out)
 void dimensionStrokes(const DimensionShape& d, StrokeSink& out)
 {
     switch (d.kind) {
-    case kind::linearDimension:
+    case Kind::linearDimension:
         return linearDimStrokes(d, out);
-    case kind::radialDimension:
+    case Kind::radialDimension:
         return radialDimStrokes(d, out);
-    case kind::leader:
+    case Kind::leader:
         return leaderStrokes(d, out);
-    case kind::angularDimension:
+    case Kind::angularDimension:
         return angularDimStrokes(d, out);
-    default:
+    case Kind::line:
+    case Kind::circle:
+    case Kind::arc:
+    case Kind::ellipse:
+    case Kind::point:
+    case Kind::text:
         return;
     }
 }

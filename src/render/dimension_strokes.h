@@ -16,7 +16,7 @@ inline constexpr std::int16_t slash = 3;
 
 // The fields of a record that have a say in its strokes, named as there. World units, angles in radians.
 struct DimensionShape {
-    std::int16_t kind = 0;
+    Kind kind{};
     Point p1, p2, p3, p4;
     float s1 = 0, s2 = 0, rad = 0;
     double a1 = 0, a2 = 0;

@@ -3,6 +3,7 @@
 #include "render/entity_bounds.h"
 
 #include "geometry/angle.h"
+#include "geometry/ellipse.h"
 #include "geometry/fault.h"
 
 #include <algorithm>
@@ -14,19 +15,19 @@ namespace {
 using PointArray = std::vector<Point> EntityStore::*;
 
 struct FedPoints {
-    std::int16_t kind;
+    Kind kind;
     PointArray points[4]; // null where there are fewer
 };
 
 // The kinds whose stored points are fed as they are.
 constexpr FedPoints fedPoints[] = {
-    {kind::line, {&EntityStore::p1, &EntityStore::p2}},
-    {kind::arc, {&EntityStore::p2, &EntityStore::p3, &EntityStore::p4}},
-    {kind::point, {&EntityStore::p1}},
-    {kind::linearDimension, {&EntityStore::p1, &EntityStore::p2, &EntityStore::p3, &EntityStore::p5}},
-    {kind::radialDimension, {&EntityStore::p1, &EntityStore::p5}},
-    {kind::leader, {&EntityStore::p1, &EntityStore::p3}},
-    {kind::angularDimension, {&EntityStore::p1, &EntityStore::p2, &EntityStore::p3, &EntityStore::p5}},
+    {Kind::line, {&EntityStore::p1, &EntityStore::p2}},
+    {Kind::arc, {&EntityStore::p2, &EntityStore::p3, &EntityStore::p4}},
+    {Kind::point, {&EntityStore::p1}},
+    {Kind::linearDimension, {&EntityStore::p1, &EntityStore::p2, &EntityStore::p3, &EntityStore::p5}},
+    {Kind::radialDimension, {&EntityStore::p1, &EntityStore::p5}},
+    {Kind::leader, {&EntityStore::p1, &EntityStore::p3}},
+    {Kind::angularDimension, {&EntityStore::p1, &EntityStore::p2, &EntityStore::p3, &EntityStore::p5}},
 };
 
 void feedStoredPoints(IntegerBox& box, const EntityStore& store, std::size_t at)
@@ -48,16 +49,9 @@ void feedCircle(IntegerBox& box, Point centre, float radius)
     box.feed(centre.x - radius, centre.y - radius);
 }
 
-// The four ends of the axes; ratio is that of the second axis to the first.
-void feedEllipse(IntegerBox& box, Point axisEnd, Point centre, double ratio)
+void feedEllipse(IntegerBox& box, const Ellipse& e)
 {
-    const double dx =
-        static_cast<double>(axisEnd.x) - centre.x; // widened, so that no end overflows on its way
-    const double dy = static_cast<double>(centre.y) - axisEnd.y;
-    box.feed(axisEnd.x, axisEnd.y);
-    box.feed(centre.x - dx, centre.y + dy);
-    box.feed(centre.x - ratio * dy, centre.y - ratio * dx);
-    box.feed(centre.x + ratio * dy, centre.y + ratio * dx);
+    for (const ExactPoint& end : exactAxisEnds(e)) box.feed(end.x, end.y);
 }
 
 // The corners of the text's box, which hangs below the point as entered, whatever the justification.
@@ -111,13 +105,19 @@ void feedBounds(IntegerBox& box, const EntityStore& store, std::int32_t slot, fl
     if (!EntityStore::holds(slot)) return;
     const std::size_t at = EntityStore::at(slot);
     switch (store.kind[at]) {
-    case kind::circle:
+    case Kind::circle:
         return feedCircle(box, store.p1[at], store.rad[at]);
-    case kind::ellipse:
-        return feedEllipse(box, store.p1[at], store.p2[at], store.p3[at].x);
-    case kind::text:
+    case Kind::ellipse:
+        return feedEllipse(box, {store.p1[at], store.p2[at], store.p3[at].x});
+    case Kind::text:
         return feedText(box, store.p1[at], store.p2[at].x, store.a1[at], textWidth);
-    default:
+    case Kind::line:
+    case Kind::arc:
+    case Kind::point:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
         return feedStoredPoints(box, store, at);
     }
 }
@@ -127,7 +127,7 @@ IntegerBox drawingBounds(const EntityStore& store, const TextWidthOf& widthOf)
     IntegerBox box;
     for (std::int32_t i = 1; i < store.end(); ++i) {
         if (!store.isShown(i)) continue;
-        const bool isText = store.kind[EntityStore::at(i)] == kind::text;
+        const bool isText = store.kind[EntityStore::at(i)] == Kind::text;
         feedBounds(box, store, i, isText ? widthOf(store.record(i)) : 0);
     }
     return box;

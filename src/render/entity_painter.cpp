@@ -1,9 +1,9 @@
 #include "render/entity_painter.h"
 
-#include "model/kind_table.h"
 #include "render/dimension_painters.h"
 #include "render/painters.h"
 #include "render/text_painter.h"
+#include "tables/kinds.h"
 
 #include <iterator>
 
@@ -58,14 +58,14 @@ constexpr EntityPainter painters[] = {
     paintDimensionRecord, // angular
 };
 
-static_assert(std::size(painters) == kind::lastDrawn);
+static_assert(std::size(painters) == drawnKinds);
 
 } // namespace
 
 void paintEntity(Canvas& pic1, const View& view, const EntityRecord& r)
 {
     if (!isDrawnKind(r.kind)) return;
-    painters[r.kind - 1](pic1, view, r);
+    painters[placeOf(r.kind)](pic1, view, r);
 }
 
 } // namespace mirtane

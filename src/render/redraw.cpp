@@ -6,6 +6,7 @@
 #include "render/dimension_painters.h"
 #include "render/painters.h"
 #include "render/text_painter.h"
+#include "tables/functions.h"
 
 #include <algorithm>
 #include <iterator>
@@ -126,7 +127,6 @@ struct KindRow {
 
 // By kind. What stands in the style field of a text or a dimension is no line style.
 constexpr KindRow kindRows[] = {
-    {nullptr, nullptr, false, white},
     {lineInView, drawLineSlot, true, white},
     {roundInView, drawCircleSlot, true, white},
     {roundInView, drawArcSlot, true, white},
@@ -139,13 +139,13 @@ constexpr KindRow kindRows[] = {
     {alwaysInView, drawDimensionSlot, false, white},
 };
 
-static_assert(std::size(kindRows) == kind::lastDrawn + 1);
+static_assert(std::size(kindRows) == drawnKinds);
 
 void drawSlot(const Slot& slot)
 {
-    const auto kind = static_cast<std::size_t>(slot.store.kind[slot.at]); // a negative kind comes out huge
-    if (kind >= std::size(kindRows) || kindRows[kind].draw == nullptr) return;
-    const KindRow& row = kindRows[kind];
+    const std::size_t place = placeOf(slot.store.kind[slot.at]);
+    if (place >= std::size(kindRows)) return;
+    const KindRow& row = kindRows[place];
     if (!row.inView(slot)) return;
     if (slot.store.stat[slot.at] == Stat::sel) {
         slot.pic1.setColor(row.selectedColor);
@@ -200,7 +200,7 @@ void redrawAll(Session& s, Canvas& pic1)
     computePixelMapping(s, pic1);
     pic1.clear();
     const bool hideSelection = s.workAngle == selectionFollowsPointer;
-    const bool editsText = s.curFunc == "Text Edit";
+    const bool editsText = functionRow(s.curFunc).editsText;
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         if (!s.store.isShown(i)) continue;
         const bool selected = s.store.stat[EntityStore::at(i)] == Stat::sel;

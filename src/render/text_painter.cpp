@@ -11,9 +11,9 @@ bool isUnderlined(float field)
 }
 
 // An angle's kind 10 keeps the sweep of its arc in the first two fields.
-double dimTextAngle(std::int16_t kind, double a1, double a3)
+double dimTextAngle(Kind kind, double a1, double a3)
 {
-    return kind == kind::angularDimension ? a3 : a1;
+    return kind == Kind::angularDimension ? a3 : a1;
 }
 
 void write(Canvas& pic1, const Lettering& text, bool underlined)
@@ -54,7 +54,7 @@ Lettering dimLetteringAt(const EntityStore& store, std::size_t at)
 
 Lettering letteringOf(const EntityRecord& r)
 {
-    return r.kind == kind::text ? textLettering(r) : dimLettering(r);
+    return r.kind == Kind::text ? textLettering(r) : dimLettering(r);
 }
 
 void paintText(Canvas& pic1, const Lettering& text)

@@ -10,9 +10,9 @@
 namespace mirtane {
 namespace {
 
-bool isEmpty(const Session& s)
+bool isEmpty(const EntityStore& store)
 {
-    return s.store.entCount < 2;
+    return store.entCount < 2;
 }
 
 void show(Session& s, Canvas& pic1, const Scale& scale)
@@ -24,15 +24,15 @@ void show(Session& s, Canvas& pic1, const Scale& scale)
 
 void endZoomWindow(Session& s)
 {
-    s.controls["snaplab"_c].caption = s.savedPrompt;
+    s.controls[ids::snapLabel].caption = s.savedPrompt;
     endPassingPrompt(s);
 }
 
 } // namespace
 
-bool zoomWindowIsOn(const Session& s)
+bool zoomWindowIsOn(const Controls& controls)
 {
-    return s.controls["snaplab"_c].caption == zoomWindowOn;
+    return controls[ids::snapLabel].caption == zoomWindowOn;
 }
 
 TextWidthOf textWidthOn(Canvas& pic1)
@@ -42,7 +42,7 @@ TextWidthOf textWidthOn(Canvas& pic1)
 
 void zoomAll(Session& s, Canvas& pic1)
 {
-    if (isEmpty(s)) {
+    if (isEmpty(s.store)) {
         pic1.refresh();
         return;
     }
@@ -56,7 +56,7 @@ void zoomAll(Session& s, Canvas& pic1)
 
 void zoomOut(Session& s, Canvas& pic1)
 {
-    if (isEmpty(s)) {
+    if (isEmpty(s.store)) {
         pic1.refresh();
         return;
     }
@@ -95,10 +95,10 @@ void pan(Session& s, Canvas& pic1, double widths, double heights)
 void zoomWindowStart(Session& s, Canvas& pic1)
 {
     // A second press must not take its own caption for the one to come back.
-    if (!zoomWindowIsOn(s)) s.savedPrompt = s.controls["snaplab"_c].caption;
+    if (!zoomWindowIsOn(s.controls)) s.savedPrompt = s.controls[ids::snapLabel].caption;
     s.windowStep = 0;
     s.wholeViewFlag = 0;
-    s.controls["snaplab"_c].caption = zoomWindowOn;
+    s.controls[ids::snapLabel].caption = zoomWindowOn;
     showPassingPrompt(s, "Zoom Window", "(Place window around area.)");
     resetPicture(pic1);
     pic1.refresh();
@@ -131,7 +131,7 @@ void zoomWindowCancel(Session& s, Canvas& pic1)
     restorePicture(pic1);
 }
 
-void drawWindowBox(const Session& s, Canvas& pic1)
+void drawWindowBox(const CanvasInput& s, Canvas& pic1)
 {
     const Point a = s.window1;
     const Point b = s.window2;
@@ -142,7 +142,7 @@ void drawWindowBox(const Session& s, Canvas& pic1)
     pic1.line(a.x, b.y, a.x, a.y);
 }
 
-void sortWindowCorners(Session& s)
+void sortWindowCorners(CanvasInput& s)
 {
     const Point a = s.window1;
     const Point b = s.window2;

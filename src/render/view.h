@@ -9,7 +9,7 @@ namespace mirtane {
 // The caption of snaplab that says that Zoom Window is on.
 inline constexpr std::string_view zoomWindowOn = "Zoom Window is on:";
 
-bool zoomWindowIsOn(const Session& s);
+bool zoomWindowIsOn(const Controls& controls);
 
 // Width of an object's text by the surface's own measure, world units. Leaves the surface on that font.
 TextWidthOf textWidthOn(Canvas& pic1);
@@ -35,9 +35,9 @@ void zoomWindowFinish(Session& s, Canvas& pic1);
 void zoomWindowCancel(Session& s, Canvas& pic1);
 
 // The box from the first corner of a window to the pointer, over the clean picture.
-void drawWindowBox(const Session& s, Canvas& pic1);
+void drawWindowBox(const CanvasInput& s, Canvas& pic1);
 
 // Puts the two corners of a window in order: the first the upper left.
-void sortWindowCorners(Session& s);
+void sortWindowCorners(CanvasInput& s);
 
 } // namespace mirtane

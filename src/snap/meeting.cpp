@@ -59,8 +59,8 @@ std::optional<Point> meetingOfObjects(const EntityStore& store, std::int32_t fir
 {
     const Slot a = EntityStore::at(first);
     const Slot b = EntityStore::at(second);
-    const bool aIsLine = store.kind[a] == kind::line;
-    const bool bIsLine = store.kind[b] == kind::line;
+    const bool aIsLine = store.kind[a] == Kind::line;
+    const bool bIsLine = store.kind[b] == Kind::line;
     if (aIsLine && bIsLine) {
         const auto shared = sharedEnd(store, a, b);
         return shared ? *shared : meetingByHeights(store, a, b);
@@ -76,12 +76,13 @@ std::optional<Point> meetingWithLeg(const EntityStore& store, std::int32_t slot,
     const Slot at = EntityStore::at(slot);
     const Point p1 = store.p1[at];
     switch (store.kind[at]) {
-    case kind::line: {
+    case Kind::line: {
         const Crossings c = crossLines(leg.from, leg.to, p1, store.p2[at]);
         return c.count == 1 ? std::optional(c.points[0]) : std::nullopt;
     }
-    case kind::circle:
-    case kind::arc:
+        return snapped;
+    case Kind::circle:
+    case Kind::arc:
         if (leg.from == p1) return pointTowards(p1, store.rad[at], leg.from, leg.to);
         return nearerOf(crossLineCircle(leg.from, leg.to, p1, store.rad[at]), leg.to);
     default:

@@ -54,28 +54,30 @@ class Scan {
     }
 
   private:
-    bool takesPart(Stat stat, std::int16_t kind) const
+    bool takesPart(Stat stat, Kind kind) const
     {
-        const bool drawn = kind >= kind::line && kind <= kind::lastDrawn;
-        return drawn && (search_.stats >> static_cast<unsigned>(stat) & search_.kinds >> kind & 1U) != 0;
+        const bool statTakesPart = (search_.stats & inStat(stat)) != 0;
+        return statTakesPart && isDrawnKind(kind) && (search_.kinds & inKind(kind)) != 0;
     }
 
     void test(std::size_t i)
     {
         switch (store_.kind[i]) {
-        case kind::line:
+        case Kind::line:
             return testLine(i);
-        case kind::circle:
-        case kind::arc:
+        case Kind::circle:
+        case Kind::arc:
             return testCircle(i);
-        case kind::ellipse:
+        case Kind::ellipse:
             return testEllipse(i);
-        case kind::point:
-        case kind::text:
+        case Kind::point:
+        case Kind::text:
             return offerPoint(i, store_.p1[i]);
-        case kind::leader:
+        case Kind::leader:
             return offerPoint(i, store_.p2[i]);
-        default:
+        case Kind::linearDimension:
+        case Kind::radialDimension:
+        case Kind::angularDimension:
             return offerPoint(i, store_.p5[i]);
         }
     }
@@ -93,7 +95,7 @@ class Scan {
         const Point centre = store_.p1[i];
         const float radius = store_.rad[i];
         if (!mayMeetRing(centre, std::abs(radius), std::abs(radius))) return;
-        if (store_.kind[i] == kind::arc && !seesArc(i)) return;
+        if (store_.kind[i] == Kind::arc && !seesArc(i)) return;
         offer(i, nearestOnCircle(search_.from, centre, radius));
     }
 
@@ -152,6 +154,15 @@ float searchRadius(const Canvas& pic1)
     float radius = 0;
     keep(radius, quotient(pic1.getScale().width * twipsOfRadius, pic1.getOuterSize().width));
     return radius;
+}
+
+KindSet kindsWith(bool (*has)(Kind))
+{
+    KindSet kinds = 0;
+    for (const Kind kind : everyKind) {
+        if (has(kind)) kinds |= inKind(kind);
+    }
+    return kinds;
 }
 
 ObjectHit nearestObject(const EntityStore& store, const ObjectSearch& search)

@@ -15,13 +15,16 @@ float searchRadius(const Canvas& pic1);
 // A set of kinds, of those that are drawn.
 using KindSet = std::uint32_t;
 
-constexpr KindSet kindsBetween(std::int16_t first, std::int16_t last)
+constexpr KindSet inKind(Kind kind)
 {
-    return (2U << last) - (1U << first);
+    return 1U << placeOf(kind);
 }
 
-inline constexpr KindSet lineCircleArc = kindsBetween(kind::line, kind::arc);
-inline constexpr KindSet circleOrArc = kindsBetween(kind::circle, kind::arc);
+// The drawn kinds that has() is true of.
+KindSet kindsWith(bool (*has)(Kind));
+
+inline constexpr KindSet circleOrArc = inKind(Kind::circle) | inKind(Kind::arc);
+inline constexpr KindSet lineCircleArc = inKind(Kind::line) | circleOrArc;
 
 // A set of states.
 using StatSet = std::uint32_t;

@@ -1,24 +1,28 @@
 #include "snap/pick.h"
 
 #include "snap/object_search.h"
+#include "tables/functions.h"
+#include "tables/kinds.h"
 
 #include <utility>
 
 namespace mirtane {
 namespace {
 
-constexpr KindSet anyKind = kindsBetween(kind::line, kind::lastDrawn);
-constexpr KindSet textOrDimension = kindsBetween(kind::text, kind::lastDrawn);
+// Of all kinds, or of those that have words.
+KindSet pickedKinds(const FunctionState& s)
+{
+    return functionRow(s.curFunc).editsText ? kindsWith(hasWords) : kindsWith(isDrawnKind);
+}
 
 } // namespace
 
 std::int32_t pickObject(Session& s, const Canvas& pic1)
 {
-    const ObjectHit hit =
-        nearestObject(s.store, {.from = s.mousePos,
-                                .radius = searchRadius(pic1),
-                                .kinds = s.curFunc == "Text Edit" ? textOrDimension : anyKind,
-                                .arcs = ArcReach::sweepAndJustBeyond});
+    const ObjectHit hit = nearestObject(s.store, {.from = s.mousePos,
+                                                  .radius = searchRadius(pic1),
+                                                  .kinds = pickedKinds(s),
+                                                  .arcs = ArcReach::sweepAndJustBeyond});
     s.snapBestIndex = hit.slot;
     s.snapRadius = hit.distance;
     s.pickedIndex = hit.found() ? hit.slot : PickResults::none;
@@ -36,7 +40,7 @@ bool togglePick(Session& s, const Canvas& pic1)
         return true;
     }
     s.store.stat[i] = Stat::sel;
-    if (s.store.kind[i] <= kind::text) s.store.p5[i] = s.mousePos; // a dimension keeps its text there
+    if (!isDimension(s.store.kind[i])) s.store.p5[i] = s.mousePos; // a dimension keeps its text there
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "snap/point_search.h"
 
 #include "geometry/nearest.h"
+#include "tables/functions.h"
 
 #include <algorithm>
 
@@ -28,24 +29,26 @@ class Scan {
     void offerObject(const EntityStore& store, std::size_t i)
     {
         switch (store.kind[i]) {
-        case kind::line:
-        case kind::text: // its second pair is its size and justification, and is offered as it stands
+        case Kind::line:
+        case Kind::text: // its second pair is its size and justification, and is offered as it stands
             offer(store.p1[i]);
             return offer(store.p2[i]);
-        case kind::circle:
-        case kind::point:
+        case Kind::circle:
+        case Kind::point:
             return offer(store.p1[i]);
-        case kind::arc:
+        case Kind::arc:
             offer(store.p1[i]);
             offer(store.p2[i]);
             return offer(store.p3[i]);
-        case kind::ellipse:
+        case Kind::ellipse:
             return offerEllipse(store, i);
-        case kind::leader:
+        case Kind::leader:
             offer(store.p5[i]);
             offer(store.p1[i]);
             return offer(store.p2[i]);
-        default:
+        case Kind::linearDimension:
+        case Kind::radialDimension:
+        case Kind::angularDimension:
             return;
         }
     }
@@ -74,7 +77,7 @@ Point nearestObjectPoint(const Session& s, float limit)
         const Stat stat = s.store.stat[i];
         if (stat == Stat::on || stat == Stat::sel) scan.offerObject(s.store, i);
     }
-    if (s.curFunc == "Place Hatch" || s.curFunc == "Measure Area") {
+    if (functionRow(s.curFunc).snaps.ownLegs != OwnLegs::none) {
         for (std::size_t i = 0; i < boundaryLegs(s); ++i) {
             scan.offer(s.boundary[i].from);
             scan.offer(s.boundary[i].to);

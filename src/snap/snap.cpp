@@ -22,8 +22,7 @@ bool tangentIsPossible(const Session& s)
 {
     const EntityStore& store = s.store;
     for (std::int32_t i = 1; i < store.end(); ++i) {
-        const std::int16_t kind = store.kind[EntityStore::at(i)];
-        if ((kind == kind::circle || kind == kind::arc) && store.isShown(i)) return legIsUnderWay(s);
+        if (isRound(store.kind[EntityStore::at(i)]) && store.isShown(i)) return legIsUnderWay(s);
     }
     return false;
 }
@@ -38,13 +37,13 @@ struct SnapRow {
 };
 
 constexpr SnapRow snapRows[] = {
-    {"Command35"_c, "sp", "Snap Point is on:", snapPoint, always, true},
-    {"Command36"_c, "so", "Snap Object is on:", snapObject, always, true},
-    {"Command37"_c, "si", "Snap Intersection is on:", snapIntersection, always, true},
-    {"Command38"_c, "sf", "Snap Percentage is on:", snapPercentage, always, true},
-    {"Command39"_c, "sn", "Snap Perpendicular is on:", snapPerpendicular, legIsUnderWay, false},
-    {"Command40"_c, "st", "Snap Tangent is on:", snapTangent, tangentIsPossible, false},
-    {"Command21"_c, "sm", "Snap Midpoint is on:", snapMidpoint, always, true},
+    {ids::snapToPoint, "sp", "Snap Point is on:", snapPoint, always, true},
+    {ids::snapToObject, "so", "Snap Object is on:", snapObject, always, true},
+    {ids::snapToIntersection, "si", "Snap Intersection is on:", snapIntersection, always, true},
+    {ids::snapToPercentage, "sf", "Snap Percentage is on:", snapPercentage, always, true},
+    {ids::snapPerpendicular, "sn", "Snap Perpendicular is on:", snapPerpendicular, legIsUnderWay, false},
+    {ids::snapTangent, "st", "Snap Tangent is on:", snapTangent, tangentIsPossible, false},
+    {ids::snapToMidpoint, "sm", "Snap Midpoint is on:", snapMidpoint, always, true},
 };
 
 } // namespace
@@ -57,7 +56,7 @@ void holdSnap(Session& s, const Canvas& pic1)
 
 void oneShotSnap(Session& s, const Canvas& pic1)
 {
-    Control& snapbox = s.controls["snapbox"_c];
+    Control& snapbox = s.controls[ids::armedSnap];
     const auto* const row = std::ranges::find(snapRows, snapbox.text, &SnapRow::code);
     if (row == std::end(snapRows)) return;
     if (drawsConstructionLine(s) && !row->onConstructionLine) return;
@@ -68,23 +67,23 @@ void oneShotSnap(Session& s, const Canvas& pic1)
 void pressSnapButton(Session& s, Canvas& pic1, ControlId button)
 {
     const auto* const row = std::ranges::find(snapRows, button, &SnapRow::button);
-    s.controls.focus = "pic1"_c;
+    s.controls.focus = ids::drawing;
     if (row == std::end(snapRows) || !row->canBeArmed(s)) return;
-    if (zoomWindowIsOn(s)) zoomWindowCancel(s, pic1); // one label tells of both
-    setText(s.controls["snapbox"_c], std::string(row->code));
-    s.controls["snaplab"_c].caption = row->label;
+    if (zoomWindowIsOn(s.controls)) zoomWindowCancel(s, pic1); // one label tells of both
+    setText(s.controls[ids::armedSnap], std::string(row->code));
+    s.controls[ids::snapLabel].caption = row->label;
 }
 
 bool snapIsOn(const Session& s)
 {
-    return !s.controls["snapbox"_c].text.empty() || s.snapKey != 0;
+    return !s.controls[ids::armedSnap].text.empty() || s.snapKey != 0;
 }
 
 void showArmedSnap(Session& s)
 {
-    const std::string& armed = s.controls["snapbox"_c].text;
+    const std::string& armed = s.controls[ids::armedSnap].text;
     for (const SnapRow& row : snapRows) s.controls[row.button].checked = row.code == armed;
-    s.controls["pic1"_c].checked = snapIsOn(s);
+    s.controls[ids::drawing].checked = snapIsOn(s);
 }
 
 } // namespace mirtane

@@ -10,15 +10,16 @@
 #include "snap/object_search.h"
 #include "snap/point_search.h"
 #include "snap/snapped_point.h"
+#include "tables/functions.h"
 
 namespace mirtane {
 namespace {
 
-constexpr KindSet anyWithAPoint = kindsBetween(kind::line, kind::point);
+constexpr KindSet anyWithAPoint = lineCircleArc | inKind(Kind::ellipse) | inKind(Kind::point);
 
-ObjectHit searchObject(const Session& s, const ObjectSearch& search)
+ObjectHit searchObject(const EntityStore& store, const ObjectSearch& search)
 {
-    const ObjectHit hit = nearestObject(s.store, search);
+    const ObjectHit hit = nearestObject(store, search);
     return hit.distance < search.radius ? hit : ObjectHit{-1, {}, search.radius};
 }
 
@@ -26,7 +27,7 @@ ObjectHit searchObject(const Session& s, const ObjectSearch& search)
 ObjectHit findObject(Session& s, float radius, KindSet kinds, ArcReach arcs)
 {
     const ObjectHit hit =
-        searchObject(s, {.from = s.mousePos, .radius = radius, .kinds = kinds, .arcs = arcs});
+        searchObject(s.store, {.from = s.mousePos, .radius = radius, .kinds = kinds, .arcs = arcs});
     s.snapBestIndex = hit.slot;
     s.snapRadius = hit.distance;
     return hit;
@@ -49,19 +50,27 @@ Point middleOf(Point a, Point b)
 Point middleOfObject(const EntityStore& store, std::size_t i)
 {
     switch (store.kind[i]) {
-    case kind::line:
+    case Kind::line:
         return middleOf(store.p1[i], store.p2[i]);
-    case kind::arc:
+    case Kind::arc:
         return polarPoint(store.p1[i], store.rad[i], middleAngle(store.a1[i], store.a2[i]));
-    default: // a circle counts from its leftmost point
+    case Kind::circle:
+    case Kind::ellipse:
+    case Kind::point:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension: // a circle counts from its leftmost point
         return polarPoint(store.p1[i], store.rad[i], halfTurn);
     }
+    return {};
 }
 
 // Midpoints of the boundary under way, for where one of them is as near as the object or nearer.
 void offerLegMiddles(const Session& s, Point& best, float& least, bool& found)
 {
-    if (s.curFunc != "Place Hatch") return;
+    if (functionRow(s.curFunc).snaps.ownLegs != OwnLegs::endsAndMiddles) return;
     for (std::size_t i = 0; i < boundaryLegs(s); ++i) {
         const Point middle = middleOf(s.boundary[i].from, s.boundary[i].to);
         const float d = reach(s.mousePos, middle);
@@ -107,12 +116,13 @@ Point shareOfObject(const EntityStore& store, std::size_t i, double share, Point
     const Point p2 = store.p2[i];
     const double radius = store.rad[i];
     switch (store.kind[i]) {
-    case kind::line:
+    case Kind::line:
         return isNearer(pointer, p1, p2) ? shareOfLine(p1, p2, share) : shareOfLine(p2, p1, share);
-    case kind::arc: {
+    case Kind::arc: {
         const bool fromStart = isNearer(pointer, p2, store.p3[i]);
         return polarPoint(p1, radius, shareOfArc(store.a1[i], store.a2[i], share, fromStart));
     }
+        return {};
     default:
         return polarPoint(p1, radius, shareOfCircle(p1, radius, share, pointer));
     }
@@ -120,7 +130,7 @@ Point shareOfObject(const EntityStore& store, std::size_t i, double share, Point
 
 // The point of a circle nearest to the pointer on the line through its centre and click 1; hit where neither
 // is.
-Point perpendicularToCircle(const Session& s, Point centre, double radius, Point hit)
+Point perpendicularToCircle(const ScratchPoints& s, Point centre, double radius, Point hit)
 {
     if (s.pickFirst == centre) return pointTowards(centre, radius, s.pickFirst, s.pickLast);
     const Point nearSide = pointTowards(centre, radius, centre, s.pickFirst);
@@ -151,11 +161,11 @@ void snapIntersection(Session& s, const Canvas& pic1)
     s.snapSecondIndex = -1;
     const ObjectHit first = findObject(s, radius, lineCircleArc, ArcReach::sweep);
     if (!first.found()) return;
-    const ObjectHit second = searchObject(s, {.from = s.mousePos,
-                                              .radius = radius,
-                                              .kinds = lineCircleArc,
-                                              .arcs = ArcReach::sweep,
-                                              .passOver = first.slot});
+    const ObjectHit second = searchObject(s.store, {.from = s.mousePos,
+                                                    .radius = radius,
+                                                    .kinds = lineCircleArc,
+                                                    .arcs = ArcReach::sweep,
+                                                    .passOver = first.slot});
     s.snapSecondIndex = second.slot;
     s.snapRadius = second.distance;
     if (!second.found()) return;
@@ -182,18 +192,18 @@ void snapMidpoint(Session& s, const Canvas& pic1)
 
 void snapPerpendicular(Session& s, const Canvas& pic1)
 {
-    if (s.stepNo != 2 || s.curFunc != "Line") return;
+    if (s.stepNo != 2 || !functionRow(s.curFunc).snaps.fromFirstClick) return;
     const ObjectHit hit = findObject(s, searchRadius(pic1), lineCircleArc, ArcReach::wholeCircle);
     if (!hit.found()) return;
     const std::size_t i = EntityStore::at(hit.slot);
     const Point p1 = s.store.p1[i];
-    s.pickLast = s.store.kind[i] == kind::line ? footOfPerpendicular(s.pickFirst, p1, s.store.p2[i], p1)
+    s.pickLast = s.store.kind[i] == Kind::line ? footOfPerpendicular(s.pickFirst, p1, s.store.p2[i], p1)
                                                : perpendicularToCircle(s, p1, s.store.rad[i], hit.at);
 }
 
 void snapTangent(Session& s, const Canvas& pic1)
 {
-    if (s.stepNo < 2 || s.curFunc != "Line") return;
+    if (s.stepNo < 2 || !functionRow(s.curFunc).snaps.fromFirstClick) return;
     const ObjectHit hit = findObject(s, searchRadius(pic1), circleOrArc, ArcReach::wholeCircle);
     if (!hit.found()) return;
     const std::size_t i = EntityStore::at(hit.slot);

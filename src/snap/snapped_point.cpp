@@ -1,43 +1,22 @@
 #include "snap/snapped_point.h"
 
-#include <algorithm>
-#include <span>
+#include "tables/functions.h"
 
 namespace mirtane {
 namespace {
 
-constexpr std::string_view takePoint[] = {
-    "Ortho Dimension",      "3pt. Circle", "3pt. Arc",     "Curve",  "Radial Dimension", "Angular Dimension",
-    "Place Associate",      "Break",       "Measure Area", "Leader", "Create Associate", "Ortho Angle Match",
-    "Create Multiple Lines"};
+bool givesItself(SnapGives snap, std::int16_t stepNo)
+{
+    return snap == SnapGives::itself || (snap == SnapGives::itselfBeforeStep4 && stepNo < 4);
+}
 
-constexpr std::string_view takeObjectPoint[] = {"3pt. Arc",
-                                                "3pt. Circle",
-                                                "Curve",
-                                                "Point",
-                                                "Ortho Dimension",
-                                                "Radial Dimension",
-                                                "Angular Dimension",
-                                                "Leader",
-                                                "Place Text",
-                                                "Break",
-                                                "Create Associate",
-                                                "Place Associate",
-                                                "Create Multiple Lines"};
-
-// Up to its third click Stretch places its window and its reference point.
-constexpr std::int16_t stretchMoves = 4;
-
-std::optional<Leg> keptLeg(const Session& s, std::span<const std::string_view> exempt)
+std::optional<Leg> keptLeg(const Session& s, SnapGives snap)
 {
     if (drawsConstructionLine(s)) {
         if (s.blankStep == 2) return Leg{s.blankStart, s.blankEnd};
         return std::nullopt;
     }
-    const bool ortho = s.controls["freecurs"_c].caption != "Ortho/Off";
-    const bool isExempt = std::ranges::find(exempt, s.curFunc) != exempt.end() ||
-                          (s.curFunc == "Stretch" && s.stepNo < stretchMoves);
-    if (!ortho || s.stepNo <= 1 || isExempt) return std::nullopt;
+    if (!orthoIsOn(s.controls) || s.stepNo <= 1 || givesItself(snap, s.stepNo)) return std::nullopt;
     return Leg{s.pickFirst, s.pickLast};
 }
 
@@ -53,19 +32,19 @@ Point* pointUnderWay(Session& s)
 
 } // namespace
 
-bool drawsConstructionLine(const Session& s)
+bool drawsConstructionLine(const FunctionState& s)
 {
-    return s.curFunc == "Blank Line";
+    return functionRow(s.curFunc).clicks == Clicks::layConstructionLine;
 }
 
 std::optional<Leg> legKeptByPoint(const Session& s)
 {
-    return keptLeg(s, takePoint);
+    return keptLeg(s, functionRow(s.curFunc).snaps.atPoints);
 }
 
 std::optional<Leg> legKeptByObject(const Session& s)
 {
-    return keptLeg(s, takeObjectPoint);
+    return keptLeg(s, functionRow(s.curFunc).snaps.onObjects);
 }
 
 void writeSnapped(Session& s, Point p)

@@ -15,7 +15,7 @@ struct Leg {
     Point from, to;
 };
 
-bool drawsConstructionLine(const Session& s);
+bool drawsConstructionLine(const FunctionState& s);
 
 // The leg that Snap Point and Snap Midpoint keep to: they give the foot of their point on it. None while
 // ortho is off, and for functions that take the point itself.

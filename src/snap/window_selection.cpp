@@ -30,33 +30,35 @@ struct Window {
 bool liesIn(const Window& w, const EntityStore& store, std::size_t i)
 {
     switch (store.kind[i]) {
-    case kind::line:
+    case Kind::line:
         return w.holds(store.p1[i]) && w.holds(store.p2[i]);
-    case kind::circle:
+    case Kind::circle:
         return w.holdsCircle(store.p1[i], store.rad[i]);
-    case kind::arc: // its centre counts for nothing
+    case Kind::arc: // its centre counts for nothing
         return w.holds(store.p2[i]) && w.holds(store.p3[i]) && w.holds(store.p4[i]);
-    case kind::ellipse:
+    case Kind::ellipse:
         return w.holdsEllipse({store.p1[i], store.p2[i], store.p3[i].x});
-    case kind::point:
-    case kind::text:
+    case Kind::point:
+    case Kind::text:
         return w.holds(store.p1[i]);
-    case kind::linearDimension:
+    case Kind::linearDimension:
         return w.holds(store.p3[i]) && w.holds(store.p4[i]) && w.holds(store.p5[i]);
-    case kind::radialDimension:
+    case Kind::radialDimension:
         return w.holds(store.p2[i]) && w.holds(store.p5[i]);
-    case kind::leader:
+    case Kind::leader:
         return w.holds(store.p2[i]) && w.holds(store.p3[i]);
-    case kind::angularDimension:
+    case Kind::angularDimension:
         return w.holds(store.p4[i]) && w.holds(store.p5[i]);
-    default:
+
         return false;
     }
+    return false;
 }
 
-bool isOfKind(std::int16_t kind, std::int16_t wanted)
+// The criterion for linear dimensions stands for all of them.
+bool isOfKind(Kind kind, std::int16_t wanted)
 {
-    return wanted == kind::linearDimension ? kind >= wanted : kind == wanted;
+    return wanted == numberOf(Kind::linearDimension) ? isDimension(kind) : numberOf(kind) == wanted;
 }
 
 bool passes(const FilterValues& f, const EntityStore& store, std::size_t i)

@@ -195,7 +195,7 @@ TEST_F(ConstructionLine, IsForgottenWhenAnotherFunctionStarts)
     EXPECT_EQ(desk.caption("blank"_c), "Blank/Off");
     EXPECT_EQ(desk.s.curFunc, "Point");
     desk.click(50, 60);
-    EXPECT_EQ(desk.slot(1).kind, kind::point);
+    EXPECT_EQ(desk.slot(1).kind, Kind::point);
 }
 
 } // namespace

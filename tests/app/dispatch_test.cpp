@@ -1,8 +1,8 @@
-#include "app/dispatch.h"
+#include "app/drawing/dispatch.h"
 
 #include "app/actions.h"
-#include "commands/vocabulary.h"
 #include "desk.h"
+#include "tables/functions.h"
 
 #include <gtest/gtest.h>
 
@@ -44,26 +44,18 @@ TEST(Dispatch, GreysNoStarter)
     for (const DispatchRow& row : dispatchTable()) {
         const FunctionRow* function = findFunction(row.name);
         ASSERT_NE(function, nullptr);
-        ControlId starter;
-        ASSERT_TRUE(findControl(function->starter, starter));
+        const ControlId starter = function->starter;
         if (function->starts != Starts::atOnce || !isClickable(starter)) continue;
         EXPECT_TRUE(desk.enabled(starter)) << row.name;
     }
-}
-
-TEST(Dispatch, SharesTheRoutinesOfPairs)
-{
-    const std::pair<const char*, const char*> pairs[] = {
-        {"Copy", "Move"}, {"Radial Copy", "Rotate"}, {"Ortho Angle Match", "Text Rotation Match"}};
-    for (const auto& [a, b] : pairs) EXPECT_EQ(dispatchOf(a)->step, dispatchOf(b)->step) << a;
 }
 
 TEST(Dispatch, AGreyedControlDoesNothing)
 {
     fake::Desk desk;
     int greyed = 0;
-    for (std::size_t i = 0; i < controlCount; ++i) {
-        const ControlId id{static_cast<std::uint16_t>(i)}; // the table has a few hundred rows
+    for (const ControlRow& row : controlTable) {
+        const ControlId id = row.id;
         if (!isClickable(id) || desk.enabled(id)) continue;
         ++greyed;
         desk.press(id);

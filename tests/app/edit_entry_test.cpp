@@ -19,7 +19,7 @@ struct EntryDesk : Desk {
     {
         drawLine(1000, 1000, 1400, 1000);
         EntityRecord circle;
-        circle.kind = kind::circle;
+        circle.kind = Kind::circle;
         circle.p1 = {2000, 1000};
         circle.rad = 144;
         s.store.setRecord(2, circle);
@@ -431,7 +431,7 @@ TEST(TypedDistance, OfASecondPointLeavesTheFunctionOpenForFurtherClicks)
     EXPECT_EQ(desk.s.promptText, "(Enter ending point of second axis:)");
     desk.click(1300, 1200);
     EXPECT_EQ(desk.s.store.entCount, 2);
-    EXPECT_EQ(desk.slot(1).kind, kind::ellipse);
+    EXPECT_EQ(desk.slot(1).kind, Kind::ellipse);
 }
 
 } // namespace

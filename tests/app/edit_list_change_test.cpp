@@ -97,7 +97,7 @@ TEST(Change, WithOneBoxSetKeepsTheRest)
                         {"frmfilter.ob6"_c, 2, 0x00FF00, 3}}; // the kind is no property
     for (const Row& row : rows) {
         EditsDesk desk;
-        const std::int32_t circle = desk.add(kind::circle);
+        const std::int32_t circle = desk.add(Kind::circle);
         desk.startChange();
         if (row.menu == "frmfilter.List1"_c)
             desk.shell.clickRow(row.menu, 7);
@@ -106,7 +106,7 @@ TEST(Change, WithOneBoxSetKeepsTheRest)
         desk.press("frmfilter.Command1"_c);
         const EntityRecord changed = desk.slot(desk.s.store.entCount - 1);
         EXPECT_EQ(desk.stat(circle), Stat::out) << row.menu.row().name;
-        EXPECT_EQ(changed.kind, kind::circle) << row.menu.row().name;
+        EXPECT_EQ(changed.kind, Kind::circle) << row.menu.row().name;
         EXPECT_EQ(changed.layer, row.layer) << row.menu.row().name;
         EXPECT_EQ(changed.color, row.color) << row.menu.row().name;
         EXPECT_EQ(changed.style, row.style) << row.menu.row().name;
@@ -116,7 +116,7 @@ TEST(Change, WithOneBoxSetKeepsTheRest)
 TEST(Change, OfTheStyleLeavesPointsTextsAndDimensions)
 {
     EditsDesk desk;
-    for (std::int16_t kind = 1; kind <= 10; ++kind) desk.add(kind);
+    for (const Kind kind : everyKind) desk.add(kind);
     desk.startChange();
     for (std::int32_t slot = 2; slot < 12; ++slot) desk.s.store.setStat(slot, Stat::sel);
     desk.s.store.setStat(1, Stat::on);
@@ -124,7 +124,8 @@ TEST(Change, OfTheStyleLeavesPointsTextsAndDimensions)
     desk.press("frmfilter.Command1"_c);
     ASSERT_EQ(desk.s.store.entCount, 22);
     for (std::int32_t slot = 12; slot < 22; ++slot)
-        EXPECT_EQ(desk.slot(slot).style, desk.slot(slot).kind < 5 ? 2 : 3) << desk.slot(slot).kind;
+        EXPECT_EQ(desk.slot(slot).style, desk.slot(slot).kind < Kind::point ? 2 : 3)
+            << numberOf(desk.slot(slot).kind);
 }
 
 TEST(Change, WithAllBoxesOnAllStillMakesCopies)
@@ -161,7 +162,7 @@ TEST(Change, ABoxPutBackToAllCountsAgain)
 TEST(FilterSettings, ABoxPutBackToAllLeavesTheCriterionInForce)
 {
     EditsDesk desk;
-    desk.add(kind::point);
+    desk.add(Kind::point);
     desk.press("flt1"_c);
     EXPECT_EQ(desk.caption("frmfilter"_c), "Filter Settings");
     desk.press("frmfilter.ob9"_c);

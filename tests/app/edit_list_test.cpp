@@ -148,7 +148,7 @@ TEST(Delete, IsOneActionThatCountsAsUnsavedWork)
 {
     for (const bool fromForm : {false, true}) {
         EditsDesk desk;
-        desk.add(kind::circle);
+        desk.add(Kind::circle);
         desk.saveAs("house");
         EXPECT_EQ(desk.s.savedCount, 3);
         desk.selectAll();
@@ -197,7 +197,7 @@ TEST(Delete, InTheMiddleOfAMoveEndsIt)
 TEST(DeselectAll, TurnsTheSelectionOnAndStaysInTheFunction)
 {
     EditsDesk desk;
-    desk.add(kind::circle);
+    desk.add(Kind::circle);
     desk.selectAll();
     const std::int32_t log = desk.s.log.undoLogCount;
     const std::int32_t group = desk.s.log.undoGroupNext;

@@ -4,7 +4,7 @@
 
 #include "desk.h"
 
-#include "app/dispatch.h"
+#include "app/drawing/dispatch.h"
 #include "model/insertion.h"
 
 namespace mirtane::fake {
@@ -41,7 +41,7 @@ inline constexpr int deleteRow = 13;
 struct EditsDesk : Desk {
     EditsDesk() { drawLine(1000, 1000, 1400, 1000); }
 
-    std::int32_t add(std::int16_t kind, Stat stat = Stat::on)
+    std::int32_t add(Kind kind, Stat stat = Stat::on)
     {
         const std::int32_t slot = s.store.entCount;
         EntityRecord r;

@@ -113,7 +113,7 @@ TEST_F(FileWork, SaveRewritesTheHeaderFromTheCurrentAttributes)
     desk.press("ls6"_c);
     desk.saveAs("house");
     const EntityRecord header = desk.slot(0);
-    EXPECT_EQ(header.kind, kind::header);
+    EXPECT_EQ(header.kind, headerKind);
     EXPECT_EQ(header.color, 0x0000FF);
     EXPECT_EQ(header.style, 3);
     EXPECT_EQ(header.t1, "us");
@@ -308,7 +308,7 @@ TEST(Exit, CarriesTheAttributesOfTheLastDrawingIntoTheSettings)
 {
     Desk desk;
     EntityRecord header;
-    header.kind = kind::header;
+    header.kind = headerKind;
     header.p1 = {60, 24};
     header.p2 = {3, 2};
     header.p3 = {0.25F, 1};

@@ -1,6 +1,6 @@
 // The menu entries and other callers that lead to the file dialog, and how each of them primes it.
 
-#include "app/file_menus.h"
+#include "app/menus/file_menus.h"
 
 #include "desk.h"
 
@@ -247,7 +247,7 @@ TEST_F(Menus, OfLoadLayerMergeAndForgetAssociatesAndKeepTheName)
     desk.enter();
     EXPECT_FALSE(desk.visible("frmfile"_c));
     EXPECT_EQ(desk.s.store.entCount, 4); // the header is kept as a slot
-    EXPECT_EQ(desk.slot(2).kind, kind::header);
+    EXPECT_EQ(desk.slot(2).kind, headerKind);
     EXPECT_EQ(desk.slot(3).layer, 5);
     EXPECT_EQ(desk.s.savedCount, 2);
     EXPECT_EQ(desk.s.drawingName, "house.mtd");
@@ -403,7 +403,7 @@ TEST_F(Menus, DxfThatEndsOnTheSpotLeavesWhatItHasAndTheSelection)
 {
     desk.drawLine(100, 100, 400, 100);
     EntityRecord radial;
-    radial.kind = kind::radialDimension;
+    radial.kind = Kind::radialDimension;
     radial.p2 = {200, 200};
     radial.style = 9;
     desk.s.store.setRecord(2, radial);

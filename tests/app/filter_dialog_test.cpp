@@ -41,8 +41,7 @@ class FilterDialog : public testing::Test {
     }
 
     // An object that lies about (100, 100), with another layer, colour or style than the next of its kind.
-    std::int32_t add(std::int16_t kind, std::int16_t layer = 1, std::int32_t color = 0xFFFFFF,
-                     std::int16_t style = 0)
+    std::int32_t add(Kind kind, std::int16_t layer = 1, std::int32_t color = 0xFFFFFF, std::int16_t style = 0)
     {
         EntityRecord r;
         r.kind = kind;
@@ -51,7 +50,7 @@ class FilterDialog : public testing::Test {
         r.style = style;
         r.p1 = {100, 100};
         r.p2 = {110, 100};
-        r.p3 = kind == kind::ellipse ? Point{0.5F, 0} : Point{105, 105};
+        r.p3 = kind == Kind::ellipse ? Point{0.5F, 0} : Point{105, 105};
         r.p4 = {106, 106};
         r.p5 = {107, 107};
         r.rad = 10;
@@ -155,11 +154,11 @@ TEST_F(FilterDialog, ARowOfTheListIsTheLayer)
 
 TEST_F(FilterDialog, AClickOnABoxShowsAllButTheCriterionStillFilters)
 {
-    add(kind::line, 3, 0x0000FF, 2);
-    add(kind::line, 1, 0x0000FF, 2);
-    add(kind::circle, 3, 0x0000FF, 2);
-    add(kind::line, 3, 0xFFFFFF, 2);
-    add(kind::line, 3, 0x0000FF, 1);
+    add(Kind::line, 3, 0x0000FF, 2);
+    add(Kind::line, 1, 0x0000FF, 2);
+    add(Kind::circle, 3, 0x0000FF, 2);
+    add(Kind::line, 3, 0xFFFFFF, 2);
+    add(Kind::line, 3, 0x0000FF, 1);
     desk.press("flt1"_c);
     desk.shell.clickRow("frmfilter.List1"_c, 3);
     desk.press("frmfilter.ob5"_c);
@@ -178,8 +177,8 @@ TEST_F(FilterDialog, AClickOnABoxShowsAllButTheCriterionStillFilters)
 
 TEST_F(FilterDialog, ResetForgetsAllFour)
 {
-    add(kind::line, 3, 0x0000FF, 2);
-    add(kind::text, 4);
+    add(Kind::line, 3, 0x0000FF, 2);
+    add(Kind::text, 4);
     desk.press("flt1"_c);
     desk.shell.clickRow("frmfilter.List1"_c, 7);
     for (const ControlId menu : {"frmfilter.ob9"_c, "frmfilter.cu5"_c, "frmfilter.st9"_c}) desk.press(menu);
@@ -249,8 +248,8 @@ TEST_F(FilterDialog, DoesNotDisturbTheRunningFunction)
 
 TEST_F(FilterDialog, OnlyTheFilteredWindowLooksAtIt)
 {
-    add(kind::line);
-    add(kind::circle);
+    add(Kind::line);
+    add(Kind::circle);
     choose({"frmfilter.ob6"_c});
     EXPECT_EQ(windowSelects("Command19"_c), "1 2");
     EXPECT_EQ(windowSelects("Command18"_c), "2");
@@ -258,15 +257,17 @@ TEST_F(FilterDialog, OnlyTheFilteredWindowLooksAtIt)
 
 TEST_F(FilterDialog, DimensionIsEveryDimensionAndLeaderAndNothingThatIsNeverPainted)
 {
-    constexpr std::int16_t kinds[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 25, 30, 35};
-    for (const std::int16_t kind : kinds) add(kind);
+    for (const Kind kind : everyKind) add(kind);
+    for (const Kind kind : {Kind{25}, Kind{30}, Kind{35}}) add(kind);
     choose({"frmfilter.ob11"_c});
     EXPECT_EQ(windowSelects(), "7 8 9 10");
 }
 
 TEST_F(FilterDialog, EachKindAlone)
 {
-    for (std::int16_t kind = 1; kind <= 7; ++kind) add(kind);
+    for (const Kind kind :
+         {Kind::line, Kind::circle, Kind::arc, Kind::ellipse, Kind::point, Kind::text, Kind::linearDimension})
+        add(kind);
     const ControlId menus[] = {"frmfilter.ob5"_c, "frmfilter.ob6"_c, "frmfilter.ob7"_c,
                                "frmfilter.ob8"_c, "frmfilter.ob9"_c, "frmfilter.ob10"_c};
     int kind = 1;
@@ -278,9 +279,9 @@ TEST_F(FilterDialog, EachKindAlone)
 
 TEST_F(FilterDialog, WhiteFiltersAndBlackIsNoCriterion)
 {
-    add(kind::line, 1, 0xFFFFFF);
-    add(kind::line, 1, 0x000000);
-    add(kind::line, 1, 0x0000FF);
+    add(Kind::line, 1, 0xFFFFFF);
+    add(Kind::line, 1, 0x000000);
+    add(Kind::line, 1, 0x0000FF);
     choose({"frmfilter.cu12"_c});
     EXPECT_EQ(windowSelects(), "1");
     choose({"frmfilter.rst1"_c});
@@ -289,8 +290,8 @@ TEST_F(FilterDialog, WhiteFiltersAndBlackIsNoCriterion)
 
 TEST_F(FilterDialog, SolidAndLayer0AreCriteriaThoughTheyAreZero)
 {
-    add(kind::line, 0, 0xFFFFFF, 1);
-    add(kind::line, 1, 0xFFFFFF, 0);
+    add(Kind::line, 0, 0xFFFFFF, 1);
+    add(Kind::line, 1, 0xFFFFFF, 0);
     choose({"frmfilter.st5"_c});
     EXPECT_EQ(windowSelects(), "2");
     choose({"frmfilter.rst1"_c});
@@ -302,7 +303,7 @@ TEST_F(FilterDialog, SolidAndLayer0AreCriteriaThoughTheyAreZero)
 
 TEST_F(FilterDialog, AFilterThatMatchesNothingSelectsNothingSilently)
 {
-    add(kind::line);
+    add(Kind::line);
     choose({"frmfilter.ob8"_c});
     EXPECT_EQ(windowSelects(), "");
     EXPECT_EQ(desk.text("entry"_c), "");
@@ -312,8 +313,8 @@ TEST_F(FilterDialog, AFilterThatMatchesNothingSelectsNothingSilently)
 
 TEST_F(FilterDialog, AMarkThatTheFilterWouldNotGiveStays)
 {
-    add(kind::line);
-    add(kind::circle);
+    add(Kind::line);
+    add(Kind::circle);
     desk.s.store.setStat(1, Stat::sel);
     desk.s.curFunc = desk.s.baseFunc = desk.s.lastFunc = "Object Select";
     choose({"frmfilter.ob6"_c});

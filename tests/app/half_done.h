@@ -289,7 +289,7 @@ inline void expectNothingBegun(const Office& office, const std::string& where)
     EXPECT_EQ(s.boundaryCount, 0) << where;
     EXPECT_EQ(s.editPending, 0) << where;
     EXPECT_NE(s.workAngle, selectionFollowsPointer) << where;
-    EXPECT_FALSE(zoomWindowIsOn(s)) << where;
+    EXPECT_FALSE(zoomWindowIsOn(s.controls)) << where;
     EXPECT_FALSE(office.visible("frmedit"_c)) << where;
     EXPECT_FALSE(office.visible("frmfilter"_c)) << where;
     EXPECT_EQ(office.caption("blank"_c), "Blank/Off") << where;

@@ -22,7 +22,7 @@ inline constexpr LayerMenu listingMenus[] = {
 
 struct LayerDesk : Desk {
     // A line on that layer.
-    std::int32_t add(std::int16_t layer, Stat stat = Stat::on, std::int16_t kind = kind::line)
+    std::int32_t add(std::int16_t layer, Stat stat = Stat::on, Kind kind = Kind::line)
     {
         const std::int32_t slot = s.store.entCount;
         EntityRecord r;

@@ -98,7 +98,7 @@ TEST(SaveLayer, AndLoadLayerBringTheObjectsOntoTheLayerChosen)
     EXPECT_EQ(desk.s.drawingName, "untitled.mtd");
     EXPECT_EQ(desk.s.savedCount, saved);
     ASSERT_EQ(desk.s.store.entCount, 8); // the header and two lines; the name is dropped
-    EXPECT_EQ(desk.slot(5).kind, kind::header);
+    EXPECT_EQ(desk.slot(5).kind, headerKind);
     EXPECT_EQ(desk.slot(6).p1, (Point{100, 700}));
     EXPECT_EQ(desk.slot(7).p2, (Point{600, 900}));
     for (std::int32_t slot = 5; slot < 8; ++slot) {

@@ -80,7 +80,7 @@ TEST(SetWorkingLayer, TurnsAllOfItsObjectsOnButTheDeleted)
     const std::int32_t hidden = desk.add(5, Stat::off);
     const std::int32_t selected = desk.add(5, Stat::sel);
     const std::int32_t deleted = desk.add(5, Stat::out);
-    const std::int32_t name = desk.add(5, Stat::off, kind::layerName);
+    const std::int32_t name = desk.add(5, Stat::off, layerNameKind);
     const std::int32_t elsewhere = desk.add(6, Stat::off);
     const std::int32_t alsoElsewhere = desk.add(6, Stat::sel);
     desk.layer(5).layerShown = "Off:";
@@ -100,7 +100,7 @@ TEST(HideLayer, TurnsAllOfItsObjectsOffButTheDeletedAndShowsThemAtTheSecondClick
     const std::int32_t shown = desk.add(5);
     const std::int32_t selected = desk.add(5, Stat::sel);
     const std::int32_t deleted = desk.add(5, Stat::out);
-    const std::int32_t name = desk.add(5, Stat::on, kind::layerName);
+    const std::int32_t name = desk.add(5, Stat::on, layerNameKind);
     const std::int32_t elsewhere = desk.add(6);
     const std::int32_t log = desk.s.log.undoLogCount;
     desk.press("ly7"_c);
@@ -221,7 +221,7 @@ TEST(NameLayer, GoesIntoTheTableTheListAndTheDrawing)
     desk.enter();
     EXPECT_EQ(desk.row(4), "Yes:On :W\xC3\xA4nde 1");
     EXPECT_EQ(desk.s.store.entCount, 3);
-    EXPECT_EQ(desk.slot(2).kind, kind::layerName);
+    EXPECT_EQ(desk.slot(2).kind, layerNameKind);
     EXPECT_EQ(desk.slot(2).p1.x, 6);
     EXPECT_EQ(desk.slot(2).t1, "W\xC3\xA4nde 1");
     EXPECT_EQ(desk.stat(2), Stat::on);
@@ -243,7 +243,7 @@ TEST(NameLayer, LeavesTheOtherFieldsAsTheSlotHeldThemAndMarksNoLayerUsed)
     old.t2 = "left";
     desk.s.store.setRecord(1, old);
     desk.nameLayer(4, "walls");
-    old.kind = kind::layerName;
+    old.kind = layerNameKind;
     old.p1.x = 6;
     old.t1 = "walls";
     EXPECT_EQ(desk.slot(1), old);
@@ -414,7 +414,7 @@ TEST(AddLayer, IsTheNextNumberWithARecordOfItsName)
     EXPECT_EQ(desk.row(16), "No :On :roof");
     EXPECT_EQ(desk.s.layerTable.layerCount, 17);
     EXPECT_EQ(desk.layer(16).layerNumber, 16);
-    EXPECT_EQ(desk.slot(1).kind, kind::layerName);
+    EXPECT_EQ(desk.slot(1).kind, layerNameKind);
     EXPECT_EQ(desk.slot(1).p1.x, 18);
     EXPECT_EQ(desk.slot(1).t1, "roof");
     EXPECT_EQ(desk.stat(1), Stat::on);

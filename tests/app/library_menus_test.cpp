@@ -1,7 +1,7 @@
 // Associates, hatches and multiple lines by their menus: names, lists, and files that are as they should be
 // and that are not.
 
-#include "app/library_menus.h"
+#include "app/menus/library_menus.h"
 
 #include "desk.h"
 
@@ -302,7 +302,7 @@ TEST(LibraryMenus, AMultipleLinesTableThatFillsUpStopsTheCreation)
 TEST(LibraryMenus, AHatchOfTextAloneHasNoRowsAndNoName)
 {
     LibraryDesk desk;
-    desk.s.store.kind[1] = kind::text;
+    desk.s.store.kind[1] = Kind::text;
     desk.create(hatches, "words");
     EXPECT_EQ(desk.s.hatchLibrary.count, 0);
     EXPECT_EQ(desk.rows(), Names{});
@@ -611,7 +611,7 @@ TEST(Associate, MadeOfPlacedObjectsHoldsPlainOnes)
     desk.choose(0);
     desk.click(2000, 2000);
     const std::int32_t placed = desk.s.store.entCount - 1;
-    ASSERT_EQ(desk.slot(placed).kind, kind::line);
+    ASSERT_EQ(desk.slot(placed).kind, Kind::line);
     for (std::int32_t i = 1; i < placed; ++i) {
         if (desk.stat(i) == Stat::sel) desk.s.store.setStat(i, Stat::on);
     }
@@ -621,7 +621,7 @@ TEST(Associate, MadeOfPlacedObjectsHoldsPlainOnes)
     desk.enter();
     desk.click(2000, 2000);
     const std::int32_t piece = desk.s.store.entCount - 1;
-    EXPECT_EQ(desk.slot(piece).kind, kind::associatePiece + kind::line);
+    EXPECT_EQ(desk.slot(piece).kind, pieceOf(Kind::line));
     EXPECT_EQ(desk.s.store.ownerName[EntityStore::at(piece)], "gate");
     EXPECT_EQ(desk.slot(piece).p1, (Point{0, 10}));
 }

@@ -28,7 +28,7 @@ TEST_F(OpenFile, IsWhatWasSaved)
     EXPECT_EQ(desk.slot(1).p1, (Point{100, 100}));
     EXPECT_EQ(desk.slot(2).p1, (Point{10.5F, -20.25F}));
     EXPECT_EQ(desk.slot(2).p2, (Point{3000, 77}));
-    EXPECT_EQ(desk.slot(3).kind, kind::point);
+    EXPECT_EQ(desk.slot(3).kind, Kind::point);
     for (std::int32_t i = 1; i < 4; ++i) EXPECT_EQ(desk.stat(i), Stat::on) << i;
     EXPECT_EQ(desk.s.savedCount, 4);
     EXPECT_EQ(desk.s.drawingName, "house.mtd");
@@ -103,7 +103,7 @@ TEST_F(OpenFile, FitsTheViewAnchoredAtTheUpperLeft)
 TEST_F(OpenFile, TextIsAnchoredByTheFontsMeasure)
 {
     EntityRecord text;
-    text.kind = kind::text;
+    text.kind = Kind::text;
     text.p1 = {100, 50};
     text.p2 = {10, 1}; // size, right
     text.p4 = {-1, -1};

@@ -1,4 +1,4 @@
-#include "app/print_dialog.h"
+#include "app/dialogs/print_dialog.h"
 
 #include "desk.h"
 #include "render/redraw.h"
@@ -71,7 +71,7 @@ class Office {
     void addLine()
     {
         EntityRecord r;
-        r.kind = kind::line;
+        r.kind = Kind::line;
         r.p2 = {1152, 0};
         r.color = 0xFFFFFF;
         add(r);
@@ -80,7 +80,7 @@ class Office {
     void addPoint()
     {
         EntityRecord r;
-        r.kind = kind::point;
+        r.kind = Kind::point;
         r.p1 = {50, 50};
         add(r);
     }
@@ -157,7 +157,7 @@ TEST(PrintDialog, ShowsSevenDigitsWithAPoint)
     for (const FittedRow& row : rows) {
         Office office;
         EntityRecord r;
-        r.kind = kind::line;
+        r.kind = Kind::line;
         r.p2 = {row.width, 0};
         office.add(r);
         office.ask();

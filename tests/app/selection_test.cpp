@@ -462,7 +462,7 @@ TEST_F(WindowSelect, KindsThatAreNeverPaintedAreNeverSelected)
     const std::int16_t kinds[] = {0, 11, 20, 24, 25, 30, 35};
     for (const std::int16_t kind : kinds) {
         EntityRecord r = desk.slot(1);
-        r.kind = kind;
+        r.kind = Kind{kind};
         desk.s.store.setRecord(1, r);
         for (const ControlId starter : {"Command19"_c, "Command18"_c}) {
             desk.press(starter);

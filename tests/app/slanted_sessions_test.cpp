@@ -67,7 +67,7 @@ class Draughtsman {
         for (std::int32_t i = 1; i < desk_.s.store.end(); ++i) {
             const EntityRecord r = desk_.slot(i);
             most = std::max({most, away(r.p1), away(r.p2)});
-            if (r.kind == kind::arc) most = std::max({most, away(r.p3), away(r.p4), double{r.rad}});
+            if (r.kind == Kind::arc) most = std::max({most, away(r.p3), away(r.p4), double{r.rad}});
         }
         return most / (2 * reach_);
     }
@@ -104,7 +104,7 @@ class Draughtsman {
         std::vector<Segment> lines;
         for (std::int32_t i = 1; i < desk_.s.store.end(); ++i) {
             const EntityRecord r = desk_.slot(i);
-            if (desk_.s.store.isShown(i) && r.kind == kind::line) lines.push_back({r.p1, r.p2});
+            if (desk_.s.store.isShown(i) && r.kind == Kind::line) lines.push_back({r.p1, r.p2});
         }
         return lines[static_cast<std::size_t>(dice_.below(static_cast<int>(lines.size())))].at( // a few lines
             dice_.between(0.2, 0.8));
@@ -182,7 +182,7 @@ TEST(SlantedSessions, NoFilletTrimOrSnapGoesBeyondTenTimesTheDrawing)
             EXPECT_LT(man.extent(), 10) << "session " << i << ", edit " << edits;
         }
         for (std::int32_t slot = 1; slot < desk.s.store.end(); ++slot)
-            if (desk.slot(slot).kind == kind::arc) ++rounded;
+            if (desk.slot(slot).kind == Kind::arc) ++rounded;
     }
     EXPECT_GT(rounded, sessionsWanted() / 4);
 }

@@ -24,7 +24,7 @@ class Snapping : public testing::Test {
     std::int32_t line(Point a, Point b)
     {
         EntityRecord r;
-        r.kind = kind::line;
+        r.kind = Kind::line;
         r.p1 = a;
         r.p2 = b;
         return add(r);
@@ -33,7 +33,7 @@ class Snapping : public testing::Test {
     std::int32_t circle(Point centre, float radius)
     {
         EntityRecord r;
-        r.kind = kind::circle;
+        r.kind = Kind::circle;
         r.p1 = centre;
         r.rad = radius;
         return add(r);
@@ -434,7 +434,7 @@ class ReferencePoint : public Desk {
         line({1900, 1300}, {2500, 1700});
         line({2500, 1300}, {1900, 1700});
         EntityRecord circle;
-        circle.kind = kind::circle;
+        circle.kind = Kind::circle;
         circle.p1 = {3600, 2600};
         circle.rad = 300;
         add(circle);
@@ -453,7 +453,7 @@ class ReferencePoint : public Desk {
     void line(Point a, Point b)
     {
         EntityRecord r;
-        r.kind = kind::line;
+        r.kind = Kind::line;
         r.p1 = a;
         r.p2 = b;
         add(r);

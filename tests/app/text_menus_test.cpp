@@ -1,6 +1,6 @@
 // The menus of numbers, text and dimensions, from the entry to what a drawing then says.
 
-#include "app/attribute_controls.h"
+#include "app/menus/attribute_controls.h"
 #include "desk.h"
 
 #include <gmock/gmock.h>
@@ -237,10 +237,10 @@ TEST(ChangeSelectFont, WithNothingSelectedSaysSo)
 void makeSelection(FontDesk& desk)
 {
     EntityRecord line;
-    line.kind = kind::line;
+    line.kind = Kind::line;
     line.p2 = {500, 500};
     EntityRecord text;
-    text.kind = kind::text;
+    text.kind = Kind::text;
     text.p1 = {900, 900};
     text.p4 = {800, 900};
     text.p2 = {48, 1};
@@ -250,13 +250,13 @@ void makeSelection(FontDesk& desk)
     text.t1 = "words";
     text.t2 = "Garamond";
     EntityRecord leader = text;
-    leader.kind = kind::leader;
+    leader.kind = Kind::leader;
     leader.s1 = 3;
     leader.s2 = 48;
     leader.a2 = 48;
     leader.p5 = {1500, 900};
     EntityRecord angle = leader;
-    angle.kind = kind::angularDimension;
+    angle.kind = Kind::angularDimension;
     angle.style = 3;
     angle.a3 = 12.5;
     for (const EntityRecord& r : {line, text, leader, angle}) {

@@ -490,7 +490,7 @@ TEST(TypedDistances, ALineDrawnBeforeGivesAnotherFunctionNoDirection)
     desk.type("5");
     desk.enter();
     EXPECT_EQ(desk.s.store.entCount, 3);
-    EXPECT_EQ(desk.slot(2).kind, kind::linearDimension);
+    EXPECT_EQ(desk.slot(2).kind, Kind::linearDimension);
     EXPECT_EQ(desk.slot(2).p3, (Point{1300, 1000}));
 }
 

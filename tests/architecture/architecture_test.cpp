@@ -1,3 +1,4 @@
+#include "circles.h"
 #include "floors.h"
 
 #include <gtest/gtest.h>
@@ -51,6 +52,8 @@ TEST(Architecture, AnArrowThatRunsUpIsSeen)
         {"a neighbour on the floor", "edit/trim.cpp", "#include \"library/hatch.h\"\n", 1},
         {"geometry asks for text", "geometry/arc.cpp", "#include \"text/number.h\"\n", 1},
         {"a format asks a function", "files/drawing.cpp", "#include \"edit/trim.h\"\n", 1},
+        {"the nouns ask the drawing", "tables/kinds.h", "#include \"model/session.h\"\n", 1},
+        {"a snap asks a format", "snap/near.cpp", "#include \"files/bytes.h\"\n", 1},
         {"two in one file", "model/a.h", "#include \"snap/a.h\"\r\n#include \"app/b.h\"\r\n", 2},
     };
     for (const Row& row : rows) check(row);
@@ -62,7 +65,8 @@ TEST(Architecture, AnArrowThatRunsDownIsTaken)
         {"its own folder", "model/store.cpp", "#include \"model/store.h\"\n", 0},
         {"a lower floor", "render/painters.cpp", "#include \"model/session.h\"\n#include <vector>\n", 0},
         {"text under the fault rule", "text/number.cpp", "#include \"geometry/fault.h\"\n", 0},
-        {"a format asks the tables", "files/hatch.cpp", "#include \"library/tables.h\"\n", 0},
+        {"a format asks the tables", "files/hatch.cpp", "#include \"model/library_tables.h\"\n", 0},
+        {"a function asks a format", "library/hatch.cpp", "#include \"files/bytes.h\"\n", 0},
         {"the toolkit on its own floor", "platform/qt/surface.cpp", "#include <QImage>\n#include <chrono>\n",
          0},
         {"what moc writes", "platform/qt/window/main.cpp", "#include \"main.moc\"\n", 0},
@@ -104,16 +108,49 @@ TEST(Architecture, AFileOutsideTheHouseIsSeen)
     for (const Row& row : rows) check(row);
 }
 
+TEST(Architecture, AFunctionIsAskedForByNameInTheShellAlone)
+{
+    const Row rows[] = {
+        {"a snap", "snap/near.cpp", "    if (s.curFunc == \"Line\") return;\n", 1},
+        {"the redraw", "render/redraw.cpp", "const bool edits = s.curFunc != \"Text Edit\";", 1},
+        {"the other way round", "edit/trim.cpp", "if (\"Trim\" == s.curFunc) {", 1},
+        {"the shell", "app/canvas_input.cpp", "if (s.curFunc == \"Blank Line\") {", 0},
+        {"a column", "snap/near.cpp", "if (functionRow(s.curFunc).editsText) {", 0},
+        {"a name that is set", "commands/match.cpp", "s.curFunc = s.baseFunc;", 0},
+        {"a comment", "snap/near.cpp", "// once curFunc == \"Line\"\n", 0},
+    };
+    for (const Row& row : rows) check(row);
+}
+
+TEST(Architecture, ACircleOfFilesIsSeen)
+{
+    EXPECT_EQ(circles({{"app/a.h", ""},
+                       {"app/a.cpp", "#include \"app/b.h\"\n"},
+                       {"app/b.h", "#include \"app/a.h\"\n"}}),
+              std::vector<std::string>{"a circle: app/a app/b"});
+    const std::map<std::string, std::string> three = {{"app/a.cpp", "#include \"app/b.h\"\n"},
+                                                      {"app/b.cpp", "#include \"app/c.h\"\n"},
+                                                      {"app/c.cpp", "#include \"app/a.h\"\n"},
+                                                      {"app/d.cpp", "#include \"app/a.h\"\n"}};
+    EXPECT_EQ(circles(three), std::vector<std::string>{"a circle: app/a app/b app/c"});
+    EXPECT_TRUE(
+        circles({{"app/a.cpp", "#include \"app/a.h\"\n#include \"app/b.h\"\n"}, {"app/b.h", ""}}).empty());
+    EXPECT_TRUE(circles({{"app/a.h", "#include \"model/b.h\"\n"}, {"model/b.h", ""}}).empty());
+}
+
 TEST(Architecture, TheHouseStands)
 {
     const std::filesystem::path src = std::filesystem::path(MIRTANE_SOURCE_DIR) / "src";
     std::size_t files = 0;
+    std::map<std::string, std::string> sources;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(src)) {
         if (!entry.is_regular_file() || !isSource(entry.path())) continue;
         ++files;
         const std::string path = entry.path().lexically_relative(src).generic_string();
-        for (const std::string& fault : faults(path, contentOf(entry.path()))) ADD_FAILURE() << fault;
+        sources[path] = contentOf(entry.path());
+        for (const std::string& fault : faults(path, sources[path])) ADD_FAILURE() << fault;
     }
+    for (const std::string& circle : circles(sources)) ADD_FAILURE() << circle;
     EXPECT_GT(files, 10U) << "too few sources were found in " << src;
 }
 

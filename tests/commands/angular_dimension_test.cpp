@@ -147,7 +147,7 @@ TEST(AngularDimension, FourClicksFillItsSlotInEveryQuadrant)
         desk.measure(row.first, row.second, {1180, 1240}); // 300 away, off the angle
         ASSERT_EQ(desk.s.store.entCount, 2) << row.what;
         const EntityRecord r = desk.slot(1);
-        EXPECT_EQ(r.kind, kind::angularDimension) << row.what;
+        EXPECT_EQ(r.kind, Kind::angularDimension) << row.what;
         EXPECT_EQ(r.p1, vertex) << row.what;
         EXPECT_EQ(r.p2, row.first) << row.what;
         EXPECT_EQ(r.p3, row.second) << row.what;

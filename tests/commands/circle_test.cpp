@@ -47,7 +47,7 @@ TEST(CircleTwo, StoresTheCentreAndTheDistanceOfTheSecondPointWithOrthoOnAndOff)
             ++count;
             ASSERT_EQ(desk.s.store.entCount, count) << row.what;
             const EntityRecord r = lastSlot(desk);
-            EXPECT_EQ(r.kind, kind::circle) << row.what;
+            EXPECT_EQ(r.kind, Kind::circle) << row.what;
             EXPECT_EQ(r.p1, row.a) << row.what;
             EXPECT_NEAR(r.rad, row.rad, rounding(row.a, row.rad)) << row.what;
             EXPECT_EQ(desk.s.stepNo, 0) << row.what;
@@ -207,7 +207,7 @@ TEST(CircleThree, PassesThroughThreePointsWhoseFirstAngleIsNotObtuse)
                     clickAt(desk, exchanged ? c : b);
                     clickAt(desk, exchanged ? b : c);
                     const EntityRecord r = lastSlot(desk);
-                    ASSERT_EQ(r.kind, kind::circle) << row.what;
+                    ASSERT_EQ(r.kind, Kind::circle) << row.what;
                     for (const Point p : {a, b, c})
                         EXPECT_NEAR(away(r.p1, p), r.rad, 10 * rounding(a, 500)) << row.what << " " << a.x;
                     desk.cancel();
@@ -309,7 +309,7 @@ TEST(CircleThree, TakesPointsOnALineThatAreNotEvenlySpacedWithoutAFault)
         desk.click(1100, 1100);
         desk.click(third, third);
         const EntityRecord r = lastSlot(desk);
-        ASSERT_EQ(r.kind, kind::circle) << third;
+        ASSERT_EQ(r.kind, Kind::circle) << third;
         EXPECT_TRUE(std::isfinite(r.p1.x) && std::isfinite(r.p1.y) && std::isfinite(r.rad)) << third;
         EXPECT_NEAR(away(r.p1, {1000, 1000}), r.rad, rounding(r.p1, r.rad)) << third;
         desk.cancel();

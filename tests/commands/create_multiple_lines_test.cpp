@@ -26,7 +26,7 @@ class Creation {
     void line(Point a, Point b, std::int32_t color = 0, std::int16_t style = 0)
     {
         EntityRecord r;
-        r.kind = kind::line;
+        r.kind = Kind::line;
         r.p1 = a;
         r.p2 = b;
         r.color = color;
@@ -125,10 +125,10 @@ TEST(CreateMultipleLines, TakesSelectedLinesAlone)
 {
     Creation creation;
     EntityRecord circle;
-    circle.kind = kind::circle;
+    circle.kind = Kind::circle;
     creation.object(circle);
     EntityRecord line;
-    line.kind = kind::line;
+    line.kind = Kind::line;
     line.p2 = {10, 0};
     creation.object(line, Stat::on);
     creation.object(line, Stat::out);

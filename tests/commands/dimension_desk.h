@@ -4,6 +4,7 @@
 // click whether it was snapped.
 
 #include "commands/linear_dimension.h"
+#include "kind_print.h"
 #include "model/session.h"
 #include "ops_text.h"
 #include "render/redraw.h"

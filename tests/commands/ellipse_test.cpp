@@ -47,7 +47,7 @@ TEST(Ellipse, StoresItsFirstAxisEndItsCentreAndTheRatio)
             clickAt(desk, {a.x + row.d.x, a.y + row.d.y});
             ASSERT_EQ(desk.s.store.entCount, ++count) << row.what;
             const EntityRecord r = lastSlot(desk);
-            EXPECT_EQ(r.kind, kind::ellipse) << row.what;
+            EXPECT_EQ(r.kind, Kind::ellipse) << row.what;
             EXPECT_EQ(r.p1, b) << row.what;
             EXPECT_EQ(r.p2, (Point{a.x + row.b.x / 2, a.y + row.b.y / 2})) << row.what;
             EXPECT_NEAR(r.p3.x, row.ratio, 1e-6 + rounding(a, 1000) / 400) << row.what;
@@ -97,7 +97,7 @@ TEST(Ellipse, TakesTypedLengthsForBothAxes)
             desk.type("10"); // 120 units from the centre
             desk.enter();
             const EntityRecord r = desk.slot(1);
-            EXPECT_EQ(r.kind, kind::ellipse);
+            EXPECT_EQ(r.kind, Kind::ellipse);
             EXPECT_LT(away(r.p1, {a.x, a.y - 600}), 0.01);
             EXPECT_LT(away(r.p2, {a.x, a.y - 300}), 0.01);
             EXPECT_NEAR(r.p3.x, 0.4, 1e-6 + rounding(a, 600) / 300);
@@ -304,7 +304,7 @@ TEST(Ellipse, OfAFirstAxisWithoutLengthHasNoRatioAndPaintsNothing)
     desk.down(1, 1000, 700);
     EXPECT_TRUE(marks(desk.ops()).empty());
     const EntityRecord r = desk.slot(2);
-    EXPECT_EQ(r.kind, kind::ellipse);
+    EXPECT_EQ(r.kind, Kind::ellipse);
     EXPECT_EQ(r.p1, (Point{1000, 1000}));
     EXPECT_EQ(r.p2, (Point{1000, 1000}));
     EXPECT_EQ(r.p3.x, before);

@@ -51,7 +51,7 @@ TEST(Leader, TextThenTipThenElbowFillItsSlot)
         desk.place("oak", row.tip, row.elbow);
         ASSERT_EQ(desk.s.store.entCount, 2) << row.what;
         const EntityRecord r = desk.slot(1);
-        EXPECT_EQ(r.kind, kind::leader) << row.what;
+        EXPECT_EQ(r.kind, Kind::leader) << row.what;
         EXPECT_EQ(r.p1, row.tip) << row.what;
         EXPECT_EQ(r.p2, row.elbow) << row.what;
         expectNear(r.p3, {row.elbow.x + 48, row.elbow.y}, row.what); // always to the right

@@ -19,7 +19,7 @@ TEST(Line, StoresALineBetweenTwoClicksAndGoesOnFromItsEnd)
     EXPECT_EQ(desk.s.promptText, "(Enter ending point of line:)");
     desk.click(400, 300);
     EXPECT_EQ(desk.s.store.entCount, 2);
-    EXPECT_EQ(desk.slot(1).kind, kind::line);
+    EXPECT_EQ(desk.slot(1).kind, Kind::line);
     EXPECT_EQ(desk.slot(1).p1, (Point{100, 100}));
     EXPECT_EQ(desk.slot(1).p2, (Point{400, 300}));
     EXPECT_EQ(desk.s.stepNo, 1);
@@ -124,7 +124,7 @@ TEST(PointFunction, MakesOnePointAClick)
     const Ops expected = {"setStyle 2", "setColor 16776960", "restoreSnapshot", "point 70 90",
                           "snapshot",   "setColor 16777215", "setStyle 2"};
     EXPECT_EQ(desk.ops(), expected);
-    EXPECT_EQ(desk.slot(1).kind, kind::point);
+    EXPECT_EQ(desk.slot(1).kind, Kind::point);
     EXPECT_EQ(desk.slot(1).p1, (Point{70, 90}));
     EXPECT_EQ(desk.slot(1).style, 1); // painted dotted, stored in the current style
     EXPECT_EQ(desk.slot(1).color, 0xFFFF00);

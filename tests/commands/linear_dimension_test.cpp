@@ -149,7 +149,7 @@ TEST(LinearDimension, ThreeClicksFillItsSlotInEveryQuadrant)
         desk.measure(row.first, row.second, row.offset);
         ASSERT_EQ(desk.s.store.entCount, 2) << row.what;
         const EntityRecord r = desk.slot(1);
-        EXPECT_EQ(r.kind, kind::linearDimension) << row.what;
+        EXPECT_EQ(r.kind, Kind::linearDimension) << row.what;
         EXPECT_EQ(r.p1, row.first) << row.what;
         EXPECT_EQ(r.p2, row.second) << row.what;
         EXPECT_EQ(r.p3, row.offset) << row.what;

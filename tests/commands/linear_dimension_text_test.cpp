@@ -1,4 +1,5 @@
 #include "commands/linear_dimension_text.h"
+#include "model/record_moves.h"
 
 #include "dimension_desk.h"
 

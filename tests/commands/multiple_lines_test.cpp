@@ -1,5 +1,6 @@
 #include "commands/multiple_lines.h"
 
+#include "kind_print.h"
 #include "model/insertion.h"
 #include "ops_text.h"
 
@@ -302,7 +303,7 @@ TEST(MultipleLines, LinesTakeTheColourAndStyleOfTheirRowsAndTheWorkingLayer)
     run.click({100, 0});
     run.click({100, 100});
     const EntityRecord r = run.slot(1);
-    EXPECT_EQ(r.kind, kind::line);
+    EXPECT_EQ(r.kind, Kind::line);
     EXPECT_EQ(r.color, 0x00FF00);
     EXPECT_EQ(r.style, 1);
     EXPECT_EQ(r.layer, 5);
@@ -474,7 +475,7 @@ TEST(MultipleLines, AFullTableLosesLinesWithoutHarm)
     run.click({100, 0});
     run.click({100, 100});
     EXPECT_EQ(run.s.store.entCount, EntityStore::slotCount + 1);
-    EXPECT_EQ(run.slot(EntityStore::slotCount - 1).kind, kind::line);
+    EXPECT_EQ(run.slot(EntityStore::slotCount - 1).kind, Kind::line);
 }
 
 } // namespace

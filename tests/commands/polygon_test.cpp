@@ -77,7 +77,7 @@ TEST_F(Polygon, IsAsManyLinesThatUndoOneByOne)
     const Point corners[] = {{1100, 1000}, {1000, 900}, {900, 1000}, {1000, 1100}, {1100, 1000}};
     for (std::int32_t i = 1; i <= 4; ++i) {
         const EntityRecord side = desk.slot(i);
-        EXPECT_EQ(side.kind, kind::line);
+        EXPECT_EQ(side.kind, Kind::line);
         EXPECT_NEAR(side.p1.x, corners[i - 1].x, 0.001) << i;
         EXPECT_NEAR(side.p1.y, corners[i - 1].y, 0.001) << i;
         EXPECT_NEAR(side.p2.x, corners[i].x, 0.001) << i;

@@ -17,7 +17,7 @@ using fake::Ops;
 
 constexpr Point centre{1000, 1000};
 
-EntityRecord roundRecord(std::int16_t kind, float rad)
+EntityRecord roundRecord(Kind kind, float rad)
 {
     EntityRecord r;
     r.kind = kind;
@@ -31,7 +31,7 @@ EntityRecord roundRecord(std::int16_t kind, float rad)
 // A drawing with one circle of a foot about the centre in slot 1.
 class RadialDesk : public fake::DimensionDesk {
   public:
-    explicit RadialDesk(const EntityRecord& r = roundRecord(kind::circle, 144))
+    explicit RadialDesk(const EntityRecord& r = roundRecord(Kind::circle, 144))
         : DimensionDesk("Radial Dimension", radialDimensionStep, radialDimensionBand)
     {
         add(r);
@@ -67,7 +67,7 @@ TEST(RadialDimension, TwoClicksFillItsSlotWhicheverSideTheElbowLiesOn)
         desk.dimension({1144, 1000}, row.elbow);
         ASSERT_EQ(desk.s.store.entCount, 3) << row.what;
         const EntityRecord r = desk.slot(2);
-        EXPECT_EQ(r.kind, kind::radialDimension) << row.what;
+        EXPECT_EQ(r.kind, Kind::radialDimension) << row.what;
         EXPECT_EQ(r.p1, centre) << row.what;
         EXPECT_EQ(r.p2, row.elbow) << row.what;
         expectNear(r.p3, {row.elbow.x + 48, row.elbow.y}, row.what);
@@ -80,7 +80,7 @@ TEST(RadialDimension, TwoClicksFillItsSlotWhicheverSideTheElbowLiesOn)
 
 TEST(RadialDimension, AnArcIsMeasuredWhereverTheElbowLies)
 {
-    RadialDesk desk(roundRecord(kind::arc, 144));
+    RadialDesk desk(roundRecord(Kind::arc, 144));
     desk.dimension({1101, 899}, {700, 1400}); // far out of its quarter
     ASSERT_EQ(desk.s.store.entCount, 3);
     EXPECT_EQ(desk.slot(2).p1, centre);
@@ -115,7 +115,7 @@ TEST(RadialDimension, SaysTheRadiusInTheNumbersOfTheDrawing)
         {"us", 0, 0.5F, "0"}, // a radius of nothing is no fault
     };
     for (const Row& row : rows) {
-        RadialDesk desk(roundRecord(kind::circle, row.rad));
+        RadialDesk desk(roundRecord(Kind::circle, row.rad));
         desk.s.numStyle = row.numStyle;
         desk.s.numComma = row.comma;
         desk.dimension({1000 + row.rad, 1000}, {1300, 600});
@@ -200,7 +200,7 @@ TEST(RadialDimension, AsksForTheShoulderAndIsReadyForTheNext)
 TEST(RadialDimension, NothingRoundNearEndsTheAttempt)
 {
     EntityRecord line;
-    line.kind = kind::line;
+    line.kind = Kind::line;
     line.p1 = {1000, 860};
     line.p2 = {2000, 860};
     struct Row {

@@ -92,7 +92,7 @@ inline Point onCircle(Point centre, double r, double degrees)
 // to the end counter-clockwise, all angles from 0 to a full turn.
 inline void expectWholeArc(const EntityRecord& r, const std::string& what = "")
 {
-    ASSERT_EQ(r.kind, kind::arc) << what;
+    ASSERT_EQ(r.kind, Kind::arc) << what;
     constexpr double turn = 6.2831853;
     for (const double a : {r.a1, r.a2}) {
         EXPECT_GE(a, 0) << what;

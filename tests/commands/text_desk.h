@@ -3,6 +3,7 @@
 // A drawing and its surface for one function whose text is typed onto it, without the routing of events.
 
 #include "commands/live_text.h"
+#include "kind_print.h"
 #include "ops_text.h"
 #include "render/redraw.h"
 #include "text/utf8.h"

@@ -12,7 +12,7 @@ using fake::Ops;
 EntityRecord textAt(Point at, const std::string& words)
 {
     EntityRecord r;
-    r.kind = kind::text;
+    r.kind = Kind::text;
     r.p1 = at;
     r.p2 = {20, 1};
     r.p3 = {1, 77};
@@ -31,7 +31,7 @@ EntityRecord textAt(Point at, const std::string& words)
     return r;
 }
 
-EntityRecord dimensionOf(std::int16_t kind, Point textAt)
+EntityRecord dimensionOf(Kind kind, Point textAt)
 {
     EntityRecord r;
     r.kind = kind;
@@ -142,7 +142,7 @@ TEST_F(TextEdit, EnterShowsTheNewTextInItsOwnColour)
 }
 
 struct DimensionRow {
-    std::int16_t kind;
+    Kind kind;
     Point click; // where the kind is picked
     std::int16_t styleAfter;
     const char* preview;
@@ -151,17 +151,17 @@ struct DimensionRow {
 TEST_F(TextEdit, TakesTheTextOfEveryDimension)
 {
     const DimensionRow rows[] = {
-        {kind::linearDimension, {3000, 1000}, 0, "text 3000 1000 90 50'-0\"x"},
-        {kind::radialDimension, {3000, 1000}, 0, "text 3000 1000 90 50'-0\"x"},
-        {kind::leader, {700, 2000}, 0, "text 3000 1000 90 50'-0\"x"},
-        {kind::angularDimension, {3000, 1000}, 2, "text 3000 1000 30 50'-0\"x"},
+        {Kind::linearDimension, {3000, 1000}, 0, "text 3000 1000 90 50'-0\"x"},
+        {Kind::radialDimension, {3000, 1000}, 0, "text 3000 1000 90 50'-0\"x"},
+        {Kind::leader, {700, 2000}, 0, "text 3000 1000 90 50'-0\"x"},
+        {Kind::angularDimension, {3000, 1000}, 2, "text 3000 1000 30 50'-0\"x"},
     };
     for (const DimensionRow& row : rows) {
         s.store.entCount = 1;
         const EntityRecord old = dimensionOf(row.kind, {3000, 1000});
         add(old);
         click(row.click.x, row.click.y);
-        ASSERT_EQ(s.pickedIndex, 1) << row.kind;
+        ASSERT_EQ(s.pickedIndex, 1) << numberOf(row.kind);
         ops();
         type("x");
         const Ops preview = {row.preview};
@@ -170,14 +170,14 @@ TEST_F(TextEdit, TakesTheTextOfEveryDimension)
         EntityRecord expected = old;
         expected.t1 = "50'-0\"x";
         expected.style = row.styleAfter;
-        EXPECT_EQ(slot(2), expected) << row.kind;
+        EXPECT_EQ(slot(2), expected) << numberOf(row.kind);
         EXPECT_EQ(stat(1), Stat::out);
     }
 }
 
 TEST_F(TextEdit, LinesOfADimensionInEditStay)
 {
-    add(dimensionOf(kind::linearDimension, {3000, 1000}));
+    add(dimensionOf(Kind::linearDimension, {3000, 1000}));
     click(3000, 1000);
     EXPECT_EQ(fake::only(ops(), "line").size(), 7U);
 }
@@ -185,7 +185,7 @@ TEST_F(TextEdit, LinesOfADimensionInEditStay)
 TEST_F(TextEdit, ClickOnNothingBeginsAnew)
 {
     EntityRecord line;
-    line.kind = kind::line;
+    line.kind = Kind::line;
     line.p1 = {1000, 1000};
     line.p2 = {1100, 1000};
     add(line);

@@ -1,4 +1,5 @@
 #include "commands/live_text.h"
+#include "commands/typed_text.h"
 
 #include "commands/text.h"
 #include "text_desk.h"

@@ -53,7 +53,7 @@ TEST_F(PlaceText, EnterPlacesTheLineAndGoesOnBelow)
     enter();
     EXPECT_EQ(s.store.entCount, 2);
     const EntityRecord r = slot(1);
-    EXPECT_EQ(r.kind, kind::text);
+    EXPECT_EQ(r.kind, Kind::text);
     EXPECT_EQ(r.p1, (Point{100, 200}));
     EXPECT_EQ(r.p2, (Point{48, 0}));
     EXPECT_EQ(r.p3.x, 0);

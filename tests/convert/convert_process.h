@@ -4,6 +4,7 @@
 
 #include "files/bytes.h"
 #include "files/entity_record_codec.h"
+#include "kind_print.h"
 
 #include <QTemporaryDir>
 
@@ -54,7 +55,7 @@ class ConvertProcess {
         ByteReader in(bytes);
         EntityRecord r;
         while (in.remaining() > 0 && readRecord(in, r)) {
-            if (r.kind <= kind::lastDrawn) objects.push_back(r);
+            if (r.kind <= Kind::angularDimension) objects.push_back(r);
         }
         return objects;
     }

@@ -23,7 +23,7 @@ constexpr std::int32_t red = 0x0000FF;
 EntityRecord header()
 {
     EntityRecord r;
-    r.kind = kind::header;
+    r.kind = headerKind;
     r.t1 = "us";
     r.t2 = "Garamond";
     return r;
@@ -32,7 +32,7 @@ EntityRecord header()
 EntityRecord line(Point from, Point to, std::int16_t layer)
 {
     EntityRecord r;
-    r.kind = kind::line;
+    r.kind = Kind::line;
     r.p1 = from;
     r.p2 = to;
     r.layer = layer;
@@ -43,7 +43,7 @@ EntityRecord line(Point from, Point to, std::int16_t layer)
 EntityRecord circle(Point centre, float radius, std::int16_t layer)
 {
     EntityRecord r;
-    r.kind = kind::circle;
+    r.kind = Kind::circle;
     r.p1 = centre;
     r.rad = radius;
     r.layer = layer;
@@ -54,7 +54,7 @@ EntityRecord circle(Point centre, float radius, std::int16_t layer)
 EntityRecord words(std::string text, std::int16_t layer)
 {
     EntityRecord r;
-    r.kind = kind::text;
+    r.kind = Kind::text;
     r.p1 = r.p4 = {12, 120};
     r.p2 = {48, 0};
     r.t1 = std::move(text);
@@ -123,11 +123,11 @@ TEST_F(Convert, DrawingComesBackFromDxf)
     expectDone("there.dxf -o back.mtd");
     const auto back = p.objectsOf("back.mtd");
     ASSERT_EQ(back.size(), 3U);
-    EXPECT_EQ(back[0].kind, kind::line);
+    EXPECT_EQ(back[0].kind, Kind::line);
     EXPECT_EQ(back[0].p1, (Point{0, 0}));
     EXPECT_EQ(back[0].p2, (Point{120, 24}));
     EXPECT_EQ(back[1].t1, "KITCHEN");
-    EXPECT_EQ(back[2].kind, kind::circle);
+    EXPECT_EQ(back[2].kind, Kind::circle);
     EXPECT_EQ(back[2].p1, (Point{60, 60}));
     EXPECT_EQ(back[2].rad, 24);
 }
@@ -209,7 +209,7 @@ TEST_F(Convert, OneLayerIsAllThatIsWritten)
     expectDone("house.mtd -o layer.mtd --layer 2");
     const auto objects = p.objectsOf("layer.mtd");
     ASSERT_EQ(objects.size(), 1U);
-    EXPECT_EQ(objects[0].kind, kind::circle);
+    EXPECT_EQ(objects[0].kind, Kind::circle);
     expectDone("house.mtd -o layer.dxf --layer 1");
     EXPECT_THAT(p.content("layer.dxf"), HasSubstr("LINE\r\n"));
     EXPECT_THAT(p.content("layer.dxf"), Not(HasSubstr("CIRCLE")));
@@ -269,7 +269,7 @@ TEST_F(Convert, OutputThatCannotBeWrittenIsToldOf)
 TEST_F(Convert, DimensionThatDxfCannotHoldEndsTheFileAndIsToldOf)
 {
     EntityRecord odd;
-    odd.kind = kind::radialDimension;
+    odd.kind = Kind::radialDimension;
     odd.p1 = {0, 0};
     odd.p2 = {48, 0};
     odd.p3 = {96, 0};

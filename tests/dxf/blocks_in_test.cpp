@@ -35,7 +35,7 @@ TEST(DxfBlocks, InsertAddsTheLinesOfItsBlock)
     EXPECT_EQ(o.stat(1), Stat::out); // the definition
     EXPECT_EQ(o.stat(2), Stat::out); // the insert
     EXPECT_EQ(o.stat(3), Stat::on);
-    EXPECT_EQ(o.at(3).kind, kind::line);
+    EXPECT_EQ(o.at(3).kind, Kind::line);
     EXPECT_EQ(o.at(3).p1, (Point{120, -240}));
     EXPECT_EQ(o.at(3).p2, (Point{132, -264}));
     EXPECT_EQ(o.at(3).color, 0x0000FF);
@@ -130,7 +130,7 @@ TEST(DxfBlocks, InsertsThatDoubleTheDrawingComeToAnEnd)
     for (int i = 0; i < 2000; ++i) file += lines({"INSERT", " 10", "1", "  0"});
     Opened o(file);
     EXPECT_GT(o.count(), 60000);
-    EXPECT_EQ(o.at(60000).kind, kind::line);
+    EXPECT_EQ(o.at(60000).kind, Kind::line);
     for (int i = 0; i < 50000; ++i) file += lines({"INSERT", " 10", "1", "  0"});
     o.read(file);
     finishDxf(o.s());

@@ -21,13 +21,15 @@ bool isFinite(Point p)
 
 bool isWellFormed(Session& s)
 {
+    constexpr Kind deadInsert{35};
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         const EntityRecord r = s.store.record(i);
         const bool finite = isFinite(r.p1) && isFinite(r.p2) && isFinite(r.p3) && isFinite(r.p4) &&
                             std::isfinite(r.rad) && std::isfinite(r.a1) && std::isfinite(r.a2);
-        const bool known = (r.kind >= 1 && r.kind <= 3) || r.kind == kind::text || r.kind == 35;
+        const bool known =
+            (r.kind >= Kind::line && r.kind <= Kind::arc) || r.kind == Kind::text || r.kind == deadInsert;
         if (!finite || !known) return false;
-        if (r.kind == 35 && s.store.stat[EntityStore::at(i)] != Stat::out) return false;
+        if (r.kind == deadInsert && s.store.stat[EntityStore::at(i)] != Stat::out) return false;
     }
     return s.store.entCount >= 1;
 }

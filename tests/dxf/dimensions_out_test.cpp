@@ -9,7 +9,7 @@ namespace {
 
 using namespace samples;
 
-EntityRecord dimension(std::int16_t kind, float style)
+EntityRecord dimension(Kind kind, float style)
 {
     EntityRecord r = object(kind);
     r.s1 = style;
@@ -22,7 +22,7 @@ EntityRecord dimension(std::int16_t kind, float style)
 // Measures 10 units from left to right; the dimension line lies 5 above.
 EntityRecord linear(float style, float length = 10)
 {
-    EntityRecord r = dimension(kind::linearDimension, style);
+    EntityRecord r = dimension(Kind::linearDimension, style);
     r.p1 = world(0, 0);
     r.p2 = world(length, 0);
     r.p3 = world(length, 5);
@@ -126,7 +126,7 @@ TEST(DxfLinearDimension, CoincidentPointsTakeTheDirectionBefore)
 // Centre, elbow, shoulder and the point of the circle on one axis.
 EntityRecord radial(float style)
 {
-    EntityRecord r = dimension(kind::radialDimension, style);
+    EntityRecord r = dimension(Kind::radialDimension, style);
     r.p1 = world(0, 0);
     r.p2 = world(6, 0);
     r.p3 = world(8, 0);
@@ -161,7 +161,7 @@ TEST(DxfRadialDimension, UnknownStyleEndsTheFileThere)
 
 EntityRecord leader(float style)
 {
-    EntityRecord r = dimension(kind::leader, style);
+    EntityRecord r = dimension(Kind::leader, style);
     r.p1 = world(0, 0);
     r.p2 = world(4, 0);
     r.p3 = world(6, 0);
@@ -186,7 +186,7 @@ TEST(DxfLeader, EachStyleWithTheTextFirst)
 // A quarter turn from the right to the top, its radius 5.
 EntityRecord angular(std::int16_t style)
 {
-    EntityRecord r = dimension(kind::angularDimension, 12);
+    EntityRecord r = dimension(Kind::angularDimension, 12);
     r.style = style;
     r.p1 = world(0, 0);
     r.p2 = world(7, 0);
@@ -236,7 +236,7 @@ TEST(DxfAngularDimension, TextTurnsByItsThirdAngle)
 
 TEST(DxfTextPoint, SecondPointStaysFromObjectToObjectAndFileToFile)
 {
-    EntityRecord r = object(kind::text);
+    EntityRecord r = object(Kind::text);
     r.p4 = world(20, 20);
     r.p2.x = 12;
     Drawing drawing{leader(7), r, leader(7), linear(0), leader(7)};
@@ -259,18 +259,18 @@ TEST(DxfDirection, StaysFromObjectToObject)
 
 TEST(DxfWriter, DrawingOfAllKinds)
 {
-    EntityRecord round = object(kind::circle);
+    EntityRecord round = object(Kind::circle);
     round.p1 = world(1, 1);
     round.rad = 12;
     EntityRecord part = round;
-    part.kind = kind::arc;
+    part.kind = Kind::arc;
     part.a1 = 0.5;
     part.a2 = 1;
     part.style = 4;
-    EntityRecord dot = object(kind::point);
+    EntityRecord dot = object(Kind::point);
     dot.p1 = world(2, 2);
     dot.color = 0x0000FF;
-    EntityRecord note = object(kind::text);
+    EntityRecord note = object(Kind::text);
     note.p1 = note.p4 = world(3, 3);
     note.p2 = {12, 2};
     note.t1 = "note";

@@ -25,7 +25,7 @@ TEST(DxfReader, LineComesInWorldUnits)
     Opened o(entities + lines({"LINE", "  8", "0", " 10", "1", " 20", "2", " 11", "3", " 21", "-4", "  0"}));
     ASSERT_EQ(o.count(), 2);
     const EntityRecord r = o.at(1);
-    EXPECT_EQ(r.kind, kind::line);
+    EXPECT_EQ(r.kind, Kind::line);
     EXPECT_EQ(r.p1, (Point{12, -24}));
     EXPECT_EQ(r.p2, (Point{36, 48}));
     EXPECT_EQ(r.color, 0x00FF00);
@@ -37,7 +37,7 @@ TEST(DxfReader, LineComesInWorldUnits)
 TEST(DxfReader, CircleComesInWorldUnits)
 {
     Opened o(lines({"CIRCLE", " 10", "1", " 20", "2", " 40", "3", "  0"}));
-    EXPECT_EQ(o.at(1).kind, kind::circle);
+    EXPECT_EQ(o.at(1).kind, Kind::circle);
     EXPECT_EQ(o.at(1).p1, (Point{12, -24}));
     EXPECT_EQ(o.at(1).rad, 36);
 }
@@ -46,7 +46,7 @@ TEST(DxfReader, ArcHasItsThreePoints)
 {
     Opened o(lines({"ARC", " 10", "0", " 20", "0", " 40", "1", " 50", "0", " 51", "60", "  0"}));
     const EntityRecord r = o.at(1);
-    EXPECT_EQ(r.kind, kind::arc);
+    EXPECT_EQ(r.kind, Kind::arc);
     EXPECT_EQ(r.a1, 0);
     EXPECT_EQ(r.a2, 60 * 0.0174533);
     EXPECT_EQ(r.p2, (Point{12, 0}));
@@ -156,7 +156,7 @@ TEST(DxfReader, CircleRunsOnBehindItsTwoCharacterLine)
 {
     Opened o(entities + circle("1", "2", "3") + line("5", "6", "7", "8") + line("0", "0", "1", "1") + tail());
     ASSERT_EQ(o.count(), 3);
-    EXPECT_EQ(o.at(1).kind, kind::circle);
+    EXPECT_EQ(o.at(1).kind, Kind::circle);
     EXPECT_EQ(o.at(1).p1, (Point{60, -72})); // the line's start has taken the place of the centre
     EXPECT_EQ(o.at(1).rad, 36);
     EXPECT_EQ(o.at(2).p2, (Point{12, -12}));
@@ -167,7 +167,7 @@ TEST(DxfReader, FileOfOurOwnComesBack)
     EntityRecord dashed = lineObject(1.25F, -2.5F, 3.75F, 4);
     dashed.style = 1;
     dashed.color = 0x0080FF;
-    EntityRecord arcObject = object(kind::arc);
+    EntityRecord arcObject = object(Kind::arc);
     arcObject.p1 = world(1, 2);
     arcObject.rad = 30;
     arcObject.a1 = 5;
@@ -288,7 +288,7 @@ TEST(DxfReader, LayerNamesBecomeRecordsAndTheDrawingIsSaved)
     EXPECT_EQ(o.count(), 2);
     finishDxf(o.s());
     ASSERT_EQ(o.count(), 4);
-    EXPECT_EQ(o.at(2).kind, kind::layerName);
+    EXPECT_EQ(o.at(2).kind, layerNameKind);
     EXPECT_EQ(o.at(2).p1.x, 2);
     EXPECT_EQ(o.at(2).t1, "walls");
     EXPECT_EQ(o.at(3).p1.x, 3);

@@ -5,6 +5,7 @@
 #include "dxf/dxf_reader.h"
 #include "dxf/dxf_writer.h"
 #include "dxf/scanner.h"
+#include "kind_print.h"
 
 #include <cmath>
 #include <cstdio>
@@ -96,7 +97,7 @@ inline Point world(float x, float y)
     return {x * 12, y * -12};
 }
 
-inline EntityRecord object(std::int16_t kind)
+inline EntityRecord object(Kind kind)
 {
     EntityRecord r;
     r.kind = kind;
@@ -106,7 +107,7 @@ inline EntityRecord object(std::int16_t kind)
 
 inline EntityRecord lineObject(float x1, float y1, float x2, float y2)
 {
-    EntityRecord r = object(kind::line);
+    EntityRecord r = object(Kind::line);
     r.p1 = world(x1, y1);
     r.p2 = world(x2, y2);
     return r;
@@ -167,7 +168,7 @@ inline std::string single(double value)
 // Of radius 1 about the origin, half as high.
 inline EntityRecord levelEllipse()
 {
-    EntityRecord r = object(kind::ellipse);
+    EntityRecord r = object(Kind::ellipse);
     r.p1 = world(1, 0);
     r.p2 = world(0, 0);
     r.p3.x = 0.5F;

@@ -15,7 +15,7 @@ using namespace samples;
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinite = std::numeric_limits<float>::infinity();
 
-EntityRecord roundObject(std::int16_t kind, float x, float y, float radius)
+EntityRecord roundObject(Kind kind, float x, float y, float radius)
 {
     EntityRecord r = object(kind);
     r.p1 = world(x, y);
@@ -25,7 +25,7 @@ EntityRecord roundObject(std::int16_t kind, float x, float y, float radius)
 
 EntityRecord textObject(Point at, float size, double degrees)
 {
-    EntityRecord r = object(kind::text);
+    EntityRecord r = object(Kind::text);
     r.p1 = at;
     r.p2.x = size;
     r.a1 = degrees;
@@ -51,13 +51,13 @@ TEST(DxfWriter, LineWithItsWholeFile)
 
 TEST(DxfWriter, CircleEndsWithATwoCharacterLine)
 {
-    Drawing drawing{roundObject(kind::circle, 1, 2, 3), lineObject(0, 0, 1, 0)};
+    Drawing drawing{roundObject(Kind::circle, 1, 2, 3), lineObject(0, 0, 1, 0)};
     EXPECT_EQ(drawing.file(), head() + circle("1", "2", "3") + line("0", "0", "1", "0") + tail());
 }
 
 TEST(DxfWriter, ArcHasItsAnglesInDegrees)
 {
-    EntityRecord r = roundObject(kind::arc, 1, 2, 3);
+    EntityRecord r = roundObject(Kind::arc, 1, 2, 3);
     r.a1 = 1;
     r.a2 = 0.5;
     Drawing drawing{r};
@@ -77,7 +77,7 @@ TEST(DxfWriter, SlantedEllipseClosesAndLiesOnItsAxes)
 {
     constexpr double radius = 60, ratio = 0.25; // world units
     constexpr double ux = 0.8, uy = 0.6;        // y upward
-    EntityRecord r = object(kind::ellipse);
+    EntityRecord r = object(Kind::ellipse);
     r.p1 = world(3 + 5 * ux, 2 + 5 * uy);
     r.p2 = world(3, 2);
     r.p3.x = ratio;
@@ -97,7 +97,7 @@ TEST(DxfWriter, SlantedEllipseClosesAndLiesOnItsAxes)
 
 TEST(DxfWriter, PointIsALineOfNoLengthAndSolid)
 {
-    EntityRecord r = object(kind::point);
+    EntityRecord r = object(Kind::point);
     r.p1 = world(4, 5);
     r.style = 3;
     Drawing drawing{r};
@@ -171,7 +171,7 @@ TEST(DxfWriter, StylesAreLineTypes)
     } rows[] = {{0, "CONTINUOUS"}, {1, "DASHED"},     {2, "DOT"},        {3, "DASHDOT"},
                 {4, "PHANTOM"},    {5, "CONTINUOUS"}, {-1, "CONTINUOUS"}};
     for (const auto& row : rows) {
-        EntityRecord r = roundObject(kind::circle, 0, 0, 1);
+        EntityRecord r = roundObject(Kind::circle, 0, 0, 1);
         r.style = row.style;
         Drawing drawing{r};
         EXPECT_EQ(drawing.objects(), circle("0", "0", "1", {row.name})) << row.style;
@@ -190,7 +190,7 @@ TEST(DxfWriter, OtherKindsArePassedOver)
 {
     Drawing drawing;
     for (const std::int16_t k : std::initializer_list<std::int16_t>{-1, 0, 11, 16, 20, 24, 25, 30, 35})
-        drawing.add(object(k));
+        drawing.add(object(Kind{k}));
     EXPECT_EQ(drawing.file(), head() + tail());
 }
 
@@ -215,8 +215,8 @@ TEST(DxfWriter, CoordinateThatIsNoNumberIsThatOfTheLineBefore)
 TEST(DxfWriter, EveryFieldNaNStillGivesWholeRecords)
 {
     const std::size_t records[] = {1, 1, 1, 36, 1, 1, 9, 11, 6, 10};
-    for (std::int16_t k = 1; k <= kind::lastDrawn; ++k) {
-        EntityRecord r = object(k);
+    for (const Kind kind : everyKind) {
+        EntityRecord r = object(kind);
         r.p1 = r.p2 = r.p3 = r.p4 = r.p5 = {nan, infinite};
         r.rad = r.s2 = nan;
         r.a1 = r.a2 = r.a3 = nan;
@@ -227,7 +227,7 @@ TEST(DxfWriter, EveryFieldNaNStillGivesWholeRecords)
         std::size_t count = 0;
         for (std::size_t at = made.find("clay"); at != std::string::npos; at = made.find("clay", at + 1))
             ++count;
-        EXPECT_EQ(count, records[k - 1] + (k == 7 ? 1 : 0)) << k;
+        EXPECT_EQ(count, records[placeOf(kind)] + (kind == Kind::linearDimension ? 1 : 0)) << numberOf(kind);
         EXPECT_TRUE(drawing.whole);
     }
 }

@@ -50,7 +50,7 @@ bool isMissing(const Listing& listing)
     return listing.status == missing || listing.status == noInterpreter;
 }
 
-EntityRecord roundObject(std::int16_t kind)
+EntityRecord roundObject(Kind kind)
 {
     EntityRecord r = object(kind);
     r.p1 = world(1, 2);
@@ -65,7 +65,7 @@ TEST(OtherReader, FindsTheSameLinesAndTexts)
     EntityRecord dashed = lineObject(1, 2, 3.5F, -4);
     dashed.style = 1;
     dashed.color = 0x0000FF;
-    EntityRecord note = object(kind::text);
+    EntityRecord note = object(Kind::text);
     note.p1 = world(5, 6);
     note.p2.x = 36;
     note.t1 = "Wall 3";
@@ -82,7 +82,7 @@ TEST(OtherReader, FindsTheSameLinesAndTexts)
 // three would miss the object behind it, as our own does.
 TEST(OtherReader, GoesOnBehindACircleAndAnArc)
 {
-    Drawing drawing{roundObject(kind::circle), lineObject(0, 0, 1, 0), roundObject(kind::arc),
+    Drawing drawing{roundObject(Kind::circle), lineObject(0, 0, 1, 0), roundObject(Kind::arc),
                     lineObject(2, 0, 3, 0)};
     const Listing found = listed(drawing);
     if (isMissing(found)) GTEST_SKIP() << "python3-ezdxf is not installed";
@@ -97,7 +97,7 @@ TEST(OtherReader, GoesOnBehindACircleAndAnArc)
 
 TEST(OtherReader, TakesDimensionsApart)
 {
-    EntityRecord r = object(kind::linearDimension);
+    EntityRecord r = object(Kind::linearDimension);
     r.s1 = 3;
     r.s2 = 12;
     r.p2 = world(10, 0);

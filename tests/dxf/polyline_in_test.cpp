@@ -27,7 +27,7 @@ TEST(DxfPolyline, OpenOneHasALineBetweenEachTwoVertices)
 {
     Opened o(polyline("0", {{"1", "1"}, {"2", "1"}, {"2", "3"}}) + lines({"LINE", " 10", "9", "  0"}));
     ASSERT_EQ(o.count(), 4);
-    EXPECT_EQ(o.at(1).kind, kind::line);
+    EXPECT_EQ(o.at(1).kind, Kind::line);
     EXPECT_EQ(o.at(1).p1, (Point{12, -12}));
     EXPECT_EQ(o.at(1).p2, (Point{24, -12}));
     EXPECT_EQ(o.at(2).p1, (Point{24, -12}));
@@ -114,7 +114,7 @@ TEST(DxfPolyline, BulgeIsAnArc)
     for (const auto& row : rows) {
         Opened o(polyline("0", {{"0", "0", row.bulge}, {"10", "0"}}));
         const EntityRecord r = o.at(1);
-        ASSERT_EQ(r.kind, kind::arc) << row.bulge;
+        ASSERT_EQ(r.kind, Kind::arc) << row.bulge;
         EXPECT_EQ(o.stat(1), Stat::on);
         const double sweep = 4 * std::atan(std::fabs(row.value));
         const double radius = 60 / std::sin(sweep / 2);
@@ -131,8 +131,8 @@ TEST(DxfPolyline, BulgeOfTheLastVertexIsThatOfTheClosingSegment)
 {
     Opened o(polyline("1", {{"0", "0"}, {"10", "0", "1"}}));
     ASSERT_EQ(o.count(), 3);
-    EXPECT_EQ(o.at(1).kind, kind::line);
-    EXPECT_EQ(o.at(2).kind, kind::arc);
+    EXPECT_EQ(o.at(1).kind, Kind::line);
+    EXPECT_EQ(o.at(2).kind, Kind::arc);
     EXPECT_NEAR(o.at(2).p4.y, -60, 0.01); // from right to left, so above
 }
 
@@ -140,14 +140,14 @@ TEST(DxfPolyline, BulgeOverNoLengthIsTakenWithoutHarm)
 {
     Opened o(polyline("0", {{"0", "0", "1"}, {"0", "0", "1"}, {"10", "0"}}));
     ASSERT_EQ(o.count(), 3);
-    EXPECT_EQ(o.at(1).kind, kind::arc);
+    EXPECT_EQ(o.at(1).kind, Kind::arc);
     EXPECT_NEAR(o.at(2).rad, 60, 0.01);
 }
 
 TEST(DxfPolyline, NoTemporaryKindStays)
 {
     Opened o(polyline("1", {{"0", "0", "1"}, {"5", "0", "nan"}, {"5", "5", "-3"}, {"1e30", "0", "1e20"}}));
-    for (std::int32_t i = 1; i < o.count(); ++i) EXPECT_NE(o.at(i).kind, kind::polylineSegment);
+    for (std::int32_t i = 1; i < o.count(); ++i) EXPECT_NE(o.at(i).kind, polylineSegmentKind);
 }
 
 } // namespace

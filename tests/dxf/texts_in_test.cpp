@@ -25,7 +25,7 @@ void expectNear(Point p, float x, float y)
 TEST(DxfText, LeftStandsAboveItsPoint)
 {
     const EntityRecord r = opened("     0");
-    EXPECT_EQ(r.kind, kind::text);
+    EXPECT_EQ(r.kind, Kind::text);
     EXPECT_EQ(r.t1, "Wall");
     EXPECT_EQ(r.t2, "Garamond");
     EXPECT_EQ(r.p2, (Point{24, 0}));
@@ -106,7 +106,7 @@ TEST(DxfText, BytesAreWindows1252)
 
 TEST(DxfText, SizeShrinksOnItsWayOutAndBack)
 {
-    EntityRecord r = object(kind::text);
+    EntityRecord r = object(Kind::text);
     r.p2.x = 48;
     r.t1 = "Wall";
     Drawing drawing{r};

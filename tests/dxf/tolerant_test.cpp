@@ -45,7 +45,7 @@ TEST(TolerantDxf, UnpaddedFileComesIn)
     ASSERT_EQ(o.count(), 4);
     EXPECT_EQ(o.at(1).p2, (Point{36, -48}));
     EXPECT_EQ(o.at(2).rad, 84);
-    EXPECT_EQ(o.at(3).kind, kind::arc);
+    EXPECT_EQ(o.at(3).kind, Kind::arc);
 }
 
 TEST(TolerantDxf, ValuesThatReadLikeCodesDoNoHarm)
@@ -58,14 +58,14 @@ TEST(TolerantDxf, ValuesThatReadLikeCodesDoNoHarm)
 
 TEST(TolerantDxf, CirclesOfOurOwnFilesEndWhereTheyShould)
 {
-    EntityRecord r = object(kind::circle);
+    EntityRecord r = object(Kind::circle);
     r.p1 = world(1, 2);
     r.rad = 12;
     Drawing drawing{r, lineObject(3, 4, 5, 6)};
     Opened o(tolerantDxf(drawing.file()));
     ASSERT_EQ(o.count(), 3);
     EXPECT_EQ(o.at(1).p1, (Point{12, -24}));
-    EXPECT_EQ(o.at(2).kind, kind::line);
+    EXPECT_EQ(o.at(2).kind, Kind::line);
 }
 
 TEST(TolerantDxf, LayersOfTheLayerTableAlone)
@@ -208,7 +208,7 @@ TEST(TolerantDxf, LightPolylineBecomesAnOrdinaryOne)
                                   "20", "0",          "10", "10", "20", "5", "0",  "LINE", "10", "7"}) +
                          end));
     ASSERT_EQ(o.count(), 5);
-    EXPECT_EQ(o.at(1).kind, kind::arc);
+    EXPECT_EQ(o.at(1).kind, Kind::arc);
     EXPECT_EQ(o.at(1).color, 0xFFFF00);
     EXPECT_EQ(o.at(2).p2, (Point{120, -60}));
     EXPECT_EQ(o.at(2).color, 0xFFFF00);

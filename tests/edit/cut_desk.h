@@ -14,7 +14,7 @@ inline constexpr double degree = 3.14159265358979 / 180; // radians
 
 inline EntityRecord lineFrom(Point from, Point to, Point pick = {})
 {
-    EntityRecord r = plain(kind::line);
+    EntityRecord r = plain(Kind::line);
     r.p1 = from;
     r.p2 = to;
     r.p5 = pick;
@@ -23,7 +23,7 @@ inline EntityRecord lineFrom(Point from, Point to, Point pick = {})
 
 inline EntityRecord circleAt(Point centre, float radius)
 {
-    EntityRecord r = plain(kind::circle);
+    EntityRecord r = plain(Kind::circle);
     r.p1 = centre;
     r.rad = radius;
     return r;
@@ -32,7 +32,7 @@ inline EntityRecord circleAt(Point centre, float radius)
 inline EntityRecord arcOf(Point centre, float radius, double a1, double a2) // radians
 {
     EntityRecord r = circleAt(centre, radius);
-    r.kind = kind::arc;
+    r.kind = Kind::arc;
     r.a1 = a1;
     r.a2 = a2;
     r.p2 = polarPoint(centre, radius, a1);
@@ -81,7 +81,7 @@ inline void expectDegrees(double radians, double degrees, const std::string& wha
 inline void expectArc(const EntityRecord& r, Point centre, double radius, double from, double to,
                       const std::string& what)
 {
-    EXPECT_EQ(r.kind, kind::arc) << what;
+    EXPECT_EQ(r.kind, Kind::arc) << what;
     expectNear(r.p1, centre, 1e-3, what + " centre");
     EXPECT_NEAR(r.rad, radius, 1e-3) << what;
     expectDegrees(r.a1, from, what + " a1");
@@ -93,14 +93,14 @@ inline void expectArc(const EntityRecord& r, Point centre, double radius, double
 
 inline void expectLine(const EntityRecord& r, Point from, Point to, const std::string& what)
 {
-    EXPECT_EQ(r.kind, kind::line) << what;
+    EXPECT_EQ(r.kind, Kind::line) << what;
     expectNear(r.p1, from, 1e-3, what + " start");
     expectNear(r.p2, to, 1e-3, what + " end");
 }
 
 inline void expectLooks(const EntityRecord& r, const std::string& what)
 {
-    const EntityRecord like = plain(kind::line);
+    const EntityRecord like = plain(Kind::line);
     EXPECT_EQ(r.color, like.color) << what;
     EXPECT_EQ(r.layer, like.layer) << what;
     EXPECT_EQ(r.style, like.style) << what;
@@ -147,19 +147,19 @@ class Throws {
 // The point at a share of the way from the object's start to its end.
 inline Point pointOn(const EntityRecord& r, double share)
 {
-    if (r.kind == kind::line) {
+    if (r.kind == Kind::line) {
         return {static_cast<float>(r.p1.x + share * (r.p2.x - r.p1.x)), // coordinates are 32-bit
                 static_cast<float>(r.p1.y + share * (r.p2.y - r.p1.y))};
     }
-    const double whole = r.kind == kind::circle ? fullTurn : sweep(r.a1, r.a2);
-    const double from = r.kind == kind::circle ? 0 : r.a1;
+    const double whole = r.kind == Kind::circle ? fullTurn : sweep(r.a1, r.a2);
+    const double from = r.kind == Kind::circle ? 0 : r.a1;
     return polarPoint(r.p1, r.rad, std::fmod(from + share * whole, fullTurn));
 }
 
 // How far p is from the endless line or the whole circle.
 inline double offFigure(const EntityRecord& r, Point p)
 {
-    if (r.kind != kind::line) return std::abs(std::hypot(p.x - r.p1.x, p.y - r.p1.y) - std::abs(r.rad));
+    if (r.kind != Kind::line) return std::abs(std::hypot(p.x - r.p1.x, p.y - r.p1.y) - std::abs(r.rad));
     const double dx = r.p2.x - r.p1.x;
     const double dy = r.p2.y - r.p1.y;
     return std::abs(dx * (p.y - r.p1.y) - dy * (p.x - r.p1.x)) / std::hypot(dx, dy);
@@ -168,13 +168,13 @@ inline double offFigure(const EntityRecord& r, Point p)
 // How far p is from the object itself, which may end.
 inline double offObject(const EntityRecord& r, Point p)
 {
-    const double toEnds = r.kind == kind::line ? std::min(distance(p, r.p1), distance(p, r.p2))
+    const double toEnds = r.kind == Kind::line ? std::min(distance(p, r.p1), distance(p, r.p2))
                                                : std::min(distance(p, r.p2), distance(p, r.p3));
     bool between = true;
-    if (r.kind == kind::line) {
+    if (r.kind == Kind::line) {
         const double along = (p.x - r.p1.x) * (r.p2.x - r.p1.x) + (p.y - r.p1.y) * (r.p2.y - r.p1.y);
         between = along >= 0 && along <= std::pow(distance(r.p1, r.p2), 2);
-    } else if (r.kind == kind::arc) {
+    } else if (r.kind == Kind::arc) {
         between = sweep(r.a1, directionAngle(r.p1, p, 0)) <= sweep(r.a1, r.a2);
     }
     return between ? offFigure(r, p) : toEnds;

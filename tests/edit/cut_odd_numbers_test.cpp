@@ -39,7 +39,7 @@ class OddNumbers {
     }
     EntityRecord object()
     {
-        EntityRecord r = fake::sample(static_cast<std::int16_t>(dice_.between(1, 10.999))); // 1 to 10
+        EntityRecord r = fake::sample(static_cast<Kind>(dice_.between(1, 10.999))); // 1 to 10
         for (Point* p : {&r.p1, &r.p2, &r.p3, &r.p4, &r.p5}) {
             if (dice_.between(0, 1) < 0.4) *p = point();
         }
@@ -65,7 +65,7 @@ TEST(CutsOfOddNumbers, EndAsOthersDo)
         const bool onlyLinesAndArcs = i % 3 == 0;
         while (desk.s.store.entCount <= 6) {
             const EntityRecord r = odd.object();
-            const bool cutting = r.kind == kind::line || r.kind == kind::arc;
+            const bool cutting = r.kind == Kind::line || r.kind == Kind::arc;
             if (cutting || !onlyLinesAndArcs) desk.add(r, desk.s.store.entCount == 6 ? Stat::on : Stat::sel);
         }
         desk.s.filletRadius = odd.number();

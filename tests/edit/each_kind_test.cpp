@@ -18,7 +18,7 @@ using fake::halfRoot;
 using fake::sample;
 
 struct Row {
-    std::int16_t kind;
+    Kind kind;
     void (*change)(EntityRecord&);
 };
 
@@ -32,7 +32,7 @@ void expectEach(const char* who, const Row (&rows)[count], void (*edit)(EditDesk
         edit(desk);
         EntityRecord expected = sample(row.kind);
         row.change(expected);
-        ASSERT_EQ(desk.s.store.entCount, 3) << who << row.kind;
+        ASSERT_EQ(desk.s.store.entCount, 3) << who << numberOf(row.kind);
         expectRecord(desk.slot(2), expected, 2e-3, who);
         EXPECT_EQ(desk.stat(2), Stat::on);
         EXPECT_EQ(desk.slot(1), sample(row.kind)) << who << ": the old object changed";
@@ -45,48 +45,48 @@ void shiftFive(EntityRecord& r)
 }
 
 constexpr Row moved[] = {
-    {1,
+    {Kind::line,
      [](EntityRecord& r) {
          r.p1 = {15, 17};
          r.p2 = {45, 57};
      }},
-    {2,
+    {Kind::circle,
      [](EntityRecord& r) {
          r.p1 = {105, 97};
      }},
-    {3,
+    {Kind::arc,
      [](EntityRecord& r) {
          r.p1 = {205, 97};
          r.p2 = {255, 97};
          r.p3 = {205, 47};
          r.p4 = {205 + halfRoot, 97 - halfRoot};
      }},
-    {4,
+    {Kind::ellipse,
      [](EntityRecord& r) {
          r.p1 = {145, 97};
          r.p2 = {105, 97};
      }},
-    {5,
+    {Kind::point,
      [](EntityRecord& r) {
          r.p1 = {12, 6};
      }},
-    {6,
+    {Kind::text,
      [](EntityRecord& r) {
          r.p1 = {55, 47};
          r.p4 = {55, 47};
      }},
-    {7, shiftFive},
-    {8, shiftFive},
-    {9, shiftFive},
-    {10, shiftFive},
+    {Kind::linearDimension, shiftFive},
+    {Kind::radialDimension, shiftFive},
+    {Kind::leader, shiftFive},
+    {Kind::angularDimension, shiftFive},
 };
 
 TEST(EditOfEachKind, Move)
 {
     expectEach("Move", moved, [](EditDesk& desk) {
         desk.begin("Move");
-        desk.click(editMoveCopy, 100, 100);
-        desk.click(editMoveCopy, 105, 97);
+        desk.click(editMove, 100, 100);
+        desk.click(editMove, 105, 97);
         EXPECT_EQ(desk.stat(1), Stat::out);
     });
 }
@@ -95,24 +95,24 @@ TEST(EditOfEachKind, Copy)
 {
     expectEach("Copy", moved, [](EditDesk& desk) {
         desk.begin("Copy");
-        desk.click(editMoveCopy, 100, 100);
-        desk.click(editMoveCopy, 105, 97);
+        desk.click(editCopy, 100, 100);
+        desk.click(editCopy, 105, 97);
         EXPECT_EQ(desk.stat(1), Stat::sel);
     });
 }
 
 // A quarter turn about the origin brings (x, y) to (y, -x).
 constexpr Row turned[] = {
-    {1,
+    {Kind::line,
      [](EntityRecord& r) {
          r.p1 = {20, -10};
          r.p2 = {60, -40};
      }},
-    {2,
+    {Kind::circle,
      [](EntityRecord& r) {
          r.p1 = {100, -100};
      }},
-    {3,
+    {Kind::arc,
      [](EntityRecord& r) {
          r.p1 = {100, -200};
          r.p2 = {100, -250};
@@ -121,22 +121,22 @@ constexpr Row turned[] = {
          r.a1 = quarterTurn;
          r.a2 = halfTurn;
      }},
-    {4,
+    {Kind::ellipse,
      [](EntityRecord& r) {
          r.p1 = {100, -140};
          r.p2 = {100, -100};
      }},
-    {5,
+    {Kind::point,
      [](EntityRecord& r) {
          r.p1 = {9, -7};
      }},
-    {6,
+    {Kind::text,
      [](EntityRecord& r) {
          r.p1 = {50, -50};
          r.p4 = {50, -50};
          r.a1 = 90;
      }},
-    {7,
+    {Kind::linearDimension,
      [](EntityRecord& r) {
          r.p2 = {0, -100};
          r.p3 = {40, -100};
@@ -144,7 +144,7 @@ constexpr Row turned[] = {
          r.p5 = {30, -30};
          r.a1 = 90;
      }},
-    {8,
+    {Kind::radialDimension,
      [](EntityRecord& r) {
          r.p2 = {0, -80};
          r.p3 = {0, -90};
@@ -152,14 +152,14 @@ constexpr Row turned[] = {
          r.p5 = {0, -95};
          r.a1 = 90;
      }},
-    {9,
+    {Kind::leader,
      [](EntityRecord& r) { // what stands in the fourth pair is copied
          r.p2 = {10, -10};
          r.p3 = {10, -20};
          r.p5 = {10, -25};
          r.a1 = 90;
      }},
-    {10,
+    {Kind::angularDimension,
      [](EntityRecord& r) {
          r.p2 = {0, -60};
          r.p3 = {-60, 0};
@@ -186,23 +186,23 @@ TEST(EditOfEachKind, RadialCopyOfTwoOverARightAngle)
 {
     expectEach("Radial Copy", turned, [](EditDesk& desk) {
         desk.begin("Radial Copy");
-        desk.click(editRotate, 0, 0);
+        desk.click(editRadialCopy, 0, 0);
         desk.s.editDegrees = 90;
         desk.s.radialCount = 2;
-        desk.run(editRotate, 3);
+        desk.run(editRadialCopy, 3);
         EXPECT_EQ(desk.stat(1), Stat::on);
     });
 }
 
 // The mirror line is x = 100: (x, y) goes to (200 - x, y).
 constexpr Row mirroredAcross[] = {
-    {1,
+    {Kind::line,
      [](EntityRecord& r) {
          r.p1 = {190, 20};
          r.p2 = {160, 60};
      }},
-    {2, [](EntityRecord&) {}}, // its centre stands on the line
-    {3,
+    {Kind::circle, [](EntityRecord&) {}}, // its centre stands on the line
+    {Kind::arc,
      [](EntityRecord& r) {
          r.p1 = {0, 100};
          r.p2 = {0, 50};
@@ -211,20 +211,20 @@ constexpr Row mirroredAcross[] = {
          r.a1 = quarterTurn;
          r.a2 = halfTurn;
      }},
-    {4,
+    {Kind::ellipse,
      [](EntityRecord& r) {
          r.p1 = {60, 100};
      }},
-    {5,
+    {Kind::point,
      [](EntityRecord& r) {
          r.p1 = {193, 9};
      }},
-    {6,
+    {Kind::text,
      [](EntityRecord& r) {
          r.p1 = {120, 50};
          r.p4 = {120, 50};
      }},
-    {7,
+    {Kind::linearDimension,
      [](EntityRecord& r) {
          r.p1 = {200, 0};
          r.p2 = {100, 0};
@@ -232,7 +232,7 @@ constexpr Row mirroredAcross[] = {
          r.p4 = {200, 40};
          r.p5 = {164, 30};
      }},
-    {8,
+    {Kind::radialDimension,
      [](EntityRecord& r) {
          r.p1 = {200, 0};
          r.p2 = {120, 0};
@@ -240,14 +240,14 @@ constexpr Row mirroredAcross[] = {
          r.p4 = {150, 0};
          r.p5 = {93, 0};
      }},
-    {9,
+    {Kind::leader,
      [](EntityRecord& r) {
          r.p1 = {200, 0};
          r.p2 = {190, 10};
          r.p3 = {180, 10};
          r.p5 = {151, 10};
      }},
-    {10,
+    {Kind::angularDimension,
      [](EntityRecord& r) {
          r.p1 = {200, 0};
          r.p2 = {200, -60};
@@ -291,37 +291,37 @@ void scale(EditDesk& desk, float x, float y)
 }
 
 constexpr Row doubled[] = {
-    {1, doublePairs},
-    {2,
+    {Kind::line, doublePairs},
+    {Kind::circle,
      [](EntityRecord& r) {
          r.p1 = {200, 200};
          r.rad = 60;
      }},
-    {3,
+    {Kind::arc,
      [](EntityRecord& r) {
          doublePairs(r);
          r.rad = 100;
      }},
-    {4,
+    {Kind::ellipse,
      [](EntityRecord& r) {
          r.p1 = {280, 200};
          r.p2 = {200, 200};
      }},
-    {5, doublePairs},
-    {6,
+    {Kind::point, doublePairs},
+    {Kind::text,
      [](EntityRecord& r) {
          r.p1 = r.p4 = {100, 100};
          r.p2.x = 20;
          r.rad = 72;
      }},
-    {7, doubleDimension},
-    {8, doubleDimension},
-    {9,
+    {Kind::linearDimension, doubleDimension},
+    {Kind::radialDimension, doubleDimension},
+    {Kind::leader,
      [](EntityRecord& r) {
          doubleDimension(r);
          r.p4 = {1, 2};
      }},
-    {10,
+    {Kind::angularDimension,
      [](EntityRecord& r) {
          doublePairs(r);
          r.rad = 100;
@@ -335,33 +335,33 @@ TEST(EditOfEachKind, ScaleByTwo)
 
 // X by -2: (x, y) goes to (-2x, y), start and end change places, texts read on from the image of their end.
 constexpr Row stretchedAndMirrored[] = {
-    {1,
+    {Kind::line,
      [](EntityRecord& r) {
          r.p1 = {-20, 20};
          r.p2 = {-80, 60};
      }},
-    {2,
+    {Kind::circle,
      [](EntityRecord& r) {
          r.p1 = {-200, 100};
          r.rad = 60;
      }},
-    {4,
+    {Kind::ellipse,
      [](EntityRecord& r) {
          r.p1 = {-280, 100};
          r.p2 = {-200, 100};
          r.p3.x = 0.25F;
      }},
-    {5,
+    {Kind::point,
      [](EntityRecord& r) {
          r.p1 = {-14, 9};
      }},
-    {6,
+    {Kind::text,
      [](EntityRecord& r) {
          r.p1 = r.p4 = {-160, 50};
          r.p2.x = 20;
          r.rad = 72;
      }},
-    {7,
+    {Kind::linearDimension,
      [](EntityRecord& r) {
          r.p2 = {-200, 0};
          r.p3 = {-200, 40};
@@ -369,7 +369,7 @@ constexpr Row stretchedAndMirrored[] = {
          r.p5 = {-72, 30};
          r.s2 = 20;
      }},
-    {8,
+    {Kind::radialDimension,
      [](EntityRecord& r) {
          r.p2 = {-160, 0};
          r.p3 = {-180, 0};
@@ -377,14 +377,14 @@ constexpr Row stretchedAndMirrored[] = {
          r.p5 = {-214, 0};
          r.s2 = 20;
      }},
-    {9,
+    {Kind::leader,
      [](EntityRecord& r) {
          r.p2 = {-20, 10};
          r.p3 = {-40, 10};
          r.p5 = {-98, 10};
          r.s2 = 20;
      }},
-    {10,
+    {Kind::angularDimension,
      [](EntityRecord& r) {
          r.p2 = {0, -60};
          r.p3 = {-120, 0};
@@ -403,7 +403,7 @@ TEST(EditOfEachKind, ScaleByMinusTwoAlongX)
 
 TEST(EditOfEachKind, ScaleByMinusOneAlongXTurnsAnArcRound)
 {
-    constexpr Row rows[] = {{3, [](EntityRecord& r) {
+    constexpr Row rows[] = {{Kind::arc, [](EntityRecord& r) {
                                  r.p1 = {-200, 100};
                                  r.p2 = {-200, 50};
                                  r.p3 = {-250, 100};
@@ -415,8 +415,8 @@ TEST(EditOfEachKind, ScaleByMinusOneAlongXTurnsAnArcRound)
 }
 
 constexpr Row offsetByTen[] = {
-    {2, [](EntityRecord& r) { r.rad = 40; }},
-    {3,
+    {Kind::circle, [](EntityRecord& r) { r.rad = 40; }},
+    {Kind::arc,
      [](EntityRecord& r) {
          r.rad = 60;
          r.p2 = {260, 100};
@@ -434,14 +434,14 @@ TEST(EditOfEachKind, ConcentricCopy)
         editConcentric(desk.s, desk.pic1);
         EXPECT_EQ(desk.stat(1), Stat::on);
     });
-    for (std::int16_t other = kind::line; other <= kind::lastDrawn; ++other) {
-        if (other == kind::circle || other == kind::arc) continue;
+    for (const Kind other : everyKind) {
+        if (other == Kind::circle || other == Kind::arc) continue;
         EditDesk desk;
         desk.add(sample(other));
         desk.s.offsetDistance = 10;
         editConcentric(desk.s, desk.pic1);
-        EXPECT_EQ(desk.s.store.entCount, 2) << other;
-        EXPECT_EQ(desk.stat(1), Stat::on) << other;
+        EXPECT_EQ(desk.s.store.entCount, 2) << numberOf(other);
+        EXPECT_EQ(desk.stat(1), Stat::on) << numberOf(other);
     }
 }
 
@@ -458,10 +458,11 @@ void recolourAndRestyle(EntityRecord& r)
 }
 
 // A point keeps its style, and an angular dimension the arrow that stands there.
-constexpr Row changed[] = {{1, recolourAndRestyle}, {2, recolourAndRestyle}, {3, recolourAndRestyle},
-                           {4, recolourAndRestyle}, {5, recolour},           {6, recolour},
-                           {7, recolour},           {8, recolour},           {9, recolour},
-                           {10, recolour}};
+constexpr Row changed[] = {{Kind::line, recolourAndRestyle},  {Kind::circle, recolourAndRestyle},
+                           {Kind::arc, recolourAndRestyle},   {Kind::ellipse, recolourAndRestyle},
+                           {Kind::point, recolour},           {Kind::text, recolour},
+                           {Kind::linearDimension, recolour}, {Kind::radialDimension, recolour},
+                           {Kind::leader, recolour},          {Kind::angularDimension, recolour}};
 
 TEST(EditOfEachKind, Change)
 {
@@ -475,8 +476,16 @@ TEST(EditOfEachKind, Change)
 TEST(EditOfEachKind, ChangeOfNothingMakesCopies)
 {
     constexpr auto same = [](EntityRecord&) {};
-    constexpr Row rows[] = {{1, same}, {2, same}, {3, same}, {4, same}, {5, same},
-                            {6, same}, {7, same}, {8, same}, {9, same}, {10, same}};
+    constexpr Row rows[] = {{Kind::line, same},
+                            {Kind::circle, same},
+                            {Kind::arc, same},
+                            {Kind::ellipse, same},
+                            {Kind::point, same},
+                            {Kind::text, same},
+                            {Kind::linearDimension, same},
+                            {Kind::radialDimension, same},
+                            {Kind::leader, same},
+                            {Kind::angularDimension, same}};
     expectEach("Change", rows, [](EditDesk& desk) { changeSelection(desk.s, desk.pic1, {}); });
 }
 

@@ -5,6 +5,7 @@
 
 #include "edit/selection_run.h"
 #include "geometry/angle.h"
+#include "kind_print.h"
 #include "ops_text.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -78,13 +79,13 @@ class EditDesk {
 
 inline constexpr float halfRoot = 35.355339F; // of a radius of 50, along each axis at 45 degrees
 
-inline EntityRecord plain(std::int16_t kind)
+inline EntityRecord plain(Kind kind)
 {
     EntityRecord r;
     r.kind = kind;
     r.layer = 3;
     r.color = 0x00FF00;
-    r.style = kind < kind::text ? std::int16_t{1} : std::int16_t{0};
+    r.style = kind < Kind::text ? std::int16_t{1} : std::int16_t{0};
     return r;
 }
 
@@ -95,7 +96,7 @@ inline EntityRecord withWords(EntityRecord r, const char* words)
     return r;
 }
 
-inline EntityRecord dimension(std::int16_t kind, const char* words)
+inline EntityRecord dimension(Kind kind, const char* words)
 {
     EntityRecord r = withWords(plain(kind), words);
     r.s1 = 2;
@@ -105,19 +106,19 @@ inline EntityRecord dimension(std::int16_t kind, const char* words)
 }
 
 // One object of the kind, with every field that the kind has and no other.
-inline EntityRecord sample(std::int16_t kind)
+inline EntityRecord sample(Kind kind)
 {
     EntityRecord r = plain(kind);
     switch (kind) {
-    case kind::line:
+    case Kind::line:
         r.p1 = {10, 20};
         r.p2 = {40, 60};
         break;
-    case kind::circle:
+    case Kind::circle:
         r.p1 = {100, 100};
         r.rad = 30;
         break;
-    case kind::arc: // a quarter, from the right to the top
+    case Kind::arc: // a quarter, from the right to the top
         r.p1 = {200, 100};
         r.p2 = {250, 100};
         r.p3 = {200, 50};
@@ -126,15 +127,15 @@ inline EntityRecord sample(std::int16_t kind)
         r.a1 = 0;
         r.a2 = quarterTurn;
         break;
-    case kind::ellipse:
+    case Kind::ellipse:
         r.p1 = {140, 100};
         r.p2 = {100, 100};
         r.p3.x = 0.5F;
         break;
-    case kind::point:
+    case Kind::point:
         r.p1 = {7, 9};
         break;
-    case kind::text: // 30 wide
+    case Kind::text: // 30 wide
         r = withWords(r, "Hallo");
         r.p1 = {50, 50};
         r.p2 = {10, 0};
@@ -142,28 +143,28 @@ inline EntityRecord sample(std::int16_t kind)
         r.p4 = {50, 50};
         r.rad = 36;
         break;
-    case kind::linearDimension: // its text is 6 wide
+    case Kind::linearDimension: // its text is 6 wide
         r = dimension(kind, "9");
         r.p2 = {100, 0};
         r.p3 = {100, 40};
         r.p4 = {0, 40};
         r.p5 = {30, 30};
         break;
-    case kind::radialDimension: // 12
+    case Kind::radialDimension: // 12
         r = dimension(kind, "R5");
         r.p2 = {80, 0};
         r.p3 = {90, 0};
         r.p4 = {50, 0};
         r.p5 = {95, 0};
         break;
-    case kind::leader: // 24; it has no fourth pair, yet something stands there
+    case Kind::leader: // 24; it has no fourth pair, yet something stands there
         r = dimension(kind, "note");
         r.p2 = {10, 10};
         r.p3 = {20, 10};
         r.p4 = {1, 2};
         r.p5 = {25, 10};
         break;
-    case kind::angularDimension: // 12; a quarter, from the right to the top
+    case Kind::angularDimension: // 12; a quarter, from the right to the top
         r = dimension(kind, "90");
         r.style = 2;
         r.s1 = 8;
@@ -191,7 +192,7 @@ inline void expectNear(Point a, Point b, double room, const std::string& what)
 inline void expectRecord(const EntityRecord& got, const EntityRecord& expected, double room,
                          const std::string& who)
 {
-    const std::string what = who + ", kind " + std::to_string(expected.kind);
+    const std::string what = who + ", kind " + std::to_string(numberOf(expected.kind));
     expectNear(got.p1, expected.p1, room, what + " p1");
     expectNear(got.p2, expected.p2, room, what + " p2");
     expectNear(got.p3, expected.p3, room, what + " p3");
@@ -201,7 +202,7 @@ inline void expectRecord(const EntityRecord& got, const EntityRecord& expected, 
     EXPECT_FLOAT_EQ(got.s2, expected.s2) << what;
     EXPECT_NEAR(got.rad, expected.rad, room) << what;
     // Angles of arcs are compared round the turn: just below a whole one is just below 0.
-    const bool sweeps = got.kind == kind::arc || got.kind == kind::angularDimension;
+    const bool sweeps = got.kind == Kind::arc || got.kind == Kind::angularDimension;
     const double whole = sweeps ? fullTurn : 360;
     const double angleRoom = sweeps ? 1e-5 : 1e-3;
     EXPECT_NEAR(std::remainder(got.a1 - expected.a1, whole), 0, angleRoom) << what;

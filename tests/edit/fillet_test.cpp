@@ -41,7 +41,7 @@ void expectFilleted(const FilletDesk& desk, const std::string& what)
 void expectRounding(const EntityRecord& arc, Point centre, double radius, Point touch, Point otherTouch,
                     const std::string& what)
 {
-    EXPECT_EQ(arc.kind, kind::arc) << what;
+    EXPECT_EQ(arc.kind, Kind::arc) << what;
     expectNear(arc.p1, centre, 2e-3, what + " centre");
     EXPECT_NEAR(arc.rad, radius, 1e-4) << what;
     const bool swapped = distance(arc.p2, touch) > distance(arc.p2, otherTouch);
@@ -297,7 +297,7 @@ TEST(Fillet, OfRadiusNothingCutsBothAtTheCorner)
     expectFilleted(desk, "lines");
     const EntityRecord corner = desk.rounding();
     for (const Point p : {corner.p1, corner.p2, corner.p3, corner.p4}) EXPECT_EQ(p, (Point{30, 0}));
-    EXPECT_EQ(corner.kind, kind::arc);
+    EXPECT_EQ(corner.kind, Kind::arc);
     EXPECT_EQ(corner.rad, 0);
     EXPECT_EQ(corner.a1, 0);
     EXPECT_EQ(corner.a2, 0);
@@ -356,8 +356,8 @@ TEST(Fillet, WhereThereIsNoneMakesNothingAndDropsTheSelection)
         {"the arc's own radius, about its centre", level, arc, 50},
     };
     rows.back().first = lineFrom({-100, 50}, {100, 50}, {60, 50});
-    for (std::int16_t kind = kind::circle; kind <= kind::lastDrawn; ++kind) {
-        if (kind == kind::arc) continue;
+    for (const Kind kind : everyKind) {
+        if (kind == Kind::line || kind == Kind::arc) continue;
         rows.push_back({"kind", level, sample(kind), 20});
         rows.push_back({"kind", sample(kind), level, 20});
     }
@@ -476,8 +476,8 @@ TEST(Fillet, ArcTouchesBothObjectsIsBelowHalfACircleAndMeetsTheCutEnds)
         }
         for (std::int32_t slot = 4; slot <= 5; ++slot) {
             const EntityRecord cut = desk.slot(slot);
-            if (cut.kind == kind::circle) continue;
-            const bool isLine = cut.kind == kind::line;
+            if (cut.kind == Kind::circle) continue;
+            const bool isLine = cut.kind == Kind::line;
             double gap = 1e9;
             for (const Point end : {isLine ? cut.p1 : cut.p2, isLine ? cut.p2 : cut.p3})
                 gap = std::min({gap, distance(end, arc.p2), distance(end, arc.p3)});

@@ -14,12 +14,12 @@ using fake::sample;
 TEST(Move, LiftsTheSelectionAtItsFirstClickAndDrawsItInPlace)
 {
     EditDesk desk;
-    desk.add(sample(1));
-    desk.add(sample(2), Stat::on);
+    desk.add(sample(Kind::line));
+    desk.add(sample(Kind::circle), Stat::on);
     desk.s.pickLast = {900, 900}; // of an earlier function
     desk.begin("Move");
     desk.ops();
-    desk.click(editMoveCopy, 3, 4);
+    desk.click(editMove, 3, 4);
     EXPECT_EQ(desk.s.workAngle, 25);
     EXPECT_EQ(desk.s.pickLast, (Point{900, 900}));
     EXPECT_EQ(desk.s.promptText, "(Enter new reference point:)");
@@ -30,11 +30,11 @@ TEST(Move, LiftsTheSelectionAtItsFirstClickAndDrawsItInPlace)
 TEST(Move, ShowsTheMovedObjectsAgain)
 {
     EditDesk desk;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     desk.begin("Move");
-    desk.click(editMoveCopy, 0, 0);
+    desk.click(editMove, 0, 0);
     desk.ops();
-    desk.click(editMoveCopy, 5, 5);
+    desk.click(editMove, 5, 5);
     const Ops expected = {"line 15 25 45 65"};
     EXPECT_EQ(fake::marks(desk.ops()), expected);
 }
@@ -42,10 +42,11 @@ TEST(Move, ShowsTheMovedObjectsAgain)
 TEST(Move, GhostIsTheSelectionAtThePointerInTheRubberBandPen)
 {
     EditDesk desk;
-    for (std::int16_t kind = 1; kind <= 5; ++kind) desk.add(sample(kind));
-    desk.add(sample(1), Stat::on);
+    for (const Kind kind : {Kind::line, Kind::circle, Kind::arc, Kind::ellipse, Kind::point})
+        desk.add(sample(kind));
+    desk.add(sample(Kind::line), Stat::on);
     desk.begin("Move");
-    desk.click(editMoveCopy, 0, 0);
+    desk.click(editMove, 0, 0);
     desk.s.pickLast = {10, -5};
     desk.ops();
     drawSelectionGhost(desk.s, desk.pic1);
@@ -59,17 +60,17 @@ TEST(Move, GhostIsTheSelectionAtThePointerInTheRubberBandPen)
     EXPECT_EQ(ops.back(), "point 17 4");
     EXPECT_TRUE(fake::only(ops, "setColor").empty());
     EXPECT_TRUE(fake::only(ops, "setStyle").empty());
-    EXPECT_EQ(desk.slot(1), sample(1));
+    EXPECT_EQ(desk.slot(1), sample(Kind::line));
 }
 
 TEST(Move, HasNoGhostBeforeItsReferencePoint)
 {
     EditDesk desk;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     desk.begin("Move");
     desk.ops();
     drawSelectionGhost(desk.s, desk.pic1);
-    editMoveCopy(desk.s, desk.pic1); // the middle button counts no step
+    editMove(desk.s, desk.pic1); // the middle button counts no step
     EXPECT_TRUE(desk.ops().empty());
     EXPECT_EQ(desk.s.store.entCount, 2);
 }
@@ -77,11 +78,11 @@ TEST(Move, HasNoGhostBeforeItsReferencePoint)
 TEST(Move, OfNothingLeavesTheViewAsItWas)
 {
     EditDesk desk;
-    desk.add(sample(1), Stat::on);
+    desk.add(sample(Kind::line), Stat::on);
     const Scale before = desk.pic1.getScale();
     desk.begin("Move");
-    desk.click(editMoveCopy, 0, 0);
-    desk.click(editMoveCopy, 50, 50);
+    desk.click(editMove, 0, 0);
+    desk.click(editMove, 50, 50);
     EXPECT_EQ(desk.pic1.getScale().left, before.left);
     EXPECT_EQ(desk.pic1.getScale().width, before.width);
     EXPECT_EQ(desk.stat(1), Stat::on);
@@ -90,16 +91,16 @@ TEST(Move, OfNothingLeavesTheViewAsItWas)
 
 TEST(Move, ThereAndBackGivesTheSameObject)
 {
-    for (std::int16_t kind = 1; kind <= kind::lastDrawn; ++kind) {
+    for (const Kind kind : everyKind) {
         EditDesk desk;
         desk.add(sample(kind));
         desk.begin("Move");
-        desk.click(editMoveCopy, 0, 0);
-        desk.click(editMoveCopy, 64, -32);
+        desk.click(editMove, 0, 0);
+        desk.click(editMove, 64, -32);
         desk.s.store.setStat(2, Stat::sel);
         desk.begin("Move");
-        desk.click(editMoveCopy, 64, -32);
-        desk.click(editMoveCopy, 0, 0);
+        desk.click(editMove, 64, -32);
+        desk.click(editMove, 0, 0);
         fake::expectRecord(desk.slot(3), sample(kind), 1e-4, "there and back");
     }
 }
@@ -107,16 +108,16 @@ TEST(Move, ThereAndBackGivesTheSameObject)
 TEST(Copy, EachFurtherClickRepeatsTheFirstOffsetInAGroupOfItsOwn)
 {
     EditDesk desk;
-    desk.add(sample(5));
+    desk.add(sample(Kind::point));
     desk.begin("Copy");
-    desk.click(editMoveCopy, 0, 0);
+    desk.click(editCopy, 0, 0);
     EXPECT_EQ(desk.s.promptText, "(Enter new reference point:)");
     EXPECT_EQ(desk.s.workAngle, 0);
-    desk.click(editMoveCopy, 10, 20);
+    desk.click(editCopy, 10, 20);
     EXPECT_EQ(desk.s.promptText, "(Left click for another copy:)");
     const std::int32_t group = desk.s.log.undoGroupNext;
-    desk.click(editMoveCopy, -300, 77);
-    desk.click(editMoveCopy, 1, 1);
+    desk.click(editCopy, -300, 77);
+    desk.click(editCopy, 1, 1);
     EXPECT_EQ(desk.s.log.undoGroupNext, group + 2);
     EXPECT_EQ(desk.slot(2).p1, (Point{17, 29}));
     EXPECT_EQ(desk.slot(3).p1, (Point{27, 49}));
@@ -133,10 +134,10 @@ TEST(Copy, EachFurtherClickRepeatsTheFirstOffsetInAGroupOfItsOwn)
 TEST(Copy, KeepsTheOriginalsInThePictureUnderItsGhost)
 {
     EditDesk desk;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     desk.begin("Copy");
     desk.ops();
-    desk.click(editMoveCopy, 0, 0);
+    desk.click(editCopy, 0, 0);
     EXPECT_TRUE(desk.ops().empty());
     desk.s.pickLast = {1, 1};
     for (const std::int16_t step : {std::int16_t{1}, std::int16_t{2}, std::int16_t{7}}) {
@@ -150,7 +151,7 @@ TEST(Copy, KeepsTheOriginalsInThePictureUnderItsGhost)
 TEST(MirrorBand, IsTheMirrorLineAlone)
 {
     EditDesk desk;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     desk.begin("Mirror Copy");
     desk.click(editMirror, 1, 2);
     EXPECT_EQ(desk.s.promptText, "(Enter end of mirror line:)");

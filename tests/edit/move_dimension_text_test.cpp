@@ -15,7 +15,7 @@ using fake::Ops;
 // A level line from (0, 40) to (100, 40) with its text at (30, 30).
 EntityRecord level(Point text = {30, 30})
 {
-    EntityRecord r = dimension(kind::linearDimension, "8 1/3\"");
+    EntityRecord r = dimension(Kind::linearDimension, "8 1/3\"");
     r.p1 = {0, 0};
     r.p2 = {100, 0};
     r.p3 = {100, 40};
@@ -220,7 +220,7 @@ TEST(MoveDimensionText, PicksTheNearestTextOfALinearDimensionThatIsOn)
         Point click;
         std::int32_t picked; // 0 none
     };
-    EntityRecord other = fake::sample(kind::radialDimension);
+    EntityRecord other = fake::sample(Kind::radialDimension);
     other.p5 = {30, 30};
     const Row rows[] = {
         {"at the very place", {{level(), Stat::on}}, {30, 30}, 1},

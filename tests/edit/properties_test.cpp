@@ -6,6 +6,8 @@
 #include "edit/move_copy.h"
 #include "edit/rotate.h"
 #include "geometry/arc.h"
+#include "model/record_moves.h"
+#include "tables/kinds.h"
 
 #include <random>
 
@@ -26,16 +28,16 @@ class Dice {
     }
     float coordinate() { return static_cast<float>(between(-5000, 5000)); } // world coordinates are 32-bit
     Point point() { return {coordinate(), coordinate()}; }
-    std::int16_t kind() { return static_cast<std::int16_t>(between(1, 10.999)); } // 1 to 10
+    Kind kind() { return static_cast<Kind>(between(1, 10.999)); } // 1 to 10
 
     EntityRecord object()
     {
         EntityRecord r = fake::sample(kind());
         mapPairs(r, kindRow(r.kind)->mapped, [this](Point) { return point(); });
         if (kindRow(r.kind)->rotation != nullptr) r.*kindRow(r.kind)->rotation = between(0, 359);
-        if (r.kind == kind::text) r.p1 = r.p4; // justified left
+        if (r.kind == Kind::text) r.p1 = r.p4; // justified left
         r.rad =
-            r.kind == kind::circle || kindRow(r.kind)->sweeps ? static_cast<float>(between(1, 900)) : r.rad;
+            r.kind == Kind::circle || kindRow(r.kind)->sweeps ? static_cast<float>(between(1, 900)) : r.rad;
         if (kindRow(r.kind)->sweeps) lay(r);
         return r;
     }
@@ -45,8 +47,8 @@ class Dice {
     {
         r.a1 = between(0, 6.28);
         r.a2 = between(0, 6.28);
-        if (r.kind == kind::angularDimension) r.p4 = polarPoint(r.p1, r.rad, r.a1);
-        if (r.kind != kind::arc) return;
+        if (r.kind == Kind::angularDimension) r.p4 = polarPoint(r.p1, r.rad, r.a1);
+        if (r.kind != Kind::arc) return;
         r.p2 = polarPoint(r.p1, r.rad, r.a1);
         r.p3 = polarPoint(r.p1, r.rad, r.a2);
         r.p4 = polarPoint(r.p1, r.rad, middleAngle(r.a1, r.a2));
@@ -83,8 +85,8 @@ TEST(AnyDrawing, MovedThereAndBackIsTheSame)
     const Point b = dice.point();
     for (const auto& [from, to] : {std::pair{a, b}, std::pair{b, a}}) {
         desk.begin("Move");
-        desk.click(editMoveCopy, from.x, from.y);
-        desk.click(editMoveCopy, to.x, to.y);
+        desk.click(editMove, from.x, from.y);
+        desk.click(editMove, to.x, to.y);
         selectShown(desk, Stat::on);
     }
     expectSameDrawing(desk, 2e-3, "moved ");
@@ -131,10 +133,10 @@ TEST(AnyDrawing, SixRadialCopiesOverAWholeTurnAreARingOfSix)
     throwDrawing(desk, dice);
     const Point centre = dice.point();
     desk.begin("Radial Copy");
-    desk.click(editRotate, centre.x, centre.y);
+    desk.click(editRadialCopy, centre.x, centre.y);
     desk.s.editDegrees = 360;
     desk.s.radialCount = 6;
-    desk.run(editRotate, 3);
+    desk.run(editRadialCopy, 3);
     ASSERT_EQ(desk.s.store.entCount, 1 + 6 * objects);
     const Turn sixth(centre, 3.14159265358979 / 3);
     for (std::int32_t i = 1; i <= 6 * objects; ++i) {

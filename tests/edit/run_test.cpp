@@ -28,14 +28,14 @@ struct Edit {
 const Edit edits[] = {
     {"Move",
      [](EditDesk& desk) {
-         desk.click(editMoveCopy, 1, 2);
-         desk.click(editMoveCopy, 31, 42);
+         desk.click(editMove, 1, 2);
+         desk.click(editMove, 31, 42);
      },
      Stat::out, 1},
     {"Copy",
      [](EditDesk& desk) {
-         desk.click(editMoveCopy, 1, 2);
-         desk.click(editMoveCopy, 31, 42);
+         desk.click(editCopy, 1, 2);
+         desk.click(editCopy, 31, 42);
      },
      Stat::sel, 1},
     {"Mirror Copy",
@@ -53,10 +53,10 @@ const Edit edits[] = {
      Stat::out, 1},
     {"Radial Copy",
      [](EditDesk& desk) {
-         desk.click(editRotate, 1, 2);
+         desk.click(editRadialCopy, 1, 2);
          desk.s.editDegrees = 90;
          desk.s.radialCount = 4;
-         desk.run(editRotate, 3);
+         desk.run(editRadialCopy, 3);
      },
      Stat::on, 3},
     {"Scale",
@@ -89,7 +89,7 @@ void run(EditDesk& desk, const Edit& edit)
 
 void addOneOfEachKind(EditDesk& desk)
 {
-    for (std::int16_t kind = 1; kind <= kind::lastDrawn; ++kind) desk.add(sample(kind));
+    for (const Kind kind : everyKind) desk.add(sample(kind));
 }
 
 TEST(EditRun, IsOneGroupThatUndoTakesBackAndRedoBringsAgain)
@@ -147,9 +147,9 @@ TEST(EditRun, TouchesNothingButWhatIsSelected)
 {
     for (const Edit& edit : edits) {
         EditDesk desk;
-        const std::int32_t on = desk.add(sample(1), Stat::on);
-        const std::int32_t off = desk.add(sample(2), Stat::off);
-        const std::int32_t out = desk.add(sample(3), Stat::out);
+        const std::int32_t on = desk.add(sample(Kind::line), Stat::on);
+        const std::int32_t off = desk.add(sample(Kind::circle), Stat::off);
+        const std::int32_t out = desk.add(sample(Kind::arc), Stat::out);
         run(desk, edit);
         EXPECT_EQ(desk.s.store.entCount, 4) << edit.name;
         EXPECT_EQ(desk.stat(on), Stat::on) << edit.name;
@@ -160,11 +160,12 @@ TEST(EditRun, TouchesNothingButWhatIsSelected)
 
 TEST(EditRun, PassesOverKindsThatAreNoObjects)
 {
+    constexpr std::int16_t noObjects[] = {-7, 0, 11, 15, 20, 24, 25, 30, 35, 32767};
     for (const Edit& edit : edits) {
-        for (const int kind : {-7, 0, 11, 15, 20, 24, 25, 30, 35, 32767}) {
+        for (const std::int16_t kind : noObjects) {
             EditDesk desk;
-            EntityRecord r = sample(1);
-            r.kind = static_cast<std::int16_t>(kind); // all of the list fit
+            EntityRecord r = sample(Kind::line);
+            r.kind = Kind{kind};
             desk.add(r);
             run(desk, edit);
             EXPECT_EQ(desk.s.store.entCount, 2) << edit.name << kind;
@@ -178,7 +179,7 @@ TEST(EditRun, OfNothingUsesAGroupNumberAndLeavesTheDrawing)
 {
     for (const Edit& edit : edits) {
         EditDesk desk;
-        desk.add(sample(1), Stat::on);
+        desk.add(sample(Kind::line), Stat::on);
         const std::int32_t group = desk.s.log.undoGroupNext;
         const std::int32_t records = desk.s.log.undoLogCount;
         run(desk, edit);
@@ -193,7 +194,7 @@ TEST(EditRun, MarksTheLayersOfTheNewObjectsUsed)
 {
     for (const Edit& edit : edits) {
         EditDesk desk;
-        desk.add(sample(2));
+        desk.add(sample(Kind::circle));
         resetLayers(desk.s.layerTable);
         run(desk, edit);
         const std::size_t layer = std::string_view(edit.name) == "Change" ? 5 : 3;
@@ -204,21 +205,21 @@ TEST(EditRun, MarksTheLayersOfTheNewObjectsUsed)
 TEST(EditRun, LeavesFieldsThatAKindLacksAsTheSlotHeldThem)
 {
     EditDesk desk;
-    desk.add(sample(1));
-    desk.s.store.setRecord(2, sample(10)); // of a drawing closed before
+    desk.add(sample(Kind::line));
+    desk.s.store.setRecord(2, sample(Kind::angularDimension)); // of a drawing closed before
     changeSelection(desk.s, desk.pic1, {});
-    EXPECT_EQ(desk.slot(2).kind, kind::line);
-    EXPECT_EQ(desk.slot(2).p2, sample(1).p2);
-    EXPECT_EQ(desk.slot(2).style, sample(1).style);
-    EXPECT_EQ(desk.slot(2).p3, sample(10).p3);
-    EXPECT_EQ(desk.slot(2).rad, sample(10).rad);
-    EXPECT_EQ(desk.slot(2).t1, sample(10).t1);
+    EXPECT_EQ(desk.slot(2).kind, Kind::line);
+    EXPECT_EQ(desk.slot(2).p2, sample(Kind::line).p2);
+    EXPECT_EQ(desk.slot(2).style, sample(Kind::line).style);
+    EXPECT_EQ(desk.slot(2).p3, sample(Kind::angularDimension).p3);
+    EXPECT_EQ(desk.slot(2).rad, sample(Kind::angularDimension).rad);
+    EXPECT_EQ(desk.slot(2).t1, sample(Kind::angularDimension).t1);
 }
 
 TEST(EditRun, ShowsTheGaugeOnceWithAllNewObjects)
 {
     EditDesk desk;
-    for (int i = 0; i < 299; ++i) desk.add(sample(1));
+    for (int i = 0; i < 299; ++i) desk.add(sample(Kind::line));
     run(desk, edits[0]);
     EXPECT_EQ(desk.s.store.entCount, 599);
     EXPECT_EQ(desk.s.controls["memy"_c].text, "000.998");
@@ -230,7 +231,7 @@ TEST(EditRun, NearTheBoundLosesCopiesWithAWarningAndUndoBringsTheObjectsBack)
         EditDesk desk;
         desk.s.store.entCount = 55000;
         for (std::int32_t slot = 1; slot < 55000; ++slot) {
-            desk.s.store.setRecord(slot, sample(2));
+            desk.s.store.setRecord(slot, sample(Kind::circle));
             desk.s.store.setStat(slot, slot > 45000 ? Stat::sel : Stat::on);
         }
         run(desk, edit);
@@ -250,13 +251,13 @@ TEST(EditRun, InAFullTableLosesNothingThatWasThere)
         EditDesk desk;
         desk.s.store.entCount = 60001;
         for (std::int32_t slot = 1; slot <= 60000; ++slot) {
-            desk.s.store.setRecord(slot, sample(2));
+            desk.s.store.setRecord(slot, sample(Kind::circle));
             desk.s.store.setStat(slot, slot == 60000 ? Stat::sel : Stat::on);
         }
         run(desk, edit);
         EXPECT_EQ(desk.s.store.entCount, 60001 + edit.copies) << edit.name;
         EXPECT_EQ(desk.stat(60000), edit.sources) << edit.name;
-        EXPECT_EQ(desk.slot(60000), sample(2)) << edit.name;
+        EXPECT_EQ(desk.slot(60000), sample(Kind::circle)) << edit.name;
         undo(desk.s.store, desk.s.log);
         EXPECT_TRUE(desk.s.store.isShown(60000)) << edit.name;
     }
@@ -274,7 +275,7 @@ TEST(EditRun, TakesRecordsOfOddNumbersWithoutHarm)
     for (const Edit& edit : edits) {
         EditDesk desk;
         for (const float number : odd) {
-            for (std::int16_t kind = 1; kind <= kind::lastDrawn; ++kind) {
+            for (const Kind kind : everyKind) {
                 EntityRecord r = sample(kind);
                 r.p1.x = r.p2.y = r.p3.x = r.p4.y = r.p5.x = r.rad = r.s2 = number;
                 r.a1 = r.a2 = r.a3 = number;
@@ -312,7 +313,7 @@ TEST(Delete, TakesTheSelectionOutInItsSlotsAsOneAction)
 TEST(Delete, OfNothingSaysSoAndWritesNoRecord)
 {
     EditDesk desk;
-    desk.add(sample(1), Stat::on);
+    desk.add(sample(Kind::line), Stat::on);
     desk.s.stepNo = 2;
     const std::int32_t group = desk.s.log.undoGroupNext;
     deleteSelection(desk.s, desk.pic1);
@@ -325,8 +326,8 @@ TEST(Delete, OfNothingSaysSoAndWritesNoRecord)
 TEST(Deselect, BringsTheSelectionBackToOnWithoutAnAction)
 {
     EditDesk desk;
-    desk.add(sample(1));
-    desk.add(sample(2), Stat::off);
+    desk.add(sample(Kind::line));
+    desk.add(sample(Kind::circle), Stat::off);
     const std::int32_t group = desk.s.log.undoGroupNext;
     desk.s.controls.focus = "List1"_c;
     deselect(desk.s, desk.pic1);
@@ -341,7 +342,7 @@ TEST(Change, OntoAHiddenLayerIsShownUntilTheLayerIsNextSwitched)
 {
     EditDesk desk;
     desk.s.layerTable.layers[5].layerShown = layer::hidden;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     changeSelection(desk.s, desk.pic1, {std::int16_t{5}, std::nullopt, std::nullopt});
     EXPECT_EQ(desk.stat(2), Stat::on);
     EXPECT_EQ(desk.slot(2).layer, 5);
@@ -350,7 +351,7 @@ TEST(Change, OntoAHiddenLayerIsShownUntilTheLayerIsNextSwitched)
 TEST(Change, OntoALayerOutsideTheTableIsTakenWithoutHarm)
 {
     EditDesk desk;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     changeSelection(desk.s, desk.pic1, {std::int16_t{32767}, std::nullopt, std::nullopt});
     EXPECT_EQ(desk.slot(2).layer, 32767);
 }

@@ -134,7 +134,7 @@ TEST(Trim, ArcGrowsAtTheEndNearerToThePick)
 TEST(Trim, ArcThatGrowsToItsOwnStartIsACircle)
 {
     const EntityRecord made = trimmed(arcAt({0, 0}, 50, 0, 90, 80), lineFrom({-20, 0}, {20, 0}), {5, 5});
-    EXPECT_EQ(made.kind, kind::circle);
+    EXPECT_EQ(made.kind, Kind::circle);
     EXPECT_EQ(made.p1, (Point{0, 0}));
     EXPECT_EQ(made.rad, 50);
     fake::expectLooks(made, "circle");
@@ -150,7 +150,7 @@ TEST(Trim, ArcPickedMidwayOfItsGapKeepsWhatItsSlotHeld)
     const EntityRecord stale = fake::arcOf({7, 7}, 3, 1, 2);
     desk.s.store.setRecord(3, stale);
     clickAt(desk, editTrim, {-10, 5});
-    EXPECT_EQ(desk.made().kind, kind::arc);
+    EXPECT_EQ(desk.made().kind, Kind::arc);
     EXPECT_EQ(desk.made().p1, (Point{0, 0}));
     EXPECT_EQ(desk.made().rad, 50);
     EXPECT_EQ(desk.made().a1, stale.a1);
@@ -274,10 +274,10 @@ TEST(Trim, TakesAsABoundaryOnlyWhatIsShownAndUnselectedAndUnderTheClick)
         {"beyond the line's end", upright, Stat::on, {40, 61}},
         {"just beyond the arc's end", arcAt({40, 0}, 30, 0, 100), Stat::on,
          polarPoint({40, 0}, 30, 100.5 * fake::degree)},
-        {"an ellipse", sample(kind::ellipse), Stat::on, {140, 100}},
-        {"a point", sample(kind::point), Stat::on, {7, 9}},
-        {"a text", sample(kind::text), Stat::on, {50, 50}},
-        {"a dimension", sample(kind::linearDimension), Stat::on, {30, 30}},
+        {"an ellipse", sample(Kind::ellipse), Stat::on, {140, 100}},
+        {"a point", sample(Kind::point), Stat::on, {7, 9}},
+        {"a text", sample(Kind::text), Stat::on, {50, 50}},
+        {"a dimension", sample(Kind::linearDimension), Stat::on, {30, 30}},
     };
     for (const MissRow& row : rows) {
         TrimDesk desk(lineFrom({0, 0}, {100, 0}, {20, 0}), row.boundary);
@@ -368,7 +368,7 @@ TEST(Trim, ObjectThatMissesTheBoundaryStaysAsItIs)
         TrimDesk desk(object, boundary);
         const std::int32_t logged = desk.s.log.undoLogCount;
         const Point click =
-            boundary.kind == kind::line ? Point{10, 60} : Point{boundary.p1.x, 60 + boundary.rad};
+            boundary.kind == Kind::line ? Point{10, 60} : Point{boundary.p1.x, 60 + boundary.rad};
         clickAt(desk, editTrim, click);
         EXPECT_EQ(desk.stat(1), Stat::on);
         EXPECT_EQ(desk.slot(1), object);
@@ -380,14 +380,14 @@ TEST(Trim, ObjectThatMissesTheBoundaryStaysAsItIs)
 
 TEST(Trim, ThrowsAwaySelectedObjectsOfOtherKinds)
 {
-    for (std::int16_t kind = kind::circle; kind <= kind::lastDrawn; ++kind) {
-        if (kind == kind::arc) continue;
+    for (const Kind kind : everyKind) {
+        if (kind == Kind::line || kind == Kind::arc) continue;
         TrimDesk desk(sample(kind), lineFrom({40, -60}, {40, 60}));
         clickAt(desk, editTrim, {40, 5});
-        EXPECT_EQ(desk.stat(1), Stat::out) << kind;
-        EXPECT_EQ(desk.s.store.entCount, 3) << kind;
+        EXPECT_EQ(desk.stat(1), Stat::out) << numberOf(kind);
+        EXPECT_EQ(desk.s.store.entCount, 3) << numberOf(kind);
         undo(desk.s.store, desk.s.log);
-        EXPECT_EQ(desk.stat(1), Stat::on) << kind;
+        EXPECT_EQ(desk.stat(1), Stat::on) << numberOf(kind);
     }
 }
 
@@ -445,13 +445,13 @@ TEST(Trim, WhatStaysEndsOnTheBoundaryAndHoldsThePickedPart)
         ++made;
         const EntityRecord kept = desk.slot(3);
         // A line's pick just behind the boundary counts as before it.
-        const double share = kept.kind != kind::line ? 0 : boundary.kind == kind::line ? 0.0005 : 0.005;
+        const double share = kept.kind != Kind::line ? 0 : boundary.kind == Kind::line ? 0.0005 : 0.005;
         ASSERT_LT(fake::offObject(kept, object.p5), 0.01 + share * distance(kept.p1, kept.p2)) << i;
-        if (kept.kind == kind::circle) continue;
-        const bool isLine = kept.kind == kind::line;
+        if (kept.kind == Kind::circle) continue;
+        const bool isLine = kept.kind == Kind::line;
         const Point ends[] = {isLine ? kept.p1 : kept.p2, isLine ? kept.p2 : kept.p3};
         const double off = std::min(fake::offFigure(boundary, ends[0]), fake::offFigure(boundary, ends[1]));
-        const bool mayBeOnAxis = !isLine && boundary.kind == kind::line;
+        const bool mayBeOnAxis = !isLine && boundary.kind == Kind::line;
         ASSERT_LT(off, mayBeOnAxis ? kept.rad * 0.0011 : 0.01) << i;
         ASSERT_LT(std::max(fake::offFigure(object, ends[0]), fake::offFigure(object, ends[1])), 0.01) << i;
     }

@@ -7,6 +7,7 @@
 #include "edit/rotate.h"
 #include "edit/scale.h"
 #include "geometry/arc.h"
+#include "tables/kinds.h"
 
 namespace mirtane {
 namespace {
@@ -51,7 +52,7 @@ EntityRecord scale(const EntityRecord& r, float x, float y)
 
 EntityRecord line(Point a, Point b)
 {
-    EntityRecord r = fake::plain(kind::line);
+    EntityRecord r = fake::plain(Kind::line);
     r.p1 = a;
     r.p2 = b;
     return r;
@@ -59,7 +60,7 @@ EntityRecord line(Point a, Point b)
 
 EntityRecord arc(Point centre, float radius, double a1, double a2)
 {
-    EntityRecord r = fake::plain(kind::arc);
+    EntityRecord r = fake::plain(Kind::arc);
     r.p1 = centre;
     r.rad = radius;
     r.a1 = a1;
@@ -89,9 +90,9 @@ TEST(Mirror, AtASlantExchangesTheAxes)
 
 TEST(Mirror, ByALineOfNoLengthIsTakenWithoutHarm)
 {
-    for (std::int16_t kind = 1; kind <= kind::lastDrawn; ++kind) {
+    for (const Kind kind : everyKind) {
         const EntityRecord image = mirror(sample(kind), {5, 5}, {5, 5});
-        EXPECT_EQ(image.p1, kind == kind::text ? (Point{80, 50}) : sample(kind).p1) << kind;
+        EXPECT_EQ(image.p1, kind == Kind::text ? (Point{80, 50}) : sample(kind).p1) << numberOf(kind);
     }
 }
 
@@ -103,7 +104,7 @@ TEST(Mirror, AtALevelLineTurnsALevelTextUpsideDownWhateverItsJustification)
     };
     const Row rows[] = {{0, {80, 350}}, {1, {50, 350}}, {2, {65, 350}}};
     for (const Row& row : rows) {
-        EntityRecord r = sample(kind::text);
+        EntityRecord r = sample(Kind::text);
         r.p2.y = row.justification;
         const EntityRecord image = mirror(r, {0, 200}, {500, 200});
         expectNear(image.p4, {80, 350}, 1e-3, "start");
@@ -115,11 +116,11 @@ TEST(Mirror, AtALevelLineTurnsALevelTextUpsideDownWhateverItsJustification)
 
 TEST(Mirror, AtAnUprightLineALevelTextStaysExactlyLevel)
 {
-    for (const std::int16_t kind : {kind::text, kind::leader}) {
+    for (const Kind kind : {Kind::text, Kind::leader}) {
         EntityRecord r = sample(kind);
         r.*kindRow(kind)->rotation = 0;
         const EntityRecord image = mirror(r, {1000, 0}, {1000, 500});
-        EXPECT_EQ(image.*kindRow(kind)->rotation, 0) << kind;
+        EXPECT_EQ(image.*kindRow(kind)->rotation, 0) << numberOf(kind);
     }
 }
 
@@ -136,7 +137,7 @@ TEST(Mirror, OfAnArcThroughAngleZeroRunsCounterClockwiseThroughTheImageOfItsMidd
 
 TEST(Mirror, TwiceIsTheFirst)
 {
-    for (std::int16_t kind = 1; kind <= kind::lastDrawn; ++kind) {
+    for (const Kind kind : everyKind) {
         const EntityRecord twice = mirror(mirror(sample(kind), {-40, 10}, {90, 75}), {-40, 10}, {90, 75});
         expectRecord(twice, sample(kind), 1e-3, "twice");
     }
@@ -149,7 +150,7 @@ TEST(Rotate, KeepsAPointOnTheCentreExactly)
 
 TEST(Rotate, ByAWholeTurnKeepsEachObjectInANewSlot)
 {
-    for (std::int16_t kind = 1; kind <= kind::lastDrawn; ++kind) {
+    for (const Kind kind : everyKind) {
         for (const double whole : {360.0, -360.0})
             expectRecord(rotate(sample(kind), {10, 10}, whole), sample(kind), 2e-3, "whole turn");
     }
@@ -172,7 +173,7 @@ TEST(Rotate, BringsAnglesWithinATurn)
     };
     const Row rows[] = {{300, 90, 30}, {10, -30, 340}, {-90, 30, 300}, {0, 359, 359}};
     for (const Row& row : rows) {
-        EntityRecord r = sample(kind::text);
+        EntityRecord r = sample(Kind::text);
         r.a1 = row.before;
         EXPECT_NEAR(rotate(r, {0, 0}, row.by).a1, row.after, 1e-3) << row.before;
     }
@@ -181,7 +182,7 @@ TEST(Rotate, BringsAnglesWithinATurn)
 TEST(Rotate, RunsAtItsThirdStepAlone)
 {
     EditDesk desk;
-    desk.add(sample(1));
+    desk.add(sample(Kind::line));
     desk.begin("Rotate");
     desk.click(editRotate, 0, 0);
     EXPECT_EQ(desk.s.promptText, "(Enter number of degrees:)");
@@ -209,14 +210,14 @@ TEST(RadialCopy, SpreadsTheCopiesOverTheAngle)
     };
     for (const Ring& ring : rings) {
         EditDesk desk;
-        EntityRecord r = fake::plain(kind::point);
+        EntityRecord r = fake::plain(Kind::point);
         r.p1 = {150, 20};
         desk.add(r);
         desk.begin("Radial Copy");
-        desk.click(editRotate, 50, 20);
+        desk.click(editRadialCopy, 50, 20);
         desk.s.editDegrees = ring.degrees;
         desk.s.radialCount = ring.count;
-        desk.run(editRotate, 3);
+        desk.run(editRadialCopy, 3);
         ASSERT_EQ(desk.s.store.entCount, 2 + static_cast<std::int32_t>(ring.angles.size())) << ring.degrees;
         std::int32_t slot = 2;
         for (const double degrees : ring.angles) {
@@ -233,12 +234,12 @@ TEST(RadialCopy, OfNoCopiesMakesNone)
     for (const std::int32_t count : {-1, 0, 1}) {
         for (const double degrees : {0.0, 90.0, 360.0}) {
             EditDesk desk;
-            desk.add(sample(1));
+            desk.add(sample(Kind::line));
             desk.begin("Radial Copy");
-            desk.click(editRotate, 50, 20);
+            desk.click(editRadialCopy, 50, 20);
             desk.s.editDegrees = degrees;
             desk.s.radialCount = count;
-            desk.run(editRotate, 3);
+            desk.run(editRadialCopy, 3);
             EXPECT_EQ(desk.s.store.entCount, 2) << degrees;
             EXPECT_EQ(desk.stat(1), Stat::on);
         }
@@ -247,10 +248,10 @@ TEST(RadialCopy, OfNoCopiesMakesNone)
 
 TEST(Scale, WithXAndYApart)
 {
-    EXPECT_FLOAT_EQ(scale(sample(kind::circle), 2, 1).rad, 60);
-    EXPECT_FLOAT_EQ(scale(sample(kind::circle), 1, 5).rad, 30);
-    EXPECT_FLOAT_EQ(scale(sample(kind::ellipse), 1, 3).p3.x, 1.5F);
-    EntityRecord upright = sample(kind::text);
+    EXPECT_FLOAT_EQ(scale(sample(Kind::circle), 2, 1).rad, 60);
+    EXPECT_FLOAT_EQ(scale(sample(Kind::circle), 1, 5).rad, 30);
+    EXPECT_FLOAT_EQ(scale(sample(Kind::ellipse), 1, 3).p3.x, 1.5F);
+    EntityRecord upright = sample(Kind::text);
     upright.a1 = 90;
     EXPECT_NEAR(scale(upright, 5, 2).p2.x, 20, 1e-3); // along its baseline
     EXPECT_NEAR(scale(upright, 5, 2).a1, 90, 1e-2);
@@ -258,30 +259,30 @@ TEST(Scale, WithXAndYApart)
 
 TEST(Scale, WithYOfZeroFlattens)
 {
-    const EntityRecord flat = scale(sample(kind::line), 1, 0);
+    const EntityRecord flat = scale(sample(Kind::line), 1, 0);
     EXPECT_EQ(flat.p1, (Point{10, 0}));
     EXPECT_EQ(flat.p2, (Point{40, 0}));
-    EXPECT_EQ(scale(sample(kind::circle), 1, 0).p1, (Point{100, 0}));
-    EXPECT_FLOAT_EQ(scale(sample(kind::circle), 1, 0).rad, 30);
-    EXPECT_EQ(scale(sample(kind::arc), 1, 0), sample(kind::arc)); // no arc goes through a line
-    EXPECT_EQ(scale(sample(kind::arc), 0, 0), sample(kind::arc));
-    EXPECT_EQ(scale(sample(kind::arc), 1e35F, 1e36F), sample(kind::arc)); // nor does one that overflows
+    EXPECT_EQ(scale(sample(Kind::circle), 1, 0).p1, (Point{100, 0}));
+    EXPECT_FLOAT_EQ(scale(sample(Kind::circle), 1, 0).rad, 30);
+    EXPECT_EQ(scale(sample(Kind::arc), 1, 0), sample(Kind::arc)); // no arc goes through a line
+    EXPECT_EQ(scale(sample(Kind::arc), 0, 0), sample(Kind::arc));
+    EXPECT_EQ(scale(sample(Kind::arc), 1e35F, 1e36F), sample(Kind::arc)); // nor does one that overflows
 }
 
 TEST(Scale, ByMinusOneBothWaysIsAHalfTurn)
 {
-    const EntityRecord text = scale(sample(kind::text), -1, -1);
+    const EntityRecord text = scale(sample(Kind::text), -1, -1);
     EXPECT_EQ(text.p4, (Point{-50, -50}));
     EXPECT_NEAR(text.a1, 180, 1e-3);
     EXPECT_FLOAT_EQ(text.p2.x, 10);
-    const EntityRecord round = scale(sample(kind::arc), -1, -1);
+    const EntityRecord round = scale(sample(Kind::arc), -1, -1);
     EXPECT_NEAR(round.a1, halfTurn, 1e-5);
     EXPECT_NEAR(round.a2, threeQuartersTurn, 1e-5);
 }
 
 TEST(Scale, OfATextThatItMirrorsPutsThePointAsEnteredByTheJustification)
 {
-    EntityRecord r = sample(kind::text); // from (50, 50) to (80, 50)
+    EntityRecord r = sample(Kind::text); // from (50, 50) to (80, 50)
     r.p2.y = 1;
     r.p1 = {80, 50};
     const EntityRecord right = scale(r, -1, 1);
@@ -291,7 +292,7 @@ TEST(Scale, OfATextThatItMirrorsPutsThePointAsEnteredByTheJustification)
 
 TEST(Scale, MeasuresAnEmptyTextOnTwelveQuestionMarks)
 {
-    EntityRecord r = sample(kind::leader);
+    EntityRecord r = sample(Kind::leader);
     r.t1.clear();
     const EntityRecord scaled = scale(r, -1, 1); // 12 x 0.6 x 10 = 72
     EXPECT_EQ(scaled.p5, (Point{-97, 10}));
@@ -340,8 +341,8 @@ TEST(Scale, OfAnArcMissesTheEndWhereTheAngleAtTheStartIsObtuse)
 TEST(ConcentricCopy, LetsTheRadiusGoBelowZero)
 {
     EditDesk desk;
-    desk.add(sample(kind::circle));
-    desk.add(sample(kind::arc));
+    desk.add(sample(Kind::circle));
+    desk.add(sample(Kind::arc));
     desk.s.offsetDistance = -60;
     editConcentric(desk.s, desk.pic1);
     EXPECT_FLOAT_EQ(desk.slot(3).rad, -30);

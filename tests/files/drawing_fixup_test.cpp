@@ -14,7 +14,7 @@ using namespace samples;
 EntityRecord textOf(float justification, double degrees)
 {
     EntityRecord r;
-    r.kind = kind::text;
+    r.kind = Kind::text;
     r.p1 = {1000, 500};
     r.p2 = {48, justification};
     r.p4 = {-1, -1};
@@ -75,7 +75,7 @@ TEST(SetTextAnchors, OtherKindsAndSlotsBeyondTheDrawingKeepTheirs)
 {
     Session s;
     EntityRecord dimension = textOf(1, 0);
-    dimension.kind = kind::leader;
+    dimension.kind = Kind::leader;
     add(s, dimension, Stat::on);
     add(s, textOf(1, 0), Stat::on);
     s.store.entCount = 2;
@@ -87,14 +87,14 @@ TEST(SetTextAnchors, OtherKindsAndSlotsBeyondTheDrawingKeepTheirs)
 TEST(FixUp, ALineGetsItsMiddleAndACircleThePointAtItsLeft)
 {
     Session s;
-    EntityRecord line = object(kind::line, 1);
+    EntityRecord line = object(Kind::line, 1);
     line.p1 = {10, 20};
     line.p2 = {-30, 100};
-    EntityRecord circle = object(kind::circle, 1);
+    EntityRecord circle = object(Kind::circle, 1);
     circle.p1 = {10, 20};
     circle.rad = 15;
     EntityRecord arc = circle;
-    arc.kind = kind::arc;
+    arc.kind = Kind::arc;
     add(s, line, Stat::on);
     add(s, circle, Stat::on);
     add(s, arc, Stat::on);
@@ -108,12 +108,12 @@ TEST(FixUp, ALineGetsItsMiddleAndACircleThePointAtItsLeft)
 TEST(FixUp, AFaultLeavesTheField)
 {
     Session s;
-    EntityRecord noLength = object(kind::line, 1);
+    EntityRecord noLength = object(Kind::line, 1);
     noLength.p1 = noLength.p2 = {10, 20};
     noLength.p3 = {7, 8};
     EntityRecord noPlace = noLength;
     noPlace.p2 = {nan, 30};
-    EntityRecord noRadius = object(kind::circle, 1);
+    EntityRecord noRadius = object(Kind::circle, 1);
     noRadius.p2 = {7, 8};
     noRadius.p1 = {10, 20};
     noRadius.rad = infinite;

@@ -20,9 +20,9 @@ std::string rowOf(const Session& s, std::int32_t layer)
 TEST(ReplaceDrawing, TheRecordsFillTheSlotsFromTheHeaderOn)
 {
     Session s;
-    for (int i = 0; i < 7; ++i) add(s, object(kind::circle, 9), Stat::out);
-    const EntityRecord line = object(kind::line, 1);
-    const EntityRecord dead = object(kind::header, 1);
+    for (int i = 0; i < 7; ++i) add(s, object(Kind::circle, 9), Stat::out);
+    const EntityRecord line = object(Kind::line, 1);
+    const EntityRecord dead = object(headerKind, 1);
     replaceDrawing(s, file({header(), line, dead}));
     EXPECT_EQ(s.store.entCount, 3);
     EXPECT_EQ(s.savedCount, 3);
@@ -72,7 +72,7 @@ TEST(ReplaceDrawing, HeaderValuesThatDoNotFitLeaveTheAttribute)
 TEST(ReplaceDrawing, AFileOfTheHeaderAloneIsAnEmptyDrawing)
 {
     Session s;
-    add(s, object(kind::line, 1), Stat::on);
+    add(s, object(Kind::line, 1), Stat::on);
     EntityRecord head = header();
     head.layer = 0;
     replaceDrawing(s, file({head}));
@@ -87,12 +87,12 @@ TEST(ReplaceDrawing, WithoutAWholeRecordTheDrawingIsEmptyAndSlotZeroStays)
     const Bytes cuts[] = {{}, {1}, Bytes(89, 0), Bytes(200, 0xFF)};
     for (const Bytes& cut : cuts) {
         Session s;
-        s.store.setRecord(0, object(kind::text, 3));
-        add(s, object(kind::line, 1), Stat::on);
+        s.store.setRecord(0, object(Kind::text, 3));
+        add(s, object(Kind::line, 1), Stat::on);
         replaceDrawing(s, cut);
         EXPECT_EQ(s.store.entCount, 1) << cut.size();
         EXPECT_EQ(s.savedCount, 1) << cut.size();
-        EXPECT_EQ(s.store.record(0), object(kind::text, 3)) << cut.size();
+        EXPECT_EQ(s.store.record(0), object(Kind::text, 3)) << cut.size();
         EXPECT_EQ(s.textSize, 48) << "no header, so the attributes stay";
         EXPECT_EQ(s.numStyle, "us");
         EXPECT_EQ(s.layerTable.layerCount, 1) << cut.size();
@@ -102,11 +102,11 @@ TEST(ReplaceDrawing, WithoutAWholeRecordTheDrawingIsEmptyAndSlotZeroStays)
 TEST(ReplaceDrawing, TheUndoRecordsAreForgottenAndTheSerialsGoOn)
 {
     Session s;
-    add(s, object(kind::line, 1), Stat::on);
+    add(s, object(Kind::line, 1), Stat::on);
     logFlip(s.log, 1, Stat::on);
     endGroup(s.log);
     s.log.redoGroupTop = 9;
-    replaceDrawing(s, file({header(), object(kind::line, 1)}));
+    replaceDrawing(s, file({header(), object(Kind::line, 1)}));
     EXPECT_EQ(s.log.undoLogCount, 0);
     EXPECT_EQ(s.log.logSlot[0], 0);
     EXPECT_EQ(s.log.undoGroupNext, 1);
@@ -118,7 +118,7 @@ TEST(ReplaceDrawing, TheUndoRecordsAreForgottenAndTheSerialsGoOn)
 
 TEST(ReplaceDrawing, OneGreyBecomesWhite)
 {
-    EntityRecord grey = object(kind::line, 1);
+    EntityRecord grey = object(Kind::line, 1);
     grey.color = 0xE0E0E0;
     EntityRecord nearly = grey;
     nearly.color = 0xE0E0E1;
@@ -136,16 +136,18 @@ TEST(ReplaceDrawing, DimensionsAreCounted)
 {
     Session s;
     s.dimensionCount = 50;
-    replaceDrawing(s, file({object(7, 1), object(6, 1), object(7, 1), object(8, 1), object(9, 1),
-                            object(10, 1), object(11, 1), object(17, 1)}));
+    replaceDrawing(
+        s, file({object(Kind::linearDimension, 1), object(Kind::text, 1), object(Kind::linearDimension, 1),
+                 object(Kind::radialDimension, 1), object(Kind::leader, 1), object(Kind::angularDimension, 1),
+                 object(Kind{11}, 1), object(Kind{17}, 1)}));
     EXPECT_EQ(s.dimensionCount, 4) << "the first record is the header, whatever its kind";
 }
 
 TEST(ReplaceDrawing, TheLayersFollowFromObjectsAndNames)
 {
     Session s;
-    replaceDrawing(s, file({header(), object(kind::line, 4), layerName(3, "walls"), layerName(6, "roof"),
-                            layerName(3, "inner walls"), object(12, 5)}));
+    replaceDrawing(s, file({header(), object(Kind::line, 4), layerName(3, "walls"), layerName(6, "roof"),
+                            layerName(3, "inner walls"), object(Kind{12}, 5)}));
     const std::vector<std::string> rows = {"No :On :0", "No :On :1", "No :Wk :2",   "No :On :inner walls",
                                            "Yes:On :4", "No :On :5", "No :On :roof"};
     EXPECT_EQ(s.layerTable.rows(), rows) << "of two names the last; a piece of an associate marks no layer";
@@ -154,7 +156,7 @@ TEST(ReplaceDrawing, TheLayersFollowFromObjectsAndNames)
 TEST(ReplaceDrawing, ALayerAboveTheStartingSixteenHasItsRow)
 {
     Session s;
-    replaceDrawing(s, file({header(), object(kind::line, 20)}));
+    replaceDrawing(s, file({header(), object(Kind::line, 20)}));
     EXPECT_EQ(s.layerTable.layerCount, 21);
     EXPECT_EQ(rowOf(s, 20), "Yes:On :20");
     EXPECT_EQ(s.layerTable.find(20)->layerNumber, 20);
@@ -167,7 +169,7 @@ TEST(ReplaceDrawing, TheWorkingLayerHasARowAlsoBeyondTheOthers)
     head.layer = 40;
     s.layerTable.find(40)->layerName = "of the drawing before";
     s.layerTable.find(41)->layerName = "not touched";
-    replaceDrawing(s, file({head, object(kind::line, 1)}));
+    replaceDrawing(s, file({head, object(Kind::line, 1)}));
     EXPECT_EQ(s.workLayer, 40);
     EXPECT_EQ(s.layerTable.layerCount, 2);
     EXPECT_EQ(rowOf(s, 40), "No :Wk :40");
@@ -180,7 +182,7 @@ TEST(ReplaceDrawing, LayersWithoutARowAreKeptInTheRecordAndIgnoredByTheTables)
     EntityRecord head = header();
     head.layer = -7;
     replaceDrawing(s,
-                   file({head, object(kind::line, -32768), object(kind::line, 32767), layerName(-9, "below"),
+                   file({head, object(Kind::line, -32768), object(Kind::line, 32767), layerName(-9, "below"),
                          layerName(1500, "above"), layerName(nan, "none"), layerName(1e30F, "far"),
                          layerName(-infinite, "infinite"), layerName(40000, "beyond a layer's number")}));
     EXPECT_EQ(s.store.entCount, 9);
@@ -195,10 +197,11 @@ TEST(ReplaceDrawing, LayersWithoutARowAreKeptInTheRecordAndIgnoredByTheTables)
 TEST(ReplaceDrawing, AnyKindIsTaken)
 {
     Session s;
-    replaceDrawing(s, file({header(), object(-32768, 1), object(0, 2), object(32767, 3), object(30, 4)}));
+    replaceDrawing(s, file({header(), object(Kind{-32768}, 1), object(Kind{0}, 2), object(Kind{32767}, 3),
+                            object(Kind{30}, 4)}));
     EXPECT_EQ(s.store.entCount, 5);
-    EXPECT_EQ(s.store.kind[1], -32768);
-    EXPECT_EQ(s.store.kind[3], 32767);
+    EXPECT_EQ(s.store.kind[1], Kind{-32768});
+    EXPECT_EQ(s.store.kind[3], Kind{32767});
     EXPECT_FALSE(drawingBounds(s.store, nullptr).fed());
 }
 
@@ -206,7 +209,7 @@ TEST(ReplaceDrawing, RecordsBeyondTheTableAreIgnored)
 {
     Bytes bytes;
     ByteWriter out(bytes);
-    EntityRecord r = object(kind::line, 1);
+    EntityRecord r = object(Kind::line, 1);
     for (std::int32_t i = 0; i < EntityStore::slotCount + 3; ++i) {
         r.color = i;
         writeRecord(out, r);
@@ -228,9 +231,8 @@ Bytes sampleOfAllKinds(std::vector<std::size_t>& ends)
         ends.push_back(bytes.size());
     };
     put(header());
-    for (std::int16_t k = 1; k <= 20; ++k) put(object(k, k));
-    constexpr std::int16_t neverDrawn[] = {24, 30, 35};
-    for (const std::int16_t k : neverDrawn) put(object(k, 3));
+    for (std::int16_t k = 1; k <= 20; ++k) put(object(Kind{k}, k));
+    for (const Kind neverDrawn : {Kind{24}, Kind{30}, Kind{35}}) put(object(neverDrawn, 3));
     put(layerName(3, "walls"));
     return bytes;
 }
@@ -256,14 +258,14 @@ TEST(ReplaceDrawing, ALengthThatLiesEndsTheReadingAndWhatWasReadStays)
 {
     for (const std::size_t lengthAt : {std::size_t{86}, std::size_t{88}}) {
         Bytes bytes =
-            file({header(), object(kind::line, 1), object(kind::circle, 1), object(kind::circle, 1)});
-        const std::size_t third = file({header(), object(kind::line, 1)}).size();
+            file({header(), object(Kind::line, 1), object(Kind::circle, 1), object(Kind::circle, 1)});
+        const std::size_t third = file({header(), object(Kind::line, 1)}).size();
         bytes[third + lengthAt] = 0xFF;
         bytes[third + lengthAt + 1] = 0xFF;
         Session s;
         replaceDrawing(s, bytes);
         EXPECT_EQ(s.store.entCount, 2) << lengthAt;
-        EXPECT_EQ(s.store.kind[1], kind::line) << lengthAt;
+        EXPECT_EQ(s.store.kind[1], Kind::line) << lengthAt;
     }
 }
 
@@ -290,14 +292,15 @@ TEST(ReplaceDrawing, BytesOfAnySortAreTaken)
 TEST(ReplaceDrawing, AFileWrittenAfterALoadIsTheSameByteForByte)
 {
     const EntityRecord noNumbers = [] {
-        EntityRecord r = object(kind::arc, 1);
+        EntityRecord r = object(Kind::arc, 1);
         r.p1 = {nan, infinite};
         r.a1 = -infinite;
         r.t2 = "caf\xC3\xA9";
         return r;
     }();
-    const Bytes first = file({header(), object(kind::line, 1), object(kind::circle, 30), noNumbers,
-                              object(15, -4), layerName(1, "one"), object(kind::header, 2), object(99, 999)});
+    const Bytes first =
+        file({header(), object(Kind::line, 1), object(Kind::circle, 30), noNumbers, object(Kind{15}, -4),
+              layerName(1, "one"), object(headerKind, 2), object(Kind{99}, 999)});
     Session s;
     replaceDrawing(s, first);
     EXPECT_EQ(drawingBytes(s, SaveWhat::drawing), first) << "nothing computed anew yet";
@@ -316,30 +319,30 @@ TEST(ReplaceDrawing, AFileWrittenAfterALoadIsTheSameByteForByte)
 TEST(ReplaceDrawing, SelectedAndHiddenObjectsComeBackOn)
 {
     Session s;
-    add(s, object(kind::line, 1), Stat::sel);
-    add(s, object(kind::line, 1), Stat::out);
-    add(s, object(kind::circle, 1), Stat::off);
+    add(s, object(Kind::line, 1), Stat::sel);
+    add(s, object(Kind::line, 1), Stat::out);
+    add(s, object(Kind::circle, 1), Stat::off);
     const Bytes bytes = drawingBytes(s, SaveWhat::drawing);
     replaceDrawing(s, bytes);
     EXPECT_EQ(s.store.entCount, 3);
     EXPECT_EQ(s.store.stat[1], Stat::on);
     EXPECT_EQ(s.store.stat[2], Stat::on);
-    EXPECT_EQ(s.store.kind[2], kind::circle) << "what was out is gone";
+    EXPECT_EQ(s.store.kind[2], Kind::circle) << "what was out is gone";
 }
 
 TEST(MergeLayer, TheRecordsComeBehindOnTheChosenLayer)
 {
     Session s;
     resetLayers(s.layerTable);
-    add(s, object(kind::line, 1), Stat::sel);
+    add(s, object(Kind::line, 1), Stat::sel);
     const Attributes attributes = s;
-    EntityRecord grey = object(kind::arc, 9);
+    EntityRecord grey = object(Kind::arc, 9);
     grey.color = 0xE0E0E0;
     mergeLayer(
-        s, file({header(), object(kind::circle, 7), layerName(7, "seven"), grey, layerName(8, "eight")}), 12);
+        s, file({header(), object(Kind::circle, 7), layerName(7, "seven"), grey, layerName(8, "eight")}), 12);
 
     EXPECT_EQ(s.store.entCount, 5) << "the layer names are dropped, the header stays";
-    const std::int16_t kinds[] = {kind::header, kind::circle, kind::arc};
+    const Kind kinds[] = {headerKind, Kind::circle, Kind::arc};
     for (std::int32_t i = 0; i < 3; ++i) {
         const std::size_t at = EntityStore::at(2 + i);
         EXPECT_EQ(s.store.kind[at], kinds[i]) << i;
@@ -360,7 +363,7 @@ TEST(MergeLayer, TheRecordsComeBehindOnTheChosenLayer)
 TEST(MergeLayer, TheUndoRecordsStay)
 {
     Session s;
-    add(s, object(kind::line, 1), Stat::on);
+    add(s, object(Kind::line, 1), Stat::on);
     logFlip(s.log, 1, Stat::on);
     endGroup(s.log);
     mergeLayer(s, file({header()}), 3);
@@ -374,7 +377,7 @@ TEST(MergeLayer, AFullTableLosesTheRestAndGoesOnCounting)
 {
     Session s;
     s.store.entCount = EntityStore::slotCount - 1;
-    const EntityRecord line = object(kind::line, 1);
+    const EntityRecord line = object(Kind::line, 1);
     mergeLayer(s, file({line, line, line}), 3000);
     EXPECT_EQ(s.store.entCount, EntityStore::slotCount + 2);
     EXPECT_EQ(s.store.layer.back(), 3000);

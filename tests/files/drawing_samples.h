@@ -3,6 +3,7 @@
 // Records and files for the tests of drawing files.
 
 #include "files/entity_record_codec.h"
+#include "kind_print.h"
 #include "model/session.h"
 
 #include <initializer_list>
@@ -15,22 +16,22 @@ namespace mirtane::samples {
 inline constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 inline constexpr float infinite = std::numeric_limits<float>::infinity();
 
-inline EntityRecord object(std::int16_t kind, std::int16_t layer)
+inline EntityRecord object(Kind kind, std::int16_t layer)
 {
     EntityRecord r;
     r.kind = kind;
     r.layer = layer;
-    r.p1 = {static_cast<float>(kind), 1}; // small whole numbers
-    r.p2 = {static_cast<float>(kind + 30), 41};
+    r.p1 = {static_cast<float>(numberOf(kind)), 1}; // small whole numbers
+    r.p2 = {static_cast<float>(numberOf(kind) + 30), 41};
     r.color = 0x0000FF;
-    if (kind >= kind::text) r.t1 = "text " + std::to_string(kind);
+    if (kind >= Kind::text) r.t1 = "text " + std::to_string(numberOf(kind));
     return r;
 }
 
 inline EntityRecord layerName(float layer, std::string name)
 {
     EntityRecord r;
-    r.kind = kind::layerName;
+    r.kind = layerNameKind;
     r.p1.x = layer + 2;
     r.t1 = std::move(name);
     return r;
@@ -39,7 +40,7 @@ inline EntityRecord layerName(float layer, std::string name)
 inline EntityRecord header()
 {
     EntityRecord r;
-    r.kind = kind::header;
+    r.kind = headerKind;
     r.p1 = {60, 24};
     r.p2 = {3, 2};
     r.p3 = {0.25F, 1};

@@ -16,13 +16,13 @@ void fillWithEverything(Session& s)
 {
     std::int16_t style = 0;
     for (const Stat stat : {Stat::on, Stat::sel, Stat::off, Stat::out}) {
-        EntityRecord line = object(kind::line, 5);
+        EntityRecord line = object(Kind::line, 5);
         line.style = style++;
         add(s, line, stat);
     }
-    add(s, object(kind::circle, 6), Stat::on);
-    add(s, object(11, 5), Stat::out);
-    add(s, object(kind::header, 5), Stat::on);
+    add(s, object(Kind::circle, 6), Stat::on);
+    add(s, object(Kind{11}, 5), Stat::out);
+    add(s, object(headerKind, 5), Stat::on);
     add(s, layerName(5, "five"), Stat::on);
     add(s, layerName(6, "six"), Stat::out);
 }
@@ -80,7 +80,7 @@ TEST(DrawingBytes, ADrawingLeavesOutWhatIsOut)
 {
     Session s;
     fillWithEverything(s);
-    add(s, object(kind::line, 7), Stat::none);
+    add(s, object(Kind::line, 7), Stat::none);
     EXPECT_EQ(written(s, SaveWhat::drawing),
               (std::vector<std::string>{"header", "on", "sel", "off", "circle", "dead header", "five"}));
 }
@@ -123,7 +123,7 @@ TEST(AfterSave, AWholeDrawingIsSavedAndNothingIsSelected)
     EXPECT_EQ(s.store.stat[4], Stat::out);
     EXPECT_EQ(s.savedCount, 10);
     EXPECT_EQ(s.store.p1[0].x, 99) << "slot 0 is the header as written";
-    EXPECT_EQ(s.store.kind[0], kind::header);
+    EXPECT_EQ(s.store.kind[0], headerKind);
 }
 
 TEST(AfterSave, ASelectionIsDroppedAndTheDrawingCountsAsUnsaved)

@@ -27,7 +27,7 @@ EntityRecord sample()
     r.color = 0xFF8000;
     r.layer = 300;
     r.style = 4;
-    r.kind = -2;
+    r.kind = Kind{-2};
     r.t1 = "\xC3\xA9!"; // e acute
     r.t2 = "Garamond";
     return r;

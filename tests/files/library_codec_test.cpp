@@ -24,7 +24,7 @@ HatchRow hatchSample()
     r.hatchA2 = -2;
     r.hatchColor = 0xFF8000;
     r.hatchStyle = 4;
-    r.hatchKind = 3;
+    r.hatchKind = Kind::arc;
     r.hatchName = "Brick";
     return r;
 }

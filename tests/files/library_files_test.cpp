@@ -20,7 +20,7 @@ HatchRow hatchRow(const std::string& name, float x)
     row.h2 = {x + 2, x + 3};
     row.hatchTileW = 20;
     row.hatchTileH = 10;
-    row.hatchKind = kind::line;
+    row.hatchKind = Kind::line;
     return row;
 }
 
@@ -37,7 +37,7 @@ MultipleLine multipleLine(const std::string& name, float m1)
 EntityRecord piece(float x)
 {
     EntityRecord r;
-    r.kind = 11;
+    r.kind = Kind{11};
     r.p1 = {x, x};
     r.p2 = {x + 1, x + 2};
     r.layer = 4;

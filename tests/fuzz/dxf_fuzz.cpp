@@ -25,13 +25,13 @@ bool isFinite(Point p)
 
 void requireObjects(const Session& s)
 {
-    constexpr std::int16_t deadInsert = 35;
+    constexpr Kind deadInsert{35};
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
         const EntityRecord r = s.store.record(i);
         require(isFinite(r.p1) && isFinite(r.p2) && isFinite(r.p3) && isFinite(r.p4) && isFinite(r.p5),
                 "points");
         require(std::isfinite(r.rad) && std::isfinite(r.a1) && std::isfinite(r.a2), "numbers");
-        const bool known = (r.kind >= kind::line && r.kind <= kind::arc) || r.kind == kind::text;
+        const bool known = (r.kind >= Kind::line && r.kind <= Kind::arc) || r.kind == Kind::text;
         require(known || r.kind == deadInsert, "kind");
     }
 }

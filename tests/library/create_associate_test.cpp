@@ -21,33 +21,41 @@ struct CreateDesk : LibraryDesk {
 TEST(CreateAssociate, TakesTheCoordinatesRelativeToTheReferencePoint)
 {
     struct Row {
-        int kind;
+        Kind kind;
         int movedPairs; // as bits, the first pair lowest
     };
     const Row rows[] = {
-        {1, 0b00011}, {2, 0b00001}, {3, 0b01111}, {4, 0b00011}, {5, 0b00001},
-        {6, 0b01001}, {7, 0b11111}, {8, 0b11111}, {9, 0b11111}, {10, 0b11111},
+        {Kind::line, 0b00011},
+        {Kind::circle, 0b00001},
+        {Kind::arc, 0b01111},
+        {Kind::ellipse, 0b00011},
+        {Kind::point, 0b00001},
+        {Kind::text, 0b01001},
+        {Kind::linearDimension, 0b11111},
+        {Kind::radialDimension, 0b11111},
+        {Kind::leader, 0b11111},
+        {Kind::angularDimension, 0b11111},
     };
     for (const Row& row : rows) {
         CreateDesk desk;
         const EntityRecord source = fake::sampleOf(row.kind);
         desk.add(source);
         desk.click(100, 200);
-        ASSERT_EQ(desk.s.store.entCount, 3) << row.kind;
+        ASSERT_EQ(desk.s.store.entCount, 3) << numberOf(row.kind);
         const EntityRecord piece = desk.slot(2);
         const Point before[] = {source.p1, source.p2, source.p3, source.p4, source.p5};
         const Point after[] = {piece.p1, piece.p2, piece.p3, piece.p4, piece.p5};
         for (int i = 0; i < 5; ++i) {
             if ((row.movedPairs >> i & 1) == 0) continue;
             EXPECT_EQ(after[i], (Point{before[i].x - 100, before[i].y - 200}))
-                << row.kind << " pair " << i + 1;
+                << numberOf(row.kind) << " pair " << i + 1;
         }
-        EXPECT_EQ(piece.kind, row.kind + 10);
-        EXPECT_EQ(piece.color, source.color) << row.kind;
-        EXPECT_EQ(piece.style, source.style) << row.kind;
-        EXPECT_EQ(piece.layer, 1) << row.kind;
-        EXPECT_EQ(desk.stat(2), Stat::out) << row.kind;
-        EXPECT_EQ(desk.owner(2), "Door") << row.kind;
+        EXPECT_EQ(numberOf(piece.kind), numberOf(row.kind) + 10);
+        EXPECT_EQ(piece.color, source.color) << numberOf(row.kind);
+        EXPECT_EQ(piece.style, source.style) << numberOf(row.kind);
+        EXPECT_EQ(piece.layer, 1) << numberOf(row.kind);
+        EXPECT_EQ(desk.stat(2), Stat::out) << numberOf(row.kind);
+        EXPECT_EQ(desk.owner(2), "Door") << numberOf(row.kind);
     }
 }
 
@@ -75,10 +83,10 @@ TEST(CreateAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
 TEST(CreateAssociate, KeepsTheOtherFieldsOfTheKind)
 {
     CreateDesk desk;
-    desk.add(fake::sampleOf(kind::arc));
-    desk.add(fake::sampleOf(kind::ellipse));
-    desk.add(fake::sampleOf(kind::text));
-    desk.add(fake::sampleOf(kind::angularDimension));
+    desk.add(fake::sampleOf(Kind::arc));
+    desk.add(fake::sampleOf(Kind::ellipse));
+    desk.add(fake::sampleOf(Kind::text));
+    desk.add(fake::sampleOf(Kind::angularDimension));
     desk.click(100, 200);
     const EntityRecord arc = desk.slot(5);
     EXPECT_EQ(arc.rad, 13);
@@ -118,7 +126,7 @@ TEST(CreateAssociate, LeavesTheSourceInTheDrawingAndNothingToUndo)
 TEST(CreateAssociate, PassesOverOtherKindsButDeselectsThem)
 {
     CreateDesk desk;
-    for (const int kind : {0, 11, 24, 25}) desk.add(fake::sampleOf(kind));
+    for (const Kind kind : {Kind{0}, Kind{11}, Kind{24}, Kind{25}}) desk.add(fake::sampleOf(kind));
     desk.click(10, 10);
     EXPECT_EQ(desk.s.store.entCount, 5);
     for (int i = 1; i < 5; ++i) EXPECT_EQ(desk.stat(i), Stat::on) << i;
@@ -128,7 +136,7 @@ TEST(CreateAssociate, GoesOnTheWorkingLayerAndMarksItUsed)
 {
     CreateDesk desk;
     desk.s.workLayer = 3;
-    desk.add(fake::sampleOf(kind::line));
+    desk.add(fake::sampleOf(Kind::line));
     desk.click(0, 0);
     EXPECT_EQ(desk.slot(2).layer, 3);
     EXPECT_EQ(desk.used(3), "Yes:");
@@ -139,7 +147,7 @@ TEST(CreateAssociate, EndsWithTheNamesInTheListAndNoneChosen)
 {
     CreateDesk desk;
     desk.s.baseFunc = desk.s.lastFunc = "Window Select";
-    desk.add(fake::sampleOf(kind::line));
+    desk.add(fake::sampleOf(Kind::line));
     desk.click(5, 5);
     EXPECT_EQ(desk.s.curFunc, "Window Select");
     EXPECT_EQ(desk.s.stepNo, 0);
@@ -151,7 +159,7 @@ TEST(CreateAssociate, EndsWithTheNamesInTheListAndNoneChosen)
 TEST(CreateAssociate, WaitsForItsName)
 {
     CreateDesk desk("??????");
-    desk.add(fake::sampleOf(kind::line));
+    desk.add(fake::sampleOf(Kind::line));
     desk.click(5, 5);
     EXPECT_EQ(desk.s.stepNo, 1);
     EXPECT_EQ(desk.s.store.entCount, 2);

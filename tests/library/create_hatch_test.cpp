@@ -68,13 +68,13 @@ TEST(CreateHatch, TakesCirclesArcsAndPoints)
 {
     CreateDesk desk;
     desk.add(fake::circle({110, 210}, 5));
-    desk.add(fake::sampleOf(kind::arc));
-    desk.add(fake::sampleOf(kind::point));
+    desk.add(fake::sampleOf(Kind::arc));
+    desk.add(fake::sampleOf(Kind::point));
     desk.tile();
     ASSERT_EQ(desk.count(), 3);
     EXPECT_EQ(desk.row(0), fake::hatchCircle("Brick", {10, 10}, 5, 30, 20));
 
-    EXPECT_EQ(desk.row(1).hatchKind, kind::arc);
+    EXPECT_EQ(desk.row(1).hatchKind, Kind::arc);
     EXPECT_EQ(desk.row(1).h1, (Point{-99, -198}));
     EXPECT_EQ(desk.row(1).h2, (Point{-97, -196}));
     EXPECT_EQ(desk.row(1).h3, (Point{-95, -194}));
@@ -84,7 +84,7 @@ TEST(CreateHatch, TakesCirclesArcsAndPoints)
     EXPECT_EQ(desk.row(1).hatchA2, 0.5);
     EXPECT_EQ(desk.row(1).hatchStyle, 3);
 
-    EXPECT_EQ(desk.row(2).hatchKind, kind::point);
+    EXPECT_EQ(desk.row(2).hatchKind, Kind::point);
     EXPECT_EQ(desk.row(2).h1, (Point{-99, -198})) << "outside the tile is no matter";
     EXPECT_EQ(desk.row(2).hatchStyle, 0);
     EXPECT_EQ(desk.row(2).hatchRad, 0);
@@ -103,7 +103,7 @@ TEST(CreateHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
     for (const Row& row : rows) {
         CreateDesk desk;
         for (int i = 0; i < 1200; ++i) desk.add(fake::line({105, 215}, {125, 215}));
-        desk.add(fake::sampleOf(kind::text));
+        desk.add(fake::sampleOf(Kind::text));
         desk.s.hatchLibrary.count = row.count;
         desk.tile();
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.count;
@@ -124,8 +124,10 @@ TEST(CreateHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
 TEST(CreateHatch, PassesOverOtherKindsAndWhatIsNotSelected)
 {
     CreateDesk desk;
-    for (const int kind : {4, 6, 7, 8, 9, 10, 11, 25}) desk.add(fake::sampleOf(kind));
-    desk.add(fake::sampleOf(kind::line), Stat::on);
+    for (const Kind kind : {Kind::ellipse, Kind::text, Kind::linearDimension, Kind::radialDimension,
+                            Kind::leader, Kind::angularDimension, Kind{11}, Kind{25}})
+        desk.add(fake::sampleOf(kind));
+    desk.add(fake::sampleOf(Kind::line), Stat::on);
     desk.tile();
     EXPECT_EQ(desk.count(), 0);
     EXPECT_TRUE(desk.list().empty()) << "a hatch without rows has no name in the list";

@@ -1,7 +1,5 @@
 #include "hatch_fill_model.h"
 
-#include "model/kind_table.h"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -77,15 +75,15 @@ void sortApart(std::vector<double>& cuts)
 
 Vec Curve::at(double t) const
 {
-    if (kind == kind::line) return a + t * (b - a);
+    if (kind == Kind::line) return a + t * (b - a);
     const double angle = start + t * sweep;
     return {a.x + radius * std::cos(angle), a.y - radius * std::sin(angle)};
 }
 
 double Curve::length() const
 {
-    if (kind == kind::point) return 1;
-    return kind == kind::line ? distance(a, b) : radius * sweep;
+    if (kind == Kind::point) return 1;
+    return kind == Kind::line ? distance(a, b) : radius * sweep;
 }
 
 double Curve::partAt(Vec p) const
@@ -219,9 +217,9 @@ Curve FillModel::placed(const HatchRow& row, Cell cell) const
     Curve curve{row.hatchKind, row.hatchStyle};
     curve.a = origin + scale * Vec{row.h1.x, row.h1.y};
     curve.b = origin + scale * Vec{row.h2.x, row.h2.y};
-    curve.radius = row.hatchKind == kind::point ? 0 : scale * row.hatchRad;
-    curve.start = row.hatchKind == kind::arc ? row.hatchA1 : 0;
-    curve.sweep = row.hatchKind == kind::arc ? turn * fraction((row.hatchA2 - row.hatchA1) / turn) : turn;
+    curve.radius = row.hatchKind == Kind::point ? 0 : scale * row.hatchRad;
+    curve.start = row.hatchKind == Kind::arc ? row.hatchA1 : 0;
+    curve.sweep = row.hatchKind == Kind::arc ? turn * fraction((row.hatchA2 - row.hatchA1) / turn) : turn;
     return curve;
 }
 
@@ -231,12 +229,12 @@ Expected FillModel::clipped(const Curve& curve) const
     const auto stays = [&](double t) { return isInside(curve.at(t) + Vec{nudge / 1000, nudge}); };
     std::vector<double> cuts = cutsOf(curve);
     Expected expected{curve, {}, isDoubtful(curve)};
-    if (curve.kind == kind::line && distance(curve.a, curve.b) < nothing) return expected;
-    if (curve.kind == kind::circle && cuts.size() < 2) {
+    if (curve.kind == Kind::line && distance(curve.a, curve.b) < nothing) return expected;
+    if (curve.kind == Kind::circle && cuts.size() < 2) {
         if (stays(0)) expected.inside.push_back({0, 1});
         return expected;
     }
-    if (curve.kind == kind::circle) {
+    if (curve.kind == Kind::circle) {
         cuts.push_back(cuts.front() + 1);
     } else {
         cuts.insert(cuts.begin(), 0);
@@ -251,9 +249,9 @@ Expected FillModel::clipped(const Curve& curve) const
 std::vector<double> FillModel::cutsOf(const Curve& curve) const
 {
     std::vector<double> cuts;
-    if (curve.kind == kind::point) return cuts;
+    if (curve.kind == Kind::point) return cuts;
     for (const Side& side : sides_) {
-        if (curve.kind == kind::line)
+        if (curve.kind == Kind::line)
             addCutOfLine(curve.a, curve.b, side.a, side.b, cuts);
         else
             addCutsOfCircle(side, curve, cuts);
@@ -278,7 +276,7 @@ void FillModel::addCutsOfCircle(const Side& side, const Curve& curve, std::vecto
         const bool isAtAnEnd = t < nothing || t > 1 - nothing;
         if (!isAtAnEnd)
             cuts.push_back(t);
-        else if (curve.kind == kind::circle)
+        else if (curve.kind == Kind::circle)
             cuts.push_back(0);
     }
 }
@@ -286,8 +284,8 @@ void FillModel::addCutsOfCircle(const Side& side, const Curve& curve, std::vecto
 // A corner or a side that all but touches a circle, or a point.
 bool FillModel::isDoubtful(const Curve& curve) const
 {
-    if (curve.kind == kind::line) return false;
-    const double near = curve.kind == kind::point ? 1e-3 : 0.03;
+    if (curve.kind == Kind::line) return false;
+    const double near = curve.kind == Kind::point ? 1e-3 : 0.03;
     const auto allButTouches = [&](double distance) {
         const double off = std::abs(distance - curve.radius);
         return off > nothing && off < near;

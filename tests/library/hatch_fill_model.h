@@ -20,7 +20,8 @@ struct Part {
 };
 
 struct Curve {
-    int kind, style;
+    Kind kind;
+    int style;
     Vec a{}, b{}; // the ends of a line; a alone is a point, or the centre of a circle or arc
     double radius = 0;
     double start = 0,

@@ -4,8 +4,6 @@
 
 #include "library_desk.h"
 
-#include "model/kind_table.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -100,7 +98,7 @@ HatchRow randomRow(double width, double height, bool onGrid, Dice& dice)
     HatchRow row = fake::hatchLine("h", place(), place(), static_cast<float>(width), // as above
                                    static_cast<float>(height));                      // as above
     if (dice.oneIn(2)) row.h2 = dice.oneIn(2) ? Point{row.h1.x, row.h2.y} : Point{row.h2.x, row.h1.y};
-    constexpr std::int16_t kinds[] = {kind::line, kind::line, kind::circle, kind::arc, kind::point};
+    constexpr Kind kinds[] = {Kind::line, Kind::line, Kind::circle, Kind::arc, Kind::point};
     row.hatchKind = kinds[dice.of(0, 4)];
     const double part = onGrid ? dice.of(1, 3) / 4.0 : dice.in(0.1, 0.7);
     row.hatchRad = static_cast<float>(part * std::min(std::abs(width), std::abs(height))); // as above
@@ -162,7 +160,7 @@ class Pieces {
         std::vector<Part> parts;
         while (next_ < pieces_.size() && pieces_[next_].style == curve.style) {
             const EntityRecord& r = pieces_[next_];
-            if (!(curve.kind == kind::line ? addLine(r, curve, parts) : addRound(r, curve, parts))) break;
+            if (!(curve.kind == Kind::line ? addLine(r, curve, parts) : addRound(r, curve, parts))) break;
             ++next_;
         }
         return parts;
@@ -182,14 +180,14 @@ class Pieces {
         if (!isAt(b, curve.at(std::clamp(part.to, 0.0, 1.0)))) return false;
         if (part.from > part.to || (!parts.empty() && part.from < parts.back().to - 1e-3)) return false;
         parts.push_back(part);
-        return r.kind == kind::line;
+        return r.kind == Kind::line;
     }
 
     // A circle, an arc or a point; a whole one is all there is.
     bool addRound(const EntityRecord& r, const Curve& curve, std::vector<Part>& parts) const
     {
         if (!isAt(model_.toTile(r.p1), curve.a) || std::abs(r.rad - curve.radius) > 1e-4) return false;
-        if (r.kind != kind::arc) {
+        if (r.kind != Kind::arc) {
             parts.push_back({0, 1});
             return r.kind == curve.kind;
         }
@@ -247,7 +245,7 @@ double difference(const std::vector<Part>& ours, const std::vector<Part>& expect
 
 struct Tally {
     std::size_t pieces = 0, curves = 0, doubtful = 0;
-    std::size_t kinds[6] = {}; // of the curves that are in part inside
+    std::size_t kinds[drawnKinds] = {}; // of the curves that are in part inside
 };
 
 void compare(const Case& c, const FillModel& model, Tally& tally)
@@ -259,12 +257,12 @@ void compare(const Case& c, const FillModel& model, Tally& tally)
         ++tally.curves;
         tally.doubtful += expected.doubtful ? 1U : 0U;
         if (expected.doubtful) continue;
-        tally.kinds[expected.curve.kind] += expected.inside.empty() ? 0U : 1U;
+        tally.kinds[placeOf(expected.curve.kind)] += expected.inside.empty() ? 0U : 1U;
         const double wrong = difference(ours, expected.inside);
         const Vec at = expected.curve.a;
         EXPECT_LE(wrong * expected.curve.length(), 1e-3 * expected.curve.length() + roundedOff)
-            << "kind " << expected.curve.kind << ", row " << expected.curve.style << ", from " << at.x << ", "
-            << at.y << " in the tile's directions";
+            << "kind " << numberOf(expected.curve.kind) << ", row " << expected.curve.style << ", from "
+            << at.x << ", " << at.y << " in the tile's directions";
     }
     EXPECT_TRUE(pieces.areAllTaken()) << "a piece that belongs nowhere, or in another order";
     tally.pieces += pieces.count();
@@ -290,8 +288,8 @@ TEST_P(RandomFill, EveryPieceIsThereAndNoneBesides)
     EXPECT_GT(compared, 90);
     EXPECT_GT(tally.pieces, 10000U) << "there was something to look at";
     EXPECT_LT(tally.doubtful, tally.curves / 20);
-    for (const int kind : {kind::line, kind::circle, kind::arc, kind::point}) {
-        EXPECT_GT(tally.kinds[kind], 1000U) << kind;
+    for (const Kind kind : {Kind::line, Kind::circle, Kind::arc, Kind::point}) {
+        EXPECT_GT(tally.kinds[placeOf(kind)], 1000U) << numberOf(kind);
     }
 }
 

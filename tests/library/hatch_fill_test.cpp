@@ -267,7 +267,7 @@ TEST(HatchFill, AnUncutCircleStaysACircle)
     const auto pieces = filled(square, {hatchCircle("h", {10, 10}, 4, 20, 20)});
     ASSERT_EQ(pieces.size(), 4U);
     for (const HatchPiece& piece : pieces) {
-        EXPECT_EQ(piece.kind, kind::circle);
+        EXPECT_EQ(piece.kind, Kind::circle);
         EXPECT_EQ(piece.radius, 4);
     }
     EXPECT_EQ(pieces[0].from, (Point{10, 10}));
@@ -279,7 +279,7 @@ TEST(HatchFill, ACircleTouchedOnceIsUncut)
     const auto pieces =
         filled(legsThrough({{0, 0}, {20, 0}, {20, 20}, {0, 20}}), {hatchCircle("h", {10, 5}, 5, 20, 20)});
     ASSERT_EQ(pieces.size(), 1U);
-    EXPECT_EQ(pieces[0].kind, kind::circle);
+    EXPECT_EQ(pieces[0].kind, Kind::circle);
 }
 
 TEST(HatchFill, ACircleIsCutIntoArcsThatRunCounterClockwise)
@@ -290,7 +290,7 @@ TEST(HatchFill, ACircleIsCutIntoArcsThatRunCounterClockwise)
     const auto all = objects(boundary, rows, 1, 0);
     ASSERT_EQ(all.size(), 1U);
     const EntityRecord& arc = all[0];
-    EXPECT_EQ(arc.kind, kind::arc);
+    EXPECT_EQ(arc.kind, Kind::arc);
     EXPECT_EQ(arc.p1, (Point{0, 10}));
     EXPECT_EQ(arc.rad, 5);
     EXPECT_EQ(arc.a1, 4.712389);
@@ -318,13 +318,13 @@ TEST(HatchFill, ACornerCloseToACircleIsTheOnlyCrossingThere)
 TEST(HatchFill, AnArcIsCutFromItsStartToItsEnd)
 {
     HatchRow row = hatchCircle("h", {20, 20}, 25, 40, 40);
-    row.hatchKind = kind::arc;
+    row.hatchKind = Kind::arc;
     row.hatchA1 = 0.5;
     row.hatchA2 = 2.3;
     const auto pieces = filled(square, {row});
     // inside are the parts near the upper right corner and, cut short, near the upper left one
     ASSERT_EQ(pieces.size(), 2U);
-    EXPECT_EQ(pieces[0].kind, kind::arc);
+    EXPECT_EQ(pieces[0].kind, Kind::arc);
     EXPECT_NEAR(pieces[0].a1, std::acos(0.8), 1e-6);
     EXPECT_NEAR(pieces[0].a2, std::asin(0.8), 1e-6);
     EXPECT_NEAR(pieces[1].a1, 3.1415927 - std::asin(0.8), 1e-6);
@@ -334,7 +334,7 @@ TEST(HatchFill, AnArcIsCutFromItsStartToItsEnd)
 TEST(HatchFill, AnUncutArcKeepsItsAngles)
 {
     HatchRow row = hatchCircle("h", {10, 10}, 4, 20, 20);
-    row.hatchKind = kind::arc;
+    row.hatchKind = Kind::arc;
     row.hatchA1 = 5;
     row.hatchA2 = 1;
     const auto pieces = filled(square, {row});
@@ -346,7 +346,7 @@ TEST(HatchFill, AnUncutArcKeepsItsAngles)
 TEST(HatchFill, AnglesOfArcsTurnWithTheirPoints)
 {
     HatchRow row = hatchCircle("h", {10, 10}, 4, 20, 20);
-    row.hatchKind = kind::arc;
+    row.hatchKind = Kind::arc;
     row.hatchA1 = 5;
     row.hatchA2 = 6;
     const double rotation = 0.5;
@@ -362,10 +362,10 @@ TEST(HatchFill, AnglesOfArcsTurnWithTheirPoints)
 TEST(HatchFill, PointsInsideStay)
 {
     HatchRow row = hatchLine("h", {15, 15}, {}, 20, 20);
-    row.hatchKind = kind::point;
+    row.hatchKind = Kind::point;
     const auto pieces = filled(legsThrough({{0, 0}, {30, 0}, {30, 30}, {0, 30}}), {row});
     ASSERT_EQ(pieces.size(), 1U);
-    EXPECT_EQ(pieces[0].kind, kind::point);
+    EXPECT_EQ(pieces[0].kind, Kind::point);
     EXPECT_EQ(pieces[0].from, (Point{15, 15}));
 }
 
@@ -390,15 +390,16 @@ TEST(HatchFill, RowsThatAFileMayHoldDoNoHarm)
         rows.push_back(hatchCircle("h", {bad, bad}, bad, bad, bad));
         rows.push_back(hatchCircle("h", {5, 5}, bad, 20, 20));
         rows.push_back(rows.back());
-        rows.back().hatchKind = kind::arc;
+        rows.back().hatchKind = Kind::arc;
         rows.push_back(hatchCircle("h", {5, 5}, 2, 20, 20));
-        rows.back().hatchKind = kind::arc;
+        rows.back().hatchKind = Kind::arc;
         rows.back().hatchA1 = bad;
         rows.back().hatchA2 = -bad;
     }
-    for (const int kind : {-32768, 0, 4, 6, 11, 25, 32767}) {
+    for (const Kind kind :
+         {Kind{-32768}, Kind{0}, Kind::ellipse, Kind::text, Kind{11}, Kind{25}, Kind{32767}}) {
         rows.push_back(hatchLine("h", {0, 5}, {20, 5}, 20, 20));
-        rows.back().hatchKind = static_cast<std::int16_t>(kind); // as the table says
+        rows.back().hatchKind = kind;
     }
     rows.push_back(hatchCircle("h", {5, 5}, -3, 20, 20));
     int lines = 0;
@@ -407,7 +408,7 @@ TEST(HatchFill, RowsThatAFileMayHoldDoNoHarm)
         EXPECT_TRUE(std::isfinite(piece.to.x) && std::isfinite(piece.to.y));
         EXPECT_TRUE(std::isfinite(piece.a1) && std::isfinite(piece.a2));
         EXPECT_GE(piece.radius, 0);
-        lines += piece.kind == kind::line ? 1 : 0;
+        lines += piece.kind == Kind::line ? 1 : 0;
     }
     EXPECT_GE(lines, 4) << "the good row is there";
 }
@@ -429,7 +430,7 @@ TEST(HatchFill, ATileSmallAgainstALongBoundaryFillsAsFarAsTheTableGoes)
     const Legs boundary = legsThrough({{100000, 0}, {100000, 15}, {0, 15}});
     Rows rows = {hatchLine("h", {0.2F, 9}, {0.8F, 9}, 1, 10)};
     EXPECT_GT(filled(boundary, rows).size(), 23000U) << "some are cut in two close to the side";
-    rows[0].hatchKind = kind::point;
+    rows[0].hatchKind = Kind::point;
     const auto points = filled(boundary, rows);
     ASSERT_EQ(points.size(), 23334U);
     EXPECT_EQ(points.front().from, (Point{40000 + 0.2F, 9}));

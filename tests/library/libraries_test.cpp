@@ -1,5 +1,7 @@
 #include "library/libraries.h"
 
+#include "kind_print.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -25,7 +27,7 @@ std::unique_ptr<Session> sessionWith(Library library, const Names& names)
             session->hatchLibrary.add(row);
         } else {
             const std::size_t at = EntityStore::at(session->store.entCount++);
-            session->store.kind[at] = 11;
+            session->store.kind[at] = Kind{11};
             session->store.stat[at] = Stat::out;
             session->store.ownerName[at] = name;
         }
@@ -99,7 +101,7 @@ TEST(Libraries, RemovingAnAssociateLeavesItsPiecesHidden)
     removeName(*s, Library::associates, "A");
     EXPECT_EQ(s->store.entCount, 2);
     EXPECT_EQ(s->store.stat[1], Stat::out);
-    EXPECT_EQ(s->store.kind[1], 11);
+    EXPECT_EQ(s->store.kind[1], Kind{11});
     EXPECT_EQ(s->store.ownerName[1], "??????");
 }
 

@@ -3,6 +3,7 @@
 // A session and a surface with one function running: clicks go to its step, and moves to its band, as the
 // drawing would send them.
 
+#include "kind_print.h"
 #include "model/insertion.h"
 #include "model/session.h"
 #include "ops_text.h"
@@ -72,7 +73,7 @@ class LibraryDesk {
 inline EntityRecord line(Point a, Point b)
 {
     EntityRecord r;
-    r.kind = kind::line;
+    r.kind = Kind::line;
     r.p1 = a;
     r.p2 = b;
     return r;
@@ -81,17 +82,17 @@ inline EntityRecord line(Point a, Point b)
 inline EntityRecord circle(Point centre, float radius)
 {
     EntityRecord r;
-    r.kind = kind::circle;
+    r.kind = Kind::circle;
     r.p1 = centre;
     r.rad = radius;
     return r;
 }
 
 // Every pair, number and string has a value of its own.
-inline EntityRecord sampleOf(int kind)
+inline EntityRecord sampleOf(Kind kind)
 {
     EntityRecord r;
-    r.kind = static_cast<std::int16_t>(kind); // the tests name small ones
+    r.kind = kind;
     r.p1 = {1, 2};
     r.p2 = {3, 4};
     r.p3 = {5, 6};
@@ -119,7 +120,7 @@ inline HatchRow hatchLine(std::string name, Point a, Point b, float width, float
     row.h2 = b;
     row.hatchTileW = width;
     row.hatchTileH = height;
-    row.hatchKind = kind::line;
+    row.hatchKind = Kind::line;
     return row;
 }
 
@@ -127,7 +128,7 @@ inline HatchRow hatchCircle(std::string name, Point centre, float radius, float 
 {
     HatchRow row = hatchLine(std::move(name), centre, {}, width, height);
     row.hatchRad = radius;
-    row.hatchKind = kind::circle;
+    row.hatchKind = Kind::circle;
     return row;
 }
 

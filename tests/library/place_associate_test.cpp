@@ -25,7 +25,7 @@ struct PlaceDesk : LibraryDesk {
     }
     void piece(EntityRecord r, const char* owner = "Door")
     {
-        r.kind += 10;
+        r.kind = pieceOf(r.kind);
         s.store.ownerName[EntityStore::at(add(r, Stat::out))] = owner;
     }
     void reverse() { s.controls["ass5"_c].checked = true; }
@@ -40,7 +40,7 @@ void expectNear(Point p, float x, float y, const char* what)
 EntityRecord placed(const EntityRecord& drawn, const Placement& placement)
 {
     EntityRecord piece = drawn;
-    piece.kind += 10;
+    piece.kind = pieceOf(piece.kind);
     EntityRecord object;
     EXPECT_TRUE(placePiece(piece, placement, object));
     return object;
@@ -53,7 +53,7 @@ TEST(PlaceAssociate, PutsThePiecesAtTheClick)
     desk.piece(fake::line({0, 0}, {1, 1}), "Window");
     desk.click(100, 200);
     ASSERT_EQ(desk.s.store.entCount, 4);
-    EXPECT_EQ(desk.slot(3).kind, kind::line);
+    EXPECT_EQ(desk.slot(3).kind, Kind::line);
     EXPECT_EQ(desk.slot(3).p1, (Point{100, 200}));
     EXPECT_EQ(desk.slot(3).p2, (Point{110, 220}));
     EXPECT_EQ(desk.stat(3), Stat::on);
@@ -102,7 +102,7 @@ TEST(PlaceAssociate, KeepsColourAndStyleAndTakesTheWorkingLayer)
     desk.s.workLayer = 5;
     desk.s.curColor = 0x0000FF;
     desk.s.curStyle = 1;
-    desk.piece(fake::sampleOf(kind::line));
+    desk.piece(fake::sampleOf(Kind::line));
     desk.click(0, 0);
     const EntityRecord object = desk.slot(2);
     EXPECT_EQ(object.color, 0x00FF00);
@@ -115,7 +115,7 @@ EntityRecord quarterArc()
 {
     // centre (10, 0), radius 10, from the right to the top
     EntityRecord r = fake::circle({10, 0}, 10);
-    r.kind = kind::arc;
+    r.kind = Kind::arc;
     r.a1 = 0;
     r.a2 = 1.5707963;
     r.p2 = {20, 0};
@@ -165,38 +165,39 @@ TEST(PlaceAssociate, AnglesOfArcsAreReducedOnceWhenAboveATurn)
     const EntityRecord object = placed(r, {{0, 0}, 2, false});
     EXPECT_EQ(object.a1, 6 + 2 - 6.2831853);
     EXPECT_EQ(object.a2, 4.2831853 + 2) << "a whole turn stays";
-    EntityRecord dimension = fake::sampleOf(kind::angularDimension);
+    EntityRecord dimension = fake::sampleOf(Kind::angularDimension);
     dimension.a1 = 6;
     EXPECT_EQ(placed(dimension, {{0, 0}, 2, false}).a1, 6 + 2 - 6.2831853);
 }
 
 TEST(PlaceAssociate, DegreesOfTextsGoOnPastATurn)
 {
-    for (const int kind : {6, 7, 8, 9}) {
+    for (const Kind kind : {Kind::text, Kind::linearDimension, Kind::radialDimension, Kind::leader}) {
         EntityRecord r = fake::sampleOf(kind);
         r.a1 = 300;
         const EntityRecord object = placed(r, {{0, 0}, rightAngle, false});
-        EXPECT_NEAR(object.a1, 390, 1e-6) << kind;
-        if (kind == 6) continue;
-        EXPECT_EQ(object.a2, 0.5) << kind << ": the size of its arrows";
+        EXPECT_NEAR(object.a1, 390, 1e-6) << numberOf(kind);
+        if (kind == Kind::text) continue;
+        EXPECT_EQ(object.a2, 0.5) << numberOf(kind) << ": the size of its arrows";
     }
-    EntityRecord r = fake::sampleOf(kind::angularDimension);
+    EntityRecord r = fake::sampleOf(Kind::angularDimension);
     r.a3 = 300;
     EXPECT_NEAR(placed(r, {{0, 0}, rightAngle, false}).a3, 390, 1e-6);
 }
 
 TEST(PlaceAssociate, TextAndDimensionsKeepTheirWordsAndSizes)
 {
-    for (const int kind : {7, 8, 9, 10}) {
+    for (const Kind kind :
+         {Kind::linearDimension, Kind::radialDimension, Kind::leader, Kind::angularDimension}) {
         const EntityRecord object = placed(fake::sampleOf(kind), {{100, 0}, 0, false});
-        EXPECT_EQ(object.p1, (Point{101, 2})) << kind;
-        EXPECT_EQ(object.p5, (Point{109, 10})) << kind;
-        EXPECT_EQ(object.s1, 11) << kind;
-        EXPECT_EQ(object.s2, 12) << kind;
-        EXPECT_EQ(object.t1, "words") << kind;
-        EXPECT_EQ(object.t2, "Garamond") << kind;
+        EXPECT_EQ(object.p1, (Point{101, 2})) << numberOf(kind);
+        EXPECT_EQ(object.p5, (Point{109, 10})) << numberOf(kind);
+        EXPECT_EQ(object.s1, 11) << numberOf(kind);
+        EXPECT_EQ(object.s2, 12) << numberOf(kind);
+        EXPECT_EQ(object.t1, "words") << numberOf(kind);
+        EXPECT_EQ(object.t2, "Garamond") << numberOf(kind);
     }
-    const EntityRecord text = placed(fake::sampleOf(kind::text), {{100, 0}, 0, false});
+    const EntityRecord text = placed(fake::sampleOf(Kind::text), {{100, 0}, 0, false});
     EXPECT_EQ(text.p1, (Point{101, 2}));
     EXPECT_EQ(text.p4, (Point{107, 8}));
     EXPECT_EQ(text.p2, (Point{3, 4})) << "size and justification";
@@ -206,7 +207,7 @@ TEST(PlaceAssociate, TextAndDimensionsKeepTheirWordsAndSizes)
 
 TEST(PlaceAssociate, AnEllipseKeepsTheRatioOfItsAxes)
 {
-    const EntityRecord object = placed(fake::sampleOf(kind::ellipse), {{100, 0}, 0, true});
+    const EntityRecord object = placed(fake::sampleOf(Kind::ellipse), {{100, 0}, 0, true});
     EXPECT_EQ(object.p1, (Point{99, 2}));
     EXPECT_EQ(object.p2, (Point{97, 4}));
     EXPECT_EQ(object.p3.x, 5);
@@ -214,20 +215,22 @@ TEST(PlaceAssociate, AnEllipseKeepsTheRatioOfItsAxes)
 
 TEST(PlaceAssociate, ReverseDropsTextAndDimensions)
 {
-    for (const int kind : {6, 7, 8, 9, 10}) {
+    for (const Kind kind :
+         {Kind::text, Kind::linearDimension, Kind::radialDimension, Kind::leader, Kind::angularDimension}) {
         EntityRecord piece = fake::sampleOf(kind);
-        piece.kind += 10;
+        piece.kind = pieceOf(piece.kind);
         EntityRecord object;
-        EXPECT_FALSE(placePiece(piece, {{0, 0}, 0, true}, object)) << kind;
-        EXPECT_TRUE(placePiece(piece, {{0, 0}, 0, false}, object)) << kind;
+        EXPECT_FALSE(placePiece(piece, {{0, 0}, 0, true}, object)) << numberOf(kind);
+        EXPECT_TRUE(placePiece(piece, {{0, 0}, 0, false}, object)) << numberOf(kind);
     }
 }
 
 TEST(PlaceAssociate, RecordsThatAreNoPiecesPlaceNothing)
 {
     EntityRecord object;
-    for (const int kind : {-32768, -1, 0, 1, 10, 21, 24, 25, 32767}) {
-        const EntityRecord r = fake::sampleOf(kind);
+    constexpr std::int16_t noPieces[] = {-32768, -1, 0, 1, 10, 21, 24, 25, 32767};
+    for (const std::int16_t kind : noPieces) {
+        const EntityRecord r = fake::sampleOf(Kind{kind});
         EXPECT_FALSE(placePiece(r, {}, object)) << kind;
     }
 }
@@ -235,7 +238,7 @@ TEST(PlaceAssociate, RecordsThatAreNoPiecesPlaceNothing)
 TEST(PlaceAssociate, TextAloneReversedPlacesNothingAndStillClosesAGroup)
 {
     PlaceDesk desk;
-    desk.piece(fake::sampleOf(kind::text));
+    desk.piece(fake::sampleOf(Kind::text));
     desk.reverse();
     desk.click(10, 10);
     EXPECT_EQ(desk.s.store.entCount, 2);
@@ -300,7 +303,7 @@ TEST(PlaceAssociate, WhatIsPlacedIsNoPartOfTheAssociate)
     PlaceDesk desk;
     desk.piece(fake::line({0, 0}, {10, 20}));
     desk.s.store.ownerName[2] = "Door"; // left over in the slot that is filled next
-    desk.s.store.kind[2] = 11;
+    desk.s.store.kind[2] = Kind{11};
     desk.click(100, 100);
     EXPECT_EQ(desk.s.store.entCount, 3);
     EXPECT_NE(desk.owner(2), "Door");
@@ -359,7 +362,7 @@ TEST(PlaceAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
         PlaceDesk desk;
         if (row.reversed) desk.reverse();
         for (int i = 0; i < 4; ++i) desk.piece(fake::circle({0, 0}, 1));
-        desk.piece(fake::sampleOf(kind::text));
+        desk.piece(fake::sampleOf(Kind::text));
         desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
         desk.click(100, 100);
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.what;

@@ -41,7 +41,7 @@ TEST(PlaceHatch, FillsTheBoundaryOnceItIsClosed)
     HatchDesk desk;
     desk.square();
     ASSERT_EQ(desk.s.store.entCount, 5);
-    EXPECT_EQ(desk.slot(1).kind, kind::line);
+    EXPECT_EQ(desk.slot(1).kind, Kind::line);
     EXPECT_EQ(desk.slot(1).p1, (Point{0, 10}));
     EXPECT_EQ(desk.slot(1).p2, (Point{20, 10}));
     EXPECT_EQ(desk.slot(4).p2, (Point{40, 30}));

@@ -41,7 +41,7 @@ TEST(EntityStore, GivesBackEveryFieldOfARecord)
     r.color = 0xE0E0E0;
     r.layer = 18;
     r.style = 4;
-    r.kind = 10;
+    r.kind = Kind{10};
     r.t1 = "words";
     r.t2 = "font";
     store.setRecord(60000, r);
@@ -53,7 +53,7 @@ TEST(EntityStore, AWriteBeyondTheTableIsSkippedAndReadsAsNothing)
 {
     EntityStore store;
     EntityRecord r;
-    r.kind = kind::line;
+    r.kind = Kind::line;
     store.setRecord(60001, r);
     store.setStat(60001, Stat::on);
     EXPECT_EQ(store.record(60001), EntityRecord{});

@@ -1,5 +1,7 @@
 #include "model/insertion.h"
 
+#include "kind_print.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -37,13 +39,14 @@ struct Insertion : testing::Test {
         stale.s1 = stale.s2 = stale.rad = -3;
         stale.a1 = stale.a2 = stale.a3 = -4;
         stale.color = -5;
-        stale.layer = stale.style = stale.kind = 99;
+        stale.layer = stale.style = 99;
+        stale.kind = Kind{99};
         stale.t1 = "old words";
         stale.t2 = "old font";
         s.store.setRecord(1, stale);
     }
 
-    EntityRecord expected(std::int16_t kind) const
+    EntityRecord expected(Kind kind) const
     {
         EntityRecord r = stale;
         r.kind = kind;
@@ -53,7 +56,7 @@ struct Insertion : testing::Test {
         return r;
     }
 
-    EntityRecord expectedWords(std::int16_t kind) const
+    EntityRecord expectedWords(Kind kind) const
     {
         EntityRecord r = expected(kind);
         r.style = 0;
@@ -62,7 +65,7 @@ struct Insertion : testing::Test {
         return r;
     }
 
-    EntityRecord expectedDimension(std::int16_t kind) const
+    EntityRecord expectedDimension(Kind kind) const
     {
         EntityRecord r = expectedWords(kind);
         r.s1 = 3;
@@ -82,7 +85,7 @@ struct Insertion : testing::Test {
 TEST_F(Insertion, OfALineWritesItsEnds)
 {
     addLine(s);
-    EntityRecord r = expected(1);
+    EntityRecord r = expected(Kind::line);
     r.p1 = {1, 2};
     r.p2 = {3, 4};
     EXPECT_EQ(s.store.record(1), r);
@@ -91,7 +94,7 @@ TEST_F(Insertion, OfALineWritesItsEnds)
 TEST_F(Insertion, OfACircleWritesCentreAndRadius)
 {
     addCircle(s);
-    EntityRecord r = expected(2);
+    EntityRecord r = expected(Kind::circle);
     r.p1 = {11, 12};
     r.rad = 19;
     EXPECT_EQ(s.store.record(1), r);
@@ -100,7 +103,7 @@ TEST_F(Insertion, OfACircleWritesCentreAndRadius)
 TEST_F(Insertion, OfAnArcWritesFourPointsRadiusAndAngles)
 {
     addArc(s);
-    EntityRecord r = expected(3);
+    EntityRecord r = expected(Kind::arc);
     r.p1 = {1, 2};
     r.p2 = {3, 4};
     r.p3 = {5, 6};
@@ -114,7 +117,7 @@ TEST_F(Insertion, OfAnArcWritesFourPointsRadiusAndAngles)
 TEST_F(Insertion, OfAnEllipseWritesAxisEndCentreAndRatio)
 {
     addEllipse(s);
-    EntityRecord r = expected(4);
+    EntityRecord r = expected(Kind::ellipse);
     r.p1 = {3, 4};
     r.p2 = {5, 6};
     r.p3.x = 11;
@@ -124,7 +127,7 @@ TEST_F(Insertion, OfAnEllipseWritesAxisEndCentreAndRatio)
 TEST_F(Insertion, OfAPointWritesOnePoint)
 {
     addPoint(s);
-    EntityRecord r = expected(5);
+    EntityRecord r = expected(Kind::point);
     r.p1 = {1, 2};
     EXPECT_EQ(s.store.record(1), r);
 }
@@ -132,7 +135,7 @@ TEST_F(Insertion, OfAPointWritesOnePoint)
 TEST_F(Insertion, OfTextWritesSizeJustificationAndAnchor)
 {
     addText(s, 50);
-    EntityRecord r = expectedWords(6);
+    EntityRecord r = expectedWords(Kind::text);
     r.p1 = {1, 2};
     r.p2 = {24, 2};
     r.p3.x = 0;
@@ -153,7 +156,7 @@ TEST_F(Insertion, OfTextNotesThatItIsUnderlined)
 TEST_F(Insertion, OfALinearDimension)
 {
     addLinearDim(s);
-    EntityRecord r = expectedDimension(7);
+    EntityRecord r = expectedDimension(Kind::linearDimension);
     r.p1 = {9, 10};
     r.p2 = {11, 12};
     r.p3 = {13, 14};
@@ -166,7 +169,7 @@ TEST_F(Insertion, OfALinearDimension)
 TEST_F(Insertion, OfARadialDimension)
 {
     addRadialDim(s);
-    EntityRecord r = expectedDimension(8);
+    EntityRecord r = expectedDimension(Kind::radialDimension);
     r.p1 = {1, 2};
     r.p2 = {3, 4};
     r.p3 = {9, 10};
@@ -178,7 +181,7 @@ TEST_F(Insertion, OfARadialDimension)
 TEST_F(Insertion, OfALeaderLeavesTheFourthPoint)
 {
     addLeader(s);
-    EntityRecord r = expectedDimension(9);
+    EntityRecord r = expectedDimension(Kind::leader);
     r.p1 = {1, 2};
     r.p2 = {3, 4};
     r.p3 = {5, 6};
@@ -189,7 +192,7 @@ TEST_F(Insertion, OfALeaderLeavesTheFourthPoint)
 TEST_F(Insertion, OfAnAngularDimensionIsCrossed)
 {
     addAngularDim(s);
-    EntityRecord r = expectedWords(10);
+    EntityRecord r = expectedWords(Kind::angularDimension);
     r.style = 3; // the arrow style
     r.s1 = 36;
     r.s2 = 36;
@@ -229,7 +232,7 @@ TEST_F(Insertion, PastTheTableIsLostWithoutAWordWhileTheCountGrows)
     addLine(s);
     commitSlot(s);
     EXPECT_EQ(s.store.entCount, 60002);
-    EXPECT_EQ(s.store.record(60000).kind, kind::line);
+    EXPECT_EQ(s.store.record(60000).kind, Kind::line);
     EXPECT_EQ(s.store.stat.size(), 60001U);
 }
 
@@ -333,9 +336,9 @@ TEST(Gauge, CountsALayerNameAndAHiddenPieceOfAnAssociate)
 {
     const auto s = std::make_unique<Session>();
     EntityRecord name;
-    name.kind = kind::layerName;
+    name.kind = layerNameKind;
     EntityRecord piece;
-    piece.kind = kind::line + kind::associatePiece;
+    piece.kind = pieceOf(Kind::line);
     s->store.setRecord(1, name);
     s->store.setStat(1, Stat::on);
     s->store.setRecord(2, piece);

@@ -173,7 +173,7 @@ TEST_F(Undo, DoesNotTakeBackALayerName)
 {
     addOne();
     EntityRecord name;
-    name.kind = kind::layerName;
+    name.kind = layerNameKind;
     s.store.setRecord(2, name);
     s.store.setStat(2, Stat::on);
     s.store.entCount = 3;

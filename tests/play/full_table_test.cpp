@@ -14,7 +14,7 @@ Bytes drawingOf(std::int32_t count)
     Bytes bytes;
     ByteWriter out(bytes);
     EntityRecord r;
-    r.kind = kind::header;
+    r.kind = headerKind;
     r.p1 = {48, 48};
     r.t1 = "us";
     r.t2 = "Garamond";
@@ -22,7 +22,7 @@ Bytes drawingOf(std::int32_t count)
     r.color = 0xFFFFFF;
     writeRecord(out, r);
     r = {};
-    r.kind = kind::line;
+    r.kind = Kind::line;
     r.layer = 1;
     for (std::int32_t i = 1; i < count; ++i) {
         r.p1 = {static_cast<float>(i % 300), 0}; // small whole numbers

@@ -1,7 +1,7 @@
 // The sample drawings are what their .play files make of the sample libraries.
 
-#include "commands/vocabulary.h"
 #include "play_process.h"
+#include "tables/functions.h"
 
 #include <gtest/gtest.h>
 

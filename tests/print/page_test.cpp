@@ -40,7 +40,7 @@ std::string textOf(const PrintOp& op)
     return text;
 }
 
-EntityRecord record(std::int16_t kind, Point p1 = {}, Point p2 = {})
+EntityRecord record(Kind kind, Point p1 = {}, Point p2 = {})
 {
     EntityRecord r;
     r.kind = kind;
@@ -52,13 +52,13 @@ EntityRecord record(std::int16_t kind, Point p1 = {}, Point p2 = {})
 
 EntityRecord lineOf(Point from, Point to, std::int32_t color = 0xFFFFFF, std::int16_t style = 0)
 {
-    EntityRecord r = record(kind::line, from, to);
+    EntityRecord r = record(Kind::line, from, to);
     r.color = color;
     r.style = style;
     return r;
 }
 
-EntityRecord roundOf(std::int16_t kind, Point centre, float rad)
+EntityRecord roundOf(Kind kind, Point centre, float rad)
 {
     EntityRecord r = record(kind, centre);
     r.rad = rad;
@@ -67,7 +67,7 @@ EntityRecord roundOf(std::int16_t kind, Point centre, float rad)
 
 EntityRecord ellipseOf(Point end, Point centre, float ratio)
 {
-    EntityRecord r = record(kind::ellipse, end, centre);
+    EntityRecord r = record(Kind::ellipse, end, centre);
     r.p3 = {ratio, 0};
     return r;
 }
@@ -75,7 +75,7 @@ EntityRecord ellipseOf(Point end, Point centre, float ratio)
 // Written 12 units high at a place of its own beside the point that was entered.
 EntityRecord textAt(Point painted, const std::string& words)
 {
-    EntityRecord r = record(kind::text, painted, {12, 0});
+    EntityRecord r = record(Kind::text, painted, {12, 0});
     r.p4 = painted;
     r.t1 = words;
     r.t2 = "Serif";
@@ -180,7 +180,7 @@ TEST_F(Page, AFactorOfOneHalfHalvesThePictureAboutTheCentreOfThePage)
 
 TEST_F(Page, ASinglePointFitsAtNoughtAndKeepsTheLastScaleTimesTheFactorOnceMore)
 {
-    add(record(kind::point, {500, 500}));
+    add(record(Kind::point, {500, 500}));
     EXPECT_EQ(fittedScale(state, store), 0);
     EXPECT_THAT(printed("point"), ElementsAre("point 6120.0 7920.0"));
     EXPECT_FLOAT_EQ(state.printScale, 1);
@@ -197,7 +197,7 @@ TEST_F(Page, OnlySelectedObjectsOfTheDrawnKindsAreMeasuredAndPrinted)
     add(lineOf({-9000, -9000}, {9000, 9000}), Stat::on);
     add(lineOf({-9000, -9000}, {9000, 9000}), Stat::off);
     add(lineOf({-9000, -9000}, {9000, 9000}), Stat::out);
-    add(record(kind::associatePiece + kind::line, {-9000, -9000}, {9000, 9000}));
+    add(record(pieceOf(Kind::line), {-9000, -9000}, {9000, 9000}));
     addTenfold();
     EXPECT_THAT(bounds(), ElementsAre(0, 0, 1152, 0));
     EXPECT_THAT(printed("line"), ElementsAre("line 360.0 7920.0 11880.0 7920.0"));
@@ -216,7 +216,7 @@ struct BoundsRow {
 };
 
 // Five points that all widen the box, each on its own account.
-EntityRecord spread(std::int16_t kind)
+EntityRecord spread(Kind kind)
 {
     EntityRecord r = record(kind, {0, 0}, {10, 1});
     r.p3 = {-20, 2};
@@ -228,19 +228,19 @@ EntityRecord spread(std::int16_t kind)
 TEST_F(Page, EachKindIsMeasuredByItsOwnPoints)
 {
     const BoundsRow rows[] = {
-        {"a line by both ends, its other pairs never", spread(kind::line), {0, 0, 10, 1}},
-        {"a circle by its radius", roundOf(kind::circle, {100, 200}, 30), {70, 170, 130, 230}},
+        {"a line by both ends, its other pairs never", spread(Kind::line), {0, 0, 10, 1}},
+        {"a circle by its radius", roundOf(Kind::circle, {100, 200}, 30), {70, 170, 130, 230}},
         {"an arc by its radius, whatever its angles",
-         roundOf(kind::arc, {100, 200}, 30),
+         roundOf(Kind::arc, {100, 200}, 30),
          {70, 170, 130, 230}},
         {"an ellipse by the ends of both axes", ellipseOf({200, 100}, {100, 100}, 0.5F), {0, 50, 200, 150}},
         {"an ellipse that stands", ellipseOf({100, 0}, {100, 100}, 0.5F), {50, 0, 150, 200}},
-        {"a point by itself", spread(kind::point), {0, 0, 0, 0}},
-        {"a text by both its points", spread(kind::text), {0, 0, 3, 300}},
-        {"a linear dimension by all five", spread(kind::linearDimension), {-20, -40, 10, 300}},
-        {"a radial dimension by all but the fourth", spread(kind::radialDimension), {-20, -40, 10, 2}},
-        {"a leader by all but the fourth", spread(kind::leader), {-20, -40, 10, 2}},
-        {"an angular dimension by all but the fourth", spread(kind::angularDimension), {-20, -40, 10, 2}},
+        {"a point by itself", spread(Kind::point), {0, 0, 0, 0}},
+        {"a text by both its points", spread(Kind::text), {0, 0, 3, 300}},
+        {"a linear dimension by all five", spread(Kind::linearDimension), {-20, -40, 10, 300}},
+        {"a radial dimension by all but the fourth", spread(Kind::radialDimension), {-20, -40, 10, 2}},
+        {"a leader by all but the fourth", spread(Kind::leader), {-20, -40, 10, 2}},
+        {"an angular dimension by all but the fourth", spread(Kind::angularDimension), {-20, -40, 10, 2}},
     };
     for (const BoundsRow& row : rows) {
         store.entCount = 1;
@@ -260,7 +260,7 @@ TEST_F(Page, AllTextGoesBeforeAllGeometryAndEachInSlotOrder)
 {
     addTenfold();
     add(textAt({100, 0}, "first"));
-    EntityRecord leader = record(kind::leader, {200, 0}, {300, 0});
+    EntityRecord leader = record(Kind::leader, {200, 0}, {300, 0});
     leader.p3 = leader.p5 = {400, 0};
     leader.s2 = 12;
     leader.a2 = 10;
@@ -308,10 +308,10 @@ TEST_F(Page, AColourOutsideTheTableKeepsTheWidthOfTheObjectBeforeIt)
 TEST_F(Page, TheStyleStaysAtAnyWidthAndDimensionsAreSolid)
 {
     add(lineOf({0, 0}, {1152, 0}, 0xFFFFFF, 3));
-    EntityRecord circle = roundOf(kind::circle, {500, 0}, 100);
+    EntityRecord circle = roundOf(Kind::circle, {500, 0}, 100);
     circle.style = 1;
     add(circle);
-    EntityRecord angular = record(kind::angularDimension, {100, 0}, {200, 0});
+    EntityRecord angular = record(Kind::angularDimension, {100, 0}, {200, 0});
     angular.p3 = angular.p5 = {100, 100};
     angular.style = 2; // the arrow's, not the pen's
     add(angular);
@@ -321,12 +321,12 @@ TEST_F(Page, TheStyleStaysAtAnyWidthAndDimensionsAreSolid)
 TEST_F(Page, LengthsAreScaledAndAnglesStay)
 {
     addTenfold();
-    add(roundOf(kind::circle, {500, 20}, 100));
-    EntityRecord arc = roundOf(kind::arc, {600, -20}, 50);
+    add(roundOf(Kind::circle, {500, 20}, 100));
+    EntityRecord arc = roundOf(Kind::arc, {600, -20}, 50);
     arc.a1 = 0.5;
     arc.a2 = 3.5;
     add(arc);
-    add(record(kind::point, {10, -30}));
+    add(record(Kind::point, {10, -30}));
     // The circle reaches from -80 to 120, the arc to -70: the middle of the page is at 20.
     EXPECT_THAT(printed("circle"), ElementsAre("circle 5360.0 7920.0 1000.0"));
     EXPECT_THAT(printed("arc"), ElementsAre("arc 6360.0 7520.0 500.0 0.5 3.5"));
@@ -377,7 +377,7 @@ TEST_F(Page, OnlyATextIsUnderlined)
     EntityRecord text = textAt({100, 0}, "text");
     text.p3.x = 1;
     add(text);
-    EntityRecord dimension = record(kind::linearDimension, {100, 0}, {200, 0});
+    EntityRecord dimension = record(Kind::linearDimension, {100, 0}, {200, 0});
     dimension.p3 = {1, 0};
     dimension.p5 = {150, 0};
     dimension.s2 = 12;
@@ -391,7 +391,7 @@ TEST_F(Page, OnlyATextIsUnderlined)
 TEST_F(Page, TheTextOfAnAngularDimensionStandsAtItsThirdAngle)
 {
     addTenfold();
-    EntityRecord angular = record(kind::angularDimension, {100, 0}, {200, 0});
+    EntityRecord angular = record(Kind::angularDimension, {100, 0}, {200, 0});
     angular.p5 = {150, 0};
     angular.s2 = 24;
     angular.a1 = 1;
@@ -403,7 +403,7 @@ TEST_F(Page, TheTextOfAnAngularDimensionStandsAtItsThirdAngle)
 
 TEST_F(Page, ALinearDimensionIsDrawnOfTheStrokesThatTheSurfaceHas)
 {
-    EntityRecord d = record(kind::linearDimension, {0, 100}, {1152, 100});
+    EntityRecord d = record(Kind::linearDimension, {0, 100}, {1152, 100});
     d.p3 = {1152, 0};
     d.p4 = {0, 0};
     d.p5 = {500, 50};
@@ -423,7 +423,7 @@ TEST_F(Page, ALinearDimensionIsDrawnOfTheStrokesThatTheSurfaceHas)
 TEST_F(Page, AnAngularDimensionHasItsArcOnThePage)
 {
     addTenfold();
-    EntityRecord d = record(kind::angularDimension, {500, 0}, {550, 0});
+    EntityRecord d = record(Kind::angularDimension, {500, 0}, {550, 0});
     d.p3 = {500, 0.5F};
     d.p4 = {600, 0};
     d.rad = 100;
@@ -446,7 +446,7 @@ TEST_F(Page, CoincidentPointsAndNumbersThatAreNoneDoNoHarm)
 {
     addTenfold();
     add(ellipseOf({5, 0}, {5, 0}, 1));
-    add(record(kind::linearDimension));
+    add(record(Kind::linearDimension));
     EntityRecord odd = lineOf({NAN, 0}, {INFINITY, 0});
     add(odd);
     EXPECT_THAT(printed("line"), Contains("line 360.0 7920.0 11880.0 7920.0"));

@@ -17,7 +17,7 @@ using fake::Ops;
 EntityRecord linearRecord()
 {
     EntityRecord r;
-    r.kind = kind::linearDimension;
+    r.kind = Kind::linearDimension;
     r.p1 = {100, 400};
     r.p2 = {700, 400};
     r.p3 = {700, 300};
@@ -35,7 +35,7 @@ EntityRecord linearRecord()
 EntityRecord angularRecord()
 {
     EntityRecord r;
-    r.kind = kind::angularDimension;
+    r.kind = Kind::angularDimension;
     r.p1 = {300, 400};
     r.p2 = {400, 400};
     r.p3 = {300, 350};
@@ -55,7 +55,7 @@ EntityRecord angularRecord()
 EntityRecord leaderRecord()
 {
     EntityRecord r = linearRecord();
-    r.kind = kind::leader;
+    r.kind = Kind::leader;
     r.p1 = {100, 400};
     r.p2 = {500, 400};
     r.p3 = {564, 400};
@@ -211,12 +211,12 @@ TEST_F(DimensionPainting, LinearIsPaintedWhileOnePointIsNotBeyondTheSide)
 
 TEST_F(DimensionPainting, TheOthersAreNeverCulled)
 {
-    for (const std::int16_t kind : {kind::radialDimension, kind::leader, kind::angularDimension}) {
+    for (const Kind kind : {Kind::radialDimension, Kind::leader, Kind::angularDimension}) {
         EntityRecord r = moved(angularRecord(), {-50000, 0});
         r.kind = kind;
         s.store.entCount = 1;
         add(r);
-        EXPECT_EQ(fake::only(redrawn(), "text").size(), 1U) << kind;
+        EXPECT_EQ(fake::only(redrawn(), "text").size(), 1U) << numberOf(kind);
     }
 }
 

@@ -46,7 +46,7 @@ Ops strokesOf(const DimensionShape& d)
 DimensionShape linear(float style, float length)
 {
     DimensionShape d;
-    d.kind = kind::linearDimension;
+    d.kind = Kind::linearDimension;
     d.p1 = {0, 0};
     d.p2 = {length, 0};
     d.p3 = {length, -200};
@@ -126,7 +126,7 @@ TEST(LinearDimStrokes, WithoutAnArrowStyleAreTheExtensionLinesAlone)
 TEST(LinearDimStrokes, FollowASlantedLine)
 {
     DimensionShape d;
-    d.kind = kind::linearDimension;
+    d.kind = Kind::linearDimension;
     d.p1 = {80, 60};
     d.p2 = {380, -340};
     d.p3 = {300, -400};
@@ -164,7 +164,7 @@ TEST(LinearDimStrokes, LeaveOutADimensionLineOfNoLength)
 DimensionShape radial(float style, float radius)
 {
     DimensionShape d;
-    d.kind = kind::radialDimension;
+    d.kind = Kind::radialDimension;
     d.p1 = {0, 0};
     d.p2 = {300, -400};
     d.p3 = {348, -400};
@@ -222,7 +222,7 @@ TEST(RadialDimStrokes, WithTheElbowOnTheCentreHaveNoArrow)
 DimensionShape leader(float style)
 {
     DimensionShape d;
-    d.kind = kind::leader;
+    d.kind = Kind::leader;
     d.p1 = {0, 0};
     d.p2 = {300, -400};
     d.p3 = {348, -400};
@@ -258,7 +258,7 @@ TEST(LeaderStrokes, OfNoLengthHaveNoArrow)
 DimensionShape angular(std::int16_t style)
 {
     DimensionShape d;
-    d.kind = kind::angularDimension;
+    d.kind = Kind::angularDimension;
     d.p1 = {0, 0};
     d.p2 = {200, 0};
     d.p3 = {0, -100};
@@ -314,7 +314,7 @@ TEST(DimensionStrokes, OfOtherKindsAreNone)
     constexpr std::int16_t others[] = {-1, 0, 1, 6, 11, 17, 24, 32767};
     for (const std::int16_t other : others) {
         DimensionShape d = linear(arrow::closed, 600);
-        d.kind = other;
+        d.kind = Kind{other};
         EXPECT_TRUE(strokesOf(d).empty()) << other;
     }
 }
@@ -344,7 +344,7 @@ TEST(DimensionStrokes, AreTheSameFromARecordAndFromItsSlot)
 {
     const auto store = std::make_unique<EntityStore>();
     EntityRecord r;
-    r.kind = kind::angularDimension;
+    r.kind = Kind::angularDimension;
     r.p1 = {1, 2};
     r.p2 = {200, 3};
     r.p3 = {4, -100};

@@ -13,7 +13,7 @@ namespace {
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinite = std::numeric_limits<float>::infinity();
 
-EntityRecord record(std::int16_t kind, Point p1, Point p2 = {}, Point p3 = {}, Point p4 = {}, Point p5 = {})
+EntityRecord record(Kind kind, Point p1, Point p2 = {}, Point p3 = {}, Point p4 = {}, Point p5 = {})
 {
     EntityRecord r;
     r.kind = kind;
@@ -50,14 +50,16 @@ TEST(EntityBounds, EachKindFeedsItsReferencePoints)
         IntegerBox expected;
     };
     const Row rows[] = {
-        {"line", record(1, west, south, farAway, farAway, farAway), box(-100, 1, 4, 400)},
-        {"arc without its centre", record(3, farAway, west, north, east, farAway), box(-100, -200, 300, 3)},
-        {"point", record(5, west, farAway, farAway, farAway, farAway), box(-100, 1, -100, 1)},
-        {"linear dimension without p4", record(7, west, north, east, farAway, south),
+        {"line", record(Kind::line, west, south, farAway, farAway, farAway), box(-100, 1, 4, 400)},
+        {"arc without its centre", record(Kind::arc, farAway, west, north, east, farAway),
+         box(-100, -200, 300, 3)},
+        {"point", record(Kind::point, west, farAway, farAway, farAway, farAway), box(-100, 1, -100, 1)},
+        {"linear dimension without p4", record(Kind::linearDimension, west, north, east, farAway, south),
          box(-100, -200, 300, 400)},
-        {"radial dimension", record(8, west, farAway, farAway, farAway, south), box(-100, 1, 4, 400)},
-        {"leader", record(9, north, farAway, east, farAway, farAway), box(2, -200, 300, 3)},
-        {"angular dimension without p4", record(10, west, north, east, farAway, south),
+        {"radial dimension", record(Kind::radialDimension, west, farAway, farAway, farAway, south),
+         box(-100, 1, 4, 400)},
+        {"leader", record(Kind::leader, north, farAway, east, farAway, farAway), box(2, -200, 300, 3)},
+        {"angular dimension without p4", record(Kind::angularDimension, west, north, east, farAway, south),
          box(-100, -200, 300, 400)},
     };
     for (const Row& row : rows) EXPECT_EQ(boxOf(row.r), row.expected) << row.what;
@@ -65,24 +67,27 @@ TEST(EntityBounds, EachKindFeedsItsReferencePoints)
 
 TEST(EntityBounds, ACircleFeedsItsRadiusBothWays)
 {
-    EntityRecord r = record(2, {10, 20}, farAway);
+    EntityRecord r = record(Kind::circle, {10, 20}, farAway);
     r.rad = 5;
     EXPECT_EQ(boxOf(r), box(5, 15, 15, 25));
 }
 
 TEST(EntityBounds, AnEllipseFeedsTheEndsOfBothAxes)
 {
-    EXPECT_EQ(boxOf(record(4, {110, 50}, {10, 50}, {0.5F, 9000})), box(-90, 0, 110, 100)) << "level";
-    EXPECT_EQ(boxOf(record(4, {10, 150}, {10, 50}, {0.25F, 0})), box(-15, -50, 35, 150)) << "upright";
+    EXPECT_EQ(boxOf(record(Kind::ellipse, {110, 50}, {10, 50}, {0.5F, 9000})), box(-90, 0, 110, 100))
+        << "level";
+    EXPECT_EQ(boxOf(record(Kind::ellipse, {10, 150}, {10, 50}, {0.25F, 0})), box(-15, -50, 35, 150))
+        << "upright";
     // First axis (30, 40) from the centre, the second (-20, 15) and its opposite: not the box of the curve.
-    EXPECT_EQ(boxOf(record(4, {30, 40}, {0, 0}, {0.5F, 0})), box(-30, -40, 30, 40)) << "turned";
-    EXPECT_EQ(boxOf(record(4, {30, 40}, {0, 0}, {2, 0})), box(-80, -60, 80, 60)) << "second axis the longer";
-    EXPECT_EQ(boxOf(record(4, {7, 8}, {7, 8}, {0.5F, 0})), box(7, 8, 7, 8)) << "no first axis";
+    EXPECT_EQ(boxOf(record(Kind::ellipse, {30, 40}, {0, 0}, {0.5F, 0})), box(-30, -40, 30, 40)) << "turned";
+    EXPECT_EQ(boxOf(record(Kind::ellipse, {30, 40}, {0, 0}, {2, 0})), box(-80, -60, 80, 60))
+        << "second axis the longer";
+    EXPECT_EQ(boxOf(record(Kind::ellipse, {7, 8}, {7, 8}, {0.5F, 0})), box(7, 8, 7, 8)) << "no first axis";
 }
 
 TEST(EntityBounds, ATextFeedsTheCornersOfItsBox)
 {
-    EntityRecord r = record(6, {100, 200}, {48, 0}, {}, farAway);
+    EntityRecord r = record(Kind::text, {100, 200}, {48, 0}, {}, farAway);
     EXPECT_EQ(boxOf(r, 300), box(100, 200, 400, 248)) << "level";
     r.p2.y = 1;
     EXPECT_EQ(boxOf(r, 300), box(100, 200, 400, 248)) << "justification does not matter";
@@ -99,21 +104,21 @@ TEST(EntityBounds, OtherKindsFeedNothing)
 {
     constexpr std::int16_t others[] = {-32768, -1, 0, 11, 12, 16, 20, 24, 25, 30, 35, 32767};
     for (const std::int16_t kind : others)
-        EXPECT_FALSE(boxOf(record(kind, west, north, east, south)).fed()) << kind;
+        EXPECT_FALSE(boxOf(record(Kind{kind}, west, north, east, south)).fed()) << kind;
 }
 
 TEST(EntityBounds, CoordinatesAreRoundedToTheNearestTiesToEven)
 {
-    EXPECT_EQ(boxOf(record(1, {0.5F, 1.5F}, {2.5F, 3.5F})), box(0, 2, 2, 4));
-    EXPECT_EQ(boxOf(record(1, {-0.5F, -1.5F}, {-2.6F, -2.4F})), box(-3, -2, 0, -2));
+    EXPECT_EQ(boxOf(record(Kind::line, {0.5F, 1.5F}, {2.5F, 3.5F})), box(0, 2, 2, 4));
+    EXPECT_EQ(boxOf(record(Kind::line, {-0.5F, -1.5F}, {-2.6F, -2.4F})), box(-3, -2, 0, -2));
 }
 
 TEST(EntityBounds, ACoordinateThatDoesNotFitIsSkipped)
 {
-    EXPECT_EQ(boxOf(record(1, {nan, 7}, {5, infinite})), box(5, 7, 5, 7));
-    EXPECT_EQ(boxOf(record(1, {3e9F, -1e30F}, {5, 6})), box(5, 6, 5, 6));
-    EXPECT_FALSE(boxOf(record(1, {nan, 7}, {-infinite, 8})).fed()) << "no x at all";
-    EntityRecord circle = record(2, {10, 20});
+    EXPECT_EQ(boxOf(record(Kind::line, {nan, 7}, {5, infinite})), box(5, 7, 5, 7));
+    EXPECT_EQ(boxOf(record(Kind::line, {3e9F, -1e30F}, {5, 6})), box(5, 6, 5, 6));
+    EXPECT_FALSE(boxOf(record(Kind::line, {nan, 7}, {-infinite, 8})).fed()) << "no x at all";
+    EntityRecord circle = record(Kind::circle, {10, 20});
     circle.rad = infinite;
     EXPECT_FALSE(boxOf(circle).fed());
 }
@@ -133,7 +138,7 @@ TEST(DrawingBounds, OnlyWhatIsShownCounts)
     const Stat stats[] = {Stat::none, Stat::on, Stat::sel, Stat::off, Stat::out, Stat::on};
     for (std::int32_t i = 0; i < 6; ++i) {
         const auto at = static_cast<float>(i * 10);
-        store.setRecord(i, record(5, {at, at}));
+        store.setRecord(i, record(Kind::point, {at, at}));
         store.setStat(i, stats[i]);
     }
     store.entCount = 5; // the last one lies beyond the drawing
@@ -143,9 +148,9 @@ TEST(DrawingBounds, OnlyWhatIsShownCounts)
 TEST(DrawingBounds, OnlyTextsAreMeasured)
 {
     EntityStore store;
-    EntityRecord text = record(6, {0, 0}, {10, 0});
+    EntityRecord text = record(Kind::text, {0, 0}, {10, 0});
     text.t1 = "wide";
-    store.setRecord(1, record(5, {0, 0}));
+    store.setRecord(1, record(Kind::point, {0, 0}));
     store.setRecord(2, text);
     store.setStat(1, Stat::on);
     store.setStat(2, Stat::on);

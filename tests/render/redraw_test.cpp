@@ -20,7 +20,7 @@ struct Redraw : testing::Test {
         readViewLimits(s, pic1);
     }
 
-    void add(std::int16_t kind, Point p1, Point p2 = {}, float rad = 0, Stat stat = Stat::on)
+    void add(Kind kind, Point p1, Point p2 = {}, float rad = 0, Stat stat = Stat::on)
     {
         EntityRecord r;
         r.kind = kind;
@@ -29,8 +29,8 @@ struct Redraw : testing::Test {
         r.rad = rad;
         r.color = 255;
         r.style = 1;
-        if (kind == kind::ellipse) r.p3.x = 0.5F;
-        if (kind == kind::arc) r.a2 = 1;
+        if (kind == Kind::ellipse) r.p3.x = 0.5F;
+        if (kind == Kind::arc) r.a2 = 1;
         s.store.setRecord(s.store.entCount, r);
         s.store.setStat(s.store.entCount, stat);
         ++s.store.entCount;
@@ -56,9 +56,9 @@ TEST_F(Redraw, OfAnEmptyDrawingJustClearsAndKeepsThePicture)
 
 TEST_F(Redraw, PaintsInSlotOrderEachInItsOwnPen)
 {
-    add(kind::line, {0, 0}, {10, 5});
-    add(kind::circle, {100, 100}, {}, 50);
-    add(kind::point, {7, 8});
+    add(Kind::line, {0, 0}, {10, 5});
+    add(Kind::circle, {100, 100}, {}, 50);
+    add(Kind::point, {7, 8});
     const Ops ops = painted();
     ASSERT_GE(ops.size(), 7U);
     const Ops line(ops.begin(), ops.begin() + 4);
@@ -74,28 +74,28 @@ TEST_F(Redraw, PaintsInSlotOrderEachInItsOwnPen)
 
 TEST_F(Redraw, NeverPaintsHiddenDeletedOrForeignSlots)
 {
-    add(kind::line, {0, 0}, {10, 5}, 0, Stat::off);
-    add(kind::line, {0, 0}, {10, 5}, 0, Stat::out);
+    add(Kind::line, {0, 0}, {10, 5}, 0, Stat::off);
+    add(Kind::line, {0, 0}, {10, 5}, 0, Stat::out);
     constexpr std::int16_t others[] = {11, 12, 15, 20, 24, 25, 30, 35, 0, -1, 32767};
-    for (const std::int16_t other : others) add(other, {0, 0}, {10, 5}, 5);
+    for (const std::int16_t other : others) add(Kind{other}, {0, 0}, {10, 5}, 5);
     EXPECT_TRUE(fake::marks(painted()).empty());
 }
 
 TEST_F(Redraw, NeverPaintsTheHeader)
 {
     EntityRecord r;
-    r.kind = kind::line;
+    r.kind = Kind::line;
     r.p2 = {10, 10};
     s.store.setRecord(0, r);
     s.store.setStat(0, Stat::on);
-    add(kind::point, {7, 8});
+    add(Kind::point, {7, 8});
     EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});
 }
 
 TEST_F(Redraw, ShowsTheSelectionDottedWhiteAndEllipsesAShadeYellower)
 {
-    add(kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
-    add(kind::ellipse, {150, 100}, {100, 100}, 0, Stat::sel);
+    add(Kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
+    add(Kind::ellipse, {150, 100}, {100, 100}, 0, Stat::sel);
     const Ops ops = painted();
     const Ops colors = {"setColor 16777215", "setColor 1703935", "setColor 16777215"};
     EXPECT_EQ(fake::only(ops, "setColor"), colors);
@@ -106,8 +106,8 @@ TEST_F(Redraw, ShowsTheSelectionDottedWhiteAndEllipsesAShadeYellower)
 
 TEST_F(Redraw, LeavesOutTheSelectionWhileItFollowsThePointer)
 {
-    add(kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
-    add(kind::point, {7, 8});
+    add(Kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
+    add(Kind::point, {7, 8});
     s.workAngle = 25;
     EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});
     s.workAngle = 24.9;
@@ -116,7 +116,7 @@ TEST_F(Redraw, LeavesOutTheSelectionWhileItFollowsThePointer)
 
 struct CullRow {
     const char* what;
-    std::int16_t kind;
+    Kind kind;
     Point p1, p2;
     float rad;
     bool painted;
@@ -125,23 +125,23 @@ struct CullRow {
 TEST_F(Redraw, SkipsWhatLiesWhollyBeyondOneSideAndCountsTheEdgeAsInside)
 {
     const CullRow rows[] = {
-        {"a line on the left edge", kind::line, {-5, 10}, {0, 10}, 0, true},
-        {"a line on the right edge", kind::line, {1000, 10}, {1200, 10}, 0, true},
-        {"a line on the top edge", kind::line, {5, -10}, {5, 0}, 0, true},
-        {"a line on the bottom edge", kind::line, {5, 800}, {5, 900}, 0, true},
-        {"a line left of it", kind::line, {-5, 10}, {-0.1F, 20}, 0, false},
-        {"a line right of it", kind::line, {1000.1F, 10}, {1200, 20}, 0, false},
-        {"a line above it", kind::line, {5, -10}, {9, -0.1F}, 0, false},
-        {"a line below it", kind::line, {5, 800.1F}, {9, 900}, 0, false},
-        {"a line that passes outside a corner", kind::line, {-100, 10}, {10, -100}, 0, true},
-        {"a circle that touches the left edge", kind::circle, {-10, 10}, {}, 10, true},
-        {"a circle beyond it", kind::circle, {-10.5F, 10}, {}, 10, false},
-        {"a circle that touches the bottom", kind::circle, {10, 810}, {}, 10, true},
-        {"a circle beyond it", kind::circle, {10, 811}, {}, 10, false},
-        {"an arc by its whole circle", kind::arc, {-9, 10}, {}, 10, true},
-        {"an arc beyond", kind::arc, {-11, 10}, {}, 10, false},
-        {"a point outside is painted all the same", kind::point, {-50, -50}, {}, 0, true},
-        {"an ellipse beyond", kind::ellipse, {-20, 100}, {-50, 100}, 0, false},
+        {"a line on the left edge", Kind::line, {-5, 10}, {0, 10}, 0, true},
+        {"a line on the right edge", Kind::line, {1000, 10}, {1200, 10}, 0, true},
+        {"a line on the top edge", Kind::line, {5, -10}, {5, 0}, 0, true},
+        {"a line on the bottom edge", Kind::line, {5, 800}, {5, 900}, 0, true},
+        {"a line left of it", Kind::line, {-5, 10}, {-0.1F, 20}, 0, false},
+        {"a line right of it", Kind::line, {1000.1F, 10}, {1200, 20}, 0, false},
+        {"a line above it", Kind::line, {5, -10}, {9, -0.1F}, 0, false},
+        {"a line below it", Kind::line, {5, 800.1F}, {9, 900}, 0, false},
+        {"a line that passes outside a corner", Kind::line, {-100, 10}, {10, -100}, 0, true},
+        {"a circle that touches the left edge", Kind::circle, {-10, 10}, {}, 10, true},
+        {"a circle beyond it", Kind::circle, {-10.5F, 10}, {}, 10, false},
+        {"a circle that touches the bottom", Kind::circle, {10, 810}, {}, 10, true},
+        {"a circle beyond it", Kind::circle, {10, 811}, {}, 10, false},
+        {"an arc by its whole circle", Kind::arc, {-9, 10}, {}, 10, true},
+        {"an arc beyond", Kind::arc, {-11, 10}, {}, 10, false},
+        {"a point outside is painted all the same", Kind::point, {-50, -50}, {}, 0, true},
+        {"an ellipse beyond", Kind::ellipse, {-20, 100}, {-50, 100}, 0, false},
     };
     for (const CullRow& row : rows) {
         s.store.entCount = 1;
@@ -152,24 +152,24 @@ TEST_F(Redraw, SkipsWhatLiesWhollyBeyondOneSideAndCountsTheEdgeAsInside)
 
 TEST_F(Redraw, CullsAnEllipseByItsFirstAxisAboutItsCentre)
 {
-    add(kind::ellipse, {-20, 100}, {10, 100}); // radius 30 about (10, 100)
+    add(Kind::ellipse, {-20, 100}, {10, 100}); // radius 30 about (10, 100)
     EXPECT_FALSE(fake::marks(painted()).empty());
     s.store.entCount = 1;
-    add(kind::ellipse, {-20, 100}, {-60, 100}); // radius 40 about (-60, 100): it ends at -20
+    add(Kind::ellipse, {-20, 100}, {-60, 100}); // radius 40 about (-60, 100): it ends at -20
     EXPECT_TRUE(fake::marks(painted()).empty());
 }
 
 TEST_F(Redraw, GoesStraightToTheSurfaceAfterZoomAllForLinesAndCirclesAlone)
 {
-    add(kind::line, {-10000, 10}, {10000, 10});
-    add(kind::circle, {500, 400}, {}, 450);
+    add(Kind::line, {-10000, 10}, {10000, 10});
+    add(Kind::circle, {500, 400}, {}, 450);
     s.wholeViewFlag = 1;
     const Ops expected = {"line -10000 10 10000 10", "circle 500 400 450"};
     EXPECT_EQ(fake::marks(painted()), expected);
     s.wholeViewFlag = 0;
     EXPECT_GT(fake::marks(painted()).size(), 2U);
     s.store.entCount = 1;
-    add(kind::arc, {500, 400}, {}, 850);
+    add(Kind::arc, {500, 400}, {}, 850);
     s.wholeViewFlag = 1;
     EXPECT_TRUE(fake::only(painted(), "arc").empty()); // its painter is used as ever
 }
@@ -177,8 +177,8 @@ TEST_F(Redraw, GoesStraightToTheSurfaceAfterZoomAllForLinesAndCirclesAlone)
 TEST_F(Redraw, SkipsAnObjectWhoseCullFaultsAndGoesOn)
 {
     const float largest = std::numeric_limits<float>::max();
-    add(kind::circle, {largest, 400}, {}, largest); // its right end can't be had
-    add(kind::point, {7, 8});
+    add(Kind::circle, {largest, 400}, {}, largest); // its right end can't be had
+    add(Kind::point, {7, 8});
     EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});
 }
 
@@ -187,12 +187,12 @@ TEST_F(Redraw, OfWildNumbersGoesOn)
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const float infinite = std::numeric_limits<float>::infinity();
     for (const float wild : {nan, infinite, -infinite, std::numeric_limits<float>::max()}) {
-        for (std::int16_t k = 1; k <= 10; ++k) {
-            add(k, {wild, 10}, {500, wild}, wild);
-            add(k, {500, 400}, {wild, wild}, 1);
+        for (const Kind kind : everyKind) {
+            add(kind, {wild, 10}, {500, wild}, wild);
+            add(kind, {500, 400}, {wild, wild}, 1);
         }
     }
-    add(kind::point, {7, 8});
+    add(Kind::point, {7, 8});
     EXPECT_EQ(fake::marks(painted()).back(), "point 7 8");
 }
 
@@ -208,8 +208,8 @@ TEST_F(Redraw, TakesThePixelFactorsFromTheSurface)
 
 TEST_F(Redraw, AfterDeselectingRefreshesToo)
 {
-    add(kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
-    add(kind::line, {0, 0}, {10, 5}, 0, Stat::off);
+    add(Kind::line, {0, 0}, {10, 5}, 0, Stat::sel);
+    add(Kind::line, {0, 0}, {10, 5}, 0, Stat::off);
     pic1.takeOps();
     deselectAll(s, pic1);
     EXPECT_EQ(s.store.stat[1], Stat::on);

@@ -17,7 +17,7 @@ using fake::Ops;
 EntityRecord textRecord()
 {
     EntityRecord r;
-    r.kind = kind::text;
+    r.kind = Kind::text;
     r.p1 = {500, 400};
     r.p2 = {48, 1};
     r.p4 = {380, 400};
@@ -114,7 +114,7 @@ TEST_F(TextPainting, IsUnderlinedByExactlyOne)
 TEST_F(TextPainting, ADimensionIsNotUnderlinedByACoordinateOfOne)
 {
     EntityRecord r = textRecord();
-    r.kind = kind::linearDimension;
+    r.kind = Kind::linearDimension;
     r.p3.x = 1;
     r.p5 = {7, 8};
     r.s2 = 24;
@@ -130,7 +130,7 @@ TEST_F(TextPainting, ADimensionIsNotUnderlinedByACoordinateOfOne)
 TEST_F(TextPainting, AnAnglesTextTurnsByItsThirdAngle)
 {
     EntityRecord r = textRecord();
-    r.kind = kind::angularDimension;
+    r.kind = Kind::angularDimension;
     r.a1 = 1;
     r.a3 = 60.5;
     EXPECT_EQ(dimLettering(r).degrees, 60.5);

@@ -34,7 +34,7 @@ void put(Desk& desk, const EntityRecord& r, Stat stat = Stat::on)
 EntityRecord lineRecord(Point a, Point b)
 {
     EntityRecord r;
-    r.kind = kind::line;
+    r.kind = Kind::line;
     r.p1 = a;
     r.p2 = b;
     return r;
@@ -81,7 +81,7 @@ TEST(ZoomAll, ShowsWhatIsOnOrSelectedAndNothingElse)
     put(desk, lineRecord({-900, 0}, {900, 0}), Stat::off);
     put(desk, lineRecord({0, -900}, {0, 900}), Stat::out);
     EntityRecord dead = lineRecord({5000, 5000}, {6000, 6000});
-    dead.kind = kind::header; // merged from another file
+    dead.kind = headerKind; // merged from another file
     put(desk, dead);
     desk.press("Command42"_c);
     expectScale(desk, {-7.5F, -5, 315, 210});
@@ -103,7 +103,7 @@ TEST(ZoomAll, OfASinglePointKeepsTheView)
 {
     Desk desk;
     EntityRecord point;
-    point.kind = kind::point;
+    point.kind = Kind::point;
     point.p1 = {50, 60};
     put(desk, point);
     desk.press("Command42"_c);

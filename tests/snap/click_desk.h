@@ -4,6 +4,7 @@
 // by 800: an object is meant within 24 units, and the view is 1200 wide.
 
 #include "geometry/angle.h"
+#include "kind_print.h"
 #include "model/session.h"
 #include "render/recording_canvas.h"
 #include "snap/snap.h"
@@ -23,7 +24,8 @@ struct Object {
     float rad = 0;
     double a1 = 0, a2 = 0;
     std::int32_t color = 0;
-    std::int16_t layer = 0, style = 0, kind = 0;
+    std::int16_t layer = 0, style = 0;
+    Kind kind = noKind;
 };
 
 class ClickDesk {
@@ -61,24 +63,24 @@ class ClickDesk {
     }
     std::int32_t line(Point a, Point b, Stat stat = Stat::on)
     {
-        return add({.p1 = a, .p2 = b, .kind = kind::line}, stat);
+        return add({.p1 = a, .p2 = b, .kind = Kind::line}, stat);
     }
     std::int32_t circle(Point centre, float radius, Stat stat = Stat::on)
     {
-        return add({.p1 = centre, .rad = radius, .kind = kind::circle}, stat);
+        return add({.p1 = centre, .rad = radius, .kind = Kind::circle}, stat);
     }
     std::int32_t arc(Point centre, float radius, double a1, double a2, Stat stat = Stat::on)
     {
-        Object r{.p1 = centre, .rad = radius, .a1 = a1, .a2 = a2, .kind = kind::arc};
+        Object r{.p1 = centre, .rad = radius, .a1 = a1, .a2 = a2, .kind = Kind::arc};
         r.p2 = polarPoint(centre, radius, a1);
         r.p3 = polarPoint(centre, radius, a2);
         return add(r, stat);
     }
     std::int32_t ellipse(Point axisEnd, Point centre, float ratio, Stat stat = Stat::on)
     {
-        return add({.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = kind::ellipse}, stat);
+        return add({.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = Kind::ellipse}, stat);
     }
-    std::int32_t point(Point at, Stat stat = Stat::on) { return add({.p1 = at, .kind = kind::point}, stat); }
+    std::int32_t point(Point at, Stat stat = Stat::on) { return add({.p1 = at, .kind = Kind::point}, stat); }
 
     void ortho(bool on) { s.controls["freecurs"_c].caption = on ? "Ortho/On" : "Ortho/Off"; }
 

@@ -24,11 +24,11 @@ TEST(Pick, EachKindIsPickedWhereItIs)
         Point mouse;
         bool picked;
     };
-    const Object line{.p1 = {100, 100}, .p2 = {200, 100}, .kind = kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = kind::circle};
-    const Object quarter{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = kind::arc};
-    const Object ellipse{.p1 = {500, 300}, .p2 = {400, 300}, .p3 = {0.5f, 0}, .kind = kind::ellipse};
-    const auto allPairs = [](std::int16_t kind) {
+    const Object line{.p1 = {100, 100}, .p2 = {200, 100}, .kind = Kind::line};
+    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
+    const Object quarter{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc};
+    const Object ellipse{.p1 = {500, 300}, .p2 = {400, 300}, .p3 = {0.5f, 0}, .kind = Kind::ellipse};
+    const auto allPairs = [](Kind kind) {
         return Object{.p1 = {100, 100},
                       .p2 = {200, 200},
                       .p3 = {300, 300},
@@ -49,21 +49,21 @@ TEST(Pick, EachKindIsPickedWhereItIs)
         {"its circle elsewhere", quarter, {250, 300}, false},
         {"an ellipse", ellipse, {400, 255}, true},
         {"within an ellipse", ellipse, {400, 300}, false},
-        {"a point", allPairs(kind::point), {105, 105}, true},
-        {"a text where it was entered", allPairs(kind::text), {105, 105}, true},
-        {"a text where it is painted", allPairs(kind::text), {405, 405}, false},
-        {"linear dimension at its text", allPairs(7), {505, 505}, true},
-        {"linear dimension at a measured point", allPairs(7), {105, 105}, false},
-        {"radial dimension at its text", allPairs(8), {505, 505}, true},
-        {"radial dimension at its elbow", allPairs(8), {205, 205}, false},
-        {"leader at its shoulder", allPairs(9), {205, 205}, true},
-        {"leader at its text", allPairs(9), {505, 505}, false},
-        {"angular dimension at its text", allPairs(10), {505, 505}, true},
-        {"angular dimension at its vertex", allPairs(10), {105, 105}, false},
-        {"piece of an associate", allPairs(11), {105, 105}, false},
-        {"name of a layer", allPairs(25), {105, 105}, false},
-        {"a kind that only an import knows", allPairs(35), {105, 105}, false},
-        {"a kind that nobody knows", allPairs(-3), {105, 105}, false},
+        {"a point", allPairs(Kind::point), {105, 105}, true},
+        {"a text where it was entered", allPairs(Kind::text), {105, 105}, true},
+        {"a text where it is painted", allPairs(Kind::text), {405, 405}, false},
+        {"linear dimension at its text", allPairs(Kind::linearDimension), {505, 505}, true},
+        {"linear dimension at a measured point", allPairs(Kind::linearDimension), {105, 105}, false},
+        {"radial dimension at its text", allPairs(Kind::radialDimension), {505, 505}, true},
+        {"radial dimension at its elbow", allPairs(Kind::radialDimension), {205, 205}, false},
+        {"leader at its shoulder", allPairs(Kind::leader), {205, 205}, true},
+        {"leader at its text", allPairs(Kind::leader), {505, 505}, false},
+        {"angular dimension at its text", allPairs(Kind::angularDimension), {505, 505}, true},
+        {"angular dimension at its vertex", allPairs(Kind::angularDimension), {105, 105}, false},
+        {"piece of an associate", allPairs(Kind{11}), {105, 105}, false},
+        {"name of a layer", allPairs(layerNameKind), {105, 105}, false},
+        {"a kind that only an import knows", allPairs(Kind{35}), {105, 105}, false},
+        {"a kind that nobody knows", allPairs(Kind{-3}), {105, 105}, false},
     };
     for (const Row& row : rows) {
         ClickDesk desk("Object Select");
@@ -128,9 +128,9 @@ TEST(Pick, TextEditFindsTextsAndDimensionsOnly)
     desk.line({100, 100}, {200, 100});
     desk.point({150, 100});
     EXPECT_EQ(pickedAt(desk, {150, 101}), nobody);
-    const auto text = desk.add({.p1 = {150, 115}, .kind = kind::text});
+    const auto text = desk.add({.p1 = {150, 115}, .kind = Kind::text});
     EXPECT_EQ(pickedAt(desk, {150, 101}), text);
-    const auto dimension = desk.add({.p5 = {150, 110}, .kind = kind::linearDimension});
+    const auto dimension = desk.add({.p5 = {150, 110}, .kind = Kind::linearDimension});
     EXPECT_EQ(pickedAt(desk, {150, 101}), dimension);
     desk.s.curFunc = "Radial Dimension";
     EXPECT_EQ(pickedAt(desk, {160, 101}), 1) << "any kind";
@@ -171,20 +171,20 @@ TEST(ObjectSelect, AClickOnNothingChangesNothing)
 
 TEST(ObjectSelect, TheClickIsRememberedForKinds1To6)
 {
-    for (std::int16_t kind = 1; kind <= 10; ++kind) {
+    for (const Kind kind : everyKind) {
         ClickDesk desk("Object Select");
         const Point text{105, 100};
         desk.add({.p1 = {100, 100}, .p2 = {100, 100}, .p5 = text, .rad = 5, .a2 = 6.28, .kind = kind});
         desk.s.mousePos = {103, 104};
-        ASSERT_TRUE(togglePick(desk.s, desk.pic1)) << kind;
-        EXPECT_EQ(desk.s.store.p5[1], kind <= 6 ? desk.s.mousePos : text) << kind;
+        ASSERT_TRUE(togglePick(desk.s, desk.pic1)) << numberOf(kind);
+        EXPECT_EQ(desk.s.store.p5[1], kind <= Kind::text ? desk.s.mousePos : text) << numberOf(kind);
     }
 }
 
 TEST(ObjectSelect, UnmarkingRemembersNoClick)
 {
     ClickDesk desk("Object Select");
-    desk.add({.p1 = {100, 100}, .p2 = {200, 100}, .p5 = {7, 8}, .kind = kind::line}, Stat::sel);
+    desk.add({.p1 = {100, 100}, .p2 = {200, 100}, .p5 = {7, 8}, .kind = Kind::line}, Stat::sel);
     desk.s.mousePos = {150, 104};
     ASSERT_TRUE(togglePick(desk.s, desk.pic1));
     EXPECT_EQ(desk.s.store.p5[1], (Point{7, 8}));

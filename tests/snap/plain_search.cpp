@@ -116,23 +116,23 @@ std::vector<Point> ellipseEnds(const EntityStore& store, std::size_t i)
 std::optional<Near> nearestOf(const EntityStore& store, std::size_t i, Point p, Arcs arcs)
 {
     switch (store.kind[i]) {
-    case 1:
+    case Kind::line:
         return onLine(p, store.p1[i], store.p2[i]);
-    case 2:
+    case Kind::circle:
         return onCircle(p, store.p1[i], store.rad[i]);
-    case 3:
+    case Kind::arc:
         if (!meetsSweep(angleOf(store.p1[i], p), store.a1[i], store.a2[i], arcs)) return std::nullopt;
         return onCircle(p, store.p1[i], store.rad[i]);
-    case 4:
+    case Kind::ellipse:
         return onEllipse(p, store.p1[i], store.p2[i], store.p3[i].x);
-    case 5:
-    case 6:
+    case Kind::point:
+    case Kind::text:
         return atPoint(p, store.p1[i]);
-    case 9:
+    case Kind::leader:
         return atPoint(p, store.p2[i]);
-    case 7:
-    case 8:
-    case 10:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::angularDimension:
         return atPoint(p, store.p5[i]);
     default:
         return std::nullopt;
@@ -159,17 +159,17 @@ std::vector<Point> offeredPoints(const EntityStore& store, std::size_t i)
 {
     if (!isShown(store, i)) return {};
     switch (store.kind[i]) {
-    case 1:
-    case 6:
+    case Kind::line:
+    case Kind::text:
         return {store.p1[i], store.p2[i]};
-    case 2:
-    case 5:
+    case Kind::circle:
+    case Kind::point:
         return {store.p1[i]};
-    case 3:
+    case Kind::arc:
         return {store.p1[i], store.p2[i], store.p3[i]};
-    case 4:
+    case Kind::ellipse:
         return ellipseEnds(store, i);
-    case 9:
+    case Kind::leader:
         return {store.p5[i], store.p1[i], store.p2[i]};
     default:
         return {};
@@ -181,24 +181,24 @@ std::vector<Point> windowPoints(const EntityStore& store, std::size_t i)
     const Point p1 = store.p1[i];
     const float r = store.rad[i];
     switch (store.kind[i]) {
-    case 1:
+    case Kind::line:
         return {p1, store.p2[i]};
-    case 2:
+    case Kind::circle:
         return {{p1.x - r, p1.y - r}, {p1.x + r, p1.y + r}};
-    case 3:
+    case Kind::arc:
         return {store.p2[i], store.p3[i], store.p4[i]};
-    case 4:
+    case Kind::ellipse:
         return ellipseEnds(store, i);
-    case 5:
-    case 6:
+    case Kind::point:
+    case Kind::text:
         return {p1};
-    case 7:
+    case Kind::linearDimension:
         return {store.p3[i], store.p4[i], store.p5[i]};
-    case 8:
+    case Kind::radialDimension:
         return {store.p2[i], store.p5[i]};
-    case 9:
+    case Kind::leader:
         return {store.p2[i], store.p3[i]};
-    case 10:
+    case Kind::angularDimension:
         return {store.p4[i], store.p5[i]};
     default:
         return {};

@@ -23,7 +23,7 @@ std::optional<Near> nearestOf(const EntityStore& store, std::size_t i, Point p, 
 struct Rule {
     Point from;
     float radius;
-    int firstKind, lastKind;
+    Kind firstKind, lastKind;
     Arcs arcs;
     std::int32_t skipped = -1;
     bool limitCounts = false; // an object at the very radius is a hit: so in a pick, not in a snap

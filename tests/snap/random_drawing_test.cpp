@@ -40,10 +40,10 @@ Stat throwStat(Dice& dice)
     return stats[dice.below(6)];
 }
 
-std::int16_t throwKind(Dice& dice)
+Kind throwKind(Dice& dice)
 {
     constexpr std::int16_t kinds[] = {1, 1, 1, 2, 2, 3, 3, 4, 5, 6, 7, 8, 9, 10, 11, 25, 30};
-    return kinds[dice.below(17)];
+    return Kind{kinds[dice.below(17)]};
 }
 
 // Whole numbers, lines along the axes, circles right over or beside the click: every distance is exact, and
@@ -56,11 +56,11 @@ Object throwOnGrid(Dice& dice, Point click)
     Object o{
         .p1 = point(), .p2 = point(), .p3 = point(), .p4 = point(), .p5 = point(), .kind = throwKind(dice)};
     o.rad = static_cast<float>(dice.below(20)); // small numbers
-    if (o.kind == 1) (dice.below(2) ? o.p2.x = o.p1.x : o.p2.y = o.p1.y);
-    if (o.kind == 2 || o.kind == 3) (dice.below(2) ? o.p1.x = click.x : o.p1.y = click.y);
+    if (o.kind == Kind::line) (dice.below(2) ? o.p2.x = o.p1.x : o.p2.y = o.p1.y);
+    if (isRound(o.kind)) (dice.below(2) ? o.p1.x = click.x : o.p1.y = click.y);
     o.a1 = 0.1 + 1.5707963 * dice.below(4);
     o.a2 = 0.1 + 1.5707963 * dice.below(4);
-    if (o.kind == 4) {
+    if (o.kind == Kind::ellipse) {
         o.p1 = {o.p2.x + static_cast<float>(1 + dice.below(12)), o.p2.y}; // small numbers
         o.p3.x = 0.5f * static_cast<float>(1 + dice.below(4));            // small numbers
     }
@@ -89,8 +89,9 @@ TEST(RandomDrawing, PickTakesTheNearestAndOfEqualsTheLast)
         desk.s.mousePos = click;
         const bool textEdit = run % 3 == 0;
         desk.s.curFunc = textEdit ? "Text Edit" : "Object Select";
-        const std::int32_t wanted = plain::search(
-            desk.s.store, {click, radius, textEdit ? 6 : 1, 10, Arcs::onSweepAndABit, -1, true});
+        const std::int32_t wanted =
+            plain::search(desk.s.store, {click, radius, textEdit ? Kind::text : Kind::line,
+                                         Kind::angularDimension, Arcs::onSweepAndABit, -1, true});
         ASSERT_EQ(pickObject(desk.s, desk.pic1), wanted) << run;
         picked += wanted >= 0;
     }
@@ -105,7 +106,8 @@ TEST(RandomDrawing, SnapObjectGivesTheNearestPointOfTheNearestObject)
         const Point click = throwClick(dice);
         drawOnGrid(desk, dice, click);
         const Point found = desk.snapped("so", click);
-        const std::int32_t wanted = plain::search(desk.s.store, {click, radius, 1, 5, Arcs::whole});
+        const std::int32_t wanted =
+            plain::search(desk.s.store, {click, radius, Kind::line, Kind::point, Arcs::whole});
         ASSERT_EQ(desk.s.snapBestIndex, wanted) << run;
         if (wanted < 0) {
             ASSERT_EQ(found, click) << run;
@@ -124,7 +126,7 @@ TEST(RandomDrawing, SnapIntersectionTakesTheTwoNearest)
         const Point click = throwClick(dice);
         drawOnGrid(desk, dice, click);
         desk.snapped("si", click);
-        const plain::Rule rule{click, radius, 1, 3, Arcs::onSweep};
+        const plain::Rule rule{click, radius, Kind::line, Kind::arc, Arcs::onSweep};
         const std::int32_t first = plain::search(desk.s.store, rule);
         ASSERT_EQ(desk.s.snapBestIndex, first) << run;
         plain::Rule again = rule;
@@ -141,10 +143,13 @@ TEST(RandomDrawing, SnapPercentageAndMidpointGoByTheNearestObject)
         const Point click = throwClick(dice);
         drawOnGrid(desk, dice, click);
         desk.snapped("sf", click);
-        ASSERT_EQ(desk.s.snapBestIndex, plain::search(desk.s.store, {click, radius, 1, 3, Arcs::onSweep}))
+        ASSERT_EQ(desk.s.snapBestIndex,
+                  plain::search(desk.s.store, {click, radius, Kind::line, Kind::arc, Arcs::onSweep}))
             << run;
         desk.snapped("sm", click);
-        ASSERT_EQ(desk.s.snapBestIndex, plain::search(desk.s.store, {click, 1200, 1, 3, Arcs::whole})) << run;
+        ASSERT_EQ(desk.s.snapBestIndex,
+                  plain::search(desk.s.store, {click, 1200, Kind::line, Kind::arc, Arcs::whole}))
+            << run;
     }
 }
 
@@ -208,7 +213,7 @@ Object throwAnywhere(Dice& dice, Point about)
     o.rad = dice.between(0, 300);
     o.a1 = dice.between(0, 6.28f);
     o.a2 = dice.between(0, 6.28f);
-    if (o.kind == 4) o.p3.x = dice.between(0.1f, 2);
+    if (o.kind == Kind::ellipse) o.p3.x = dice.between(0.1f, 2);
     return o;
 }
 
@@ -229,15 +234,16 @@ TEST(RandomDrawing, NothingNearerIsEverPassedOver)
         desk.s.store.entCount = 1;
         for (int i = 0; i < 30; ++i) desk.add(throwAnywhere(dice, {away, away}), throwStat(dice));
         desk.s.mousePos = click;
-        const auto compare = [&](std::int32_t found, int lastKind, Arcs arcs) {
-            const std::int32_t wanted = plain::search(desk.s.store, {click, radius, 1, lastKind, arcs});
+        const auto compare = [&](std::int32_t found, Kind lastKind, Arcs arcs) {
+            const std::int32_t wanted =
+                plain::search(desk.s.store, {click, radius, Kind::line, lastKind, arcs});
             EXPECT_NEAR(distanceTo(desk.s.store, found, click, arcs),
                         distanceTo(desk.s.store, wanted, click, arcs), 0.01)
                 << run;
         };
-        compare(pickObject(desk.s, desk.pic1), 10, Arcs::onSweepAndABit);
+        compare(pickObject(desk.s, desk.pic1), Kind::angularDimension, Arcs::onSweepAndABit);
         desk.snapped("so", click);
-        compare(desk.s.snapBestIndex, 5, Arcs::whole);
+        compare(desk.s.snapBestIndex, Kind::point, Arcs::whole);
     }
 }
 

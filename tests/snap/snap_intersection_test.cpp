@@ -14,17 +14,17 @@ using fake::Object;
 
 Object lineFrom(Point a, Point b)
 {
-    return {.p1 = a, .p2 = b, .kind = kind::line};
+    return {.p1 = a, .p2 = b, .kind = Kind::line};
 }
 
 Object circleAt(Point centre, float radius)
 {
-    return {.p1 = centre, .rad = radius, .kind = kind::circle};
+    return {.p1 = centre, .rad = radius, .kind = Kind::circle};
 }
 
 Object arcAt(Point centre, float radius, double a1, double a2)
 {
-    return {.p1 = centre, .rad = radius, .a1 = a1, .a2 = a2, .kind = kind::arc};
+    return {.p1 = centre, .rad = radius, .a1 = a1, .a2 = a2, .kind = Kind::arc};
 }
 
 TEST(SnapIntersection, MeetsTwoObjects)
@@ -83,9 +83,9 @@ TEST(SnapIntersection, TheClickIsKeptWhereTwoObjectsDoNotMeet)
         {"no object at all", circle, circleAt({900, 300}, 50), {600, 600}},
         {"an ellipse is none",
          circle,
-         {.p1 = {350, 300}, .p2 = {300, 300}, .p3 = {1, 0}, .kind = kind::ellipse},
+         {.p1 = {350, 300}, .p2 = {300, 300}, .p3 = {1, 0}, .kind = Kind::ellipse},
          {352, 301}},
-        {"a point is none", circle, {.p1 = {350, 300}, .kind = kind::point}, {352, 301}},
+        {"a point is none", circle, {.p1 = {350, 300}, .kind = Kind::point}, {352, 301}},
         {"an arc is met on its sweep only",
          lineFrom({100, 300}, {500, 300}),
          arcAt({300, 300}, 50, 0.2, 1.5),

@@ -17,15 +17,15 @@ TEST(SnapPercentage, CountsFromTheEndNearerToThePointer)
         float share;
         Point mouse, snapped;
     };
-    const Object line{.p1 = {100, 100}, .p2 = {200, 150}, .kind = kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = kind::circle};
+    const Object line{.p1 = {100, 100}, .p2 = {200, 150}, .kind = Kind::line};
+    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
     const Object arc{.p1 = {300, 300},
                      .p2 = {350, 300},
                      .p3 = {250, 300},
                      .rad = 50,
                      .a1 = 0,
                      .a2 = 3.1415927,
-                     .kind = kind::arc};
+                     .kind = Kind::arc};
     // From half past ten through three o'clock to six.
     const Object over0{.p1 = {300, 300},
                        .p2 = {264.645f, 264.645f},
@@ -33,14 +33,14 @@ TEST(SnapPercentage, CountsFromTheEndNearerToThePointer)
                        .rad = 50,
                        .a1 = 2.3561945,
                        .a2 = 4.712389 - 6.2831853 + 6.2831853,
-                       .kind = kind::arc};
+                       .kind = Kind::arc};
     const Object through0{.p1 = {300, 300},
                           .p2 = {300, 350},
                           .p3 = {300, 250},
                           .rad = 50,
                           .a1 = 4.712389,
                           .a2 = 1.5707963,
-                          .kind = kind::arc};
+                          .kind = Kind::arc};
     const Row rows[] = {
         {"near the start of a line", line, 0.25f, {110, 105}, {125, 112.5f}},
         {"near its end", line, 0.25f, {190, 145}, {175, 137.5f}},
@@ -108,25 +108,25 @@ TEST(SnapMidpoint, GivesTheMiddleOfEachKind)
         Point mouse, snapped;
     };
     const Row rows[] = {
-        {"a line", {.p1 = {100, 100}, .p2 = {200, 150}, .kind = kind::line}, {110, 106}, {150, 125}},
+        {"a line", {.p1 = {100, 100}, .p2 = {200, 150}, .kind = Kind::line}, {110, 106}, {150, 125}},
         {"a circle's leftmost point",
-         {.p1 = {300, 300}, .rad = 50, .kind = kind::circle},
+         {.p1 = {300, 300}, .rad = 50, .kind = Kind::circle},
          {352, 300},
          {250, 300}},
         {"whatever its angles hold",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 1, .a2 = 2, .kind = kind::circle},
+         {.p1 = {300, 300}, .rad = 50, .a1 = 1, .a2 = 2, .kind = Kind::circle},
          {352, 300},
          {250, 300}},
         {"a quarter arc",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = kind::arc},
+         {.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc},
          {352, 300},
          {335.3553f, 264.6447f}},
         {"an arc through angle 0",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 4.712389, .a2 = 1.5707963, .kind = kind::arc},
+         {.p1 = {300, 300}, .rad = 50, .a1 = 4.712389, .a2 = 1.5707963, .kind = Kind::arc},
          {310, 348},
          {350, 300}},
         {"clicked off its sweep",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = kind::arc},
+         {.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc},
          {250, 305},
          {335.3553f, 264.6447f}},
     };
@@ -205,9 +205,9 @@ TEST(SnapPerpendicular, DropsFromTheFirstClick)
         Object object;
         Point first, mouse, snapped;
     };
-    const Object flat{.p1 = {100, 100}, .p2 = {200, 100}, .kind = kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = kind::circle};
-    const Object arc{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1, .kind = kind::arc};
+    const Object flat{.p1 = {100, 100}, .p2 = {200, 100}, .kind = Kind::line};
+    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
+    const Object arc{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1, .kind = Kind::arc};
     const Row rows[] = {
         {"onto a line", flat, {170, 300}, {110, 105}, {170, 100}},
         {"beyond its end", flat, {400, 300}, {190, 105}, {400, 100}},

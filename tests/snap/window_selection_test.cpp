@@ -29,58 +29,58 @@ TEST(WindowSelection, EachKindMustLieInByItsOwnPoints)
     };
     const Point in{200, 200};
     const Point out{500, 500};
-    const auto pairs = [](std::int16_t kind, Point a, Point b, Point c, Point d, Point e) {
+    const auto pairs = [](Kind kind, Point a, Point b, Point c, Point d, Point e) {
         return Object{.p1 = a, .p2 = b, .p3 = c, .p4 = d, .p5 = e, .kind = kind};
     };
     const auto circle = [](Point centre, float radius) {
-        return Object{.p1 = centre, .rad = radius, .kind = kind::circle};
+        return Object{.p1 = centre, .rad = radius, .kind = Kind::circle};
     };
     const auto ellipse = [](Point axisEnd, Point centre, float ratio) {
-        return Object{.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = kind::ellipse};
+        return Object{.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = Kind::ellipse};
     };
     const Row rows[] = {
-        {"line within", pairs(1, in, {210, 210}, out, out, out), true},
-        {"line from edge to edge", pairs(1, {100, 100}, {300, 300}, out, out, out), true},
-        {"line half out", pairs(1, in, {300.5f, 200}, in, in, in), false},
-        {"line that crosses", pairs(1, {50, 200}, {350, 200}, in, in, in), false},
+        {"line within", pairs(Kind::line, in, {210, 210}, out, out, out), true},
+        {"line from edge to edge", pairs(Kind::line, {100, 100}, {300, 300}, out, out, out), true},
+        {"line half out", pairs(Kind::line, in, {300.5f, 200}, in, in, in), false},
+        {"line that crosses", pairs(Kind::line, {50, 200}, {350, 200}, in, in, in), false},
         {"circle that fits", circle({200, 200}, 100), true},
         {"circle a little too large", circle({200, 200}, 100.5f), false},
         {"circle out on the right", circle({250, 200}, 60), false},
         {"circle out on the left", circle({150, 200}, 60), false},
         {"circle out above", circle({200, 150}, 60), false},
         {"circle out below", circle({200, 250}, 60), false},
-        {"arc, its centre outside", pairs(3, out, in, in, in, out), true},
-        {"arc, its start outside", pairs(3, in, out, in, in, in), false},
-        {"arc, its end outside", pairs(3, in, in, out, in, in), false},
-        {"arc, its middle outside", pairs(3, in, in, in, out, in), false},
+        {"arc, its centre outside", pairs(Kind::arc, out, in, in, in, out), true},
+        {"arc, its start outside", pairs(Kind::arc, in, out, in, in, in), false},
+        {"arc, its end outside", pairs(Kind::arc, in, in, out, in, in), false},
+        {"arc, its middle outside", pairs(Kind::arc, in, in, in, out, in), false},
         {"ellipse that fits", ellipse({300, 200}, {200, 200}, 1), true},
         {"its stored end outside", ellipse({301, 200}, {200, 200}, 0.5f), false},
         {"its mirrored end outside", ellipse({280, 200}, {185, 200}, 0.5f), false},
         {"its second axis outside", ellipse({250, 200}, {200, 200}, 2.1f), false},
         {"its second axis outside below only", ellipse({250, 260}, {200, 260}, 1), false},
         {"its second axis outside above only", ellipse({250, 140}, {200, 140}, 1), false},
-        {"point", pairs(5, in, out, out, out, out), true},
-        {"point outside", pairs(5, out, in, in, in, in), false},
-        {"text where it was entered", pairs(6, in, out, out, out, out), true},
-        {"text entered outside", pairs(6, out, in, in, in, in), false},
-        {"linear dimension", pairs(7, out, out, in, in, in), true},
-        {"linear dimension, p3 outside", pairs(7, in, in, out, in, in), false},
-        {"linear dimension, p4 outside", pairs(7, in, in, in, out, in), false},
-        {"linear dimension, text outside", pairs(7, in, in, in, in, out), false},
-        {"radial dimension", pairs(8, out, in, out, out, in), true},
-        {"radial dimension, elbow outside", pairs(8, in, out, in, in, in), false},
-        {"radial dimension, text outside", pairs(8, in, in, in, in, out), false},
-        {"leader", pairs(9, out, in, in, out, out), true},
-        {"leader, shoulder outside", pairs(9, in, out, in, in, in), false},
-        {"leader, end of shoulder outside", pairs(9, in, in, out, in, in), false},
-        {"angular dimension", pairs(10, out, out, out, in, in), true},
-        {"angular dimension, arc outside", pairs(10, in, in, in, out, in), false},
-        {"angular dimension, text outside", pairs(10, in, in, in, in, out), false},
-        {"piece of an associate", pairs(11, in, in, in, in, in), false},
-        {"header", pairs(24, in, in, in, in, in), false},
-        {"name of a layer", pairs(25, in, in, in, in, in), false},
-        {"kinds of an import", pairs(30, in, in, in, in, in), false},
-        {"and the other", pairs(35, in, in, in, in, in), false},
+        {"point", pairs(Kind::point, in, out, out, out, out), true},
+        {"point outside", pairs(Kind::point, out, in, in, in, in), false},
+        {"text where it was entered", pairs(Kind::text, in, out, out, out, out), true},
+        {"text entered outside", pairs(Kind::text, out, in, in, in, in), false},
+        {"linear dimension", pairs(Kind::linearDimension, out, out, in, in, in), true},
+        {"linear dimension, p3 outside", pairs(Kind::linearDimension, in, in, out, in, in), false},
+        {"linear dimension, p4 outside", pairs(Kind::linearDimension, in, in, in, out, in), false},
+        {"linear dimension, text outside", pairs(Kind::linearDimension, in, in, in, in, out), false},
+        {"radial dimension", pairs(Kind::radialDimension, out, in, out, out, in), true},
+        {"radial dimension, elbow outside", pairs(Kind::radialDimension, in, out, in, in, in), false},
+        {"radial dimension, text outside", pairs(Kind::radialDimension, in, in, in, in, out), false},
+        {"leader", pairs(Kind::leader, out, in, in, out, out), true},
+        {"leader, shoulder outside", pairs(Kind::leader, in, out, in, in, in), false},
+        {"leader, end of shoulder outside", pairs(Kind::leader, in, in, out, in, in), false},
+        {"angular dimension", pairs(Kind::angularDimension, out, out, out, in, in), true},
+        {"angular dimension, arc outside", pairs(Kind::angularDimension, in, in, in, out, in), false},
+        {"angular dimension, text outside", pairs(Kind::angularDimension, in, in, in, in, out), false},
+        {"piece of an associate", pairs(Kind{11}, in, in, in, in, in), false},
+        {"header", pairs(headerKind, in, in, in, in, in), false},
+        {"name of a layer", pairs(layerNameKind, in, in, in, in, in), false},
+        {"kinds of an import", pairs(Kind{30}, in, in, in, in, in), false},
+        {"and the other", pairs(Kind{35}, in, in, in, in, in), false},
     };
     for (const Row& row : rows) {
         ClickDesk desk;
@@ -128,7 +128,7 @@ TEST(WindowSelection, TheFilter)
     struct Row {
         const char* what;
         FilterValues filter;
-        int kind;
+        Kind kind;
         bool selected; // an object of layer 3, style 2, yellow
     };
     const FilterValues none;
@@ -142,26 +142,26 @@ TEST(WindowSelection, TheFilter)
     };
     const std::int32_t yellow = 0x00FFFF;
     const Row rows[] = {
-        {"no criterion", none, 5, true},
-        {"its layer", with(3, -1, -1, 0), 5, true},
-        {"another layer", with(4, -1, -1, 0), 5, false},
-        {"layer 0 is a layer", with(0, -1, -1, 0), 5, false},
-        {"its kind", with(-1, 5, -1, 0), 5, true},
-        {"another kind", with(-1, 6, -1, 0), 5, false},
-        {"dimensions: linear", with(-1, 7, -1, 0), 7, true},
-        {"dimensions: radial", with(-1, 7, -1, 0), 8, true},
-        {"dimensions: leader", with(-1, 7, -1, 0), 9, true},
-        {"dimensions: angular", with(-1, 7, -1, 0), 10, true},
-        {"dimensions: no text", with(-1, 7, -1, 0), 6, false},
-        {"dimensions: no name of a layer", with(-1, 7, -1, 0), 25, false},
-        {"its style", with(-1, -1, 2, 0), 5, true},
-        {"another style", with(-1, -1, 1, 0), 5, false},
-        {"solid is a style", with(-1, -1, 0, 0), 5, false},
-        {"its colour", with(-1, -1, -1, yellow), 5, true},
-        {"another colour", with(-1, -1, -1, 0xFFFFFF), 5, false},
-        {"the surface's black is no criterion", with(-1, -1, -1, 0x000000), 5, true},
-        {"all four", with(3, 5, 2, yellow), 5, true},
-        {"all but the last", with(3, 5, 1, yellow), 5, false},
+        {"no criterion", none, Kind::point, true},
+        {"its layer", with(3, -1, -1, 0), Kind::point, true},
+        {"another layer", with(4, -1, -1, 0), Kind::point, false},
+        {"layer 0 is a layer", with(0, -1, -1, 0), Kind::point, false},
+        {"its kind", with(-1, 5, -1, 0), Kind::point, true},
+        {"another kind", with(-1, 6, -1, 0), Kind::point, false},
+        {"dimensions: linear", with(-1, 7, -1, 0), Kind::linearDimension, true},
+        {"dimensions: radial", with(-1, 7, -1, 0), Kind::radialDimension, true},
+        {"dimensions: leader", with(-1, 7, -1, 0), Kind::leader, true},
+        {"dimensions: angular", with(-1, 7, -1, 0), Kind::angularDimension, true},
+        {"dimensions: no text", with(-1, 7, -1, 0), Kind::text, false},
+        {"dimensions: no name of a layer", with(-1, 7, -1, 0), layerNameKind, false},
+        {"its style", with(-1, -1, 2, 0), Kind::point, true},
+        {"another style", with(-1, -1, 1, 0), Kind::point, false},
+        {"solid is a style", with(-1, -1, 0, 0), Kind::point, false},
+        {"its colour", with(-1, -1, -1, yellow), Kind::point, true},
+        {"another colour", with(-1, -1, -1, 0xFFFFFF), Kind::point, false},
+        {"the surface's black is no criterion", with(-1, -1, -1, 0x000000), Kind::point, true},
+        {"all four", with(3, 5, 2, yellow), Kind::point, true},
+        {"all but the last", with(3, 5, 1, yellow), Kind::point, false},
     };
     for (const Row& row : rows) {
         for (const bool filtered : {true, false}) {
@@ -175,10 +175,10 @@ TEST(WindowSelection, TheFilter)
                       .color = yellow,
                       .layer = 3,
                       .style = 2,
-                      .kind = static_cast<std::int16_t>(row.kind)}); // 5 to 25
-            static_cast<FilterValues&>(desk.s) = row.filter;         // to its part that holds the filter
+                      .kind = row.kind});
+            static_cast<FilterValues&>(desk.s) = row.filter; // to its part that holds the filter
             placeWindow(desk, {100, 100}, {300, 300});
-            const bool wanted = row.kind <= 10 && (row.selected || !filtered);
+            const bool wanted = row.kind <= Kind::angularDimension && (row.selected || !filtered);
             EXPECT_EQ(isSelected(desk, filtered), wanted) << row.what << (filtered ? "" : ", not filtered");
         }
     }

@@ -1,6 +1,7 @@
 #include "events.h"
 
 #include "app/actions.h"
+#include "model/record_moves.h"
 #include "words.h"
 
 namespace mirtane::soak {
@@ -47,7 +48,7 @@ std::vector<ControlId> everyButton()
 {
     std::vector<ControlId> found;
     for (std::size_t i = 0; i < controlCount; ++i) {
-        const ControlId id{static_cast<std::uint16_t>(i)}; // the table has a few hundred rows
+        const ControlId id = controlTable[i].id;
         if (actionOf(id) != nullptr && id != "fil14"_c) found.push_back(id);
     }
     return found;

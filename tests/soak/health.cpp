@@ -1,6 +1,6 @@
 #include "health.h"
 
-#include "commands/vocabulary.h"
+#include "tables/functions.h"
 #include "text/utf8.h"
 
 #include <cmath>
@@ -39,11 +39,11 @@ bool hasFiniteNumbers(const EntityRecord& r)
 }
 
 // An insertion of a DXF file ends as a dead slot of its own kind.
-bool isKnownKind(std::int16_t kind)
+bool isKnownKind(Kind kind)
 {
-    constexpr std::int16_t deadInsert = 35;
-    return (kind >= kind::line && kind <= kind::lastDrawn + kind::associatePiece) || kind == kind::header ||
-           kind == kind::layerName || kind == deadInsert;
+    constexpr Kind deadInsert{35};
+    return isDrawnKind(kind) || isDrawnKind(objectOf(kind)) || kind == headerKind || kind == layerNameKind ||
+           kind == deadInsert;
 }
 
 std::string at(const char* what, std::int32_t slot)
@@ -58,7 +58,7 @@ void checkStore(const Session& s, Manner manner, Faults& faults)
         faults.unless(s.store.stat[EntityStore::at(i)] != Stat::none, at("no stat", i));
         if (manner != Manner::tame) continue;
         const EntityRecord r = s.store.record(i);
-        faults.unless(isKnownKind(r.kind), at("kind", i) + ": " + std::to_string(r.kind));
+        faults.unless(isKnownKind(r.kind), at("kind", i) + ": " + std::to_string(numberOf(r.kind)));
         faults.unless(hasFiniteNumbers(r), at("a number that is none", i));
         faults.unless(r.layer >= 0, at("layer", i));
     }
@@ -100,7 +100,7 @@ void checkLibraries(const Session& s, Manner manner, Faults& faults)
         const bool good = finite(row.h1) && finite(row.h2) && finite(row.h3) && finite(row.h4) &&
                           allFinite(row.hatchTileW, row.hatchTileH, row.hatchRad, row.hatchA1, row.hatchA2);
         faults.unless(good, "a number of a hatch");
-        faults.unless(row.hatchKind >= kind::line && row.hatchKind <= kind::point, "kind of a hatch row");
+        faults.unless(row.hatchKind >= Kind::line && row.hatchKind <= Kind::point, "kind of a hatch row");
     }
     for (const MultipleLine& row : s.multipleLinesLibrary.used()) {
         const bool good = allFinite(row.m1) && finite(row.legStart) && finite(row.legEnd);
@@ -131,7 +131,7 @@ void checkControl(const Control& control, std::string_view name, Faults& faults)
 void checkControls(const Session& s, Faults& faults)
 {
     for (std::size_t i = 0; i < controlCount; ++i) {
-        const ControlId id{static_cast<std::uint16_t>(i)}; // the table has a few hundred rows
+        const ControlId id = controlTable[i].id;
         checkControl(s.controls[id], id.row().name, faults);
     }
     const ControlId focus = s.controls.focus;

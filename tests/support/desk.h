@@ -3,6 +3,7 @@
 // The whole program without a window, at its start, with everything about it in memory.
 
 #include "app/shell.h"
+#include "kind_print.h"
 #include "memory_ports.h"
 #include "ops_text.h"
 #include "text/utf8.h"

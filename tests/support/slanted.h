@@ -5,7 +5,7 @@
 
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
-#include "model/kind_table.h"
+#include "model/record_moves.h"
 
 #include <algorithm>
 #include <cmath>

@@ -53,8 +53,8 @@ def activity():
 
 def settle():
     """Waits until the program has done what came in: all sleep, and none has woken up from one look to the next."""
-    before, now = None, activity()
-    while before != now or any("(running)" in line or "(disk sleep)" in line for line in now):
+    before, now, end = None, activity(), time.time() + 5
+    while time.time() < end and (before != now or any("(running)" in line or "(disk sleep)" in line for line in now)):
         time.sleep(0.005)
         before, now = now, activity()
 
@@ -80,8 +80,8 @@ def form(name):
 def entries():
     """The menu of each entry, and how many presses of Down reach it."""
     places, counts = {}, {}
-    for line in open(f"{SOURCE}/src/model/control_table.h", encoding="utf-8"):
-        row = re.match(r'\s*\{"([\w.]+)", ControlKind::(\w+), "([\w.]*)", "', line)
+    for line in open(f"{SOURCE}/src/tables/controls.h", encoding="utf-8"):
+        row = re.match(r'\s*\{ids::\w+, "([\w.]+)", ControlKind::(\w+), "([\w.]*)", "', line)
         if row and row[2] in ("entry", "checkedEntry", "menu") and row[3]:
             counts[row[3]] = counts.get(row[3], 0) + 1
             places[row[1]] = (row[3], counts[row[3]])

@@ -11,10 +11,9 @@ constexpr int columns = 3;
 
 // In the order in which a draughtsman looks for them: copies, moves, cuts, the rest.
 constexpr ControlId buttons[] = {
-    "frmedit.Command4"_c,  "frmedit.Command8"_c,  "frmedit.Command1"_c,  "frmedit.Command5"_c,
-    "frmedit.Command7"_c,  "frmedit.Command2"_c,  "frmedit.Command6"_c,  "frmedit.Command9"_c,
-    "frmedit.Command11"_c, "frmedit.Command13"_c, "frmedit.Command3"_c,  "frmedit.Command10"_c,
-    "frmedit.Command14"_c, "frmedit.Command12"_c, "frmedit.Command15"_c,
+    ids::editCopy,    ids::editMove,       ids::editBreak,  ids::editMirrorCopy, ids::editRotate,
+    ids::editTrim,    ids::editRadialCopy, ids::editScale,  ids::editFillet,     ids::editConcentricCopy,
+    ids::editStretch, ids::editChange,     ids::editDelete, ids::deselectAll,    ids::editsCancel,
 };
 
 } // namespace

@@ -16,8 +16,8 @@ QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
     QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
     buttons.setContentsMargins(0, 0, 0, 0);
     buttons.addStretch();
-    buttons.addWidget(&maker.make("frmfile.Command1"_c, row));
-    buttons.addWidget(&maker.make("frmfile.Command2"_c, row));
+    buttons.addWidget(&maker.make(ids::fileConfirm, row));
+    buttons.addWidget(&maker.make(ids::fileDismiss, row));
     return row;
 }
 
@@ -32,13 +32,13 @@ void layFileForm(const ControlMaker& maker, QWidget& form)
     grid.setColumnStretch(0, 1);
     grid.setColumnStretch(1, 1);
     grid.setRowStretch(1, 1);
-    grid.addWidget(&maker.makeLabelled("frmfile.Label1"_c, "frmfile.Text1"_c, form), 0, 0, 1, 2);
-    grid.addWidget(&maker.make("frmfile.File1"_c, form), 1, 0, 2, 1);
-    grid.addWidget(&maker.makeLabelled("frmfile.Label3"_c, "frmfile.Dir1"_c, form), 1, 1);
-    QWidget& drives = maker.make("frmfile.Drive1"_c, form);
+    grid.addWidget(&maker.makeLabelled(ids::fileNameLabel, ids::fileName, form), 0, 0, 1, 2);
+    grid.addWidget(&maker.make(ids::fileList, form), 1, 0, 2, 1);
+    grid.addWidget(&maker.makeLabelled(ids::folderLabel, ids::folderList, form), 1, 1);
+    QWidget& drives = maker.make(ids::driveList, form);
     drives.setFixedHeight(driveRows * drives.fontMetrics().height() + 2 * drives.fontMetrics().height());
     grid.addWidget(&drives, 2, 1);
-    grid.addWidget(&maker.makeLabelled("frmfile.Label2"_c, "frmfile.Text2"_c, form), 3, 0, 1, 2);
+    grid.addWidget(&maker.makeLabelled(ids::fileTypeLabel, ids::fileType, form), 3, 0, 1, 2);
     grid.addWidget(&buttonRow(maker, form), 4, 0, 1, 2);
 }
 

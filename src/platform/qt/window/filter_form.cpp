@@ -15,10 +15,10 @@ struct LabelledBox {
 };
 
 constexpr LabelledBox boxes[] = {
-    {"frmfilter.Label2"_c, "frmfilter.Text1"_c},
-    {"frmfilter.Label3"_c, "frmfilter.Text2"_c},
-    {"frmfilter.Label4"_c, "frmfilter.Text3"_c},
-    {"frmfilter.Label5"_c, "frmfilter.Text4"_c},
+    {ids::layerSettingLabel, ids::layerSetting},
+    {ids::objectSettingLabel, ids::objectSetting},
+    {ids::colorSettingLabel, ids::colorSetting},
+    {ids::styleSettingLabel, ids::styleSetting},
 };
 
 QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
@@ -27,8 +27,8 @@ QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
     QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
     buttons.setContentsMargins(0, 0, 0, 0);
     buttons.addStretch();
-    buttons.addWidget(&maker.make("frmfilter.Command1"_c, row));
-    buttons.addWidget(&maker.make("frmfilter.Command2"_c, row));
+    buttons.addWidget(&maker.make(ids::filterAccept, row));
+    buttons.addWidget(&maker.make(ids::filterCancel, row));
     return row;
 }
 
@@ -44,13 +44,13 @@ void layFilterForm(const ControlMaker& maker, QWidget& form)
     grid.setColumnStretch(1, 1);
     QMenuBar& bar = childOf<QMenuBar>(form);
     bar.setNativeMenuBar(false);
-    fillMenuBar(bar, "frmfilter"_c, maker.gate(), maker.views());
+    fillMenuBar(bar, ids::filterForm, maker.gate(), maker.views());
     grid.setMenuBar(&bar);
     int row = 0;
     for (const LabelledBox& one : boxes)
         grid.addWidget(&maker.makeLabelled(one.label, one.box, form), row++, 1);
     grid.setRowStretch(row, 1);
-    grid.addWidget(&maker.makeLabelled("frmfilter.Label1"_c, "frmfilter.List1"_c, form), 0, 0, row + 1, 1);
+    grid.addWidget(&maker.makeLabelled(ids::filterLayerLabel, ids::filterLayerList, form), 0, 0, row + 1, 1);
     grid.addWidget(&buttonRow(maker, form), row + 1, 0, 1, 2);
 }
 

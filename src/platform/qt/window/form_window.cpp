@@ -20,11 +20,11 @@ struct FormRow {
 };
 
 constexpr std::array<FormRow, 5> forms{{
-    {"frmedit"_c, layEditForm},
-    {"frmfile"_c, layFileForm},
-    {"frmfilter"_c, layFilterForm},
-    {"frmhelp"_c, layHelpForm},
-    {"frmprintset"_c, layPrintForm},
+    {ids::editsForm, layEditForm},
+    {ids::fileForm, layFileForm},
+    {ids::filterForm, layFilterForm},
+    {ids::helpForm, layHelpForm},
+    {ids::printForm, layPrintForm},
 }};
 
 // How much smaller than the main window the form with the manual is: 1000 and 700 twips, 15 to the pixel.
@@ -37,7 +37,7 @@ FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
                           Qt::WindowCloseButtonHint),
       gate_(gate), form_(form)
 {
-    if (form == "frmprintset"_c) setWindowModality(Qt::WindowModal);
+    if (form == ids::printForm) setWindowModality(Qt::WindowModal);
 }
 
 void FormWindow::show(const Control& now)
@@ -54,7 +54,7 @@ void FormWindow::moveOverParent()
     const QRect below = parentWidget()->geometry();
     if (!testAttribute(Qt::WA_Resized))
         adjustSize(); // before it is first shown a form has no size of its own
-    if (form_ == "frmhelp"_c) resize(below.size() - helpSmallerBy);
+    if (form_ == ids::helpForm) resize(below.size() - helpSmallerBy);
     move(below.center() - rect().center());
 }
 

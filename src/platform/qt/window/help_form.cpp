@@ -10,7 +10,7 @@ void layHelpForm(const ControlMaker& maker, QWidget& form)
 {
     QVBoxLayout& column = childOf<QVBoxLayout>(form);
     column.setContentsMargins(14, 12, 14, 14);
-    column.addWidget(&maker.make("frmhelp.Text1"_c, form));
+    column.addWidget(&maker.make(ids::helpPage, form));
 }
 
 } // namespace mirtane

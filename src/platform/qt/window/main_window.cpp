@@ -26,8 +26,8 @@ QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
     QHBoxLayout& row = childOf<QHBoxLayout>(line);
     row.setContentsMargins(12, 5, 12, 5);
     row.setSpacing(16);
-    row.addWidget(&maker.make("promptlab"_c, line), 3);
-    row.addWidget(&maker.make("pointerlab"_c, line), 2);
+    row.addWidget(&maker.make(ids::promptLine, line), 3);
+    row.addWidget(&maker.make(ids::pointerLine, line), 2);
     return line;
 }
 
@@ -36,10 +36,10 @@ QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
 MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(surface)
 {
     setWindowIcon(QIcon(QStringLiteral(":/icons/mirtane.svg")));
-    fillMenuBar(*menuBar(), "frmMain"_c, gate_, views_);
+    fillMenuBar(*menuBar(), ids::mainForm, gate_, views_);
     lay(surface);
     makeForms(ControlMaker(gate_, views_), *this);
-    views_.add("frmMain"_c, *this);
+    views_.add(ids::mainForm, *this);
     gate_.setCopying([this] { copyControls(); });
     gate_.send([](Shell&) {}); // nothing happens but the copying
 }
@@ -54,8 +54,8 @@ void MainWindow::lay(Surface& surface)
     grid.setSpacing(0);
     grid.setColumnStretch(1, 1);
     grid.setRowStretch(0, 1);
-    SurfaceWidget& drawing = childOf<SurfaceWidget>(whole, gate_, "pic1"_c, surface);
-    views_.add("pic1"_c, drawing);
+    SurfaceWidget& drawing = childOf<SurfaceWidget>(whole, gate_, ids::drawing, surface);
+    views_.add(ids::drawing, drawing);
     grid.addWidget(&childOf<ToolStrip>(whole, gate_, views_), 0, 0);
     grid.addWidget(&drawing, 0, 1);
     grid.addWidget(&childOf<SidePanel>(whole, maker), 0, 2);
@@ -93,7 +93,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    gate_.send([](Shell& shell) { shell.closeForm("frmMain"_c); });
+    gate_.send([](Shell& shell) { shell.closeForm(ids::mainForm); });
     event->setAccepted(gate_.shell().ended());
 }
 

@@ -54,7 +54,8 @@ struct Shortcut {
     QKeySequence::StandardKey keys;
 };
 
-constexpr std::array<Shortcut, 2> shortcuts{{{"undu"_c, QKeySequence::Undo}, {"redu"_c, QKeySequence::Redo}}};
+constexpr std::array<Shortcut, 2> shortcuts{
+    {{ids::undo, QKeySequence::Undo}, {ids::redo, QKeySequence::Redo}}};
 
 QList<QKeySequence> shortcutsOf(ControlId id)
 {
@@ -83,9 +84,8 @@ bool isMenuRow(ControlKind kind)
 void fillMenuBar(QMenuBar& bar, ControlId form, EventGate& gate, ControlViews& views)
 {
     std::map<std::string_view, QMenu*> menus; // each belongs to the widget it stands in
-    for (std::uint16_t i = 0; i < controlCount; ++i) {
-        const ControlId id{i};
-        const ControlRow& row = id.row();
+    for (const ControlRow& row : controlTable) {
+        const ControlId id = row.id;
         if (!isMenuRow(row.kind) || !(formOf(id) == form)) continue;
         const auto parent = menus.find(row.parent);
         QWidget* holder =

@@ -1,6 +1,6 @@
 #include "platform/qt/window/page_picture.h"
 
-#include "app/print_dialog.h"
+#include "app/dialogs/print_dialog.h"
 #include "platform/qt/page_painter.h"
 
 #include <QPainter>

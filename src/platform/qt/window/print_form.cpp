@@ -16,8 +16,8 @@ QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
     QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
     buttons.setContentsMargins(0, 0, 0, 0);
     buttons.addStretch();
-    buttons.addWidget(&maker.make("frmprintset.Command1"_c, row));
-    buttons.addWidget(&maker.make("frmprintset.Command2"_c, row));
+    buttons.addWidget(&maker.make(ids::printConfirm, row));
+    buttons.addWidget(&maker.make(ids::printCancel, row));
     return row;
 }
 
@@ -33,17 +33,17 @@ void layPrintForm(const ControlMaker& maker, QWidget& form)
     grid.setColumnStretch(0, 1);
     grid.setRowStretch(3, 1);
     PagePicture& picture = childOf<PagePicture>(form, maker.gate());
-    maker.views().add("frmprintset.Picture1"_c, picture);
+    maker.views().add(ids::pagePicture, picture);
     grid.addWidget(&picture, 0, 0, 5, 1);
-    QWidget& words = maker.make("frmprintset.Label1"_c, form);
+    QWidget& words = maker.make(ids::printLabel, form);
     if (auto* const label = qobject_cast<QLabel*>(&words)) {
         label->setWordWrap(true);
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     }
     words.setFixedWidth(textWidth);
     grid.addWidget(&words, 0, 1);
-    grid.addWidget(&maker.make("frmprintset.Text1"_c, form), 1, 1);
-    grid.addWidget(&maker.make("frmprintset.Text2"_c, form), 2, 1);
+    grid.addWidget(&maker.make(ids::printScale, form), 1, 1);
+    grid.addWidget(&maker.make(ids::fittedScale, form), 2, 1);
     grid.addWidget(&buttonRow(maker, form), 4, 1);
 }
 

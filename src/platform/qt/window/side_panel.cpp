@@ -19,12 +19,12 @@ struct Labelled {
 };
 
 constexpr std::array<Labelled, 6> fields{{
-    {"Label4"_c, "angle"_c, 0, 0},
-    {"Label13"_c, "snapper"_c, 0, 1},
-    {"Label17"_c, "textrot"_c, 1, 0},
-    {"Label5"_c, "hatrot"_c, 1, 1},
-    {"Label6"_c, "assrot"_c, 2, 0},
-    {"Label12"_c, "memy"_c, 2, 1},
+    {ids::orthoLabel, ids::orthoAngle, 0, 0},
+    {ids::snapPercentageLabel, ids::snapPercentage, 0, 1},
+    {ids::textLabel, ids::textRotation, 1, 0},
+    {ids::hatchLabel, ids::hatchRotation, 1, 1},
+    {ids::associateLabel, ids::associateRotation, 2, 0},
+    {ids::memoryLabel, ids::memoryGauge, 2, 1},
 }};
 
 QWidget& fieldGrid(const ControlMaker& maker, QWidget& parent)
@@ -48,12 +48,12 @@ SidePanel::SidePanel(const ControlMaker& maker, QWidget* parent) : QWidget(paren
     QVBoxLayout& column = childOf<QVBoxLayout>(*this);
     column.setContentsMargins(10, 8, 10, 8);
     column.setSpacing(8);
-    column.addWidget(&maker.makeLabelled("Label1"_c, "entry"_c, *this));
-    column.addWidget(&maker.make("snaplab"_c, *this));
+    column.addWidget(&maker.makeLabelled(ids::entryLabel, ids::entry, *this));
+    column.addWidget(&maker.make(ids::snapLabel, *this));
     column.addWidget(&fieldGrid(maker, *this));
-    column.addWidget(&maker.makeLabelled("Label2"_c, "setts"_c, *this));
-    column.addWidget(&maker.makeLabelled("Label7"_c, "Combo3"_c, *this));
-    column.addWidget(&maker.makeLabelled("Label3"_c, "List1"_c, *this), 1);
+    column.addWidget(&maker.makeLabelled(ids::lineSettingsLabel, ids::lineSettings, *this));
+    column.addWidget(&maker.makeLabelled(ids::selectionsLabel, ids::layerCombo, *this));
+    column.addWidget(&maker.makeLabelled(ids::listMode, ids::selectionList, *this), 1);
 }
 
 } // namespace mirtane

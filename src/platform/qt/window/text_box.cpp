@@ -67,7 +67,7 @@ TextBox::TextBox(EventGate& gate, ControlId id, QWidget* parent) : QLineEdit(par
     // What only shows something is no stop on the way of the Tab key.
     if (id.row().kind == ControlKind::display) setFocusPolicy(Qt::ClickFocus);
     // A word in blue on black is hard to read, a patch of blue is not.
-    if (id == "setts"_c) swatch_ = addAction(QIcon(), LeadingPosition);
+    if (id == ids::lineSettings) swatch_ = addAction(QIcon(), LeadingPosition);
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextBox::caretMoved);
     connect(this, &QLineEdit::selectionChanged, this, &TextBox::caretMoved);
 }

@@ -23,36 +23,36 @@ struct IconRow {
 };
 
 constexpr std::array<IconRow, 30> icons{{
-    {"Command1"_c, "line"},
-    {"Command2"_c, "circle-two-points"},
-    {"Command3"_c, "circle-three-points"},
-    {"Command4"_c, "arc-two-points"},
-    {"Command5"_c, "arc-three-points"},
-    {"Command6"_c, "curve"},
-    {"Command7"_c, "ellipse"},
-    {"Command8"_c, "point"},
-    {"Command9"_c, "polygon"},
-    {"Command10"_c, "multiple-lines"},
-    {"Command11"_c, "dimension-linear"},
-    {"Command12"_c, "dimension-radial"},
-    {"Command13"_c, "dimension-angular"},
-    {"Command14"_c, "leader"},
-    {"Command15"_c, "text"},
-    {"Command16"_c, "text-edit"},
-    {"Command17"_c, "select-last"},
-    {"Command18"_c, "select-window-filtered"},
-    {"Command19"_c, "select-window"},
-    {"Command20"_c, "select-object"},
-    {"Command21"_c, "snap-midpoint"},
-    {"Command35"_c, "snap-point"},
-    {"Command36"_c, "snap-object"},
-    {"Command37"_c, "snap-intersection"},
-    {"Command38"_c, "snap-percentage"},
-    {"Command39"_c, "snap-perpendicular"},
-    {"Command40"_c, "snap-tangent"},
-    {"Command42"_c, "zoom-all"},
-    {"Command43"_c, "zoom-window"},
-    {"Command44"_c, "zoom-out"},
+    {ids::drawLine, "line"},
+    {ids::drawCircleTwo, "circle-two-points"},
+    {ids::drawCircleThree, "circle-three-points"},
+    {ids::drawArcTwo, "arc-two-points"},
+    {ids::drawArcThree, "arc-three-points"},
+    {ids::drawCurve, "curve"},
+    {ids::drawEllipse, "ellipse"},
+    {ids::drawPoint, "point"},
+    {ids::drawPolygon, "polygon"},
+    {ids::drawMultipleLines, "multiple-lines"},
+    {ids::drawLinearDimension, "dimension-linear"},
+    {ids::drawRadialDimension, "dimension-radial"},
+    {ids::drawAngularDimension, "dimension-angular"},
+    {ids::drawLeader, "leader"},
+    {ids::placeText, "text"},
+    {ids::editText, "text-edit"},
+    {ids::selectLast, "select-last"},
+    {ids::selectWindowFiltered, "select-window-filtered"},
+    {ids::selectWindow, "select-window"},
+    {ids::selectObjects, "select-object"},
+    {ids::snapToMidpoint, "snap-midpoint"},
+    {ids::snapToPoint, "snap-point"},
+    {ids::snapToObject, "snap-object"},
+    {ids::snapToIntersection, "snap-intersection"},
+    {ids::snapToPercentage, "snap-percentage"},
+    {ids::snapPerpendicular, "snap-perpendicular"},
+    {ids::snapTangent, "snap-tangent"},
+    {ids::zoomAll, "zoom-all"},
+    {ids::zoomWindow, "zoom-window"},
+    {ids::zoomOut, "zoom-out"},
 }};
 
 QIcon iconOf(ControlId id)
@@ -101,9 +101,8 @@ ToolStrip::ToolStrip(EventGate& gate, ControlViews& views, QWidget* parent) : QW
     column.setSpacing(8);
     std::string_view name;
     Group* group = nullptr; // belongs to this widget
-    for (std::uint16_t i = 0; i < controlCount; ++i) {
-        const ControlId id{i};
-        const ControlRow& row = id.row();
+    for (const ControlRow& row : controlTable) {
+        const ControlId id = row.id;
         const bool button = row.kind == ControlKind::button || row.kind == ControlKind::toggle;
         if (!button || row.parent.empty()) continue;
         if (row.parent != name) {

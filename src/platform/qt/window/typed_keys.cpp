@@ -35,7 +35,7 @@ bool isCommand(Qt::KeyboardModifiers held)
 // a file stays as it is spelt.
 std::u32string charactersFor(ControlId id, const QString& text)
 {
-    const bool namesFile = id == "frmfile.Text1"_c;
+    const bool namesFile = id == ids::fileName;
     return (namesFile ? text : text.normalized(QString::NormalizationForm_C)).toStdU32String();
 }
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// The events of pic1. Points are world coordinates; buttons 1 left, 2 right, 4 middle; key codes 16 Shift, 17
+// Ctrl, 37 to 40 the arrows.
+void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at);
+void canvasMouseMove(Session& s, Canvas& pic1, Point at);
+void canvasKeyDown(Session& s, Canvas& pic1, int code);
+void canvasKeyUp(CanvasInput& s);
+void canvasKeyPress(Session& s, Canvas& pic1, char32_t code);
+
+// A right click, or a click on the last point: ends the action and returns to baseFunc.
+void cancel(Session& s, Canvas& pic1, Point at);
+
+// pickLast turned onto the axis of the last move's sector, at the distance d (world units) from pickFirst.
+void confinePickLast(Session& s, double d);
+
+} // namespace mirtane

@@ -1,0 +1,153 @@
+#include "app/files/file_flows.h"
+
+#include "app/drawing/endings.h"
+#include "app/files/library_flows.h"
+#include "app/files/open_drawing.h"
+#include "app/menus/attribute_controls.h"
+#include "commands/prompt.h"
+#include "dxf/dxf_names.h"
+#include "dxf/dxf_writer.h"
+#include "files/drawing_file.h"
+#include "model/insertion.h"
+#include "render/redraw.h"
+#include "tables/list_modes.h"
+
+namespace mirtane {
+namespace {
+
+// A name is a name in the folder shown: a slash in it would lead elsewhere.
+bool isPlainName(const std::string& name)
+{
+    return name.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
+}
+
+// The drawing is from now on that of the file.
+void takeFile(FileState& s, const FileChoice& choice)
+{
+    s.drawingName = choice.name;
+    s.drawingFile = pathOf(choice);
+}
+
+bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
+{
+    Session& s = app.s;
+    if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
+    endWhatIsBegun(s, app.pic1);
+    if (what == SaveWhat::drawing) takeFile(s, choice);
+    const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
+    afterSave(s, what);
+    if (marksGo) redrawAll(s, app.pic1);
+    return true;
+}
+
+SaveWhat whatIsSaved(const FileChoice& choice)
+{
+    if (choice.caption == "Save Selected") return SaveWhat::selected;
+    if (choice.caption == list_mode::saveLayer) return SaveWhat::layer;
+    return SaveWhat::drawing;
+}
+
+void mergeDrawing(App& app, const Bytes& file)
+{
+    mergeLayer(app.s, file, app.s.chosenLayer);
+    showLayers(app.s);
+    redrawAll(app.s, app.pic1);
+    updateGauge(app.s);
+}
+
+bool openDrawingFile(App& app, const FileChoice& choice)
+{
+    const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
+    if (!file) return false;
+    endWhatIsBegun(app.s, app.pic1);
+    forgetOwners(app.s.store);
+    if (choice.caption == list_mode::loadLayer) {
+        mergeDrawing(app, *file);
+    } else {
+        takeFile(app.s, choice);
+        openDrawing(app, *file);
+    }
+    setPrompt(app.s, app.pic1);
+    return true;
+}
+
+bool saveDxfFile(App& app, const FileChoice& choice)
+{
+    Session& s = app.s;
+    const DxfFile file = dxfFile(s.store, app.dxfScratch);
+    if (!app.ports.disk.writeWhole(pathOf(choice), file.bytes)) return false;
+    endWhatIsBegun(s, app.pic1);
+    s.dxfName = choice.name;
+    if (!file.whole) return true; // what can't be written ends the export there, and the selection stays
+    changeStat(s.store, Stat::sel, Stat::on);
+    redrawAll(s, app.pic1);
+    return true;
+}
+
+bool openDxfFile(App& app, const FileChoice& choice)
+{
+    Session& s = app.s;
+    const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
+    if (!file) return false;
+    endWhatIsBegun(s, app.pic1);
+    s.dxfName = choice.name;
+    s.drawingName = drawingNameOf(choice.name);
+    s.drawingFile.clear();        // what may be there under that name is another drawing
+    s.drawings.last = s.dxf.last; // so that the drawing is saved beside the file that it came from
+    openDxf(app, *file);
+    setPrompt(s, app.pic1);
+    return true;
+}
+
+struct PatternRoutines {
+    std::string_view pattern;
+    bool (*save)(App& app, const FileChoice& choice);
+    bool (*open)(App& app, const FileChoice& choice);
+    std::string_view notSaved;
+};
+
+bool saveDrawingPattern(App& app, const FileChoice& choice)
+{
+    return saveDrawingFile(app, choice, whatIsSaved(choice));
+}
+
+constexpr PatternRoutines patternRoutines[] = {
+    {"*.mtd", saveDrawingPattern, openDrawingFile, "Drawing not saved!"},
+    {"*.dxf", saveDxfFile, openDxfFile, "File not saved!"},
+    {"*.mta", saveLibraryFile, openLibraryFile, "File not saved!"},
+    {"*.mth", saveLibraryFile, openLibraryFile, "File not saved!"},
+    {"*.mtm", saveLibraryFile, openLibraryFile, "File not saved!"},
+};
+
+} // namespace
+
+std::string pathOf(const FileChoice& choice)
+{
+    return choice.folder + "/" + choice.name;
+}
+
+bool savesWholeDrawing(const FileChoice& choice)
+{
+    return choice.pattern == "*.mtd" && whatIsSaved(choice) == SaveWhat::drawing;
+}
+
+bool saveFile(App& app, const FileChoice& choice)
+{
+    for (const PatternRoutines& row : patternRoutines) {
+        if (row.pattern != choice.pattern) continue;
+        if (isPlainName(choice.name) && row.save(app, choice)) return true;
+        setText(app.s.controls[ids::entry], std::string(row.notSaved));
+    }
+    return false;
+}
+
+bool openFile(App& app, const FileChoice& choice)
+{
+    for (const PatternRoutines& row : patternRoutines) {
+        if (row.pattern != choice.pattern || !isPlainName(choice.name)) continue;
+        return row.open(app, choice);
+    }
+    return false;
+}
+
+} // namespace mirtane

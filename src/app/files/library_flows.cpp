@@ -1,0 +1,75 @@
+#include "app/files/library_flows.h"
+
+#include "app/drawing/endings.h"
+#include "app/drawing/starters.h"
+#include "app/files/library_rows.h"
+#include "files/library_files.h"
+#include "library/libraries.h"
+#include "model/insertion.h"
+#include "model/missing.h"
+#include "tables/functions.h"
+#include "text/code_page.h"
+
+namespace mirtane {
+namespace {
+
+Bytes bytesOf(const Session& s, Library library, const std::string& name)
+{
+    if (library == Library::multipleLines) return multipleLinesBytes(s.multipleLinesLibrary, name);
+    if (library == Library::hatches) return hatchBytes(s.hatchLibrary, name);
+    return associateBytes(s.store, name);
+}
+
+// An associate that was just opened is at once the one to place; only a click on its name chooses it.
+void readyToPlaceAssociate(App& app, const LibraryRow& row)
+{
+    Session& s = app.s;
+    updateGauge(s);
+    s.associateName = noName;
+    if (const FunctionRow* function = findFunction(row.function)) changeFunction(s, app.pic1, *function, 0);
+}
+
+void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std::string& name)
+{
+    Session& s = app.s;
+    Missing missing;
+    if (row.library == Library::multipleLines)
+        missing.pieces = addMultipleLines(s.multipleLinesLibrary, file);
+    if (row.library == Library::hatches) missing.pieces = addHatch(s.hatchLibrary, file);
+    if (row.library == Library::associates) missing.pieces = addAssociate(s, file, name);
+    refillNames(s, row.library, row.select);
+    if (row.library == Library::associates) readyToPlaceAssociate(app, row);
+    tellMissing(s.controls, missing);
+}
+
+} // namespace
+
+bool saveLibraryFile(App& app, const FileChoice& choice)
+{
+    Session& s = app.s;
+    const LibraryRow* row = rowWith(&LibraryRow::pattern, choice.pattern);
+    if (row == nullptr) return false;
+    std::string& current = currentName(s, row->library);
+    const std::string name = isBeingPlaced(s, *row) ? s.nameToSave : current;
+    // Nothing is saved under no name, and nothing that would be read back as removed.
+    if (!isLiveName(name) || !isLiveName(toCodePage(name))) return false;
+    const bool saved =
+        app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
+    if (!isBeingPlaced(s, *row)) current = noName;
+    endWhatIsBegun(s, app.pic1);
+    return saved;
+}
+
+bool openLibraryFile(App& app, const FileChoice& choice)
+{
+    const LibraryRow* row = rowWith(&LibraryRow::pattern, choice.pattern);
+    const std::string name(baseName(choice.name));
+    if (row == nullptr || hasName(app.s, row->library, name)) return false;
+    const std::optional<Bytes> file = app.ports.disk.read(choice.folder + "/" + choice.name);
+    if (!file) return false;
+    endWhatIsBegun(app.s, app.pic1);
+    addToLibrary(app, *row, *file, name);
+    return true;
+}
+
+} // namespace mirtane

@@ -1,0 +1,70 @@
+#include "app/files/open_drawing.h"
+
+#include "app/menus/attribute_controls.h"
+#include "dxf/dxf_reader.h"
+#include "files/drawing_file.h"
+#include "geometry/fault.h"
+#include "model/insertion.h"
+#include "render/redraw.h"
+#include "render/view.h"
+#include "tables/list_modes.h"
+
+namespace mirtane {
+namespace {
+
+void fitView(Session& s, Canvas& pic1)
+{
+    const Size outer = pic1.getOuterSize();
+    Scale scale = pic1.getScale();
+    const IntegerBox box = drawingBounds(s.store, textWidthOn(pic1));
+    if (fitScaleOrMove(box, quotient(outer.width, outer.height), scale)) pic1.setScale(scale);
+    readViewLimits(s, pic1);
+}
+
+void showTakenAttributes(App& app)
+{
+    showLineSettings(app.s);
+    showCheckMarks(app.s);
+    app.pic1.setFontName(app.s.textFont);
+}
+
+void showTakenLayers(Session& s)
+{
+    s.controls[ids::listMode].caption = list_mode::setWorkingLayer;
+    showLayers(s);
+}
+
+} // namespace
+
+void openDrawing(App& app, const Bytes& file)
+{
+    Session& s = app.s;
+    replaceDrawing(s, file);
+    fitView(s, app.pic1);
+    showTakenAttributes(app);
+    setTextAnchors(s.store, textWidthOn(app.pic1));
+    showTakenLayers(s);
+    redrawAll(s, app.pic1);
+    updateGauge(s);
+    fixUpLinesAndCircles(s.store);
+    s.stepNo = 0;
+    s.controls.focus = ids::drawing;
+}
+
+void openDxf(App& app, const Bytes& file)
+{
+    Session& s = app.s;
+    forgetOwners(s.store);
+    readDxf(s, file, textWidthOn(app.pic1));
+    s.stepNo = 0;
+    redrawAll(s,
+              app.pic1); // an empty drawing has nothing to zoom to, and the old one must go from the screen
+    zoomAll(s, app.pic1);
+    showTakenAttributes(app);
+    showTakenLayers(s);
+    finishDxf(s);
+    updateGauge(s);
+    s.controls.focus = ids::drawing;
+}
+
+} // namespace mirtane
