@@ -37,12 +37,14 @@ void startZoomWindow(App& app, ControlId)
 {
     beginWindowAnew(app.s); // so that the prompt that comes back is true
     zoomWindowStart(app.s, app.pic1);
+    repaintTextPreview(app.s, app.pic1);
 }
 
 template <bool (*flip)(EntityStore&, UndoLog&)> void undoAction(App& app, ControlId)
 {
     if (!flip(app.s.store, app.s.log)) return;
     redrawAll(app.s, app.pic1);
+    repaintTextPreview(app.s, app.pic1);
     app.s.controls.focus = ids::drawing;
 }
 

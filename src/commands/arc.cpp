@@ -69,19 +69,21 @@ int turnBetween(Bearing last, Bearing now)
 }
 
 // Counts the way that the pointer goes round the centre, from the place in ptC, which it takes. arcLastAngle
-// is what the last turn left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
+// is what the last move left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
 // the sum over the whole way decides.
 void wind(ScratchPoints& s)
 {
     const Bearing last = bearingOf(s.ptA, s.ptC, s.arcLastAngle);
     s.ptC = s.pickLast;
     s.arcAngleTwo = directionAngle(s.ptA, s.ptC, s.arcAngleTwo);
-    const int turn = turnBetween(last, bearingOf(s.ptA, s.ptC, s.arcAngleTwo));
+    const Bearing now = bearingOf(s.ptA, s.ptC, s.arcAngleTwo);
+    const int turn = turnBetween(last, now);
     keep(s.arcWinding, s.arcWinding + turn);
-    if (turn != 0) s.arcLastAngle = s.arcAngleTwo; // so that a slow way adds up
+    s.arcLastAngle = s.arcAngleTwo;
     // Under ortho a turn is one count, and the first one, from what an earlier arc left, may cancel it: then
     // the last turn tells the way, as an arc without one would not be seen.
-    const int way = s.arcWinding == 0 ? turn : s.arcWinding;
+    const bool isSeen = !areOne({s.arcStart, now.noise}, {s.arcEnd, now.noise});
+    const int way = s.arcWinding == 0 && !isSeen ? turn : s.arcWinding;
     if (way > 0) {
         s.arcStart = s.arcAngleOne;
         s.arcEnd = s.arcAngleTwo;

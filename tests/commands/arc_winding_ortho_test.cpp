@@ -48,8 +48,8 @@ TEST(ArcTwo, WindsByTheTurnFromAxisToAxisWhateverTheMovesAlongThem)
     }
 }
 
-// The first move is held against the direction of the arc before, or of none: a turn that comes out as none by that
-// is one all the same.
+// The first move is held against the direction of the arc before, or of none: a turn that comes out as none
+// by that is one all the same.
 TEST(ArcTwo, OfATurnThatTheFirstMoveCancelsIsSeen)
 {
     Slanted dice(7);
@@ -74,18 +74,6 @@ TEST(ArcTwo, OfATurnThatTheFirstMoveCancelsIsSeen)
         EXPECT_GT(turnedBetween(r.a1, r.a2), 1) << turned << " " << from << " " << to;
         desk.cancel();
     }
-}
-
-// Slower than a rounding step a move, but a long way in all.
-TEST(ArcTwo, WindsAlongASlowWayFarFromTheOrigin)
-{
-    Desk desk;
-    start(desk, "Command4"_c, Ortho::off);
-    clickAt(desk, {1000000, 1000000});
-    clickAt(desk, {1000005, 1000000});
-    for (int step = 1; step <= 12; ++step) moveTo(desk, {1000005, 1000000 - 0.0625F * static_cast<float>(step)});
-    downAt(desk, {1000005, 999999.25F});
-    EXPECT_NEAR(turnedBetween(lastSlot(desk).a1, lastSlot(desk).a2), 0.149, 0.001);
 }
 
 // One axis lies at angle 0 but for the rounding, so that the pointer's direction is now 0, now nearly a turn.

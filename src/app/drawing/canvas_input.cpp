@@ -1,5 +1,6 @@
 #include "app/drawing/canvas_input.h"
 
+#include "app/dialogs/filter_dialog.h"
 #include "app/drawing/construction_line.h"
 #include "app/drawing/dispatch.h"
 #include "app/drawing/endings.h"
@@ -109,6 +110,7 @@ void confinePickLast(Session& s, double d)
 void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
 {
     setText(s.controls[ids::entry], "");
+    closeChangeDialog(s); // else what it was to change would be the filter of the next window
     s.controls[ids::filterForm].visible = false;
     if (button == rightButton) return cancel(s, pic1, at);
     s.controls[ids::editsForm].visible = false;
@@ -139,7 +141,10 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
 
 void cancel(Session& s, Canvas& pic1, Point at)
 {
-    if (zoomWindowIsOn(s.controls)) return zoomWindowCancel(s, pic1);
+    if (zoomWindowIsOn(s.controls)) {
+        zoomWindowCancel(s, pic1);
+        return repaintTextPreview(s, pic1);
+    }
     s.ptA = at;
     s.liveAngle = 0;
     s.workAngle = 0;

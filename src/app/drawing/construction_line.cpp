@@ -4,6 +4,7 @@
 #include "app/drawing/endings.h"
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
+#include "model/shown_prompt.h"
 #include "render/redraw.h"
 #include "snap/snap.h"
 #include "tables/functions.h"
@@ -27,22 +28,25 @@ void turnOn(Session& s, Canvas& pic1)
     s.curFunc = "Blank Line";
 }
 
-// The suspended function takes the start of the leg as its next click, past ortho and snap. While it waits
-// for a name it takes none.
+// While it waits for a name it takes no click, and the corners of a window are no steps.
+bool takesRelease(const FunctionRow* row, std::int16_t stepNo)
+{
+    if (row == nullptr) return true;
+    return !waitsForName(*row, stepNo) && !isWindowFunction(row->name);
+}
+
+// The suspended function takes the start of the leg as its next click, past ortho and snap.
 void turnOff(Session& s, Canvas& pic1)
 {
     s.controls[ids::blankToggle].caption = "Blank/Off";
     resetPicture(pic1);
-    const FunctionRow* row = findFunction(s.blankSavedFunc);
-    if (row != nullptr && waitsForName(*row, s.stepNo)) {
-        s.curFunc = s.blankSavedFunc;
-        return;
-    }
+    s.curFunc = s.blankSavedFunc;
+    showPrompt(s, s.curFunc, s.functionPrompt.text); // a prompt shown meanwhile told of the construction line
+    if (!takesRelease(findFunction(s.curFunc), s.stepNo)) return;
     countStep(s);
     if (s.stepNo == 1) s.pickFirst = s.blankStart;
     if (s.stepNo > 1) s.pickLast = s.blankStart;
     s.mousePos = s.blankStart;
-    s.curFunc = s.blankSavedFunc;
     s.pointWasSnapped = true;
     callStep(s, pic1);
 }

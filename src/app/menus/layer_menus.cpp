@@ -4,6 +4,7 @@
 #include "app/menus/file_menus.h"
 #include "app/typing/keys.h"
 #include "commands/kept_letters.h"
+#include "commands/live_text.h"
 #include "geometry/fault.h"
 #include "render/redraw.h"
 #include "tables/list_modes.h"
@@ -69,6 +70,7 @@ void showAfterAll(App& app)
 {
     if (std::ranges::find(listedModes, mode(app.s.controls)) != std::end(listedModes)) fillList(app.s);
     redrawAll(app.s, app.pic1);
+    repaintTextPreview(app.s, app.pic1);
 }
 
 // A name goes into the drawing as a slot of its own. It is no object: nothing is logged or gauged.
@@ -160,6 +162,7 @@ void setWorkingLayer(App& app, int r)
     showLayers(s);
     turnLayer(s.store, r, Stat::on);
     redrawAll(s, app.pic1);
+    repaintTextPreview(s, app.pic1);
     s.controls.focus = ids::drawing;
 }
 
@@ -174,6 +177,7 @@ void hideOrDisplayLayer(App& app, int r)
     turnLayer(s.store, r, hides ? Stat::off : Stat::on);
     fillList(s);
     redrawAll(s, app.pic1);
+    repaintTextPreview(s, app.pic1);
 }
 
 void chooseLayerToName(App& app, int r)

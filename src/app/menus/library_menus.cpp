@@ -105,7 +105,7 @@ void saveFromLibrary(App& app, int index)
 
 void createInLibrary(App& app, ControlId menu)
 {
-    if (countWithStat(app.s.store, Stat::sel) == 0) {
+    if (!hasSelection(app.s)) {
         setText(app.s.controls[ids::entry], "Nothing Selected!");
         return;
     }

@@ -58,7 +58,7 @@ void listFonts(App& app, ControlId)
 void listFontsForSelection(App& app, ControlId)
 {
     Session& s = app.s;
-    if (countWithStat(s.store, Stat::sel) == 0) {
+    if (!hasSelection(s)) {
         setText(s.controls[ids::entry], "Nothing selected!");
         return;
     }

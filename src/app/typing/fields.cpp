@@ -39,7 +39,7 @@ struct FieldRow {
 // hatrot and assrot hold radians like angle; textrot holds degrees.
 constexpr FieldRow fieldRows[] = {
     {ids::orthoAngle, isAngle, storeOrthoAngle,
-     [](const Session& s) { return s.orthoAngle * degreesPerRadian; }},
+     [](const Session& s) { return s.orthoAngleSaved * degreesPerRadian; }},
     {ids::textRotation, isAngle, [](Session& s, double v) { s.textRotation = v; },
      [](const Session& s) { return s.textRotation; }},
     {ids::hatchRotation, isAngle, [](Session& s, double v) { s.hatchRotation = v / degreesPerRadian; },
