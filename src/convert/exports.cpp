@@ -149,22 +149,23 @@ Fault writePng(App& app, const std::string& out, const Surface& surface)
     return put(app, out, bytes);
 }
 
-struct WriterRow {
-    Format format;
-    Fault (*write)(App& app, const std::string& out, const Wishes& wishes);
-};
-
-constexpr WriterRow writers[] = {
-    {Format::mtd, writeMtd}, {Format::dxf, writeDxf}, {Format::svg, writeSvg}, {Format::pdf, writePdf}};
-
 } // namespace
 
 Fault exportTo(const std::string& out, const Wishes& wishes, App& app, const Surface& surface)
 {
     if (wishes.format == Format::png) return writePng(app, out, surface);
     changeStat(app.s.store, Stat::on, Stat::sel);
-    for (const WriterRow& row : writers) {
-        if (row.format == wishes.format) return row.write(app, out, wishes);
+    switch (wishes.format) { // no default: a new format is a warning here
+    case Format::mtd:
+        return writeMtd(app, out, wishes);
+    case Format::dxf:
+        return writeDxf(app, out, wishes);
+    case Format::svg:
+        return writeSvg(app, out, wishes);
+    case Format::pdf:
+        return writePdf(app, out, wishes);
+    case Format::png:
+        break; // above
     }
     return "can't be written: " + out;
 }

@@ -7,10 +7,6 @@
 
 namespace mirtane {
 
-// Kinds that exist only while a file is read.
-inline constexpr Kind polylineSegmentKind{30}; // p1 start, p2 end, p3.x bulge
-inline constexpr Kind blockInsertKind{35};     // p1 place, p2 scales, a1 rotation (radians), dxfTag the block
-
 // Raises entCount, which goes on beyond the table but not beyond its own type.
 inline void countSlots(EntityStore& store, std::int64_t more)
 {

@@ -71,8 +71,6 @@ void feedRecord(Bounds& box, const EntityRecord& r)
     case Kind::leader:
     case Kind::angularDimension:
         return feedAll(box, r, &R::p1, &R::p2, &R::p3, &R::p5);
-
-        return;
     }
 }
 

@@ -80,14 +80,20 @@ std::optional<Point> meetingWithLeg(const EntityStore& store, std::int32_t slot,
         const Crossings c = crossLines(leg.from, leg.to, p1, store.p2[at]);
         return c.count == 1 ? std::optional(c.points[0]) : std::nullopt;
     }
-        return snapped;
     case Kind::circle:
     case Kind::arc:
         if (leg.from == p1) return pointTowards(p1, store.rad[at], leg.from, leg.to);
         return nearerOf(crossLineCircle(leg.from, leg.to, p1, store.rad[at]), leg.to);
-    default:
-        return snapped;
+    case Kind::ellipse:
+    case Kind::point:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
+        break;
     }
+    return snapped;
 }
 
 Point pointTowards(Point centre, double radius, Point a, Point b)

@@ -122,10 +122,18 @@ Point shareOfObject(const EntityStore& store, std::size_t i, double share, Point
         const bool fromStart = isNearer(pointer, p2, store.p3[i]);
         return polarPoint(p1, radius, shareOfArc(store.a1[i], store.a2[i], share, fromStart));
     }
-        return {};
-    default:
+    case Kind::circle:
         return polarPoint(p1, radius, shareOfCircle(p1, radius, share, pointer));
+    case Kind::ellipse:
+    case Kind::point:
+    case Kind::text:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::leader:
+    case Kind::angularDimension:
+        break; // no share is asked of them
     }
+    return p1;
 }
 
 // The point of a circle nearest to the pointer on the line through its centre and click 1; hit where neither

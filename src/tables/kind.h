@@ -41,12 +41,23 @@ inline constexpr std::size_t drawnKinds = std::size(everyKind);
 // Slots that are no objects: never painted, picked or exported. They are no enumerators, so that no switch
 // has to name them.
 inline constexpr Kind noKind{0};
-inline constexpr Kind headerKind{24};    // slot 0: the drawing's attributes
-inline constexpr Kind layerNameKind{25}; // p1.x layer number plus 2, t1 the name
+inline constexpr Kind headerKind{24};          // slot 0: the drawing's attributes
+inline constexpr Kind layerNameKind{25};       // p1.x layer number plus 2, t1 the name
+inline constexpr Kind polylineSegmentKind{30}; // while a DXF file is read: p1 start, p2 end, p3.x bulge
+inline constexpr Kind blockInsertKind{35};     // likewise: p1 place, p2 scales, a1 rotation, dxfTag the block
 
 constexpr std::int16_t numberOf(Kind kind)
 {
     return static_cast<std::int16_t>(kind); // its underlying type
+}
+
+// Where a kind stands in everyKind; one that does not, does not compile.
+consteval std::size_t placeInEveryKind(Kind kind)
+{
+    for (std::size_t i = 0; i < drawnKinds; ++i) {
+        if (everyKind[i] == kind) return i;
+    }
+    throw "everyKind lacks a kind";
 }
 
 // The place of a kind in a table that has a row for each of them; drawnKinds for what is no enumerator.
@@ -54,25 +65,25 @@ constexpr std::size_t placeOf(Kind kind)
 {
     switch (kind) {
     case Kind::line:
-        return 0;
+        return placeInEveryKind(Kind::line);
     case Kind::circle:
-        return 1;
+        return placeInEveryKind(Kind::circle);
     case Kind::arc:
-        return 2;
+        return placeInEveryKind(Kind::arc);
     case Kind::ellipse:
-        return 3;
+        return placeInEveryKind(Kind::ellipse);
     case Kind::point:
-        return 4;
+        return placeInEveryKind(Kind::point);
     case Kind::text:
-        return 5;
+        return placeInEveryKind(Kind::text);
     case Kind::linearDimension:
-        return 6;
+        return placeInEveryKind(Kind::linearDimension);
     case Kind::radialDimension:
-        return 7;
+        return placeInEveryKind(Kind::radialDimension);
     case Kind::leader:
-        return 8;
+        return placeInEveryKind(Kind::leader);
     case Kind::angularDimension:
-        return 9;
+        return placeInEveryKind(Kind::angularDimension);
     }
     return drawnKinds;
 }
@@ -108,5 +119,19 @@ constexpr Kind objectOf(Kind piece)
 {
     return static_cast<Kind>(numberOf(piece) - pieceOffset); // wraps at the end of 16 bits, far from any kind
 }
+
+// No kind has a number that stands for something else, nor has its piece.
+consteval bool numbersAreFree()
+{
+    for (const Kind kind : everyKind) {
+        for (const Kind taken : {kind, pieceOf(kind)}) {
+            if (taken == noKind || taken == headerKind || taken == layerNameKind) return false;
+            if (taken == polylineSegmentKind || taken == blockInsertKind) return false;
+        }
+        if (isDrawnKind(pieceOf(kind)) || isDrawnKind(objectOf(kind))) return false;
+    }
+    return true;
+}
+static_assert(numbersAreFree());
 
 } // namespace mirtane
