@@ -114,7 +114,7 @@ bool isTextBox(ControlId id)
 
 struct FormRow {
     ControlId form;
-    void (*close)(App& app, ControlId form);
+    void (*close)(App& app, ControlId form) = nullptr;
 };
 
 constexpr FormRow formRows[] = {

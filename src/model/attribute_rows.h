@@ -14,7 +14,7 @@ namespace mirtane {
 struct Choice {
     ControlId entry;
     double number = 0;
-    std::string_view word = "";
+    std::string_view word{};
     bool marks = true; // the entry has its check mark only while the attribute has the value
 };
 

@@ -8,9 +8,9 @@
 namespace mirtane {
 
 struct Pen {
-    std::int32_t color; // 0xBBGGRR
-    int paperWidth;     // device pixels
-    ControlId entry;    // of the menu of line widths
+    std::int32_t color = 0; // 0xBBGGRR
+    int paperWidth = 0;     // device pixels
+    ControlId entry;        // of the menu of line widths
     ControlId filterEntry;
 };
 
@@ -26,7 +26,7 @@ inline constexpr Pen pens[] = {
 };
 
 struct LineStyle {
-    std::int16_t style;
+    std::int16_t style = 0;
     ControlId entry; // of the menu of line styles; its caption is the style's name
     ControlId filterEntry;
 };

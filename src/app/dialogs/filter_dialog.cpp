@@ -19,7 +19,7 @@ constexpr ControlId boxes[] = {ids::layerSetting, ids::objectSetting, ids::color
 
 struct KindEntry {
     ControlId menu;
-    Kind kind;
+    Kind kind{};
 };
 
 // The last stands for every dimension.

@@ -153,7 +153,7 @@ std::vector<PrintOp> pagePreview(const Session& s)
     const double fitted = fittedScaleShown(s.controls);
     const bool isEmpty = s.controls[ids::printScale].text.empty();
     if (isEmpty || !(s.pageWidth > 0 && s.pageHeight > 0) || typed < fitted) return {};
-    PrintState page = s;
+    PrintState page = static_cast<const PrintState&>(s); // the page alone
     keep(page.printFactor, quotient(fitted, typed));
     RecordingPrinter recording(s.pageWidth, s.pageHeight);
     drawPage(s.store, pageMapping(page, s.store), s.pageHeight, recording);
