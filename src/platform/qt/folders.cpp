@@ -59,7 +59,7 @@ std::vector<std::string> QtFolders::drives()
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (holdsDrawings(volume)) roots.append(volume.rootPath());
     }
-    if (roots.isEmpty()) roots.append(QDir::rootPath());
+    roots.append(QDir::rootPath()); // also where no volume is mounted there, as in a root within another
     roots.sort();
     roots.prepend(QDir::homePath());
     roots.removeDuplicates();
