@@ -147,7 +147,7 @@ std::string withThousands(std::int64_t count)
 {
     std::string text = std::to_string(count);
     const std::size_t sign = count < 0 ? 1 : 0;
-    for (std::size_t at = text.size(); at > sign + 3; at -= 3) text.insert(at - 3, ",");
+    for (std::size_t at = text.size(); at > sign + 3; at -= 3) text.insert(at - 3, 1, ',');
     return text;
 }
 
