@@ -4,6 +4,7 @@
 #include "app/menus/library_menus.h"
 
 #include "desk.h"
+#include "files/library_files.h"
 
 #include <gtest/gtest.h>
 
@@ -456,6 +457,36 @@ TEST(LibraryMenus, AHatchSavedWhileOneIsPlacedStaysTheCurrentOne)
             desk.fillSquare();
             EXPECT_EQ(desk.s.curFunc, "Place Hatch") << fails;
             EXPECT_GT(desk.s.store.entCount, slots + 50) << fails;
+        }
+    }
+}
+
+// Whatever is done beside the dialog, the file holds the hatch whose name it has.
+TEST(LibraryMenus, TheHatchThatWasChosenIsTheOneThatIsSaved)
+{
+    using Beside = void (*)(LibraryDesk&);
+    constexpr Beside besides[] = {
+        [](LibraryDesk&) {},
+        [](LibraryDesk& desk) { desk.press("Command1"_c); },
+        [](LibraryDesk& desk) { desk.press("Command20"_c); },
+        [](LibraryDesk& desk) { desk.cancel(); },
+    };
+    for (const bool places : {false, true}) {
+        for (const Beside beside : besides) {
+            LibraryDesk desk;
+            desk.create(hatches, "one");
+            desk.create(hatches, "two");
+            if (places) {
+                desk.press(hatches.place);
+                desk.choose(0);
+            }
+            const Bytes two = hatchBytes(desk.s.hatchLibrary, "two");
+            ASSERT_NE(two, hatchBytes(desk.s.hatchLibrary, "one"));
+            desk.press(hatches.save);
+            desk.choose(1);
+            beside(desk);
+            desk.press("frmfile.Command1"_c);
+            EXPECT_EQ(desk.disk.files[desk.path(hatches, "two")], two) << places;
         }
     }
 }

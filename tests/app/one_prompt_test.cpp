@@ -74,6 +74,21 @@ TEST(OnePrompt, OfAFunctionStartedOverZoomWindowThatHasNoneOfItsOwn)
     expectOnePrompt(desk, "Move Dimension Text", "(Enter beginning point of line:)");
 }
 
+// The construction line that is released is no word of the zoom's, which is still on.
+TEST(OnePrompt, OfZoomWindowOverAConstructionLineThatIsReleased)
+{
+    for (const ControlId function : {"ml3"_c, "Command19"_c}) {
+        Desk desk;
+        desk.drawLine(100, 100, 400, 137);
+        desk.s.store.setStat(1, Stat::sel);
+        desk.press(function);
+        desk.press("blank"_c);
+        desk.press("Command43"_c);
+        desk.press("blank"_c);
+        expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+    }
+}
+
 TEST(OnePrompt, OfTheCornersOfAWindow)
 {
     for (const ControlId other : {"Command43"_c, "blank"_c}) {

@@ -6,6 +6,7 @@
 #include "geometry/ortho.h"
 #include "model/shown_prompt.h"
 #include "render/redraw.h"
+#include "render/view.h"
 #include "snap/snap.h"
 #include "tables/functions.h"
 
@@ -41,7 +42,8 @@ void turnOff(Session& s, Canvas& pic1)
     s.controls[ids::blankToggle].caption = "Blank/Off";
     resetPicture(pic1);
     s.curFunc = s.blankSavedFunc;
-    showPrompt(s, s.curFunc, s.functionPrompt.text); // a prompt shown meanwhile told of the construction line
+    s.functionPrompt.function = s.curFunc; // a prompt shown meanwhile told of the construction line
+    if (!zoomWindowIsOn(s.controls)) endPassingPrompt(s);
     if (!takesRelease(findFunction(s.curFunc), s.stepNo)) return;
     countStep(s);
     if (s.stepNo == 1) s.pickFirst = s.blankStart;

@@ -42,6 +42,12 @@ void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std:
     tellMissing(s.controls, missing);
 }
 
+// The list gave it to the dialog. The current hatch may be another one, which is being placed.
+std::string& nameToSave(Session& s, Library library)
+{
+    return library == Library::hatches ? s.nameToSave : currentName(s, library);
+}
+
 } // namespace
 
 bool saveLibraryFile(App& app, const FileChoice& choice)
@@ -49,13 +55,13 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     Session& s = app.s;
     const LibraryRow* row = rowWith(&LibraryRow::pattern, choice.pattern);
     if (row == nullptr) return false;
-    std::string& current = currentName(s, row->library);
-    const std::string name = isBeingPlaced(s, *row) ? s.nameToSave : current;
+    std::string& toSave = nameToSave(s, row->library);
+    const std::string name = toSave;
     // Nothing is saved under no name, and nothing that would be read back as removed.
     if (!isLiveName(name) || !isLiveName(toCodePage(name))) return false;
     const bool saved =
         app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
-    if (!isBeingPlaced(s, *row)) current = noName;
+    if (!isBeingPlaced(s, *row)) toSave = currentName(s, row->library) = noName;
     endWhatIsBegun(s, app.pic1);
     return saved;
 }
