@@ -15,6 +15,7 @@
 #include "app/menus/layer_menus.h"
 #include "app/menus/library_menus.h"
 #include "app/menus/text_menus.h"
+#include "app/notices.h"
 #include "app/typing/fields.h"
 #include "commands/live_text.h"
 #include "commands/prompt.h"
@@ -203,6 +204,8 @@ constexpr ActionRow actionRows[] = {
     {ids::lineSettings, backToDrawing},
     {ids::fileConfirm, confirmFileDialog},
     {ids::fileDismiss, dismissFileDialog},
+    {ids::noticeFirst, takeOffer},
+    {ids::noticeSecond, takeOffer},
 };
 
 bool startsAtOnce(ControlId id)

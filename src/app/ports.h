@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/disk.h"
+#include "files/work_keeper.h"
 #include "print/printer.h"
 
 #include <map>
@@ -41,6 +42,13 @@ class SettingsStore {
     virtual void write(const std::map<std::string, std::string>& values) = 0;
 };
 
+class Clock {
+  public:
+    virtual ~Clock() = default;
+
+    virtual std::string now() = 0; // local, "2026-11-22 14:32"
+};
+
 // What the shell asks of the platform, besides the surface.
 struct Ports {
     Disk& disk;
@@ -50,6 +58,8 @@ struct Ports {
     Printer* printer = nullptr; // not owned; null where nothing can be printed
     Fonts* fonts = nullptr;     // not owned; null where there are none
     std::string ownFolder = {}; // where the user's files go at first; the program's folder if empty
+    WorkKeeper* work = nullptr; // not owned; null where nothing is kept
+    Clock* clock = nullptr;     // not owned; null where no time is told
 };
 
 } // namespace mirtane

@@ -7,6 +7,7 @@
 #include "app/dialogs/print_dialog.h"
 #include "app/drawing/canvas_input.h"
 #include "app/files/file_dialog.h"
+#include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "app/menus/file_menus.h"
 #include "app/menus/layer_menus.h"
@@ -35,9 +36,18 @@ bool isSeen(const Controls& controls, ControlId id)
     return controls[id].visible && controls[formOf(id)].visible;
 }
 
+// Forms that have to be answered before anything else is done.
+constexpr ids::Id modalForms[] = {ids::fileForm, ids::printForm};
+
+bool isBehindForm(const Controls& controls, ControlId id)
+{
+    return std::ranges::any_of(modalForms,
+                               [&](ControlId form) { return controls[form].visible && formOf(id) != form; });
+}
+
 bool canBeUsed(const Controls& controls, ControlId id)
 {
-    return isSeen(controls, id) && controls[id].enabled;
+    return isSeen(controls, id) && controls[id].enabled && !isBehindForm(controls, id);
 }
 
 bool hasRow(const Control& list, int row)
@@ -171,12 +181,12 @@ void Shell::openDrawing(const std::string& path)
 void Shell::mouseDown(int button, Point at)
 {
     giveFocus(ids::drawing); // a field that is left so forgets what was half typed
-    event([&](App&) { canvasMouseDown(s_, pic1_, button, at); });
+    eventOf(ids::drawing, [&](App&) { canvasMouseDown(s_, pic1_, button, at); });
 }
 
 void Shell::mouseMove(Point at)
 {
-    event([&](App&) {
+    eventOf(ids::drawing, [&](App&) {
         canvasMouseMove(s_, pic1_, at);
         s_.controls[ids::pointerLine].caption = inNumberStyle(s_, at.x) + "  " + inNumberStyle(s_, at.y);
     });
@@ -185,7 +195,7 @@ void Shell::mouseMove(Point at)
 void Shell::wheel(double steps, Point at)
 {
     constexpr double factorOfOneStep = 1.25;
-    event([&](App&) {
+    eventOf(ids::drawing, [&](App&) {
         zoomAbout(s_, pic1_, at, std::pow(factorOfOneStep, steps));
         repaintTextPreview(s_, pic1_);
         canvasMouseMove(s_, pic1_, at); // the rubber band, if there is one, goes on at the new scale
@@ -194,7 +204,7 @@ void Shell::wheel(double steps, Point at)
 
 void Shell::keyDown(int code)
 {
-    event([&](App&) { canvasKeyDown(s_, pic1_, code); });
+    eventOf(ids::drawing, [&](App&) { canvasKeyDown(s_, pic1_, code); });
 }
 
 void Shell::keyUp(int)
@@ -274,11 +284,22 @@ void Shell::giveFocus(ControlId id)
 
 void Shell::closeForm(ControlId form)
 {
-    event([&](App& app) { closeFormOf(app, form); });
+    eventOf(form, [&](App& app) { closeFormOf(app, form); });
+}
+
+bool Shell::takesInput(ControlId id) const
+{
+    return canBeUsed(s_.controls, id);
+}
+
+void Shell::rest()
+{
+    event([](App& app) { keepUnsavedWork(app); });
 }
 
 void Shell::settle(ControlId focusBefore)
 {
+    showNotice(s_.controls, s_.notices);
     // A form that went from the screen takes no keys with it.
     if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = ids::drawing;
     if (s_.controls.focus != focusBefore) leave(s_, focusBefore);

@@ -11,7 +11,8 @@ namespace mirtane {
 
 // The main object of the program without its window. Every event of the user comes in here, one at a time,
 // and is routed; what the user then sees is in session().controls and on the surface. An event for a control
-// that is greyed, or that stands on a form that is not shown, does nothing.
+// that is greyed, that stands on a form that is not shown, or behind one that has to be answered first, does
+// nothing.
 class Shell {
   public:
     // The surface, its scale set, and the ports must outlive the shell.
@@ -53,6 +54,13 @@ class Shell {
     void giveFocus(ControlId id);
     // The close button of a form's frame.
     void closeForm(ControlId form);
+
+    // Nobody has touched the program for a moment, or it is about to be ended from outside: work that is not
+    // saved is kept.
+    void rest();
+
+    // Whether an event of the control would do anything.
+    bool takesInput(ControlId id) const;
 
     Session& session() { return s_; }
     const Session& session() const { return s_; }

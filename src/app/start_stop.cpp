@@ -1,6 +1,7 @@
 #include "app/start_stop.h"
 
 #include "app/drawing/endings.h"
+#include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "app/settings.h"
 #include "commands/prompt.h"
@@ -53,15 +54,13 @@ void startProgram(App& app)
     app.pic1.setFontName(s.textFont);
     showCheckMarks(s);
     showLineSettings(s);
-}
-
-bool hasUnsavedWork(const Session& s)
-{
-    return s.savedCount < s.store.entCount;
+    takeAsSaved(app);
+    offerLeftWork(app);
 }
 
 void endProgram(App& app)
 {
+    takeAsSaved(app);
     writeSettings(app.s, app.ports.settings);
     for (const ControlId form : laterForms) app.s.controls[form].visible = false;
     app.s.ended = true;
@@ -83,6 +82,9 @@ void clearDrawing(App& app)
     newLayers(s);
     s.drawingName = "untitled.mtd";
     s.drawingFile.clear();
+    s.drawingFolder.clear();
+    s.notices.settleOfDrawing();
+    takeAsSaved(app);
     setPrompt(s, app.pic1);
 }
 

@@ -11,8 +11,6 @@ void startProgram(App& app);
 // Writes the settings and ends the program.
 void endProgram(App& app);
 
-bool hasUnsavedWork(const Session& s);
-
 // Closes the drawing: an empty one with sixteen layers and the name "untitled.mtd". Slots keep their fields,
 // libraries their rows.
 void clearDrawing(App& app);

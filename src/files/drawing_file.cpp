@@ -40,16 +40,25 @@ bool isWritten(const Session& s, std::int32_t slot, SaveWhat what)
     return stat == Stat::on || stat == Stat::sel || stat == Stat::off;
 }
 
-// Reads whole records, as many as the table has slots, and gives each to take().
-template <class Take> std::int32_t readRecords(const Bytes& file, Take take)
+struct RecordCount {
+    std::int32_t taken = 0;
+    std::int32_t leftOut = 0; // whole ones behind those
+};
+
+// Reads whole records, and gives as many as the table has slots to take().
+template <class Take> RecordCount readRecords(const Bytes& file, Take take)
 {
     ByteReader in(file);
     EntityRecord record;
-    std::int32_t count = 0;
-    while (count < EntityStore::slotCount && in.remaining() > 0 && readRecord(in, record)) {
+    RecordCount count;
+    while (in.remaining() > 0 && readRecord(in, record)) {
+        if (count.taken == EntityStore::slotCount) {
+            ++count.leftOut; // below 2^31, as a record has 90 bytes and a file that is read half a gigabyte
+            continue;
+        }
         if (record.color == fileGrey) record.color = white;
         take(record);
-        ++count;
+        ++count.taken;
     }
     return count;
 }
@@ -61,19 +70,19 @@ void storeRecord(Session& s, std::int32_t slot, const EntityRecord& record)
     markUsed(s.layerTable, record.layer);
 }
 
-// Fills the slots from 0 on. Gives whether there was a record at all.
-bool readSlots(Session& s, const Bytes& file)
+// Fills the slots from 0 on.
+RecordCount readSlots(Session& s, const Bytes& file)
 {
     s.store.entCount = 0;
     s.dimensionCount = 0;
     clearRecords(s.log);
-    const std::int32_t count = readRecords(file, [&s](const EntityRecord& record) {
+    const RecordCount count = readRecords(file, [&s](const EntityRecord& record) {
         storeRecord(s, s.store.entCount, record);
         ++s.store.entCount;
     });
     s.store.entCount = std::max(s.store.entCount, 1);
     s.savedCount = s.store.entCount;
-    return count > 0;
+    return count;
 }
 
 // Sets dimensionCount, and layerCount to the highest layer that an object or a layer name has.
@@ -173,25 +182,28 @@ void afterSave(Session& s, SaveWhat what)
     if (what == SaveWhat::drawing) s.savedCount = s.store.entCount;
 }
 
-void replaceDrawing(Session& s, const Bytes& file)
+std::int32_t replaceDrawing(Session& s, const Bytes& file)
 {
-    const bool hasHeader = readSlots(s, file);
+    const RecordCount count = readSlots(s, file);
     countDimensionsAndLayers(s);
-    if (hasHeader) takeHeader(s);
+    if (count.taken > 0) takeHeader(s);
     rebuildLayers(s);
     nameAndMarkLayers(s);
     constexpr std::int32_t highestCount = 32767; // it counts in 16 bits
     s.layerTable.layerCount = std::min(s.layerTable.layerCount + 1, highestCount);
+    return count.leftOut;
 }
 
 // A layer name is written like the others, but the next record takes its slot.
-void mergeLayer(Session& s, const Bytes& file, std::int16_t layer)
+std::int32_t mergeLayer(Session& s, const Bytes& file, std::int16_t layer)
 {
-    readRecords(file, [&s, layer](EntityRecord record) {
+    const std::int32_t lostBefore = std::max(0, s.store.entCount - EntityStore::slotCount);
+    const RecordCount count = readRecords(file, [&s, layer](EntityRecord record) {
         record.layer = layer;
         storeRecord(s, s.store.entCount, record);
         if (record.kind != layerNameKind) ++s.store.entCount;
     });
+    return count.leftOut + std::max(0, s.store.entCount - EntityStore::slotCount) - lostBefore;
 }
 
 void setTextAnchors(EntityStore& store, const TextWidthOf& widthOf)

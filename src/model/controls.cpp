@@ -42,8 +42,9 @@ Controls::Controls()
         Control& control = controls_[i];
         control.caption = row.caption;
         setText(control, std::string(row.text));
-        const bool laterForm = row.kind == ControlKind::form && row.name != "frmMain";
-        control.visible = !laterForm && row.kind != ControlKind::workingText;
+        const bool comesLater =
+            row.kind == ControlKind::strip || (row.kind == ControlKind::form && row.name != "frmMain");
+        control.visible = !comesLater && row.kind != ControlKind::workingText;
     }
 }
 
@@ -85,7 +86,7 @@ ControlId formOf(ControlId id)
 {
     const std::string_view name = id.row().name;
     ControlId form = ids::mainForm;
-    if (id.row().kind == ControlKind::form) return id;
+    if (id.row().kind == ControlKind::form || id.row().kind == ControlKind::strip) return id;
     if (const auto dot = name.find('.'); dot != std::string_view::npos)
         findControl(name.substr(0, dot), form);
     return form;

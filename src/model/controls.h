@@ -28,7 +28,8 @@ struct Control {
 
 class Controls {
   public:
-    // Every control with its caption and first text; forms but frmMain, and working strings, not visible.
+    // Every control with its caption and first text; forms but frmMain, the strip and working strings, not
+    // visible.
     Controls();
 
     Control& operator[](ControlId id) { return controls_[id.index]; }
@@ -58,7 +59,8 @@ void setCaret(Control& control, int position);
 void typeInto(Control& control, std::string_view utf8Character);
 void backspaceIn(Control& control);
 
-// The form that a control stands on: "frmfile" for "frmfile.Text1", "frmMain" for "entry".
+// What a control stands on: "frmfile" for "frmfile.Text1", "frmMain" for "entry", "notice" for the buttons of
+// the strip.
 ControlId formOf(ControlId id);
 
 } // namespace mirtane

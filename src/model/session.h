@@ -8,6 +8,7 @@
 #include "model/entity_store.h"
 #include "model/layers.h"
 #include "model/library_tables.h"
+#include "model/notices.h"
 #include "model/undo_log.h"
 
 #include <array>
@@ -134,7 +135,19 @@ inline constexpr std::int16_t exit = 1;
 inline constexpr std::int16_t clear = 2;
 inline constexpr std::int16_t openDrawing = 3;
 inline constexpr std::int16_t openDxf = 4;
+inline constexpr std::int16_t restoreWork = 5;
+inline constexpr std::int16_t openAgain = 6;
 } // namespace follow
+
+// How far the work on a drawing has come (model/work_mark.h).
+struct WorkMark {
+    std::int32_t entCount = 1;
+    std::int32_t undoGroupNext = 0;
+    std::int32_t undoLogCount = 0;
+    std::size_t layerNames = 0; // a sum over them
+
+    friend bool operator==(const WorkMark&, const WorkMark&) = default;
+};
 
 // Where files of one pattern are looked for: the last path if it still exists, else the working directory.
 struct FolderPair {
@@ -146,7 +159,12 @@ struct FileState {
     std::int32_t savedCount = 1; // entCount at the last load or save
     std::int16_t saveFollowUp = follow::nothing;
     std::string drawingName = "untitled.mtd";
-    std::string drawingFile; // full path of what was opened or saved as this drawing, if anything was
+    std::string drawingFile;   // full path of what was opened or saved as this drawing, if anything was
+    std::string drawingFolder; // the drawing's own; empty while it has none
+    WorkMark savedMark;        // the work at the last load or save
+    std::string savedTime;     // of that, local, "2026-11-22 14:32"
+    WorkMark keptMark;         // the work as it was last kept, in case the program dies
+    std::vector<std::string> leftWork; // what other runs left, by name; the last one is on offer
     std::string dxfName = "untitled.dxf";
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;
@@ -212,6 +230,7 @@ struct Session : Attributes,
     HatchLibrary hatchLibrary;
     MultipleLinesLibrary multipleLinesLibrary;
     Controls controls;
+    Notices notices;
 };
 
 } // namespace mirtane

@@ -41,6 +41,7 @@ std::string_view valuesOf(ControlKind kind)
     case ControlKind::checkedEntry:
         return "caption checked";
     case ControlKind::form:
+    case ControlKind::strip:
     case ControlKind::label:
     case ControlKind::menu:
         return "caption";

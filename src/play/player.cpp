@@ -104,6 +104,7 @@ void putCommand(Stage& stage, Words& words)
     const ControlId id = reachable(stage, words.word());
     if (!isTextBox(id.row().kind)) throw Refusal{"not a text box"};
     const std::string text = words.text();
+    if (!stage.shell.takesInput(id)) return; // it stands behind a form that has to be answered
     stage.shell.giveFocus(id);
     Control& box = stage.shell.session().controls[id];
     setCaret(box, static_cast<int>(box.text.size())); // a text has no more characters than bytes
@@ -175,6 +176,11 @@ void resizeCommand(Stage& stage, Words& words)
     stage.shell.resized();
 }
 
+void idleCommand(Stage& stage, Words&)
+{
+    stage.shell.rest();
+}
+
 void closeCommand(Stage& stage, Words&)
 {
     stage.shell.closeForm(ids::mainForm);
@@ -194,7 +200,7 @@ constexpr CommandRow commandRows[] = {
     {"type", typeCommand, anyNumber}, {"enter", enterCommand, 0},     {"backspace", backspaceCommand, 0},
     {"put", putCommand, anyNumber},   {"press", pressCommand, 1},     {"focus", focusCommand, 1},
     {"pick", pickCommand, anyNumber}, {"scale", scaleCommand, 4},     {"resize", resizeCommand, 2},
-    {"close", closeCommand, 0},
+    {"close", closeCommand, 0},       {"idle", idleCommand, 0},
 };
 
 void runCommand(Stage& stage, std::string_view line)

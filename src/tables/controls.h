@@ -11,6 +11,7 @@ namespace mirtane {
 
 enum class ControlKind : std::uint8_t {
     form,
+    strip,   // a line across the foot of the drawing, with its buttons on it
     surface, // pic1
     picture, // drawn by the window
     button,
@@ -100,6 +101,9 @@ enum Id : std::uint16_t {
     textLabel,
     promptLine,
     pointerLine,
+    notice,
+    noticeFirst,
+    noticeSecond,
     fileMenu,
     openDrawing,
     closeDrawing,
@@ -201,6 +205,7 @@ enum Id : std::uint16_t {
     fileType,
     fileConfirm,
     fileDismiss,
+    fileRemark,
     editBreak,
     editTrim,
     editStretch,
@@ -355,6 +360,9 @@ inline constexpr ControlRow controlTable[] = {
     // The line under the drawing: the prompt again, since a title bar is easily overlooked, and the pointer.
     {ids::promptLine, "promptlab", ControlKind::label, "", "", "", ""},
     {ids::pointerLine, "pointerlab", ControlKind::label, "", "", "", ""},
+    {ids::notice, "notice", ControlKind::strip, "", "", "", ""},
+    {ids::noticeFirst, "notice.Command1", ControlKind::button, "", "", "", ""},
+    {ids::noticeSecond, "notice.Command2", ControlKind::button, "", "", "", ""},
 
     {ids::fileMenu, "fil1", ControlKind::menu, "", "File", "", ""},
     {ids::openDrawing, "fil4", ControlKind::entry, "fil1", "Open Drawing", "", ""},
@@ -458,6 +466,7 @@ inline constexpr ControlRow controlTable[] = {
     {ids::fileType, "frmfile.Text2", ControlKind::display, "", "", "", ""},
     {ids::fileConfirm, "frmfile.Command1", ControlKind::button, "", "Open", "", ""},
     {ids::fileDismiss, "frmfile.Command2", ControlKind::button, "", "Close", "", ""},
+    {ids::fileRemark, "frmfile.Label4", ControlKind::label, "", "", "", ""}, // what is at stake
 
     {ids::editBreak, "frmedit.Command1", ControlKind::button, "", "Break", "Break a section out of an object.", ""},
     {ids::editTrim, "frmedit.Command2", ControlKind::button, "", "Trim", "Trim an object or objects to another object.", ""},

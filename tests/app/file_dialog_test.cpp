@@ -71,6 +71,7 @@ TEST_F(FileWork, UnsavedIsOfferedToBeSavedBeforeWhatWasAskedFor)
         expectDialog(desk, "Save Changes", "Save", row.dismiss, "untitled.mtd");
         EXPECT_EQ(desk.s.saveFollowUp, row.followUp) << row.entry.row().name;
         EXPECT_EQ(desk.s.store.entCount, 2);
+        desk.shell.closeForm("frmfile"_c);
     }
     desk.shell.closeForm("frmMain"_c);
     expectDialog(desk, "Save Changes", "Save", "End", "untitled.mtd");
@@ -81,6 +82,7 @@ TEST_F(FileWork, UnsavedIsOfferedToBeSavedBeforeWhatWasAskedFor)
 TEST_F(FileWork, SaveDrawingOpensSaveFileAndAsksForNothingAfterwards)
 {
     desk.press("fil5"_c); // leaves a follow-up behind
+    desk.shell.closeForm("frmfile"_c);
     desk.press("fil7"_c);
     expectDialog(desk, "Save File", "Save", "Close", "untitled.mtd");
     EXPECT_EQ(desk.s.saveFollowUp, 0);

@@ -302,6 +302,7 @@ TEST_F(Menus, SaveThatFailsBeforeAnOpenKeepsTheDrawingAndWhatWasAskedFor)
         EXPECT_EQ(desk.s.saveFollowUp, followUp);
         EXPECT_EQ(desk.caption("frmfile"_c), "Save Changes");
         EXPECT_EQ(desk.s.drawingName, "untitled.mtd");
+        desk.shell.closeForm("frmfile"_c);
     }
 }
 

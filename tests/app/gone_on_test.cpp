@@ -7,13 +7,13 @@ namespace {
 
 using namespace fake;
 
-// The drawing can be worked on while the dialog stands.
+// What was begun before the dialog came up is ended when it is confirmed.
 TEST(TakenOverMeanwhile, WhatIsBegunEndsWhollyWhenTheDialogIsConfirmed)
 {
     for (const Moment& moment : moments) {
         Office office;
-        office.press("fil7"_c);
         moment.begin(office);
+        office.press("fil7"_c);
         office.lookAtScreen();
         office.press(confirm);
         ASSERT_TRUE(office.disk.files.contains("/home/user/untitled.mtd")) << moment.what;

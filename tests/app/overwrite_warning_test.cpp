@@ -151,6 +151,14 @@ const OpenRow ownRows[] = {
          d.name("1");
          d.enter();
      }},
+    {"opened, and a layer merged from another folder",
+     [](LayerDesk& d) {
+         d.open("house");
+         d.menuRow("ly13"_c, 1);
+         d.shell.clickRow("frmfile.Dir1"_c, 1);
+         d.name("house");
+         d.enter();
+     }},
 };
 
 TEST(OverwriteWarning, IsNotGivenForTheFileThatIsOpen)
@@ -173,14 +181,6 @@ const OpenRow foreignRows[] = {
     {"of a DXF file that was opened",
      [](LayerDesk& d) {
          d.press("dd2"_c);
-         d.name("house");
-         d.enter();
-     }},
-    {"in the folder of a layer that was merged",
-     [](LayerDesk& d) {
-         d.open("house");
-         d.menuRow("ly13"_c, 1);
-         d.shell.clickRow("frmfile.Dir1"_c, 1);
          d.name("house");
          d.enter();
      }},

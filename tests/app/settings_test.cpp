@@ -229,8 +229,10 @@ TEST(Settings, HaveNoFormLeftOnTheScreenAtTheEnd)
     Desk desk;
     desk.press("hlp3"_c);
     desk.press("flt1"_c);
-    desk.press("fil7"_c);
+    desk.drawLine(100, 100, 400, 100);
     desk.shell.closeForm("frmMain"_c);
+    desk.press("frmfile.Command2"_c);
+    EXPECT_TRUE(desk.shell.ended());
     for (const ControlId form : {"frmfile"_c, "frmfilter"_c, "frmedit"_c, "frmprintset"_c, "frmhelp"_c}) {
         EXPECT_FALSE(desk.visible(form)) << form.row().name;
     }

@@ -5,6 +5,7 @@
 #include "app/shell.h"
 #include "kind_print.h"
 #include "memory_ports.h"
+#include "memory_work.h"
 #include "ops_text.h"
 #include "text/utf8.h"
 
@@ -16,7 +17,8 @@ inline constexpr const char* home = "/home/user";
 
 class Desk {
   public:
-    explicit Desk(const std::map<std::string, std::string>& stored = {})
+    explicit Desk(const std::map<std::string, std::string>& stored = {}, const MemoryWork& found = {})
+        : work(found)
     {
         settings.values = stored;
         folders.folders = {"/", "/home", home};
@@ -84,7 +86,9 @@ class Desk {
     std::unique_ptr<Session> session = std::make_unique<Session>();
     Session& s = *session;
     RecordingCanvas pic1{Size{1200, 800}};
-    Shell shell{*session, pic1, Ports{disk, folders, settings, home}};
+    MemoryWork work;
+    MemoryClock clock;
+    Shell shell{*session, pic1, Ports{disk, folders, settings, home, nullptr, nullptr, {}, &work, &clock}};
 };
 
 inline std::string titleOf(std::string_view doing, std::string_view drawing = "untitled.mtd")

@@ -1,6 +1,7 @@
 #include "app/files/file_dialog.h"
 
 #include "app/files/file_flows.h"
+#include "app/files/unsaved_work.h"
 #include "app/start_stop.h"
 #include "app/typing/keys.h"
 #include "commands/prompt.h"
@@ -49,14 +50,20 @@ const std::vector<std::string>& namesListed(const Controls& controls)
     return controls[ids::fileList].rows;
 }
 
-// A file of the list is meant as it stands, were there three points in its name: else another file would be
-// opened, or written over.
+// The drawing's own name, as the dialog proposes it.
+bool isOwnName(const Session& s, const std::string& name)
+{
+    return s.filePattern == "*.mtd" && name == s.drawingName;
+}
+
+// A file of the list, or the drawing's own, is meant as it stands, were there three points in its name: else
+// another file would be opened, or written over.
 std::string chosenName(const Session& s)
 {
     const std::string& typed = s.controls[ids::fileName].text;
     const auto& names = namesListed(s.controls);
     const bool isListed = std::ranges::find(names, typed) != names.end() && typed.front() != '.';
-    return isListed ? typed : normalisedName(s);
+    return isListed || isOwnName(s, typed) ? typed : normalisedName(s);
 }
 
 bool sameButForCase(std::string_view a, std::string_view b)
@@ -156,6 +163,21 @@ std::string folderThatExists(App& app, const FolderPair& folders)
     return app.s.programFolder;
 }
 
+namespace {
+
+// The drawing itself is saved where it is from, wherever parts of it or others went meanwhile.
+std::string firstFolder(App& app, const FileFlow& flow)
+{
+    const FileState& s = app.s;
+    const FileChoice choice{{}, {}, std::string(flow.caption), std::string(flow.pattern)};
+    const bool savesIt = flow.button == "Save" && savesWholeDrawing(choice);
+    if (savesIt && !s.drawingFolder.empty() && app.ports.folders.exists(s.drawingFolder))
+        return s.drawingFolder;
+    return folderThatExists(app, s.*patternOf(s).folders);
+}
+
+} // namespace
+
 void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
 {
     Session& s = app.s;
@@ -164,10 +186,11 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     s.controls[ids::fileForm].caption = flow.caption;
     s.controls[ids::fileConfirm].caption = flow.button;
     s.controls[ids::fileDismiss].caption = "Close";
+    s.controls[ids::fileRemark].caption.clear();
     setText(s.controls[ids::fileType], std::string(pattern.typeLine));
     setSelectedText(s.controls[ids::fileName], name);
     s.saveFollowUp = follow::nothing;
-    showFolder(app, folderThatExists(app, s.*pattern.folders));
+    showFolder(app, firstFolder(app, flow));
     if (!proposesOwnFile(s)) showWhetherItOverwrites(s);
     s.controls[ids::fileForm].visible = true;
     s.controls.focus = ids::fileName;
@@ -181,20 +204,26 @@ void hideDialog(Controls& controls)
     controls.focus = ids::drawing;
 }
 
+// The replaced objects go with it.
+void openDrawingAgain(App& app)
+{
+    const FileState& s = app.s;
+    openFile(app, {s.drawingFolder, s.drawingName, "Open Drawing", "*.mtd"});
+}
+
 // What was asked for before the work was saved or given up.
 void carryOutFollowUp(App& app)
 {
     const std::int16_t followUp = app.s.saveFollowUp;
     if (followUp == follow::exit) return endProgram(app);
-    if (followUp == follow::nothing) {
-        setPrompt(app.s, app.pic1);
-        return hideDialog(app.s.controls);
-    }
-    clearDrawing(app);
     app.s.saveFollowUp = follow::nothing;
     hideDialog(app.s.controls);
+    if (followUp == follow::nothing) return setPrompt(app.s, app.pic1);
+    if (followUp == follow::openAgain) return openDrawingAgain(app);
+    clearDrawing(app);
     if (followUp == follow::openDrawing) openFileDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
     if (followUp == follow::openDxf) openFileDialog(app, {"Open DXF", "Open", "*.dxf"}, "");
+    if (followUp == follow::restoreWork) restoreLeftWork(app);
 }
 
 } // namespace
@@ -203,7 +232,16 @@ void offerToSave(App& app, std::int16_t followUp)
 {
     openFileDialog(app, {"Save Changes", "Save", "*.mtd"}, app.s.drawingName);
     app.s.saveFollowUp = followUp;
-    app.s.controls[ids::fileDismiss].caption = followUp == follow::exit ? "End" : "Close";
+    const std::string_view button = followUp == follow::exit ? "End" : "Close";
+    app.s.controls[ids::fileDismiss].caption = button;
+    app.s.controls[ids::fileRemark].caption = whatIsUnsaved(app.s, button, app.ports.clock);
+}
+
+void saveAndOpenAgain(App& app)
+{
+    openFileDialog(app, {"Save File", "Save", "*.mtd"}, app.s.drawingName);
+    app.s.saveFollowUp = follow::openAgain;
+    if (!app.s.drawingFile.empty() && proposesOwnFile(app.s)) confirmFileDialog(app, ids::fileConfirm);
 }
 
 void confirmFileDialog(App& app, ControlId)

@@ -29,6 +29,9 @@ void openDrawingAt(App& app, const std::string& path);
 // "Save Changes": asks what to do with unsaved work before what followUp names.
 void offerToSave(App& app, std::int16_t followUp);
 
+// Makes room: saves the drawing, to its own file or where the user says, and opens what was saved.
+void saveAndOpenAgain(App& app);
+
 // Within the dialog.
 void confirmFileDialog(App& app, ControlId);
 void dismissFileDialog(App& app, ControlId); // Command2

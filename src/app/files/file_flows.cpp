@@ -3,6 +3,7 @@
 #include "app/drawing/endings.h"
 #include "app/files/library_flows.h"
 #include "app/files/open_drawing.h"
+#include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "commands/prompt.h"
 #include "dxf/dxf_names.h"
@@ -22,10 +23,23 @@ bool isPlainName(const std::string& name)
 }
 
 // The drawing is from now on that of the file.
-void takeFile(FileState& s, const FileChoice& choice)
+void takeFile(App& app, const FileChoice& choice)
 {
+    FileState& s = app.s;
     s.drawingName = choice.name;
     s.drawingFile = pathOf(choice);
+    s.drawingFolder = choice.folder;
+    takeAsSaved(app);
+}
+
+// The drawing is a part of the file's, which must not be replaced by it.
+void takePartOfFile(App& app, const FileChoice& choice, std::int32_t leftOut)
+{
+    Session& s = app.s;
+    s.drawingName = "untitled.mtd";
+    s.drawingFile.clear();
+    s.drawingFolder = choice.folder;
+    tellLeftOut(s.notices, choice.name, leftOut, s.drawingName);
 }
 
 bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
@@ -33,9 +47,9 @@ bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
     Session& s = app.s;
     if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
     endWhatIsBegun(s, app.pic1);
-    if (what == SaveWhat::drawing) takeFile(s, choice);
     const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
     afterSave(s, what);
+    if (what == SaveWhat::drawing) takeFile(app, choice);
     if (marksGo) redrawAll(s, app.pic1);
     return true;
 }
@@ -47,9 +61,10 @@ SaveWhat whatIsSaved(const FileChoice& choice)
     return SaveWhat::drawing;
 }
 
-void mergeDrawing(App& app, const Bytes& file)
+void mergeDrawing(App& app, const FileChoice& choice, const Bytes& file)
 {
-    mergeLayer(app.s, file, app.s.chosenLayer);
+    const std::int32_t leftOut = mergeLayer(app.s, file, app.s.chosenLayer);
+    if (leftOut > 0) tellLeftOut(app.s.notices, choice.name, leftOut, {});
     showLayers(app.s);
     redrawAll(app.s, app.pic1);
     updateGauge(app.s);
@@ -62,10 +77,11 @@ bool openDrawingFile(App& app, const FileChoice& choice)
     endWhatIsBegun(app.s, app.pic1);
     forgetOwners(app.s.store);
     if (choice.caption == list_mode::loadLayer) {
-        mergeDrawing(app, *file);
+        mergeDrawing(app, choice, *file);
     } else {
-        takeFile(app.s, choice);
-        openDrawing(app, *file);
+        const std::int32_t leftOut = openDrawing(app, *file);
+        takeFile(app, choice);
+        if (leftOut > 0) takePartOfFile(app, choice, leftOut);
     }
     setPrompt(app.s, app.pic1);
     return true;
@@ -92,9 +108,11 @@ bool openDxfFile(App& app, const FileChoice& choice)
     endWhatIsBegun(s, app.pic1);
     s.dxfName = choice.name;
     s.drawingName = drawingNameOf(choice.name);
-    s.drawingFile.clear();        // what may be there under that name is another drawing
-    s.drawings.last = s.dxf.last; // so that the drawing is saved beside the file that it came from
-    openDxf(app, *file);
+    s.drawingFile.clear();           // what may be there under that name is another drawing
+    s.drawingFolder = choice.folder; // the drawing is saved beside the file that it came from
+    const std::int32_t leftOut = openDxf(app, *file);
+    takeAsSaved(app);
+    if (leftOut > 0) takePartOfFile(app, choice, leftOut);
     setPrompt(s, app.pic1);
     return true;
 }

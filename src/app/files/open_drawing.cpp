@@ -8,6 +8,9 @@
 #include "render/redraw.h"
 #include "render/view.h"
 #include "tables/list_modes.h"
+#include "text/numbers.h"
+
+#include <algorithm>
 
 namespace mirtane {
 namespace {
@@ -36,10 +39,11 @@ void showTakenLayers(Session& s)
 
 } // namespace
 
-void openDrawing(App& app, const Bytes& file)
+std::int32_t openDrawing(App& app, const Bytes& file)
 {
     Session& s = app.s;
-    replaceDrawing(s, file);
+    s.notices.settleOfDrawing();
+    const std::int32_t leftOut = replaceDrawing(s, file);
     fitView(s, app.pic1);
     showTakenAttributes(app);
     setTextAnchors(s.store, textWidthOn(app.pic1));
@@ -49,13 +53,16 @@ void openDrawing(App& app, const Bytes& file)
     fixUpLinesAndCircles(s.store);
     s.stepNo = 0;
     s.controls.focus = ids::drawing;
+    return leftOut;
 }
 
-void openDxf(App& app, const Bytes& file)
+std::int32_t openDxf(App& app, const Bytes& file)
 {
     Session& s = app.s;
+    s.notices.settleOfDrawing();
     forgetOwners(s.store);
     readDxf(s, file, textWidthOn(app.pic1));
+    const std::int32_t leftOut = std::max(0, s.store.entCount - EntityStore::slotCount);
     s.stepNo = 0;
     redrawAll(s,
               app.pic1); // an empty drawing has nothing to zoom to, and the old one must go from the screen
@@ -65,6 +72,15 @@ void openDxf(App& app, const Bytes& file)
     finishDxf(s);
     updateGauge(s);
     s.controls.focus = ids::drawing;
+    return leftOut;
+}
+
+void tellLeftOut(Notices& notices, const std::string& file, std::int32_t leftOut, const std::string& name)
+{
+    std::string sentence = file + ": there was no room for " + withThousands(leftOut) +
+                           (leftOut == 1 ? " object." : " objects.");
+    if (!name.empty()) sentence += " The drawing is named " + name + ", so that the file stays whole.";
+    notices.post({Matter::leftOut, sentence, {{"Close", Offer::goOn}}});
 }
 
 } // namespace mirtane

@@ -6,9 +6,15 @@
 namespace mirtane {
 
 // Replaces the drawing by the bytes of a drawing file, fits the view to it and takes over its attributes.
-void openDrawing(App& app, const Bytes& file);
+// Gives how many objects of the file found no place.
+std::int32_t openDrawing(App& app, const Bytes& file);
 
 // Replaces the drawing by the objects of a DXF file and shows them all.
-void openDxf(App& app, const Bytes& file);
+// Gives the same.
+std::int32_t openDxf(App& app, const Bytes& file);
+
+// Says in the strip that so many objects of a file found no place, and, if it is given one, the name that the
+// drawing has in place of the file's.
+void tellLeftOut(Notices& notices, const std::string& file, std::int32_t leftOut, const std::string& name);
 
 } // namespace mirtane

@@ -2,6 +2,7 @@
 
 #include "app/drawing/endings.h"
 #include "app/files/file_dialog.h"
+#include "app/files/unsaved_work.h"
 #include "app/start_stop.h"
 #include "dxf/dxf_names.h"
 #include "tables/list_modes.h"

@@ -39,7 +39,8 @@ void layFileForm(const ControlMaker& maker, QWidget& form)
     drives.setFixedHeight(driveRows * drives.fontMetrics().height() + 2 * drives.fontMetrics().height());
     grid.addWidget(&drives, 2, 1);
     grid.addWidget(&maker.makeLabelled(ids::fileTypeLabel, ids::fileType, form), 3, 0, 1, 2);
-    grid.addWidget(&buttonRow(maker, form), 4, 0, 1, 2);
+    grid.addWidget(&maker.make(ids::fileRemark, form), 4, 0, 1, 2);
+    grid.addWidget(&buttonRow(maker, form), 5, 0, 1, 2);
 }
 
 } // namespace mirtane

@@ -37,7 +37,7 @@ FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
                           Qt::WindowCloseButtonHint),
       gate_(gate), form_(form)
 {
-    if (form == ids::printForm) setWindowModality(Qt::WindowModal);
+    if (form == ids::printForm || form == ids::fileForm) setWindowModality(Qt::WindowModal);
 }
 
 void FormWindow::show(const Control& now)

@@ -3,6 +3,7 @@
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/form_window.h"
 #include "platform/qt/window/menu_view.h"
+#include "platform/qt/window/notice_strip.h"
 #include "platform/qt/window/side_panel.h"
 #include "platform/qt/window/surface_widget.h"
 #include "platform/qt/window/tool_strip.h"
@@ -17,6 +18,11 @@
 
 namespace mirtane {
 namespace {
+
+// How long nothing may happen before work that is not saved is kept, and how long it may go on happening; in
+// milliseconds.
+constexpr int restBegins = 1000;
+constexpr qint64 longestWithoutRest = 10000;
 
 // The line under the drawing: the prompt, which may need all of the width, and the pointer's position.
 QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
@@ -40,7 +46,14 @@ MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(
     lay(surface);
     makeForms(ControlMaker(gate_, views_), *this);
     views_.add(ids::mainForm, *this);
-    gate_.setCopying([this] { copyControls(); });
+    rest_.setSingleShot(true);
+    rest_.setInterval(restBegins);
+    rest_.callOnTimeout(this, [this] { rest(); });
+    sinceRest_.start();
+    gate_.setCopying([this] {
+        copyControls();
+        waitForRest();
+    });
     gate_.send([](Shell&) {}); // nothing happens but the copying
 }
 
@@ -59,7 +72,8 @@ void MainWindow::lay(Surface& surface)
     grid.addWidget(&childOf<ToolStrip>(whole, gate_, views_), 0, 0);
     grid.addWidget(&drawing, 0, 1);
     grid.addWidget(&childOf<SidePanel>(whole, maker), 0, 2);
-    grid.addWidget(&statusLine(maker, whole), 1, 0, 1, 3);
+    grid.addWidget(&childOf<NoticeStrip>(whole, maker), 1, 0, 1, 3);
+    grid.addWidget(&statusLine(maker, whole), 2, 0, 1, 3);
 }
 
 void MainWindow::show(const Control& now)
@@ -73,6 +87,20 @@ void MainWindow::copyControls()
     views_.copy(shell.session().controls);
     surface_.refresh();
     if (shell.ended()) QApplication::exit();
+}
+
+// Whoever draws without a pause is not to lose all of it.
+void MainWindow::waitForRest()
+{
+    if (!rest_.isActive()) sinceRest_.restart();
+    rest_.start();
+    if (sinceRest_.elapsed() > longestWithoutRest) rest();
+}
+
+void MainWindow::rest()
+{
+    rest_.stop();
+    gate_.shell().rest();
 }
 
 void MainWindow::openWhenShown(const std::string& path)

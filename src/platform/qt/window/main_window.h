@@ -4,7 +4,9 @@
 #include "platform/qt/window/control_views.h"
 #include "platform/qt/window/event_gate.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
 
 namespace mirtane {
 
@@ -29,11 +31,15 @@ class MainWindow : public QMainWindow, public ControlView {
   private:
     void lay(Surface& surface);
     void copyControls();
+    void waitForRest();
+    void rest();
 
     EventGate gate_;
     ControlViews views_;
     Surface& surface_;
-    std::string toOpen_; // when the window is shown; empty if nothing is
+    QTimer rest_;
+    QElapsedTimer sinceRest_; // since the first event that no rest has followed
+    std::string toOpen_;      // when the window is shown; empty if nothing is
 };
 
 } // namespace mirtane

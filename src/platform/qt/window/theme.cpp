@@ -47,6 +47,9 @@ const char* const rules = R"(
     QLabel:disabled { color: #6c7480; }
     QLabel#heading { color: #7f8a99; font-weight: 600; }
     QLabel#snaplab { color: #ffcf5c; min-height: 18px; font-size: 12px; }
+    QWidget#notice { background: #3a3420; border-top: 1px solid #6b5a1f; }
+    QLabel#sentence { color: #ffe6a3; font-size: 13px; }
+    QWidget#notice QPushButton { padding: 3px 14px; }
     QWidget#status { background: #1c1f24; border-top: 1px solid #14161a; }
     QLabel#promptlab { color: #f2f5f9; font-size: 13px; }
     QLabel#pointerlab { color: #9aa4b2; font-size: 13px; qproperty-alignment: 'AlignRight | AlignVCenter'; }

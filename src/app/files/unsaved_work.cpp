@@ -1,0 +1,139 @@
+#include "app/files/unsaved_work.h"
+
+#include "app/drawing/endings.h"
+#include "app/files/open_drawing.h"
+#include "commands/prompt.h"
+#include "files/kept_work.h"
+#include "model/work_mark.h"
+#include "text/numbers.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+std::string nowBy(Clock* clock)
+{
+    return clock != nullptr ? clock->now() : std::string();
+}
+
+// "14:32" of today, the day before it of any other.
+std::string shortTime(const std::string& time, const std::string& now)
+{
+    const auto blank = time.find(' ');
+    const bool today = blank != std::string::npos && now.substr(0, blank + 1) == time.substr(0, blank + 1);
+    return today ? time.substr(blank + 1) : time;
+}
+
+std::string folderOf(const std::string& path)
+{
+    return path.substr(0, std::max<std::size_t>(path.rfind('/'), 1));
+}
+
+KeptAbout aboutDrawing(const Session& s, const Ports& ports)
+{
+    return {s.drawingName, s.drawingFile, nowBy(ports.clock)};
+}
+
+std::optional<KeptWork> workOnOffer(App& app)
+{
+    const std::optional<Bytes> bytes = app.ports.work->read(app.s.leftWork.back());
+    return bytes ? readKeptWork(*bytes) : std::nullopt;
+}
+
+// What can't be read stays where it is, out of the way.
+void offerNext(App& app)
+{
+    Session& s = app.s;
+    s.notices.settle(Matter::workLeft);
+    for (; !s.leftWork.empty(); s.leftWork.pop_back()) {
+        const std::optional<KeptWork> work = workOnOffer(app);
+        if (!work) continue;
+        const std::string time = shortTime(work->about.time, nowBy(app.ports.clock));
+        s.notices.post({Matter::workLeft,
+                        work->about.drawingName + ", " + time + ": work that was not saved is here.",
+                        {{"Restore", Offer::restoreWork}, {"Throw away", Offer::throwWorkAway}}});
+        return;
+    }
+}
+
+// It is unsaved, whatever its objects count to.
+void takeAsUnsaved(Session& s, const KeptAbout& about)
+{
+    s.drawingName = about.drawingName;
+    s.drawingFile = about.drawingFile;
+    s.drawingFolder = about.drawingFile.empty() ? "" : folderOf(about.drawingFile);
+    s.savedCount = 0;
+    s.savedTime = about.time;
+    s.savedMark = {};
+    s.keptMark = workMark(s);
+}
+
+} // namespace
+
+bool hasUnsavedWork(const Session& s)
+{
+    return s.savedCount < s.store.entCount;
+}
+
+void keepUnsavedWork(App& app)
+{
+    Session& s = app.s;
+    const WorkMark mark = workMark(s);
+    if (app.ports.work == nullptr || mark == s.keptMark) return;
+    s.keptMark = mark;
+    app.ports.work->keep(keptWork(s, aboutDrawing(s, app.ports)));
+}
+
+void takeAsSaved(App& app)
+{
+    Session& s = app.s;
+    s.savedMark = workMark(s);
+    s.keptMark = s.savedMark;
+    s.savedTime = nowBy(app.ports.clock);
+    if (app.ports.work != nullptr) app.ports.work->forget();
+}
+
+std::string whatIsUnsaved(const Session& s, std::string_view button, Clock* clock)
+{
+    const std::int32_t changes = std::max(1, s.log.undoGroupNext - s.savedMark.undoGroupNext);
+    std::string text =
+        s.drawingName + ": " + withThousands(changes) + (changes == 1 ? " change" : " changes");
+    if (!s.savedTime.empty()) text += " since " + shortTime(s.savedTime, nowBy(clock));
+    return text + ". \"" + std::string(button) + "\" gives " + (changes == 1 ? "it" : "them") + " up.";
+}
+
+void offerLeftWork(App& app)
+{
+    if (app.ports.work == nullptr) return;
+    app.s.leftWork = app.ports.work->left();
+    offerNext(app);
+}
+
+void restoreLeftWork(App& app)
+{
+    Session& s = app.s;
+    if (s.leftWork.empty()) return;
+    const std::optional<KeptWork> work = workOnOffer(app);
+    // Another run may have been quicker.
+    const bool ours = work && app.ports.work->adopt(s.leftWork.back());
+    s.leftWork.pop_back();
+    if (ours) {
+        endWhatIsBegun(s, app.pic1);
+        forgetOwners(s.store);
+        openDrawing(app, work->drawing);
+        takeAsUnsaved(s, work->about);
+        setPrompt(s, app.pic1);
+    }
+    offerNext(app);
+}
+
+void throwLeftWorkAway(App& app)
+{
+    if (app.s.leftWork.empty()) return;
+    app.ports.work->remove(app.s.leftWork.back());
+    app.s.leftWork.pop_back();
+    offerNext(app);
+}
+
+} // namespace mirtane

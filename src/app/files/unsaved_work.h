@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// What is not saved outlives the program: it is kept while nobody touches the drawing, and offered to the
+// next run.
+
+bool hasUnsavedWork(const Session& s);
+
+// Keeps the drawing if something was done since it was last kept or saved.
+void keepUnsavedWork(App& app);
+
+// The drawing is as it is on the disk, or was given up: nothing of it is to be kept.
+void takeAsSaved(App& app);
+
+// What is at stake, as one line: "house.mtd: 12 changes since 14:32. ..."; button is the one that gives them
+// up.
+std::string whatIsUnsaved(const Session& s, std::string_view button, Clock* clock);
+
+// At the start of the program: offers what other runs have left.
+void offerLeftWork(App& app);
+
+// Brings back the work on offer as the drawing, which must not hold unsaved work.
+void restoreLeftWork(App& app);
+void throwLeftWorkAway(App& app);
+
+} // namespace mirtane

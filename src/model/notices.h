@@ -1,0 +1,52 @@
+#pragma once
+
+// What the strip at the foot of the drawing says. It asks for no answer: a matter stands until it is settled,
+// and several wait behind one another, the latest in front.
+
+#include "model/controls.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mirtane {
+
+enum class Matter : std::uint8_t {
+    workLeft,     // by a program that is no longer alive
+    leftOut,      // of a file, for want of room
+    tableFull,    // an edit was refused
+    fileChanged,  // by someone else, since it was opened or saved here
+    openElsewhere // the drawing, in another program of ours
+};
+
+enum class Offer : std::uint8_t { restoreWork, throwWorkAway, saveAndOpenAgain, goOn };
+
+struct NoticeButton {
+    std::string_view caption;
+    Offer offer{};
+};
+
+struct Notice {
+    Matter matter{};
+    std::string sentence;
+    std::vector<NoticeButton> buttons; // two at most
+};
+
+class Notices {
+  public:
+    // In front of the others. What was said of the same matter goes.
+    void post(Notice notice);
+    void settle(Matter matter);
+    // What is said of the drawing goes with it.
+    void settleOfDrawing();
+    // None where nothing is to be said.
+    const Notice* shown() const;
+
+  private:
+    std::vector<Notice> standing_; // the last one is shown
+};
+
+// Copies what is to be said to the controls of the strip, which is out of sight when there is nothing.
+void showNotice(Controls& controls, const Notices& notices);
+
+} // namespace mirtane
