@@ -4,7 +4,7 @@
 
 #include "app/shell.h"
 #include "plain.h"
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/surface.h"
 
@@ -29,7 +29,7 @@ class Bench {
 
     Image plainImage();
 
-    QtDisk disk;
+    PosixDisk disk;
     QtFolders folders;
     NoSettings settings;
     Ports ports{disk, folders, settings, ""};

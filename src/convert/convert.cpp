@@ -4,7 +4,7 @@
 #include "app/shell.h"
 #include "convert/exports.h"
 #include "dxf/tolerant.h"
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/surface.h"
 #include "render/view.h"
@@ -37,7 +37,7 @@ struct Desk {
         shell.start();
     }
 
-    QtDisk disk;
+    PosixDisk disk;
     QtFolders folders;
     NoSettings settings;
     Surface surface;

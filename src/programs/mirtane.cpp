@@ -1,7 +1,7 @@
 // The program with its window: mirtane [drawing].
 
 #include "app/shell.h"
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/places.h"
@@ -50,7 +50,7 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);                 // the shell says when it ends
     applyTheme(application);
 
-    QtDisk disk;
+    PosixDisk disk;
     QtFolders folders;
     QtSettings settings;
     QtFonts fonts;

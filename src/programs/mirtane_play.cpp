@@ -1,6 +1,6 @@
 // The program without its window: reads commands, does what a user would have done, and answers questions.
 
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/settings.h"
@@ -108,7 +108,7 @@ int run(const Options& options)
     if (!QDir().mkpath(folder)) return complain("can't be made: " + options.home);
     const std::string home = QDir(folder).canonicalPath().toStdString();
 
-    QtDisk disk;
+    PosixDisk disk;
     QtFolders folders;
     QtSettings settings(home + "/settings.ini");
     const auto session = std::make_unique<Session>();

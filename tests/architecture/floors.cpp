@@ -17,8 +17,9 @@ struct Floor {
 };
 
 // A folder uses itself and the folders of lower floors. Numbers are written and read as text under the fault
-// rule, so text/ may look into geometry/, and not the other way.
-constexpr std::array<Floor, 18> floors{{
+// rule, so text/ may look into geometry/, and not the other way;
+// the toolkit's side keeps its settings on the disk, which knows no toolkit.
+constexpr std::array<Floor, 19> floors{{
     {"geometry", 0, ""},
     {"text", 0, "geometry"},
     {"tables", 1, ""},
@@ -32,7 +33,8 @@ constexpr std::array<Floor, 18> floors{{
     {"edit", 6, ""},
     {"library", 6, ""},
     {"app", 7, ""},
-    {"platform/qt", 8, ""},
+    {"platform/posix", 8, ""},
+    {"platform/qt", 8, "platform/posix"},
     {"platform/qt/window", 9, ""},
     {"play", 9, ""},
     {"convert", 9, ""},

@@ -3,7 +3,7 @@
 
 #include "files/drawing_file.h"
 #include "model/insertion.h"
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "play_process.h"
 #include "theatre.h"
 
@@ -86,7 +86,7 @@ struct KilledSaves : testing::Test {
             if (name.endsWith(".mtd")) shown.push_back(name.toStdString());
         }
         EXPECT_EQ(QtFolders().files(folder.path().toStdString(), ".mtd"), shown);
-        EXPECT_TRUE(QtDisk().writeWhole(at("house.mtd"), few));
+        EXPECT_TRUE(PosixDisk().writeWhole(at("house.mtd"), few));
         EXPECT_EQ(contentOf(at("house.mtd")), textOf(few));
     }
 
@@ -102,14 +102,14 @@ struct KilledSaves : testing::Test {
 // The disk alone, so that the kills are many and nearly all fall within a save.
 TEST_F(KilledSaves, LeaveOneOfTheTwoWhole)
 {
-    ASSERT_TRUE(QtDisk().writeWhole(at("house.mtd"), few));
+    ASSERT_TRUE(PosixDisk().writeWhole(at("house.mtd"), few));
     for (const auto end = Clock::now() + timeForEach; Clock::now() < end;) {
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
             for (;;) {
-                QtDisk().writeWhole(at("house.mtd"), many);
-                QtDisk().writeWhole(at("house.mtd"), few);
+                PosixDisk().writeWhole(at("house.mtd"), many);
+                PosixDisk().writeWhole(at("house.mtd"), few);
             }
         }
         killLater(child, microseconds(20'000));
@@ -169,12 +169,12 @@ TEST_F(KilledSaves, OfTheWholeProgramLeaveOneOfTheTwoWhole)
     few = savedAgain(few);
     many = savedAgain(many);
     for (const auto& [name, bytes] : {std::pair("few.mtd", &few), std::pair("many.mtd", &many)}) {
-        ASSERT_TRUE(QtDisk().writeWhole(at(name), *bytes));
+        ASSERT_TRUE(PosixDisk().writeWhole(at(name), *bytes));
     }
     const QTemporaryDir beside;
     const std::string script = beside.filePath("saves.play").toStdString();
     std::ofstream(script) << savesInTurn();
-    ASSERT_TRUE(QtDisk().writeWhole(at("house.mtd"), few));
+    ASSERT_TRUE(PosixDisk().writeWhole(at("house.mtd"), few));
     for (const auto end = Clock::now() + timeForEach; Clock::now() < end;) {
         const pid_t child = startPlay(folder.path().toStdString(), script);
         ASSERT_GT(child, 0);

@@ -1,4 +1,4 @@
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,7 +31,7 @@ class DiskTest : public testing::Test {
     }
 
     QTemporaryDir folder_;
-    QtDisk disk_;
+    PosixDisk disk_;
 };
 
 // Files can't grow beyond so many bytes while this lives, as on a disk that is full.
@@ -199,7 +199,7 @@ TEST_F(DiskTest, FileTooLargeForMemoryIsNotRead)
 {
     QFile file(QString::fromStdString(at("huge.mtd")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(QtDisk::largestRead + 1)); // a hole, no bytes
+    ASSERT_TRUE(file.resize(PosixDisk::largestRead + 1)); // a hole, no bytes
     EXPECT_FALSE(disk_.read(at("huge.mtd")).has_value());
 }
 

@@ -2,7 +2,7 @@
 
 // The program as mirtane-play runs it, with the disk and the surface of the real one, line by line.
 
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/settings.h"
 #include "play/player.h"
@@ -60,7 +60,7 @@ class Theatre {
     std::string home() const { return folder.path().toStdString(); }
 
     QTemporaryDir folder;
-    QtDisk disk;
+    PosixDisk disk;
     QtFolders folders;
     QtSettings settings{folder.path().toStdString() + "/settings.ini"};
     std::unique_ptr<Session> session = std::make_unique<Session>();

@@ -1,6 +1,6 @@
 #include "platform/qt/page_painter.h"
 
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 #include "platform/qt/fonts.h"
 
 #include <QBuffer>
@@ -176,7 +176,7 @@ bool PdfPrinter::endPage()
     device_.reset();
     buffer_.reset();
     wait_.reset();
-    return drawn && QtDisk().writeWhole(file_, Bytes(bytes_.begin(), bytes_.end()));
+    return drawn && PosixDisk().writeWhole(file_, Bytes(bytes_.begin(), bytes_.end()));
 }
 
 PicturePrinter::PicturePrinter(QPaintDevice& device, float width, float height, double pixelsPerTwip)

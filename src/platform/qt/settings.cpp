@@ -1,6 +1,6 @@
 #include "platform/qt/settings.h"
 
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -118,7 +118,7 @@ QtSettings::QtSettings(std::string iniFile) : path_(std::move(iniFile)) {}
 
 Values QtSettings::read()
 {
-    const std::optional<Bytes> bytes = QtDisk().read(path_);
+    const std::optional<Bytes> bytes = PosixDisk().read(path_);
     if (!bytes || bytes->size() > largestFile) return {};
     return valuesIn(std::string(bytes->begin(), bytes->end()));
 }
@@ -130,7 +130,7 @@ void QtSettings::write(const Values& values)
     std::string text = std::string(section) + "\n";
     for (const auto& [key, value] : all) text += lineOf(key, value);
     QDir().mkpath(QFileInfo(QString::fromStdString(path_)).path());
-    QtDisk().writeWhole(path_, Bytes(text.begin(), text.end()));
+    PosixDisk().writeWhole(path_, Bytes(text.begin(), text.end()));
 }
 
 } // namespace mirtane

@@ -5,7 +5,7 @@
 namespace mirtane {
 
 // The disk of this machine.
-class QtDisk : public Disk {
+class PosixDisk : public Disk {
   public:
     // Files beyond this many bytes are not read; no drawing comes near it.
     static constexpr std::int64_t largestRead = 512LL * 1024 * 1024;

@@ -1,4 +1,4 @@
-#include "platform/qt/disk.h"
+#include "platform/posix/disk.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -134,7 +134,7 @@ void flushFolder(const std::filesystem::path& folder)
 
 } // namespace
 
-std::optional<Bytes> QtDisk::read(const std::string& path)
+std::optional<Bytes> PosixDisk::read(const std::string& path)
 {
     // A pipe would else wait for whoever writes into it.
     constexpr int atOnce = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
@@ -146,7 +146,7 @@ std::optional<Bytes> QtDisk::read(const std::string& path)
     return bytes;
 }
 
-bool QtDisk::isTaken(const std::string& path)
+bool PosixDisk::isTaken(const std::string& path)
 {
     struct stat there = {};
     return ::lstat(path.c_str(), &there) == 0;
@@ -154,7 +154,7 @@ bool QtDisk::isTaken(const std::string& path)
 
 // By the calls of the system, since the toolkit's own file of this sort passes over a flush or a close that
 // fails, and would put what is not on the disk in the old file's place.
-bool QtDisk::writeWhole(const std::string& path, const Bytes& bytes)
+bool PosixDisk::writeWhole(const std::string& path, const Bytes& bytes)
 {
     const Target target = targetAt(path);
     if (!target.canBeReplaced) return false;
