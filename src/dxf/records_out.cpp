@@ -6,7 +6,7 @@
 #include "geometry/fault.h"
 #include "text/code_page.h"
 
-#include <algorithm>
+#include <string>
 
 namespace mirtane {
 namespace {
@@ -34,13 +34,27 @@ std::string_view justificationValue(float justification)
     return "     0";
 }
 
-// A line end within a text would end its line in the file.
+// The bytes 81, 8D, 8F, 90 and 9D, which the code page leaves open, stand for control characters too.
+bool isControl(char byte)
+{
+    constexpr std::string_view open = "\x81\x8D\x8F\x90\x9D\x7F";
+    return (byte >= 0 && byte < ' ') || open.find(byte) != std::string_view::npos;
+}
+
+// A line end within a text would end its line in the file, and other control characters end or garble the
+// file in one reader or another. The words on both sides of a line end or a tab stay apart.
 std::string oneLine(std::string_view utf8)
 {
-    std::string bytes = toCodePage(utf8);
-    std::ranges::replace(bytes, '\r', ' ');
-    std::ranges::replace(bytes, '\n', ' ');
-    return bytes;
+    const std::string bytes = toCodePage(utf8);
+    std::string line;
+    line.reserve(bytes.size());
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const bool ofTwo = bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n';
+        const bool parts = bytes[i] == '\r' || bytes[i] == '\n' || bytes[i] == '\t';
+        if (!isControl(bytes[i])) line += bytes[i];
+        if (parts && !ofTwo) line += ' ';
+    }
+    return line;
 }
 
 } // namespace

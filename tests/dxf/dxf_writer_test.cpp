@@ -145,6 +145,55 @@ TEST(DxfWriter, TextIsWindows1252AndOneLine)
     EXPECT_NE(drawing.objects().find("  1\r\n\xE9 x\x80\r\n  7\r\n"), std::string::npos);
 }
 
+// Each would end the line, or the file, in one reader or another.
+TEST(DxfWriter, TextHasNoLineEndsAndNoControlCharacters)
+{
+    struct Row {
+        const char* what;
+        std::string words;
+        std::string written;
+    };
+    using namespace std::string_literals;
+    const Row rows[] = {
+        {"a line end between words", "west\nwall", "west wall"},
+        {"both characters of one line end", "west\r\nwall", "west wall"},
+        {"two line ends", "west\n\nwall", "west  wall"},
+        {"a line end of old", "west\rwall", "west wall"},
+        {"a tab", "12\t34", "12 34"},
+        {"the end of a file of old", "beam\x1A, steel", "beam, steel"},
+        {"nothing at all between", "be\0am"s, "beam"},
+        {"a bell and a step back",
+         "\x07"
+         "beam\x08",
+         "beam"},
+        {"a page and a line further down",
+         "\x0B"
+         "be\x0C"
+         "am",
+         "beam"},
+        {"the last of them",
+         "be\x1F\x7F"
+         "am",
+         "beam"},
+        {"one beyond the first half",
+         "be\xC2\x81\xC2\x9D"
+         "am",
+         "beam"},
+        {"a record of its own", "x\n  0\nLINE\n  8\nclay", "x   0 LINE   8 clay"},
+        {"nothing else", "\n\x01", " "},
+        {"letters and blanks as they are", "  \xC3\x84 \xE2\x82\xAC ~!  ", "  \xC4 \x80 ~!  "},
+    };
+    EntityRecord dimension = object(Kind::linearDimension);
+    dimension.s1 = 1;
+    for (const Row& row : rows) {
+        for (EntityRecord r : {textObject({-7, 4e6F}, 18, 33), dimension}) {
+            r.t1 = row.words;
+            const std::string expected = "  1\r\n" + row.written + "\r\n  7\r\nROMANC\r\n";
+            EXPECT_NE(Drawing{r}.objects().find(expected), std::string::npos) << row.what;
+        }
+    }
+}
+
 TEST(DxfWriter, ColorsHaveNumbersOfTheirOwn)
 {
     const struct {
