@@ -1,11 +1,10 @@
 #include "render/chords.h"
 
-#include "geometry/angle.h"
 #include "geometry/fault.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <numbers>
 
 namespace mirtane {
 namespace {
@@ -31,8 +30,9 @@ struct PieceRange {
 
 std::int32_t pieceAt(double share, std::int32_t count)
 {
-    const double piece = std::floor(std::clamp(share, 0.0, 1.0) * count);
-    return static_cast<std::int32_t>(piece); // clamped to 0 to count
+    std::int32_t piece = 0;
+    keep(piece, std::floor(std::clamp(share, 0.0, 1.0) * count));
+    return piece;
 }
 
 // Narrows the shares of the way from..to (coordinates) that lie between two limits.
@@ -73,90 +73,139 @@ Point pointAt(const Chords& c, double angle)
     return moved(c.centre, along * c.ux - across * c.uy, -along * c.uy - across * c.ux);
 }
 
-struct Corner {
-    double x, y; // with the circle as unit circle, y up
+// The limits of the view, a little wider: a coordinate beyond one is still beyond once it is rounded to 32
+// bits.
+struct Limits {
+    explicit Limits(const View& view)
+        : left(view.viewLeft - room(view.viewLeft)), top(view.viewTop - room(view.viewTop)),
+          right(view.viewRight + room(view.viewRight)), bottom(view.viewBottom + room(view.viewBottom))
+    {
+    }
+
+    // Whether something within a reach of a place may lie inside. Nothing does of what is no place.
+    bool meet(double x, double reachX, double y, double reachY) const
+    {
+        return x + reachX >= left && x - reachX <= right && y + reachY >= top && y - reachY <= bottom;
+    }
+
+    static double room(double limit) { return std::abs(limit) * coordinateStep; }
+
+    static constexpr double coordinateStep = 1.2e-7; // of 32 bits, as a part of the coordinate
+    double left, top, right, bottom;
 };
 
-std::array<Corner, 4> cornersOnUnitCircle(const View& view, const Chords& c)
+constexpr double rounding = 1e-15; // of what is worked out, as a part of its parts
+
+// So many chords are drawn as one as are together not longer than can be told apart, be it that they are
+// shorter than the steps of the window's coordinates or of the radius, or that the window is very narrow.
+std::int32_t chordsTaken(const View& view, const Chords& c)
 {
-    std::array<Corner, 4> corners{};
-    const float xs[] = {view.viewLeft, view.viewRight, view.viewRight, view.viewLeft};
-    const float ys[] = {view.viewTop, view.viewTop, view.viewBottom, view.viewBottom};
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        // Widened before the difference, or the corners are one point as seen from far away.
-        const double dx = static_cast<double>(xs[i]) - c.centre.x;
-        const double dy = static_cast<double>(c.centre.y) - ys[i];
-        corners[i].x = quotient(dx * c.ux + dy * c.uy, c.r);
-        corners[i].y = quotient(dy * c.ux - dx * c.uy, c.r * c.ratio);
-    }
-    return corners;
+    constexpr std::int32_t few = 4096; // as many as a window of any usual shape shows
+    if (c.count <= few) return 1;
+    const double width = static_cast<double>(view.viewRight) - view.viewLeft; // widened before the difference
+    const double height = static_cast<double>(view.viewBottom) - view.viewTop; // likewise
+    const double farthest = std::max({std::abs(view.viewLeft), std::abs(view.viewTop),
+                                      std::abs(view.viewRight), std::abs(view.viewBottom)});
+    const double least =
+        std::max({2 * (width + height) / few, Limits::room(farthest), std::abs(c.r) * rounding});
+    std::int32_t taken = c.count;
+    keep(taken,
+         std::clamp(std::ceil(quotient(least * c.count, std::abs(c.r * c.sweep))), 1.0, 1.0 * c.count));
+    return taken;
 }
 
-bool surroundsCentre(const std::array<Corner, 4>& corners)
-{
-    int left = 0;
-    int right = 0;
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        const Corner& a = corners[i];
-        const Corner& b = corners[(i + 1) % corners.size()];
-        const double side = a.x * b.y - a.y * b.x;
-        if (side >= 0) ++left;
-        if (side <= 0) ++right;
+// Goes through the chords of a line and passes over each half of it, and each half of that, that lies wholly
+// beyond one side of the view.
+class ChordWalk {
+  public:
+    ChordWalk(Canvas& pic1, const View& view, const Chords& chords)
+        : pic1_(pic1), view_(view), limits_(view), c_(chords), step_(chords.sweep / chords.count),
+          taken_(chordsTaken(view, chords)),
+          reachX_(std::abs(chords.r) * std::hypot(chords.ux, chords.ratio * chords.uy)),
+          reachY_(std::abs(chords.r) * std::hypot(chords.uy, chords.ratio * chords.ux))
+    {
     }
-    return left == 4 || right == 4;
-}
 
-// The directions in which the view is seen from the centre: from first counter-clockwise over width
-// (radians).
-struct Directions {
-    double first;
-    double width;
+    std::int64_t run()
+    {
+        walk({1, 1}); // its start is the caller's, and may lie anywhere
+        if (c_.count > 1) search({2, c_.count});
+        return looked_;
+    }
+
+  private:
+    void search(PieceRange range)
+    {
+        constexpr std::int32_t few = 8;
+        ++looked_;
+        const std::int32_t length = range.last - range.first;
+        if (length >= few && isBeyond(range)) return;
+        if (length < std::max(few, taken_)) return walk(range);
+        const std::int32_t middle = range.first + length / 2;
+        search({range.first, middle});
+        search({middle + 1, range.last});
+    }
+
+    // A point is no further from that of another angle than the angle between them times the radius.
+    bool isBeyond(PieceRange range) const
+    {
+        constexpr double diameter = 2;
+        const double from = c_.firstAngle + (range.first - 1) * step_;
+        const double to = c_.firstAngle + range.last * step_;
+        const double turn = std::abs(to - from) / 2 + (std::abs(from) + std::abs(to)) * rounding;
+        const double middle = (from + to) / 2;
+        const double along = c_.r * std::cos(middle);
+        const double across = c_.r * std::sin(middle) * c_.ratio;
+        const double xs[] = {c_.centre.x, along * c_.ux, -across * c_.uy};
+        const double ys[] = {c_.centre.y, -along * c_.uy, -across * c_.ux};
+        return !limits_.meet(sum(xs), reachX_ * std::min(turn, diameter) + roundingOf(xs), sum(ys),
+                             reachY_ * std::min(turn, diameter) + roundingOf(ys));
+    }
+
+    static double sum(const double (&parts)[3]) { return parts[0] + parts[1] + parts[2]; }
+
+    static double roundingOf(const double (&parts)[3])
+    {
+        return (std::abs(parts[0]) + std::abs(parts[1]) + std::abs(parts[2])) * rounding;
+    }
+
+    void walk(PieceRange range)
+    {
+        Point previous = range.first == 1 ? c_.start : at(range.first - 1);
+        for (std::int32_t k = range.first - 1; k < range.last;) {
+            k = range.last - k > taken_ ? k + taken_ : range.last;
+            const Point next = at(k);
+            drawIfInView(pic1_, view_, previous, next);
+            previous = next;
+            ++looked_;
+        }
+    }
+
+    Point at(std::int32_t k) const { return pointAt(c_, c_.firstAngle + k * step_); }
+
+    Canvas& pic1_;
+    const View& view_;
+    const Limits limits_;
+    const Chords& c_;
+    double step_;
+    std::int32_t taken_;
+    double reachX_, reachY_; // of the whole line from its centre
+    std::int64_t looked_ = 0;
 };
 
-double turnTo(double from, double to)
+// An angle that has turned thousands of times leaves its chords too few digits, and what lies beyond a whole
+// turn lies over what has been drawn.
+Chords withinATurn(const Chords& chords)
 {
-    const double turn = std::fmod(to - from, fullTurn);
-    return turn < 0 ? turn + fullTurn : turn;
-}
-
-Directions directionsOfView(const View& view, const Chords& c)
-{
-    const std::array<Corner, 4> corners = cornersOnUnitCircle(view, c);
-    const Directions all{0, fullTurn};
-    if (surroundsCentre(corners)) return all;
-    const double middle = std::atan2(corners[0].y + corners[2].y, corners[0].x + corners[2].x);
-    double before = 0;
-    double behind = 0;
-    for (const Corner& corner : corners) {
-        const double turn = std::remainder(std::atan2(corner.y, corner.x) - middle, fullTurn);
-        if (!std::isfinite(turn)) return all;
-        before = std::max(before, -turn);
-        behind = std::max(behind, turn);
-    }
-    return {middle - before, before + behind};
-}
-
-// Whether the view lies so far inside that no chord reaches it. On the unit circle a chord is no longer than
-// its step; a flat ellipse stretches what lies beside it.
-bool isFarInside(const View& view, const Chords& c)
-{
-    constexpr double rounding = 1e-6; // of points on the surface, as a share of the radius
-    const double flat = std::abs(c.ratio);
-    const double reach = std::abs(c.sweep / c.count) * std::max(flat, quotient(1, flat));
-    return std::ranges::all_of(cornersOnUnitCircle(view, c), [reach](const Corner& corner) {
-        return std::hypot(corner.x, corner.y) < 1 - reach - rounding;
-    });
-}
-
-void drawChordRange(Canvas& pic1, const View& view, const Chords& c, PieceRange range)
-{
+    constexpr double manyTurns = 100;
+    constexpr double turnAndMore = 6.3;
+    Chords c = chords;
+    if (std::abs(c.firstAngle) > manyTurns) c.firstAngle = std::remainder(c.firstAngle, 2 * std::numbers::pi);
+    if (!(std::abs(c.sweep) > turnAndMore)) return c;
     const double step = c.sweep / c.count;
-    Point previous = range.first == 1 ? c.start : pointAt(c, c.firstAngle + (range.first - 1) * step);
-    for (std::int32_t k = range.first; k <= range.last; ++k) {
-        const Point next = pointAt(c, c.firstAngle + k * step);
-        drawIfInView(pic1, view, previous, next);
-        previous = next;
-    }
+    keep(c.count, std::min(std::ceil(turnAndMore / std::abs(step)), 1.0 * c.count));
+    c.sweep = step * c.count;
+    return c;
 }
 
 } // namespace
@@ -168,7 +217,7 @@ bool pieceInView(const View& view, Point a, Point b)
            (a.y <= view.viewBottom || b.y <= view.viewBottom);
 }
 
-void drawPieces(Canvas& pic1, const View& view, const LinePieces& pieces)
+std::int64_t drawPieces(Canvas& pic1, const View& view, const LinePieces& pieces)
 {
     const PieceRange range = piecesInView(view, pieces);
     const double dx =
@@ -180,27 +229,14 @@ void drawPieces(Canvas& pic1, const View& view, const LinePieces& pieces)
         drawIfInView(pic1, view, previous, next);
         previous = next;
     }
+    return std::max(0, range.last - range.first + 1);
 }
 
-// The chords in view lie where the view is seen from the centre. Few chords are walked without asking where.
-void drawChords(Canvas& pic1, const View& view, const Chords& c)
+std::int64_t drawChords(Canvas& pic1, const View& view, const Chords& chords)
 {
-    constexpr std::int32_t few = 256;
-    if (!std::isfinite(c.r * c.sweep) || c.count < 1) return;
-    if (c.count <= few) return drawChordRange(pic1, view, c, {1, c.count});
-    drawChordRange(pic1, view, c, {1, 1}); // its start is the caller's, and may lie anywhere
-    if (isFarInside(view, c)) return;
-    const double step = c.sweep / c.count;
-    const Directions seen = directionsOfView(view, c);
-    const double first = turnTo(c.firstAngle, seen.first - step);
-    const double last = first + seen.width + 2 * step;
-    // A view seen across the start of the line has a part at its end and a part at its beginning.
-    for (const double turn : {first - fullTurn, first}) {
-        const std::int32_t from = pieceAt(turn / c.sweep, c.count) + 1;
-        const std::int32_t to = std::min(c.count, pieceAt((turn + last - first) / c.sweep, c.count) + 1);
-        if (turn <= c.sweep && turn + last - first >= 0)
-            drawChordRange(pic1, view, c, {std::max(from, 2), to});
-    }
+    if (!std::isfinite(chords.r * chords.sweep) || chords.count < 1) return 0;
+    const Chords c = withinATurn(chords);
+    return ChordWalk(pic1, view, c).run();
 }
 
 } // namespace mirtane

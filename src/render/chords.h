@@ -30,9 +30,9 @@ struct Chords {
     double ratio = 1;
 };
 
-// Each draws the pieces that are in view. The work is bounded by what is in view and not by the count: pieces
-// that can't be seen are not walked, however far an object reaches.
-void drawPieces(Canvas& pic1, const View& view, const LinePieces& pieces);
-void drawChords(Canvas& pic1, const View& view, const Chords& chords);
+// Each draws the pieces that are in view, and says how many it had to look at. That is bounded by what is in
+// view and not by the count: pieces that can't be seen are not walked, however far an object reaches.
+std::int64_t drawPieces(Canvas& pic1, const View& view, const LinePieces& pieces);
+std::int64_t drawChords(Canvas& pic1, const View& view, const Chords& chords);
 
 } // namespace mirtane
