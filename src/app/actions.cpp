@@ -41,12 +41,14 @@ void startZoomWindow(App& app, ControlId)
     repaintTextPreview(app.s, app.pic1);
 }
 
-template <bool (*flip)(EntityStore&, UndoLog&)> void undoAction(App& app, ControlId)
+template <Flipped (*flip)(EntityStore&, UndoLog&)> void undoAction(App& app, ControlId)
 {
-    if (!flip(app.s.store, app.s.log)) return;
+    const Flipped flipped = flip(app.s.store, app.s.log);
+    if (flipped == Flipped::nothing) return;
+    app.s.controls.focus = ids::drawing;
+    if (flipped == Flipped::tooLongAgo) return setText(app.s.controls[ids::entry], "Too long ago to undo");
     redrawAll(app.s, app.pic1);
     repaintTextPreview(app.s, app.pic1);
-    app.s.controls.focus = ids::drawing;
 }
 
 void toggleOrtho(App& app, ControlId freecurs)

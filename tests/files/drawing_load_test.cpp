@@ -112,7 +112,7 @@ TEST(ReplaceDrawing, TheUndoRecordsAreForgottenAndTheSerialsGoOn)
     EXPECT_EQ(s.log.undoGroupNext, 1);
     EXPECT_EQ(s.log.undoGroupTop, 1);
     EXPECT_EQ(s.log.redoGroupTop, 9);
-    EXPECT_TRUE(undo(s.store, s.log));
+    EXPECT_EQ(undo(s.store, s.log), Flipped::group);
     EXPECT_EQ(s.store.stat[1], Stat::on) << "an undo finds nothing";
 }
 
@@ -368,7 +368,7 @@ TEST(MergeLayer, TheUndoRecordsStay)
     endGroup(s.log);
     mergeLayer(s, file({header()}), 3);
     EXPECT_EQ(s.log.undoLogCount, 1);
-    EXPECT_TRUE(undo(s.store, s.log));
+    EXPECT_EQ(undo(s.store, s.log), Flipped::group);
     EXPECT_EQ(s.store.stat[1], Stat::out);
     EXPECT_EQ(s.store.stat[2], Stat::on) << "a merge is not undone";
 }

@@ -17,8 +17,8 @@ struct Undo : testing::Test {
         commitSlot(s);
         return slot;
     }
-    bool undoOnce() { return undo(s.store, s.log); }
-    bool redoOnce() { return redo(s.store, s.log); }
+    Flipped undoOnce() { return undo(s.store, s.log); }
+    Flipped redoOnce() { return redo(s.store, s.log); }
     Stat stat(std::int32_t slot) const { return s.store.stat[EntityStore::at(slot)]; }
 
     std::unique_ptr<Session> session = std::make_unique<Session>();
@@ -27,8 +27,8 @@ struct Undo : testing::Test {
 
 TEST_F(Undo, DoesNothingInAnEmptyDrawing)
 {
-    EXPECT_FALSE(undoOnce());
-    EXPECT_FALSE(redoOnce());
+    EXPECT_EQ(undoOnce(), Flipped::nothing);
+    EXPECT_EQ(redoOnce(), Flipped::nothing);
     EXPECT_EQ(s.log.undoGroupTop, 0);
     EXPECT_EQ(s.log.undoGroupNext, 0);
     EXPECT_EQ(s.log.redoGroupTop, 0);
@@ -38,7 +38,7 @@ TEST_F(Undo, TakesActionsBackFromTheLastOn)
 {
     addOne();
     addOne();
-    EXPECT_TRUE(undoOnce());
+    EXPECT_EQ(undoOnce(), Flipped::group);
     EXPECT_EQ(stat(1), Stat::on);
     EXPECT_EQ(stat(2), Stat::out);
     undoOnce();
@@ -109,7 +109,7 @@ TEST_F(Undo, ThenRedoShowsAnObjectOfAHiddenLayer)
 TEST_F(Undo, WithNothingLeftWrapsTheGroupAndStillCounts)
 {
     s.store.entCount = 2;
-    EXPECT_TRUE(undoOnce());
+    EXPECT_EQ(undoOnce(), Flipped::group);
     EXPECT_EQ(s.log.undoGroupTop, 39999);
     EXPECT_EQ(s.log.undoGroupNext, 1);
     EXPECT_EQ(s.log.redoGroupTop, 1);

@@ -205,26 +205,17 @@ std::vector<bool> alive(const EntityStore& store)
     return live;
 }
 
-// A trim that a parallel line stopped leaves what it made to the next action, so it has no group of its own
-// yet.
-bool isUnderWay(const UndoLog& log)
-{
-    return log.undoLogCount > 0 && log.logGroup[EntityStore::at(log.undoLogCount - 1)] == log.undoGroupNext;
-}
-
 // Whether undoing all that can be undone and redoing it gives the same drawing. The session stays as it is.
 std::string faultOfUndo(const Session& s)
 {
-    const bool fits = 3 * s.log.undoLogCount < UndoLog::wrapAt; // undo and redo log as much again, each
-    if (isUnderWay(s.log) || !fits) return "";
     static EntityStore store; // undo turns states alone, so the other fields need no copy
     UndoLog log = s.log;
     store.entCount = s.store.entCount;
     store.stat = s.store.stat;
     const std::vector<bool> before = alive(store);
-    const std::int32_t groups = log.undoGroupTop;
-    for (std::int32_t i = 0; i < groups; ++i) undo(store, log);
-    for (std::int32_t i = 0; i < groups; ++i) redo(store, log);
+    int undone = 0;
+    while (log.undoGroupTop > 0 && undo(store, log) == Flipped::group) ++undone;
+    for (int i = 0; i < undone; ++i) redo(store, log);
     const std::vector<bool> after = alive(store);
     const auto [first, _] = std::ranges::mismatch(before, after);
     if (first == before.end()) return "";
