@@ -18,13 +18,7 @@ struct EntryDesk : Desk {
     EntryDesk()
     {
         drawLine(1000, 1000, 1400, 1000);
-        EntityRecord circle;
-        circle.kind = Kind::circle;
-        circle.p1 = {2000, 1000};
-        circle.rad = 144;
-        s.store.setRecord(2, circle);
-        commitSlot(s);
-        s.store.setStat(2, Stat::on);
+        draw(fake::circle({2000, 1000}, 144));
         press("Command19"_c);
         click(0, 0);
         click(4800, 3200);

@@ -5,7 +5,6 @@
 #include "desk.h"
 
 #include "app/drawing/dispatch.h"
-#include "model/insertion.h"
 
 namespace mirtane::fake {
 
@@ -43,20 +42,11 @@ struct EditsDesk : Desk {
 
     std::int32_t add(Kind kind, Stat stat = Stat::on)
     {
-        const std::int32_t slot = s.store.entCount;
-        EntityRecord r;
-        r.kind = kind;
-        r.layer = 2;
-        r.style = 3;
-        r.color = 0x00FF00;
-        r.p1 = {1000, 1200};
-        r.p2 = r.p3 = r.p4 = r.p5 = {1100, 1200};
+        constexpr Point other{1100, 1200};
+        EntityRecord r = record(kind, {1000, 1200}, other, other, other, other);
         r.rad = 50;
         r.a2 = 1;
-        s.store.setRecord(slot, r);
-        commitSlot(s);
-        s.store.setStat(slot, stat);
-        return slot;
+        return draw(ofLooks(r, 0x00FF00, 2, 3), stat);
     }
 
     void selectAll()
@@ -86,7 +76,7 @@ struct EditsDesk : Desk {
     void undo() { press("undu"_c); }
     void redo() { press("redu"_c); }
 
-    const std::vector<std::string>& rows() const { return session->controls[list].rows; }
+    const std::vector<std::string>& rows() const { return Desk::rows(list); }
     const std::string& mode() const { return caption("Label3"_c); }
     fake::Ops picture()
     {

@@ -403,14 +403,10 @@ TEST_F(Menus, NameOfThreeHundredCharactersIsTakenWhole)
 TEST_F(Menus, DxfThatEndsOnTheSpotLeavesWhatItHasAndTheSelection)
 {
     desk.drawLine(100, 100, 400, 100);
-    EntityRecord radial;
-    radial.kind = Kind::radialDimension;
-    radial.p2 = {200, 200};
+    EntityRecord radial = fake::record(Kind::radialDimension, {}, {200, 200});
     radial.style = 9;
-    desk.s.store.setRecord(2, radial);
-    desk.s.store.entCount = 3;
+    desk.add(radial, Stat::sel);
     desk.s.store.setStat(1, Stat::sel);
-    desk.s.store.setStat(2, Stat::sel);
     desk.press("dd4"_c);
     desk.ops();
     desk.press("frmfile.Command1"_c);

@@ -43,21 +43,10 @@ class FilterDialog : public testing::Test {
     // An object that lies about (100, 100), with another layer, colour or style than the next of its kind.
     std::int32_t add(Kind kind, std::int16_t layer = 1, std::int32_t color = 0xFFFFFF, std::int16_t style = 0)
     {
-        EntityRecord r;
-        r.kind = kind;
-        r.layer = layer;
-        r.color = color;
-        r.style = style;
-        r.p1 = {100, 100};
-        r.p2 = {110, 100};
-        r.p3 = kind == Kind::ellipse ? Point{0.5F, 0} : Point{105, 105};
-        r.p4 = {106, 106};
-        r.p5 = {107, 107};
+        const Point third = kind == Kind::ellipse ? Point{0.5F, 0} : Point{105, 105};
+        EntityRecord r = fake::record(kind, {100, 100}, {110, 100}, third, {106, 106}, {107, 107});
         r.rad = 10;
-        const std::int32_t slot = desk.s.store.entCount++;
-        desk.s.store.setRecord(slot, r);
-        desk.s.store.setStat(slot, Stat::on);
-        return slot;
+        return desk.add(fake::ofLooks(r, color, layer, style));
     }
 
     // "1 3" where a window round everything selects slots 1 and 3; they are on again afterwards.

@@ -4,8 +4,6 @@
 
 #include "desk.h"
 
-#include "model/insertion.h"
-
 namespace mirtane::fake {
 
 inline constexpr ControlId list = "List1"_c;
@@ -24,16 +22,7 @@ struct LayerDesk : Desk {
     // A line on that layer.
     std::int32_t add(std::int16_t layer, Stat stat = Stat::on, Kind kind = Kind::line)
     {
-        const std::int32_t slot = s.store.entCount;
-        EntityRecord r;
-        r.kind = kind;
-        r.layer = layer;
-        r.p1 = {100, 100};
-        r.p2 = {500, 100};
-        s.store.setRecord(slot, r);
-        commitSlot(s);
-        s.store.setStat(slot, stat);
-        return slot;
+        return draw(ofLooks(record(kind, {100, 100}, {500, 100}), 0, layer), stat);
     }
 
     void pick(int row) { shell.clickRow(list, row); }
@@ -56,7 +45,7 @@ struct LayerDesk : Desk {
         enter();
     }
 
-    const std::vector<std::string>& rows() const { return session->controls[list].rows; }
+    const std::vector<std::string>& rows() const { return Desk::rows(list); }
     std::string row(int number) const { return rows().at(static_cast<std::size_t>(number)); }
     const std::string& mode() const { return caption("Label3"_c); }
     Layer& layer(int number) { return *s.layerTable.find(number); }

@@ -102,17 +102,11 @@ TEST_F(OpenFile, FitsTheViewAnchoredAtTheUpperLeft)
 
 TEST_F(OpenFile, TextIsAnchoredByTheFontsMeasure)
 {
-    EntityRecord text;
-    text.kind = Kind::text;
-    text.p1 = {100, 50};
-    text.p2 = {10, 1}; // size, right
+    EntityRecord text = fake::text({100, 50}, "abcd", 10);
+    text.p2.y = 1; // right
     text.p4 = {-1, -1};
-    text.t1 = "abcd";
-    text.t2 = "Garamond";
     text.layer = 1;
-    desk.s.store.setRecord(2, text);
-    desk.s.store.setStat(2, Stat::on);
-    desk.s.store.entCount = 3;
+    desk.add(text);
     desk.saveAs("house");
     desk.open("house");
     EXPECT_NEAR(desk.slot(2).p4.x, 100 - 24 * 0.75 * 1.1, 0.001); // four characters, 0.6 of the size each

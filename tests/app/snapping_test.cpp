@@ -21,31 +21,9 @@ class Snapping : public testing::Test {
   protected:
     Snapping() { desk.press("freecurs"_c); }
 
-    std::int32_t line(Point a, Point b)
-    {
-        EntityRecord r;
-        r.kind = Kind::line;
-        r.p1 = a;
-        r.p2 = b;
-        return add(r);
-    }
+    std::int32_t line(Point a, Point b) { return desk.add(fake::line(a, b)); }
 
-    std::int32_t circle(Point centre, float radius)
-    {
-        EntityRecord r;
-        r.kind = Kind::circle;
-        r.p1 = centre;
-        r.rad = radius;
-        return add(r);
-    }
-
-    std::int32_t add(const EntityRecord& r)
-    {
-        const std::int32_t slot = desk.s.store.entCount++;
-        desk.s.store.setRecord(slot, r);
-        desk.s.store.setStat(slot, Stat::on);
-        return slot;
-    }
+    std::int32_t circle(Point centre, float radius) { return desk.add(fake::circle(centre, radius)); }
 
     // The end of a line from (2000, 2000) whose second click, with that snap, falls at the point.
     Point secondPoint(ControlId snap, Point at)
@@ -433,11 +411,7 @@ class ReferencePoint : public Desk {
         line({1000, 1000}, {1600, 1000});
         line({1900, 1300}, {2500, 1700});
         line({2500, 1300}, {1900, 1700});
-        EntityRecord circle;
-        circle.kind = Kind::circle;
-        circle.p1 = {3600, 2600};
-        circle.rad = 300;
-        add(circle);
+        add(fake::circle({3600, 2600}, 300));
         s.store.setStat(s.store.entCount - 4, Stat::sel);
         s.pickFirst = {300, 250};
         press("ml3"_c);
@@ -450,22 +424,7 @@ class ReferencePoint : public Desk {
         EXPECT_EQ(s.curFunc, "Line");
         return s.ptA;
     }
-    void line(Point a, Point b)
-    {
-        EntityRecord r;
-        r.kind = Kind::line;
-        r.p1 = a;
-        r.p2 = b;
-        add(r);
-    }
-
-  private:
-    void add(const EntityRecord& r)
-    {
-        s.store.setRecord(s.store.entCount, r);
-        s.store.setStat(s.store.entCount, Stat::on);
-        ++s.store.entCount;
-    }
+    void line(Point a, Point b) { add(fake::line(a, b)); }
 };
 
 TEST(ReferencePointOfMultipleLines, IsWhatTheSnapFoundWhateverOrthoSays)

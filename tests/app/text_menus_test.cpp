@@ -236,19 +236,13 @@ TEST(ChangeSelectFont, WithNothingSelectedSaysSo)
 // A line, a right-justified underlined text, a leader in the slash style and an angular dimension of it.
 void makeSelection(FontDesk& desk)
 {
-    EntityRecord line;
-    line.kind = Kind::line;
-    line.p2 = {500, 500};
-    EntityRecord text;
-    text.kind = Kind::text;
-    text.p1 = {900, 900};
-    text.p4 = {800, 900};
-    text.p2 = {48, 1};
+    const EntityRecord line = fake::line({}, {500, 500});
+    EntityRecord text = fake::text({900, 900}, "words");
+    text.p2.y = 1;
     text.p3.x = 1;
+    text.p4 = {800, 900};
     text.rad = 120;
     text.a1 = 30;
-    text.t1 = "words";
-    text.t2 = "Garamond";
     EntityRecord leader = text;
     leader.kind = Kind::leader;
     leader.s1 = 3;
@@ -259,11 +253,7 @@ void makeSelection(FontDesk& desk)
     angle.kind = Kind::angularDimension;
     angle.style = 3;
     angle.a3 = 12.5;
-    for (const EntityRecord& r : {line, text, leader, angle}) {
-        desk.s.store.setRecord(desk.s.store.entCount, r);
-        desk.s.store.setStat(desk.s.store.entCount, Stat::sel);
-        ++desk.s.store.entCount;
-    }
+    for (const EntityRecord& r : {line, text, leader, angle}) desk.add(r, Stat::sel);
 }
 
 TEST(ChangeSelectFont, CopiesTextsAndDimensionsWithTheFontOfTheRowInOneGroup)

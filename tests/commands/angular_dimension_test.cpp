@@ -1,5 +1,6 @@
 #include "commands/angular_dimension.h"
 
+#include "desk.h"
 #include "dimension_desk.h"
 #include "geometry/angle.h"
 #include "geometry/arc.h"
@@ -20,9 +21,9 @@ using fake::Slanted;
 
 constexpr Point vertex{1000, 1000};
 
-class AngularDesk : public fake::DimensionDesk {
+class AngularDesk : public fake::MeasuringDesk {
   public:
-    AngularDesk() : DimensionDesk("Angular Dimension", angularDimensionStep, angularDimensionBand) {}
+    AngularDesk() : MeasuringDesk("Angular Dimension") {}
 
     void legs(Point first, Point second)
     {
@@ -145,8 +146,8 @@ TEST(AngularDimension, FourClicksFillItsSlotInEveryQuadrant)
     for (const Row& row : rows) {
         AngularDesk desk;
         desk.measure(row.first, row.second, {1180, 1240}); // 300 away, off the angle
-        ASSERT_EQ(desk.s.store.entCount, 2) << row.what;
-        const EntityRecord r = desk.slot(1);
+        ASSERT_EQ(desk.madeCount(), 1) << row.what;
+        const EntityRecord r = desk.made(1);
         EXPECT_EQ(r.kind, Kind::angularDimension) << row.what;
         EXPECT_EQ(r.p1, vertex) << row.what;
         EXPECT_EQ(r.p2, row.first) << row.what;
@@ -165,7 +166,7 @@ TEST(AngularDimension, StandsExactlyAboveTheVertexAtARightAngleToTheScreen)
 {
     AngularDesk desk;
     desk.measure({1200, 800}, {800, 800}, {1300, 1000});
-    EXPECT_EQ(desk.slot(1).p5, (Point{1000, 628}));
+    EXPECT_EQ(desk.made(1).p5, (Point{1000, 628}));
 }
 
 // This kind is crossed: both sizes hold the arrow size, the arrow style stands in the line style's place.
@@ -180,7 +181,7 @@ TEST(AngularDimension, KeepsTheArrowStyleInTheLineStyle)
     desk.s.curColor = 0x00FFFF;
     desk.measure({1200, 1000}, {1000, 800}, {1300, 1000});
     desk.s.dimStyle = 1;
-    const EntityRecord r = desk.slot(1);
+    const EntityRecord r = desk.made(1);
     EXPECT_EQ(r.style, 3);
     EXPECT_EQ(r.s1, 32);
     EXPECT_EQ(r.s2, 32);
@@ -209,9 +210,9 @@ TEST(AngularDimension, WritesTheAngleInTheFormOfItsMoment)
         desk.s.numStyle = "br";
         desk.s.numComma = 1; // says nothing of angles
         desk.measure({1200, 1000}, row.second, {1300, 1000});
-        EXPECT_EQ(desk.slot(1).t1, row.text);
+        EXPECT_EQ(desk.made(1).t1, row.text);
         desk.s.angFormat = 0;
-        EXPECT_EQ(desk.slot(1).t1, row.text);
+        EXPECT_EQ(desk.made(1).t1, row.text);
     }
 }
 
@@ -225,7 +226,7 @@ TEST(AngularDimension, LegsOnOneRayMakeNoDimensionInEitherForm)
             EXPECT_EQ(desk.text3(), ".000");
             EXPECT_EQ(desk.s.stepNo, 0);
             EXPECT_EQ(desk.s.promptText, "(Enter point of angle:)");
-            EXPECT_EQ(desk.s.store.entCount, 1);
+            EXPECT_EQ(desk.madeCount(), 0);
         }
     }
 }
@@ -234,9 +235,9 @@ TEST(AngularDimension, LegsOnOneRayMakeNoDimensionInEitherForm)
 TEST(AngularDimension, LegsOnOneRayAreRefusedBothWaysRoundAndARoundingStepOffIt)
 {
     Slanted dice(9);
+    AngularDesk desk;
     for (int i = 0; i < 3000; ++i) {
         const double reach = dice.anySize(1, 1000000);
-        AngularDesk desk;
         const Point at = dice.pointWithin({0, 0}, reach);
         const auto onRay = [&, turn = dice.between(0, 6.2831853)](double way) {
             return Point{static_cast<float>(at.x + way * std::cos(turn)),
@@ -250,7 +251,7 @@ TEST(AngularDimension, LegsOnOneRayAreRefusedBothWaysRoundAndARoundingStepOffIt)
             EXPECT_EQ(desk.s.stepNo, 0) << i;
             ASSERT_EQ(desk.s.promptText, "(Enter point of angle:)") << i;
         }
-        EXPECT_EQ(desk.s.store.entCount, 1) << i;
+        EXPECT_EQ(desk.madeCount(), 0) << i;
     }
 }
 
@@ -273,7 +274,7 @@ TEST(AngularDimension, MeasuresWhatIsPlainlyAnAngleBothWaysRound)
             EXPECT_EQ(desk.text3(), first == row.first ? row.angle : row.rest);
             desk.click({700, 100});
         }
-        EXPECT_EQ(desk.s.store.entCount, 3) << row.angle;
+        EXPECT_EQ(desk.madeCount(), 2) << row.angle;
     }
 }
 
@@ -293,10 +294,10 @@ TEST(AngularDimension, AsksForEachPointInTurn)
     EXPECT_EQ(desk.s.workAngle, 0);
     EXPECT_EQ(desk.s.curFunc, "Angular Dimension");
     desk.measure({1200, 1000}, {1000, 800}, {1500, 1000});
-    EXPECT_EQ(desk.s.store.entCount, 3);
+    EXPECT_EQ(desk.madeCount(), 2);
     undo(desk.s.store, desk.s.log);
-    EXPECT_EQ(desk.stat(2), Stat::out);
-    EXPECT_EQ(desk.stat(1), Stat::on);
+    EXPECT_EQ(desk.madeStat(2), Stat::out);
+    EXPECT_EQ(desk.madeStat(1), Stat::on);
 }
 
 TEST(AngularDimension, FreeClickOnAPointOfTheAngleStartsAgain)
@@ -309,7 +310,7 @@ TEST(AngularDimension, FreeClickOnAPointOfTheAngleStartsAgain)
         desk.click(points[snapped]);
         EXPECT_EQ(desk.s.stepNo, 0) << snapped;
         EXPECT_EQ(desk.s.promptText, "(Enter point of angle:)") << snapped;
-        EXPECT_EQ(desk.s.store.entCount, 1) << snapped;
+        EXPECT_EQ(desk.madeCount(), 0) << snapped;
     }
 }
 
@@ -322,7 +323,7 @@ TEST(AngularDimension, SnapOfOneClickIsNotThatOfTheNext)
     desk.snap({1000, 800});
     desk.snap({1300, 1000}); // the off-set point may be snapped too
     EXPECT_FALSE(desk.s.pointWasSnapped);
-    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.madeCount(), 1);
 }
 
 TEST(AngularDimension, BandShowsWhatTheClickMakes)
@@ -373,7 +374,7 @@ TEST(AngularDimension, IsPaintedSolidWithItsTextAtTheNearestWholeDegreeAndKept)
     const Ops texts = only(ops, "text");
     ASSERT_EQ(texts.size(), 1U);
     EXPECT_NE(texts[0].find(" 283 26.565"), std::string::npos) << texts[0];
-    EXPECT_NEAR(desk.slot(1).a3, 283.2825, 1e-3); // the slot keeps the whole of it
+    EXPECT_NEAR(desk.made(1).a3, 283.2825, 1e-3); // the slot keeps the whole of it
 }
 
 // Typed distances mean nothing here, but count a step.
@@ -381,7 +382,7 @@ TEST(AngularDimension, AStepCountedByATypedDistanceIsNoDeadEnd)
 {
     AngularDesk desk;
     desk.legs({1200, 1000}, {1000, 800});
-    countStep(desk.s);
+    desk.typeIn("12");
     desk.ops();
     desk.move({1300, 1000});
     EXPECT_EQ(only(desk.ops(), "arc").size(), 1U);
@@ -392,8 +393,12 @@ TEST(AngularDimension, AStepCountedByATypedDistanceIsNoDeadEnd)
 // A point of a construction line may be the vertex itself.
 TEST(AngularDimension, LegWithoutADirectionIsTakenWithoutHarm)
 {
-    AngularDesk desk;
-    desk.measure(vertex, {1000, 800}, {1300, 1000});
+    fake::Desk desk;
+    desk.press(ids::drawAngularDimension);
+    desk.layPoint(1000, 1000);
+    desk.layPoint(1000, 1000);
+    desk.layPoint(1000, 800);
+    desk.click(1300, 1000);
     ASSERT_EQ(desk.s.store.entCount, 2);
     EXPECT_TRUE(std::isfinite(desk.slot(1).p5.x));
     EXPECT_TRUE(std::isfinite(desk.slot(1).a1));
@@ -410,7 +415,7 @@ TEST(AngularDimension, TextOfAnyAngleStandsOutsideTheArcOnItsBisector)
         const Point second = point();
         const Point offset = point();
         desk.measure(first, second, offset);
-        ASSERT_EQ(desk.s.store.entCount, i + 2) << i;
+        ASSERT_EQ(desk.madeCount(), i + 1) << i;
         const EntityRecord r = desk.last();
         const double radius = distance(vertex, offset);
         EXPECT_EQ(r.p2, first) << i;

@@ -1,56 +1,27 @@
 #include "commands/multiple_lines.h"
 
-#include "model/insertion.h"
-#include "render/recording_canvas.h"
+#include "function_desk.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 #include <numbers>
 #include <vector>
 
 namespace mirtane {
 namespace {
 
-class Creation {
+// Window Select was left for the function, and the name of the set is typed.
+class Creation : public fake::FunctionDesk {
   public:
-    Creation()
+    Creation() : FunctionDesk("Window Select")
     {
-        resetLayers(s.layerTable);
-        s.curFunc = "Create Multiple Lines";
-        s.baseFunc = s.lastFunc = "Window Select";
-        s.multipleLinesName = "Wall";
-        s.stepNo = 1; // the name is typed
+        start("Create Multiple Lines");
+        typeIn("Wall");
     }
-    void line(Point a, Point b, std::int32_t color = 0, std::int16_t style = 0)
-    {
-        EntityRecord r;
-        r.kind = Kind::line;
-        r.p1 = a;
-        r.p2 = b;
-        r.color = color;
-        r.style = style;
-        object(r);
-    }
-    void object(const EntityRecord& r, Stat stat = Stat::sel)
-    {
-        s.store.setRecord(s.store.entCount, r);
-        s.store.setStat(s.store.entCount, stat);
-        ++s.store.entCount;
-    }
-    void click(Point p)
-    {
-        countStep(s);
-        (s.stepNo == 1 ? s.pickFirst : s.pickLast) = p;
-        createMultipleLinesStep(s, pic1);
-    }
+    void line(Point a, Point b) { add(fake::line(a, b), Stat::sel); }
     const MultipleLine& row(std::size_t i) const { return session->multipleLinesLibrary.rows[i]; }
     std::int32_t count() const { return session->multipleLinesLibrary.count; }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{100, 100}};
 };
 
 TEST(CreateMultipleLines, OffsetsAreTheDistancesFromTheReferenceLine)
@@ -96,13 +67,13 @@ TEST(CreateMultipleLines, ASetIsDrawnAsItWasTaken)
     for (int degrees = 0; degrees < 360; degrees += 15) {
         const double a = degrees * std::numbers::pi / 180;
         const auto at = [a](double along, double beside) {
-            return Point{static_cast<float>(along * std::cos(a) + beside * std::sin(a)),
-                         static_cast<float>(-along * std::sin(a) + beside * std::cos(a))};
+            return Point{static_cast<float>(300 + along * std::cos(a) + beside * std::sin(a)),
+                         static_cast<float>(200 - along * std::sin(a) + beside * std::cos(a))};
         };
         Creation creation;
         creation.line(at(-30, 12), at(70, 12));
         creation.line(at(10, -7), at(40, -7));
-        creation.click({0, 0});
+        creation.click({300, 200});
         EXPECT_NEAR(creation.row(0).m1, 12, 1e-3) << degrees;
         EXPECT_NEAR(creation.row(1).m1, -7, 1e-3) << degrees;
     }
@@ -111,7 +82,7 @@ TEST(CreateMultipleLines, ASetIsDrawnAsItWasTaken)
 TEST(CreateMultipleLines, KeepsColourStyleAndName)
 {
     Creation creation;
-    creation.line({0, 110}, {50, 110}, 0x0000FF, 3);
+    creation.add(fake::ofLooks(fake::line({0, 110}, {50, 110}), 0x0000FF, 0, 3), Stat::sel);
     creation.click({0, 100});
     MultipleLine expected;
     expected.m1 = creation.row(0).m1;
@@ -124,14 +95,9 @@ TEST(CreateMultipleLines, KeepsColourStyleAndName)
 TEST(CreateMultipleLines, TakesSelectedLinesAlone)
 {
     Creation creation;
-    EntityRecord circle;
-    circle.kind = Kind::circle;
-    creation.object(circle);
-    EntityRecord line;
-    line.kind = Kind::line;
-    line.p2 = {10, 0};
-    creation.object(line, Stat::on);
-    creation.object(line, Stat::out);
+    creation.add(fake::circle({}, 0), Stat::sel);
+    creation.add(fake::line({}, {10, 0}), Stat::on);
+    creation.add(fake::line({}, {10, 0}), Stat::out);
     creation.line({0, 110}, {50, 110});
     creation.click({0, 100});
     EXPECT_EQ(creation.count(), 1);

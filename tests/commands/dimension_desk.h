@@ -1,92 +1,52 @@
 #pragma once
 
-// A drawing and its surface for one dimension function, without the routing of events: the tests say of each
-// click whether it was snapped.
+// A dimension function running, with a point in the drawing for it to be snapped to.
 
-#include "commands/linear_dimension.h"
-#include "kind_print.h"
-#include "model/session.h"
-#include "ops_text.h"
-#include "render/redraw.h"
-
-#include <gtest/gtest.h>
+#include "function_desk.h"
 
 #include <cmath>
-#include <memory>
 
 namespace mirtane::fake {
 
 inline constexpr float characterWidth = 28.8F; // on this surface, at the arrow size of 48
 
-class DimensionDesk {
+class DimensionDesk : public FunctionDesk {
   public:
-    using Routine = void (*)(Session&, Canvas&);
+    using FunctionDesk::FunctionDesk;
 
-    DimensionDesk(const std::string& function, Routine step, Routine band) : step_(step), band_(band)
-    {
-        s.curFunc = s.baseFunc = s.lastFunc = function;
-        pic1.setScale({0, 0, 4800, 3200});
-        readViewLimits(s, pic1);
-        resetLayers(s.layerTable);
-        pic1.takeOps();
-    }
-
-    void click(Point at)
-    {
-        countStep(s);
-        if (s.stepNo == 1) s.pickFirst = at;
-        if (s.stepNo > 1) s.pickLast = at;
-        s.mousePos = at;
-        s.pointWasSnapped = false;
-        step_(s, pic1);
-    }
-    void snap(Point at)
-    {
-        countStep(s);
-        if (s.stepNo == 1) s.pickFirst = at;
-        if (s.stepNo > 1) s.pickLast = at;
-        s.mousePos = at;
-        s.pointWasSnapped = true;
-        step_(s, pic1);
-    }
-    // A typed distance counts a step and lays pickLast, and is no snap.
-    void typePoint(Point at)
-    {
-        s.pickLast = at;
-        countStep(s);
-        step_(s, pic1);
-    }
-    void move(Point at)
-    {
-        s.pickLast = at;
-        band_(s, pic1);
-    }
-
-    std::int32_t add(const EntityRecord& r, Stat stat = Stat::on)
-    {
-        s.store.setRecord(s.store.entCount, r);
-        s.store.setStat(s.store.entCount, stat);
-        return s.store.entCount++;
-    }
-
-    Ops ops() { return opsOn(pic1); }
-    std::string text3() const { return s.controls["Text3"_c].text; }
-    EntityRecord slot(std::int32_t i) const { return s.store.record(i); }
-    EntityRecord last() const { return s.store.record(s.store.entCount - 1); }
-    Stat stat(std::int32_t i) const { return s.store.stat[EntityStore::at(i)]; }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{1200, 800}};
-
-  private:
-    Routine step_;
-    Routine band_;
+    std::string text3() const { return text(ids::workText); }
 };
 
-class LinearDesk : public DimensionDesk {
+// The points that these functions measure have to be snapped to. The one that a click is snapped to stands in
+// slot 1, and is seen for as long as the click takes; objects are counted from behind it.
+class MeasuringDesk : public DimensionDesk {
   public:
-    LinearDesk() : DimensionDesk("Ortho Dimension", linearDimensionStep, linearDimensionBand) {}
+    explicit MeasuringDesk(std::string_view function) : DimensionDesk(function)
+    {
+        add(point({}), Stat::off);
+    }
+
+    void snap(Point at, int button = 1)
+    {
+        s.store.setRecord(landmark, point(at));
+        s.store.setStat(landmark, Stat::on);
+        hold(ctrlKey);
+        down(button, at);
+        letGo();
+        s.store.setStat(landmark, Stat::off);
+    }
+
+    std::int32_t madeCount() const { return s.store.entCount - landmark - 1; }
+    EntityRecord made(std::int32_t number) const { return slot(landmark + number); } // from 1
+    Stat madeStat(std::int32_t number) const { return stat(landmark + number); }
+
+  private:
+    static constexpr std::int32_t landmark = 1;
+};
+
+class LinearDesk : public MeasuringDesk {
+  public:
+    LinearDesk() : MeasuringDesk("Ortho Dimension") {}
 
     void measure(Point first, Point second, Point offset)
     {

@@ -16,13 +16,8 @@ using fake::Ops;
 
 class LeaderDesk : public fake::DimensionDesk {
   public:
-    LeaderDesk() : DimensionDesk("Leader", leaderStep, leaderBand) {}
+    LeaderDesk() : DimensionDesk("Leader") {}
 
-    void key(char32_t code) { liveTextKey(s, pic1, code); }
-    void type(std::string_view text)
-    {
-        for (const std::string& c : utf8Characters(text)) key(firstCharacter(c).code);
-    }
     void place(std::string_view text, Point tip, Point elbow)
     {
         type(text);
@@ -200,7 +195,7 @@ TEST(Leader, IsPaintedSolidAndKept)
 TEST(Leader, MiddleButtonBeforeTheTextDoesNothing)
 {
     LeaderDesk desk;
-    leaderStep(desk.s, desk.pic1);
+    desk.down(4, {1000, 1000});
     EXPECT_EQ(desk.s.stepNo, 0);
     EXPECT_TRUE(desk.ops().empty());
 }

@@ -20,14 +20,14 @@ TEST(LinearDimension, EachFurtherPointMakesTheNextOfAChainOnTheSameLine)
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.snap({1576, 1100});
     desk.snap({1864, 900});
-    ASSERT_EQ(desk.s.store.entCount, 4);
-    const EntityRecord second = desk.slot(2);
+    ASSERT_EQ(desk.madeCount(), 3);
+    const EntityRecord second = desk.made(2);
     EXPECT_EQ(second.p1, (Point{1432, 1000}));
     EXPECT_EQ(second.p2, (Point{1576, 1100}));
     EXPECT_EQ(second.p4, (Point{1432, 800}));
     EXPECT_EQ(second.p3, (Point{1576, 800}));
     EXPECT_EQ(second.t1, "1'-0\"");
-    const EntityRecord third = desk.slot(3);
+    const EntityRecord third = desk.made(3);
     EXPECT_EQ(third.p1, (Point{1576, 1100}));
     EXPECT_EQ(third.p2, (Point{1864, 900}));
     EXPECT_EQ(third.p4, (Point{1576, 800}));
@@ -42,7 +42,7 @@ TEST(LinearDimension, ChainMayTurnBackAndItsTextStaysUpright)
     LinearDesk desk;
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.snap({1288, 1000});
-    const EntityRecord back = desk.slot(2);
+    const EntityRecord back = desk.made(2);
     EXPECT_EQ(back.p3, (Point{1288, 800}));
     EXPECT_EQ(back.p4, (Point{1432, 800}));
     expectDegrees(back.a1, 0, "backwards");
@@ -55,7 +55,7 @@ TEST(LinearDimension, ChainsOnASlope)
     LinearDesk desk;
     desk.measure({1000, 1000}, {1300, 600}, {1220, 540});
     desk.snap({1600, 200});
-    const EntityRecord r = desk.slot(2);
+    const EntityRecord r = desk.made(2);
     expectNear(r.p4, {1220, 540}, "p4");
     expectNear(r.p3, {1520, 140}, "p3");
     EXPECT_EQ(r.t1, "3'-5 5/8\"");
@@ -67,10 +67,10 @@ TEST(LinearDimension, EachOfAChainIsUndoneByItself)
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.snap({1576, 1000});
     undo(desk.s.store, desk.s.log);
-    EXPECT_EQ(desk.stat(1), Stat::on);
-    EXPECT_EQ(desk.stat(2), Stat::out);
+    EXPECT_EQ(desk.madeStat(1), Stat::on);
+    EXPECT_EQ(desk.madeStat(2), Stat::out);
     undo(desk.s.store, desk.s.log);
-    EXPECT_EQ(desk.stat(1), Stat::out);
+    EXPECT_EQ(desk.madeStat(1), Stat::out);
 }
 
 TEST(LinearDimension, NothingInAChainEndsIt)
@@ -79,7 +79,7 @@ TEST(LinearDimension, NothingInAChainEndsIt)
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.snap({1432, 1300}); // straight below the second point
     EXPECT_EQ(desk.s.stepNo, 0);
-    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.madeCount(), 1);
     EXPECT_EQ(desk.s.promptText, "(Enter first dimension point:)");
 }
 
@@ -89,15 +89,15 @@ TEST(LinearDimension, TextKeepsTheNumbersOfItsMoment)
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.s.numStyle = "3i";
     desk.snap({1576, 1000});
-    EXPECT_EQ(desk.slot(1).t1, "3'-0\"");
-    EXPECT_EQ(desk.slot(2).t1, "12.000\"");
+    EXPECT_EQ(desk.made(1).t1, "3'-0\"");
+    EXPECT_EQ(desk.made(2).t1, "12.000\"");
     desk.s.numStyle = "2f";
     desk.snap({1720, 1000});
-    EXPECT_EQ(desk.slot(3).t1, "1.00'");
+    EXPECT_EQ(desk.made(3).t1, "1.00'");
     desk.s.numStyle = "br";
     desk.s.numComma = 1;
     desk.snap({1864, 1000});
-    EXPECT_EQ(desk.slot(4).t1, "30,503cm");
+    EXPECT_EQ(desk.made(4).t1, "30,503cm");
 }
 
 // Distance of p from the endless line through a and b.

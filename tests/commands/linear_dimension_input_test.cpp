@@ -141,13 +141,9 @@ TEST(LinearDimensionInput, ChainIsNotConfined)
 TEST(LinearDimensionInput, PointsOfAConstructionLineCountAsSnapped)
 {
     SnapDesk desk;
-    desk.press("blank"_c);
-    desk.down(1, 2000, 2000);
-    desk.press("blank"_c);
+    desk.layPoint(2000, 2000);
     EXPECT_EQ(desk.s.stepNo, 1);
-    desk.press("blank"_c);
-    desk.down(1, 2432, 2000);
-    desk.press("blank"_c);
+    desk.layPoint(2432, 2000);
     EXPECT_EQ(desk.s.stepNo, 2);
     desk.click(2432, 1800);
     ASSERT_EQ(desk.s.store.entCount, 3);

@@ -1,5 +1,6 @@
 #include "commands/linear_dimension.h"
 
+#include "desk.h"
 #include "dimension_desk.h"
 
 #include <cmath>
@@ -147,8 +148,8 @@ TEST(LinearDimension, ThreeClicksFillItsSlotInEveryQuadrant)
     for (const Row& row : rows) {
         LinearDesk desk;
         desk.measure(row.first, row.second, row.offset);
-        ASSERT_EQ(desk.s.store.entCount, 2) << row.what;
-        const EntityRecord r = desk.slot(1);
+        ASSERT_EQ(desk.madeCount(), 1) << row.what;
+        const EntityRecord r = desk.made(1);
         EXPECT_EQ(r.kind, Kind::linearDimension) << row.what;
         EXPECT_EQ(r.p1, row.first) << row.what;
         EXPECT_EQ(r.p2, row.second) << row.what;
@@ -184,9 +185,9 @@ TEST(LinearDimension, OffsetIsThatOfTheClickAndNotOfTheLastMove)
     desk.snap({1000, 1000});
     desk.snap({1432, 1000});
     desk.move({1432, 800});
-    desk.typePoint({1432, 1300});
-    EXPECT_EQ(desk.slot(1).p3, (Point{1432, 1300}));
-    EXPECT_EQ(desk.slot(1).p4, (Point{1000, 1300}));
+    desk.typeIn("-25"); // inches, away from the pointer
+    EXPECT_EQ(desk.made(1).p3, (Point{1432, 1300}));
+    EXPECT_EQ(desk.made(1).p4, (Point{1000, 1300}));
 }
 
 TEST(LinearDimension, AsksForEachPointInTurn)
@@ -219,7 +220,7 @@ TEST(LinearDimension, TakesTheArrowsTheFontTheLayerAndTheColourOfItsMoment)
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.s.dimStyle = 1;
     desk.s.arrowSize = 96;
-    const EntityRecord r = desk.slot(1);
+    const EntityRecord r = desk.made(1);
     EXPECT_EQ(r.s1, 3);
     EXPECT_EQ(r.s2, 24);
     EXPECT_EQ(r.a2, 24);
@@ -291,15 +292,15 @@ TEST(LinearDimension, OffsetOnTheSecondPointKeepsTheDirectionOfTheBand)
     desk.snap({1000, 1000});
     desk.snap({1432, 1300});
     desk.move({1432, 700});
-    desk.typePoint({1432, 1300});
-    EXPECT_EQ(desk.slot(1).p3, (Point{1432, 1300}));
-    expectNear(desk.slot(1).p4, {1000, 1300}, "level, as in the band");
+    desk.typeIn("0");
+    EXPECT_EQ(desk.made(1).p3, (Point{1432, 1300}));
+    expectNear(desk.made(1).p4, {1000, 1300}, "level, as in the band");
 
     LinearDesk unmoved;
     unmoved.snap({1000, 1000});
     unmoved.snap({1432, 1300});
-    unmoved.typePoint({1432, 1300});
-    expectNear(unmoved.slot(1).p4, {1000, 1000}, "on the points themselves");
+    unmoved.typeIn("0");
+    expectNear(unmoved.made(1).p4, {1000, 1000}, "on the points themselves");
 }
 
 TEST(LinearDimension, FreeClickOnAMeasuredPointStartsAgainAndStoresNothing)
@@ -315,7 +316,7 @@ TEST(LinearDimension, FreeClickOnAMeasuredPointStartsAgainAndStoresNothing)
     desk.measure({1000, 1000}, {1432, 1000}, {1432, 800});
     desk.click({1576, 1000});
     EXPECT_EQ(desk.s.stepNo, 0);
-    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.madeCount(), 1);
     EXPECT_EQ(desk.s.curFunc, "Ortho Dimension");
 }
 
@@ -328,21 +329,22 @@ TEST(LinearDimension, SnapOfOneClickIsNotThatOfTheNext)
     EXPECT_FALSE(desk.s.pointWasSnapped);
     desk.snap({1432, 800}); // the offset may be snapped too
     EXPECT_FALSE(desk.s.pointWasSnapped);
-    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.madeCount(), 1);
 }
 
 TEST(LinearDimension, TypedDistanceIsNoSnap)
 {
     LinearDesk desk;
     desk.snap({1000, 1000});
-    desk.typePoint({1432, 1000});
+    desk.move({1200, 1000});
+    desk.typeIn("36");
     EXPECT_EQ(desk.s.stepNo, 0);
     desk.snap({1000, 1000});
     desk.snap({1432, 1000});
     desk.snap({1432, 800});
-    desk.typePoint({1576, 1000});
+    desk.typeIn("12");
     EXPECT_EQ(desk.s.stepNo, 0);
-    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.madeCount(), 1);
 }
 
 // Refused by its text, so only feet and inches refuse.
@@ -362,15 +364,15 @@ TEST(LinearDimension, NothingToMeasureIsRefusedWhereItsTextIsTheBareDigit)
         desk.s.numComma = style.comma;
         desk.measure({1000, 1000}, {1000, 1300}, {1000, 1500}); // the offset in line with both points
         if (style.text == nullptr) {
-            EXPECT_EQ(desk.s.store.entCount, 1) << style.numStyle;
+            EXPECT_EQ(desk.madeCount(), 0) << style.numStyle;
             EXPECT_EQ(desk.s.stepNo, 0) << style.numStyle;
             EXPECT_EQ(desk.s.promptText, "(Enter first dimension point:)") << style.numStyle;
             EXPECT_EQ(desk.text3(), "0") << style.numStyle;
         } else {
-            ASSERT_EQ(desk.s.store.entCount, 2) << style.numStyle;
-            EXPECT_EQ(desk.slot(1).t1, style.text);
-            EXPECT_EQ(desk.slot(1).p3, desk.slot(1).p4);
-            EXPECT_EQ(desk.slot(1).a1, 0);
+            ASSERT_EQ(desk.madeCount(), 1) << style.numStyle;
+            EXPECT_EQ(desk.made(1).t1, style.text);
+            EXPECT_EQ(desk.made(1).p3, desk.made(1).p4);
+            EXPECT_EQ(desk.made(1).a1, 0);
             EXPECT_EQ(desk.s.stepNo, 3);
         }
     }
@@ -394,30 +396,33 @@ TEST(LinearDimension, ToleranceDecidesWhatIsNothing)
 {
     LinearDesk coarse;
     coarse.measure({1000, 1000}, {1000.7F, 1000}, {1000.7F, 800});
-    EXPECT_EQ(coarse.s.store.entCount, 1);
+    EXPECT_EQ(coarse.madeCount(), 0);
     LinearDesk fine;
     fine.s.dimTol = 0.015625F;
     fine.measure({1000, 1000}, {1000.7F, 1000}, {1000.7F, 800});
-    ASSERT_EQ(fine.s.store.entCount, 2);
-    EXPECT_EQ(fine.slot(1).t1, "1/16\"");
+    ASSERT_EQ(fine.madeCount(), 1);
+    EXPECT_EQ(fine.made(1).t1, "1/16\"");
 }
 
 TEST(LinearDimension, MiddleButtonBeforeTheFirstPointDoesNothing)
 {
     LinearDesk desk;
-    linearDimensionStep(desk.s, desk.pic1);
-    desk.s.pointWasSnapped = true;
-    linearDimensionStep(desk.s, desk.pic1);
+    desk.down(4, {1000, 1000});
+    desk.snap({1000, 1000}, 4);
     EXPECT_EQ(desk.s.stepNo, 0);
-    EXPECT_EQ(desk.s.store.entCount, 1);
+    EXPECT_EQ(desk.madeCount(), 0);
 }
 
 // Two points of a construction line may be one.
 TEST(LinearDimension, OnePointMeasuredTwiceIsTakenWithoutHarm)
 {
-    LinearDesk desk;
+    fake::Desk desk;
+    desk.press(ids::orthoToggle);
+    desk.press(ids::drawLinearDimension);
     desk.s.numStyle = "3i";
-    desk.measure({1000, 1000}, {1000, 1000}, {1200, 900});
+    desk.layPoint(1000, 1000);
+    desk.layPoint(1000, 1000);
+    desk.click(1200, 900);
     ASSERT_EQ(desk.s.store.entCount, 2);
     EXPECT_EQ(desk.slot(1).p4, (Point{1200, 900}));
     expectNear(desk.slot(1).p5, {1200 - 0.375F * 5 * fake::characterWidth, 828}, "centred above the point");
@@ -430,8 +435,8 @@ TEST(LinearDimension, CoordinatesPastAllBoundsAreTakenWithoutHarm)
     desk.s.numStyle = "3i";
     desk.measure({-huge, -huge}, {huge, huge}, {huge, -huge});
     desk.snap({-huge, huge});
-    for (std::int32_t i = 1; i < desk.s.store.entCount; ++i) {
-        const EntityRecord r = desk.slot(i);
+    for (std::int32_t i = 1; i <= desk.madeCount(); ++i) {
+        const EntityRecord r = desk.made(i);
         for (const Point p : {r.p1, r.p2, r.p3, r.p4, r.p5}) {
             EXPECT_TRUE(std::isfinite(p.x) && std::isfinite(p.y));
         }

@@ -12,7 +12,7 @@ namespace {
 using fake::Ops;
 
 struct MeasureDistance : testing::Test, fake::TextDesk {
-    MeasureDistance() : TextDesk("Measure Distance", measureDistanceStep, lineBand) {}
+    MeasureDistance() : TextDesk("Measure Distance") {}
 
     std::string shown() const { return s.controls["entry"_c].text; }
 };

@@ -1,13 +1,10 @@
 #include "commands/multiple_lines.h"
 
-#include "kind_print.h"
-#include "model/insertion.h"
-#include "ops_text.h"
+#include "function_desk.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 #include <numbers>
 #include <random>
 #include <vector>
@@ -19,21 +16,16 @@ using fake::only;
 using fake::Ops;
 
 // The function running with a set called "Wall".
-class Drawn {
+class Drawn : public fake::FunctionDesk {
   public:
     explicit Drawn(const std::vector<float>& offsets)
+        : FunctionDesk("Multiple Lines", {-2000, -2000, 4000, 4000})
     {
-        pic1.setScale({-2000, -2000, 4000, 4000});
-        s.viewLeft = s.viewTop = -2000;
-        s.viewRight = s.viewBottom = 2000;
-        resetLayers(s.layerTable);
-        s.curFunc = s.baseFunc = s.lastFunc = "Multiple Lines";
         s.multipleLinesName = "Wall";
-        for (const float offset : offsets) add("Wall", offset);
-        ops();
+        for (const float offset : offsets) addRow("Wall", offset);
     }
 
-    void add(const char* name, float offset)
+    void addRow(const char* name, float offset)
     {
         MultipleLine row;
         row.name = name;
@@ -42,29 +34,12 @@ class Drawn {
         row.style = 1;
         s.multipleLinesLibrary.add(row);
     }
-    void ortho(bool on) { s.controls["freecurs"_c].caption = on ? "Ortho/On" : "Ortho/Off"; }
-    void press(Point p)
-    {
-        countStep(s);
-        (s.stepNo == 1 ? s.pickFirst : s.pickLast) = p;
-        multipleLinesStep(s, pic1);
-    }
-    void move(Point p)
-    {
-        s.pickLast = p;
-        multipleLinesBand(s, pic1);
-    }
+    void press(Point p) { FunctionDesk::click(p); }
     void click(Point p)
     {
-        if (s.stepNo > 0) move(p);
+        move(p);
         press(p);
     }
-    EntityRecord slot(std::int32_t i) const { return session->store.record(i); }
-    Ops ops() { return fake::opsOn(pic1); }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{1000, 1000}};
 };
 
 void expectNear(Point p, double x, double y, double tolerance = 1e-3)
@@ -98,8 +73,8 @@ TEST(MultipleLines, ARightAngleIsMitredWithOrthoOnAndOff)
     }
 }
 
-// The turn goes back over the leg before, as only a snap can make it with ortho on: then it is taken for one
-// of 45 degrees.
+// The turn goes back over the leg before, as with ortho on only a new ortho angle can make it: then it is
+// taken for one of 45 degrees.
 TEST(MultipleLines, ASharpTurnIsMitredTrulyOnlyWithOrthoOff)
 {
     for (const bool ortho : {true, false}) {
@@ -107,6 +82,7 @@ TEST(MultipleLines, ASharpTurnIsMitredTrulyOnlyWithOrthoOff)
         run.ortho(ortho);
         run.click({0, 0});
         run.click({100, 0});
+        run.s.orthoAngle = std::numbers::pi / 4;
         run.click({50, 50});
         expectNear(run.slot(1).p2, ortho ? 95.857864 : 75.857864, 10);
     }
@@ -339,9 +315,9 @@ TEST(MultipleLines, TheGaugeCountsTheLinesJustStored)
 TEST(MultipleLines, OnlyTheRowsOfTheCurrentSetAreDrawn)
 {
     Drawn run({10});
-    run.add("Fence", 20);
-    run.add("??????", 30);
-    run.add("Wall", -10);
+    run.addRow("Fence", 20);
+    run.addRow("??????", 30);
+    run.addRow("Wall", -10);
     run.s.multipleLinesLibrary.rows[4].name = "Wall"; // at the count
     run.click({0, 0});
     run.click({100, 0});
@@ -352,7 +328,7 @@ TEST(MultipleLines, OnlyTheRowsOfTheCurrentSetAreDrawn)
 TEST(MultipleLines, WithNoneChosenNothingIsDrawn)
 {
     Drawn run({});
-    run.add("??????", 10);
+    run.addRow("??????", 10);
     run.s.multipleLinesName = "??????";
     run.click({0, 0});
     run.click({100, 0});

@@ -17,22 +17,17 @@ using fake::Ops;
 
 constexpr Point centre{1000, 1000};
 
+// Of an arc the upper right quarter.
 EntityRecord roundRecord(Kind kind, float rad)
 {
-    EntityRecord r;
-    r.kind = kind;
-    r.p1 = centre;
-    r.rad = rad;
-    r.a1 = 0; // of an arc: the upper right quarter
-    r.a2 = quarterTurn;
-    return r;
+    return kind == Kind::circle ? fake::circle(centre, rad) : fake::arc(centre, rad, 0, quarterTurn);
 }
 
 // A drawing with one circle of a foot about the centre in slot 1.
 class RadialDesk : public fake::DimensionDesk {
   public:
     explicit RadialDesk(const EntityRecord& r = roundRecord(Kind::circle, 144))
-        : DimensionDesk("Radial Dimension", radialDimensionStep, radialDimensionBand)
+        : DimensionDesk("Radial Dimension")
     {
         add(r);
     }
@@ -64,7 +59,7 @@ TEST(RadialDimension, TwoClicksFillItsSlotWhicheverSideTheElbowLiesOn)
     };
     for (const Row& row : rows) {
         RadialDesk desk;
-        desk.dimension({1144, 1000}, row.elbow);
+        desk.dimension({1140, 1010}, row.elbow); // a second click on the first would be the cancel
         ASSERT_EQ(desk.s.store.entCount, 3) << row.what;
         const EntityRecord r = desk.slot(2);
         EXPECT_EQ(r.kind, Kind::radialDimension) << row.what;
@@ -199,10 +194,7 @@ TEST(RadialDimension, AsksForTheShoulderAndIsReadyForTheNext)
 
 TEST(RadialDimension, NothingRoundNearEndsTheAttempt)
 {
-    EntityRecord line;
-    line.kind = Kind::line;
-    line.p1 = {1000, 860};
-    line.p2 = {2000, 860};
+    const EntityRecord line = fake::line({1000, 860}, {2000, 860});
     struct Row {
         const char* what;
         Point near;
@@ -250,7 +242,7 @@ TEST(RadialDimension, AStepCountedByATypedDistanceIsNoDeadEnd)
 {
     RadialDesk desk;
     desk.click({1144, 1000});
-    countStep(desk.s);
+    desk.typeIn("12");
     desk.click({1300, 600});
     EXPECT_EQ(desk.s.store.entCount, 3);
     EXPECT_EQ(desk.s.stepNo, 0);
@@ -278,7 +270,7 @@ TEST(RadialDimension, MiddleButtonBeforeTheFirstClickDoesNothing)
 {
     RadialDesk desk;
     desk.ops();
-    radialDimensionStep(desk.s, desk.pic1);
+    desk.down(4, {1144, 1000});
     EXPECT_EQ(desk.s.store.entCount, 2);
     EXPECT_TRUE(desk.ops().empty());
 }

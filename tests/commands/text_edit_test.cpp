@@ -1,3 +1,4 @@
+#include "commands/live_text.h"
 #include "commands/text_edit.h"
 
 #include "text_desk.h"
@@ -9,12 +10,11 @@ namespace {
 
 using fake::Ops;
 
+// With something in the fields that no text has.
 EntityRecord textAt(Point at, const std::string& words)
 {
-    EntityRecord r;
-    r.kind = Kind::text;
-    r.p1 = at;
-    r.p2 = {20, 1};
+    EntityRecord r = fake::text(at, words, 20, "Courier");
+    r.p2.y = 1;
     r.p3 = {1, 77};
     r.p4 = {at.x - 60, at.y};
     r.p5 = {8, 9};
@@ -23,37 +23,24 @@ EntityRecord textAt(Point at, const std::string& words)
     r.rad = 72;
     r.a1 = 15.25;
     r.a2 = 2;
-    r.color = 255;
-    r.layer = 4;
-    r.style = 3; // as no text has it, and a copy drops it
-    r.t1 = words;
-    r.t2 = "Courier";
-    return r;
+    return fake::ofLooks(r, 255, 4, 3); // a copy drops the style
 }
 
 EntityRecord dimensionOf(Kind kind, Point textAt)
 {
-    EntityRecord r;
-    r.kind = kind;
-    r.p1 = {100, 2000};
-    r.p2 = {700, 2000};
-    r.p3 = {700, 1900};
-    r.p4 = {100, 1900};
-    r.p5 = textAt;
-    r.s1 = 2;
-    r.s2 = 48;
+    const EntityRecord points =
+        fake::record(kind, {100, 2000}, {700, 2000}, {700, 1900}, {100, 1900}, textAt);
+    EntityRecord r = fake::dimension(points, "50'-0\"", 2, 48);
     r.rad = 50;
     r.a1 = 90;
     r.a2 = 48;
     r.a3 = 30;
     r.style = 2;
-    r.t1 = "50'-0\"";
-    r.t2 = "Garamond";
     return r;
 }
 
 struct TextEdit : testing::Test, fake::TextDesk {
-    TextEdit() : TextDesk("Text Edit", textEditStep) {}
+    TextEdit() : TextDesk("Text Edit") {}
 };
 
 TEST_F(TextEdit, ClickHidesTheTextAndShowsItAsAPreview)
@@ -184,11 +171,7 @@ TEST_F(TextEdit, LinesOfADimensionInEditStay)
 
 TEST_F(TextEdit, ClickOnNothingBeginsAnew)
 {
-    EntityRecord line;
-    line.kind = Kind::line;
-    line.p1 = {1000, 1000};
-    line.p2 = {1100, 1000};
-    add(line);
+    add(fake::line({1000, 1000}, {1100, 1000}));
     click(1000, 1000);
     EXPECT_EQ(s.stepNo, 0);
     EXPECT_EQ(s.promptText, "(Click near upper-left of text:)");

@@ -13,7 +13,7 @@ using fake::Ops;
 using fake::TextDesk;
 
 struct LiveText : testing::Test, TextDesk {
-    LiveText() : TextDesk("Place Text", placeTextStep, placeTextBand)
+    LiveText() : TextDesk("Place Text")
     {
         click(100, 200);
         ops();

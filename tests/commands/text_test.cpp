@@ -12,7 +12,7 @@ namespace {
 using fake::Ops;
 
 struct PlaceText : testing::Test, fake::TextDesk {
-    PlaceText() : TextDesk("Place Text", placeTextStep, placeTextBand) {}
+    PlaceText() : TextDesk("Place Text") {}
 };
 
 TEST_F(PlaceText, FirstClickSaysWhereAndAsksForTheText)

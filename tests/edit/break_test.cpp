@@ -7,7 +7,6 @@ namespace {
 
 using fake::arcAt;
 using fake::circleAt;
-using fake::clickAt;
 using fake::EditDesk;
 using fake::lineFrom;
 using fake::sample;
@@ -19,10 +18,10 @@ Pieces broken(EditDesk& desk, const EntityRecord& r, Point first, Point second)
     fake::emptyDrawing(desk);
     desk.add(r);
     desk.begin("Break");
-    clickAt(desk, editBreak, first);
-    clickAt(desk, editBreak, second);
+    desk.click(first);
+    desk.click(second);
     EXPECT_EQ(desk.stat(1), Stat::out);
-    return fake::madeBehind(desk, 1);
+    return desk.objectsFrom(1 + 1);
 }
 
 struct Part {
@@ -108,8 +107,8 @@ TEST(Break, OfALineWithoutLengthOnlyDropsTheSelection)
     EditDesk desk;
     desk.add(lineFrom({5, 5}, {5, 5}));
     desk.begin("Break");
-    clickAt(desk, editBreak, {1, 0});
-    clickAt(desk, editBreak, {9, 0});
+    desk.click({1, 0});
+    desk.click({9, 0});
     EXPECT_EQ(desk.stat(1), Stat::on);
     EXPECT_EQ(desk.s.store.entCount, 2);
 }
@@ -195,9 +194,9 @@ TEST(Break, OfAnArcInOneDirectionTakesTheCutOfTheArcBefore)
     desk.add(arcAt({150, 50}, 50, 0, 180)); // at 135 and 45
     desk.add(arcAt({300, 0}, 50, 10, 170)); // both at 180
     desk.begin("Break");
-    clickAt(desk, editBreak, first);
-    clickAt(desk, editBreak, second);
-    const Pieces made = fake::madeBehind(desk, 3);
+    desk.click(first);
+    desk.click(second);
+    const Pieces made = desk.objectsFrom(3 + 1);
     ASSERT_EQ(made.size(), 6U);
     fake::expectArc(made[0], {0, 0}, 50, 300, 0, "first arc");
     fake::expectArc(made[1], {0, 0}, 50, 0, 60, "first arc");
@@ -215,8 +214,8 @@ TEST(Break, LeavesOtherKindsUnbrokenAndUnselected)
         desk.add(sample(kind));
         const std::int32_t logged = desk.s.log.undoLogCount;
         desk.begin("Break");
-        clickAt(desk, editBreak, {10, 0});
-        clickAt(desk, editBreak, {60, 0});
+        desk.click({10, 0});
+        desk.click({60, 0});
         EXPECT_EQ(desk.stat(1), Stat::on) << numberOf(kind);
         EXPECT_EQ(desk.s.store.entCount, 2) << numberOf(kind);
         EXPECT_EQ(desk.s.log.undoLogCount, logged) << numberOf(kind);
@@ -229,10 +228,10 @@ TEST(Break, AsksForTheSecondPointAndThenEnds)
     EditDesk desk;
     desk.add(lineFrom({0, 0}, {100, 0}));
     desk.begin("Break");
-    clickAt(desk, editBreak, {20, 0});
+    desk.click({20, 0});
     EXPECT_EQ(desk.s.promptText, "(Enter second break point:)");
     EXPECT_EQ(desk.s.store.entCount, 2);
-    clickAt(desk, editBreak, {40, 0});
+    desk.click({40, 0});
     EXPECT_EQ(desk.s.curFunc, "Object Select");
     EXPECT_EQ(desk.s.promptText, "(Click near object:)");
     EXPECT_EQ(desk.s.stepNo, 0);
@@ -246,8 +245,8 @@ TEST(Break, OfNothingUsesAGroup)
     desk.add(lineFrom({0, 0}, {100, 0}), Stat::on);
     const std::int32_t group = desk.s.log.undoGroupNext;
     desk.begin("Break");
-    clickAt(desk, editBreak, {20, 0});
-    clickAt(desk, editBreak, {40, 0});
+    desk.click({20, 0});
+    desk.click({40, 0});
     EXPECT_EQ(desk.s.log.undoGroupNext, group + 1);
     EXPECT_EQ(desk.s.log.undoGroupTop, group + 1);
     EXPECT_EQ(desk.stat(1), Stat::on);
@@ -260,8 +259,8 @@ TEST(Break, IsTakenBackByOneUndo)
     desk.add(circleAt({0, 0}, 50));
     desk.add(arcAt({0, 0}, 60, 0, 300));
     desk.begin("Break");
-    clickAt(desk, editBreak, {30, 5});
-    clickAt(desk, editBreak, {-30, 5});
+    desk.click({30, 5});
+    desk.click({-30, 5});
     ASSERT_EQ(desk.s.store.entCount, 4 + 4);
     undo(desk.s.store, desk.s.log);
     for (std::int32_t i = 1; i < desk.s.store.entCount; ++i)

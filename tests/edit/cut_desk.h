@@ -14,31 +14,19 @@ inline constexpr double degree = 3.14159265358979 / 180; // radians
 
 inline EntityRecord lineFrom(Point from, Point to, Point pick = {})
 {
-    EntityRecord r = plain(Kind::line);
-    r.p1 = from;
-    r.p2 = to;
+    EntityRecord r = green(line(from, to));
     r.p5 = pick;
     return r;
 }
 
 inline EntityRecord circleAt(Point centre, float radius)
 {
-    EntityRecord r = plain(Kind::circle);
-    r.p1 = centre;
-    r.rad = radius;
-    return r;
+    return green(circle(centre, radius));
 }
 
 inline EntityRecord arcOf(Point centre, float radius, double a1, double a2) // radians
 {
-    EntityRecord r = circleAt(centre, radius);
-    r.kind = Kind::arc;
-    r.a1 = a1;
-    r.a2 = a2;
-    r.p2 = polarPoint(centre, radius, a1);
-    r.p3 = polarPoint(centre, radius, a2);
-    r.p4 = polarPoint(centre, radius, middleAngle(a1, a2));
-    return r;
+    return green(arc(centre, radius, a1, a2));
 }
 
 // Degrees; picked at the third of them.
@@ -49,27 +37,12 @@ inline EntityRecord arcAt(Point centre, float radius, double from, double to, do
     return r;
 }
 
-// A click that no snap and no ortho moves.
-inline void clickAt(EditDesk& desk, Step step, Point at)
-{
-    desk.s.mousePos = at;
-    desk.click(step, at.x, at.y);
-}
-
 // Back to an empty drawing whose slots hold nothing: cheaper than a new desk.
 inline void emptyDrawing(EditDesk& desk)
 {
     for (std::int32_t i = 1; i <= desk.s.store.entCount; ++i) desk.s.store.setRecord(i, {});
     desk.s.store.entCount = 1;
     clearRecords(desk.s.log);
-}
-
-// All objects of the slots behind the given one.
-inline std::vector<EntityRecord> madeBehind(const EditDesk& desk, std::int32_t slot)
-{
-    std::vector<EntityRecord> made;
-    for (std::int32_t i = slot + 1; i < desk.s.store.end(); ++i) made.push_back(desk.slot(i));
-    return made;
 }
 
 inline void expectDegrees(double radians, double degrees, const std::string& what)
@@ -100,7 +73,7 @@ inline void expectLine(const EntityRecord& r, Point from, Point to, const std::s
 
 inline void expectLooks(const EntityRecord& r, const std::string& what)
 {
-    const EntityRecord like = plain(Kind::line);
+    const EntityRecord like = green(line({}, {}));
     EXPECT_EQ(r.color, like.color) << what;
     EXPECT_EQ(r.layer, like.layer) << what;
     EXPECT_EQ(r.style, like.style) << what;

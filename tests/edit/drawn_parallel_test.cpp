@@ -9,7 +9,6 @@
 namespace mirtane {
 namespace {
 
-using fake::clickAt;
 using fake::EditDesk;
 using fake::lineFrom;
 using fake::Pair;
@@ -48,7 +47,7 @@ TEST(Fillet, OfLinesDrawnParallelMakesNothingAndDropsTheSelection)
         desk.s.filletRadius = i % 3 == 0 ? 0.0F : 20.0F;
         desk.begin("Fillet");
         const std::int32_t group = desk.s.log.undoGroupNext;
-        clickAt(desk, editFillet, dice.pointWithin(pair.other.from, 500));
+        desk.click(dice.pointWithin(pair.other.from, 500));
         expectBothOn(desk, pair, pair.how);
         EXPECT_EQ(desk.s.log.undoLogCount, 2) << pair.how;
         ASSERT_EQ(desk.s.log.undoGroupNext, group + 1) << pair.how << " " << i;
@@ -63,7 +62,7 @@ TEST(Trim, ToALineDrawnParallelLeavesTheDrawingAsItWas)
         const Pair pair = somePair(dice);
         draw(desk, pair, Stat::on);
         desk.begin("Trim");
-        clickAt(desk, editTrim, pair.other.at(dice.between(0.1, 0.9)));
+        desk.click(pair.other.at(dice.between(0.1, 0.9)));
         ASSERT_EQ(desk.s.store.entCount, 3) << pair.how << " " << i;
         EXPECT_EQ(desk.stat(1), Stat::sel) << pair.how;
         EXPECT_EQ(desk.slot(1).p2, pair.one.to) << pair.how;
@@ -93,7 +92,7 @@ TEST(Fillet, ClickedExactlyOnASlantedLineLeavesOutItsRadius)
         desk.add(i % 2 == 0 ? other : clicked);
         desk.s.filletRadius = whole(1, 20);
         desk.begin("Fillet");
-        clickAt(desk, editFillet, at(along, whole(1, 60)));
+        desk.click(at(along, whole(1, 60)));
         ASSERT_EQ(desk.s.store.entCount, 6) << i;
         const Point centre = desk.slot(3).p1;
         ASSERT_NEAR(fake::offFigure(clicked, centre), 0, 0.01) << i;

@@ -85,8 +85,8 @@ TEST(EditOfEachKind, Move)
 {
     expectEach("Move", moved, [](EditDesk& desk) {
         desk.begin("Move");
-        desk.click(editMove, 100, 100);
-        desk.click(editMove, 105, 97);
+        desk.click(100, 100);
+        desk.click(105, 97);
         EXPECT_EQ(desk.stat(1), Stat::out);
     });
 }
@@ -95,8 +95,8 @@ TEST(EditOfEachKind, Copy)
 {
     expectEach("Copy", moved, [](EditDesk& desk) {
         desk.begin("Copy");
-        desk.click(editCopy, 100, 100);
-        desk.click(editCopy, 105, 97);
+        desk.click(100, 100);
+        desk.click(105, 97);
         EXPECT_EQ(desk.stat(1), Stat::sel);
     });
 }
@@ -175,9 +175,9 @@ TEST(EditOfEachKind, Rotate)
 {
     expectEach("Rotate", turned, [](EditDesk& desk) {
         desk.begin("Rotate");
-        desk.click(editRotate, 0, 0);
+        desk.click(0, 0);
         desk.s.editDegrees = 90;
-        desk.run(editRotate, 3);
+        desk.run(3);
         EXPECT_EQ(desk.stat(1), Stat::out);
     });
 }
@@ -186,10 +186,10 @@ TEST(EditOfEachKind, RadialCopyOfTwoOverARightAngle)
 {
     expectEach("Radial Copy", turned, [](EditDesk& desk) {
         desk.begin("Radial Copy");
-        desk.click(editRadialCopy, 0, 0);
+        desk.click(0, 0);
         desk.s.editDegrees = 90;
         desk.s.radialCount = 2;
-        desk.run(editRadialCopy, 3);
+        desk.run(3);
         EXPECT_EQ(desk.stat(1), Stat::on);
     });
 }
@@ -263,8 +263,8 @@ TEST(EditOfEachKind, MirrorCopy)
 {
     expectEach("Mirror Copy", mirroredAcross, [](EditDesk& desk) {
         desk.begin("Mirror Copy");
-        desk.click(editMirror, 100, 0);
-        desk.click(editMirror, 100, 500);
+        desk.click(100, 0);
+        desk.click(100, 500);
         EXPECT_EQ(desk.stat(1), Stat::on);
     });
 }
@@ -283,10 +283,10 @@ void doubleDimension(EntityRecord& r)
 void scale(EditDesk& desk, float x, float y)
 {
     desk.begin("Scale");
-    desk.click(editScale, 0, 0);
+    desk.click(0, 0);
     desk.s.editDX = x;
     desk.s.editDY = y;
-    desk.run(editScale, 3);
+    desk.run(3);
     EXPECT_EQ(desk.stat(1), Stat::out);
 }
 
@@ -429,7 +429,6 @@ TEST(EditOfEachKind, ConcentricCopy)
 {
     expectEach("Concentric Copy", offsetByTen, [](EditDesk& desk) {
         desk.begin("Concentric Copy");
-        desk.s.stepNo = 1;
         desk.s.offsetDistance = 10;
         editConcentric(desk.s, desk.pic1);
         EXPECT_EQ(desk.stat(1), Stat::on);

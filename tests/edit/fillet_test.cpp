@@ -6,7 +6,6 @@ namespace mirtane {
 namespace {
 
 using fake::arcAt;
-using fake::clickAt;
 using fake::EditDesk;
 using fake::expectNear;
 using fake::lineFrom;
@@ -20,7 +19,6 @@ struct FilletDesk : EditDesk {
         add(second);
         s.filletRadius = radius;
         begin("Fillet");
-        s.stepNo = 1;
         ops();
     }
     bool made() const { return s.store.entCount == 6; }
@@ -61,7 +59,7 @@ TEST(Fillet, OfTwoLinesRoundsTheClickedCornerAndKeepsThePickedEnds)
         const float pickY = choice / 8 == 0 ? 60.0F : -60.0F;
         FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {pickX, 3}), lineFrom({0, -100}, {0, 100}, {-3, pickY}),
                         20);
-        clickAt(desk, editFillet, {30 * toX, 35 * toY});
+        desk.click({30 * toX, 35 * toY});
         const std::string what = "choice " + std::to_string(choice);
         expectFilleted(desk, what);
         const float x = 20 * toX;
@@ -75,7 +73,7 @@ TEST(Fillet, OfTwoLinesRoundsTheClickedCornerAndKeepsThePickedEnds)
 TEST(Fillet, OfLinesThatDoNotReachEachOtherMakesThemGrow)
 {
     FilletDesk desk(lineFrom({50, 0}, {100, 0}, {90, 0}), lineFrom({0, 50}, {0, 100}, {0, 90}), 20);
-    clickAt(desk, editFillet, {60, 60});
+    desk.click({60, 60});
     expectFilleted(desk, "grow");
     expectRounding(desk.rounding(), {20, 20}, 20, {20, 0}, {0, 20}, "grow");
     fake::expectLine(desk.firstCut(), {20, 0}, {100, 0}, "first");
@@ -86,7 +84,7 @@ TEST(Fillet, OfLinesThatDoNotReachEachOtherMakesThemGrow)
 TEST(Fillet, OfLinesDrawnTowardsTheCornerKeepsTheirStarts)
 {
     FilletDesk desk(lineFrom({100, 0}, {50, 0}, {80, 0}), lineFrom({0, 100}, {0, 50}, {0, 70}), 20);
-    clickAt(desk, editFillet, {60, 60});
+    desk.click({60, 60});
     expectFilleted(desk, "grow");
     fake::expectLine(desk.firstCut(), {100, 0}, {20, 0}, "first");
     fake::expectLine(desk.secondCut(), {0, 100}, {0, 20}, "second");
@@ -96,7 +94,7 @@ TEST(Fillet, OfLinesDrawnTowardsTheCornerKeepsTheirStarts)
 TEST(Fillet, KeepsTheStartOfALineTouchedFurtherFromItThanPicked)
 {
     FilletDesk desk(lineFrom({0, 0}, {10, 0}, {3, 0}), lineFrom({-9, 4}, {-9, 14}, {-9, 9}), 4);
-    clickAt(desk, editFillet, {-2, 3});
+    desk.click({-2, 3});
     expectFilleted(desk, "outside");
     expectRounding(desk.rounding(), {-5, 4}, 4, {-5, 0}, {-9, 4}, "outside");
     fake::expectLine(desk.firstCut(), {0, 0}, {-5, 0}, "first");
@@ -105,7 +103,7 @@ TEST(Fillet, KeepsTheStartOfALineTouchedFurtherFromItThanPicked)
 TEST(Fillet, PickBesideALineCountsByItsFoot)
 {
     FilletDesk desk(lineFrom({0, 0}, {100, 0}, {35, -30}), lineFrom({20, 50}, {20, 100}, {20, 90}), 20);
-    clickAt(desk, editFillet, {60, 40});
+    desk.click({60, 40});
     expectFilleted(desk, "beside");
     fake::expectLine(desk.firstCut(), {0, 0}, {40, 0}, "first"); // the pick itself is further from the start
 }
@@ -115,7 +113,7 @@ TEST(Fillet, OfALinePickedWhereItIsTouchedKeepsWhatItsSlotHeld)
     FilletDesk desk(lineFrom({0, 0}, {100, 0}, {40, 7}), lineFrom({20, 50}, {20, 100}, {20, 90}), 20);
     const EntityRecord stale = lineFrom({1, 2}, {3, 4});
     desk.s.store.setRecord(4, stale);
-    clickAt(desk, editFillet, {60, 40});
+    desk.click({60, 40});
     expectFilleted(desk, "equal");
     EXPECT_EQ(desk.firstCut().p1, stale.p1);
     EXPECT_EQ(desk.firstCut().p2, stale.p2);
@@ -200,7 +198,7 @@ TEST(Fillet, OfALineAndAnArcLiesInsideTheArcInEitherOrder)
         const EntityRecord arc = arcAt({0, 0}, 10, 0, 180, row.arcPick);
         for (const bool lineFirst : {true, false}) {
             FilletDesk desk(lineFirst ? line : arc, lineFirst ? arc : line, 2);
-            clickAt(desk, editFillet, row.click);
+            desk.click(row.click);
             expectFilleted(desk, row.what);
             if (!desk.made()) continue;
             expectRounding(desk.rounding(), row.centre, 2, row.onLine, row.onArc, row.what);
@@ -232,7 +230,7 @@ TEST(Fillet, OfTwoArcsLiesInsideBothAndKeepsThePickedParts)
     for (const ArcsRow& row : rows) {
         FilletDesk desk(arcAt({0, 0}, 50, 0, 180, row.firstPick), arcAt({60, 0}, 50, 0, 180, row.secondPick),
                         10);
-        clickAt(desk, editFillet, {30, -20});
+        desk.click({30, -20});
         expectFilleted(desk, row.what);
         expectRounding(desk.rounding(), {30, -26.457513F}, 10, {37.5F, -33.071891F}, {22.5F, -33.071891F},
                        row.what);
@@ -244,7 +242,7 @@ TEST(Fillet, OfTwoArcsLiesInsideBothAndKeepsThePickedParts)
 TEST(Fillet, OfTwoArcsTakesTheCentreNearerToTheClick)
 {
     FilletDesk desk(arcAt({0, 0}, 50, 0, 180, 90), arcAt({60, 0}, 50, 0, 180, 90), 10);
-    clickAt(desk, editFillet, {30, 20});
+    desk.click({30, 20});
     expectRounding(desk.rounding(), {30, 26.457513F}, 10, {37.5F, 33.071891F}, {22.5F, 33.071891F}, "below");
 }
 
@@ -252,10 +250,10 @@ TEST(Fillet, OfTwoArcsTakesTheCentreNearerToTheClick)
 TEST(Fillet, LargerThanTheArcIsStoredAsItIsWorkedOut)
 {
     FilletDesk desk(lineFrom({-20, -4}, {20, -4}, {0, -4}), arcAt({0, 0}, 5, 0, 180, 90), 8);
-    clickAt(desk, editFillet, {1, 0}); // the line beside lies at 4, the circle of centres has radius 3
+    desk.click({1, 0}); // the line beside lies at 4, the circle of centres has radius 3
     EXPECT_FALSE(desk.made());
     FilletDesk larger(lineFrom({-20, -6}, {20, -6}, {0, -6}), arcAt({0, 0}, 5, 0, 180, 60), 8);
-    clickAt(larger, editFillet, {1, 0}); // the line beside lies at 2
+    larger.click({1, 0}); // the line beside lies at 2
     ASSERT_TRUE(larger.made());
     expectNear(larger.rounding().p1, {2.236068F, 2}, 1e-4, "centre");
     EXPECT_EQ(larger.rounding().rad, 8);
@@ -265,25 +263,28 @@ TEST(Fillet, LargerThanTheArcIsStoredAsItIsWorkedOut)
 TEST(Fillet, EquallyNearToBothCentresTakesTheLastPoint)
 {
     FilletDesk desk(lineFrom({-20, 0}, {20, 0}, {15, 0}), arcAt({0, 0}, 10, 0, 180, 100), 2);
-    desk.s.mousePos = {0, -3};
-    desk.click(editFillet, 1, -4); // a snap has moved the click
-    ASSERT_TRUE(desk.made());
-    EXPECT_EQ(desk.rounding().p1, (Point{1, -4}));
+    const std::int32_t snappedTo = desk.add(fake::point({1, -4}), Stat::on);
+    desk.hold(fake::ctrlKey);
+    desk.click({0, -3});
+    EXPECT_EQ(desk.s.store.entCount, 7);
+    EXPECT_EQ(desk.slot(snappedTo + 1).p1, (Point{1, -4}));
 }
 
 TEST(Fillet, TakesTheClickAsItWasAndNotAsSnapped)
 {
     FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {60, 0}), lineFrom({0, -100}, {0, 100}, {0, 60}), 20);
-    desk.s.mousePos = {30, 30};
-    desk.click(editFillet, -30, -30);
-    expectRounding(desk.rounding(), {20, 20}, 20, {20, 0}, {0, 20}, "click");
+    const std::int32_t snappedTo = desk.add(fake::point({-8, -8}), Stat::on);
+    desk.hold(fake::ctrlKey);
+    desk.click({8, 8});
+    EXPECT_EQ(desk.s.pickLast, (Point{-8, -8}));
+    expectRounding(desk.slot(snappedTo + 1), {20, 20}, 20, {20, 0}, {0, 20}, "click");
 }
 
 // A click on a line has no side of it, so that the radius plays no part there.
 TEST(Fillet, ClickedOnALineLeavesOutItsRadius)
 {
     FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {60, 0}), lineFrom({0, -100}, {0, 100}, {0, 60}), 20);
-    clickAt(desk, editFillet, {30, 0});
+    desk.click({30, 0});
     ASSERT_TRUE(desk.made());
     EXPECT_EQ(desk.rounding().p1, (Point{20, 0}));
     fake::expectLine(desk.firstCut(), {20, 0}, {100, 0}, "first");
@@ -293,7 +294,7 @@ TEST(Fillet, ClickedOnALineLeavesOutItsRadius)
 TEST(Fillet, OfRadiusNothingCutsBothAtTheCorner)
 {
     FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {60, 0}), lineFrom({30, -100}, {30, 100}, {30, -60}), 0);
-    clickAt(desk, editFillet, {70, -70});
+    desk.click({70, -70});
     expectFilleted(desk, "lines");
     const EntityRecord corner = desk.rounding();
     for (const Point p : {corner.p1, corner.p2, corner.p3, corner.p4}) EXPECT_EQ(p, (Point{30, 0}));
@@ -305,7 +306,7 @@ TEST(Fillet, OfRadiusNothingCutsBothAtTheCorner)
     fake::expectLine(desk.secondCut(), {30, -100}, {30, 0}, "second");
 
     FilletDesk arcs(arcAt({0, 0}, 50, 0, 180, 20), arcAt({60, 0}, 50, 0, 180, 60), 0);
-    clickAt(arcs, editFillet, {30, -60});
+    arcs.click({30, -60});
     expectFilleted(arcs, "arcs");
     EXPECT_EQ(arcs.rounding().rad, 0);
     expectNear(arcs.rounding().p3, {30, -40}, 1e-4, "arcs");
@@ -323,7 +324,7 @@ TEST(Fillet, OfRadiusNothingIsOneVeryPointOnAnyLines)
         desk.add(i % 2 == 0 ? dice.line() : dice.arc());
         desk.s.filletRadius = 0;
         desk.begin("Fillet");
-        clickAt(desk, editFillet, dice.point());
+        desk.click(dice.point());
         if (desk.s.store.entCount == 3) continue; // a line that misses the arc
         const EntityRecord corner = desk.slot(3);
         for (const Point p : {corner.p2, corner.p3, corner.p4}) EXPECT_EQ(p, corner.p1) << i;
@@ -365,7 +366,7 @@ TEST(Fillet, WhereThereIsNoneMakesNothingAndDropsTheSelection)
         FilletDesk desk(row.first, row.second, row.radius);
         const std::int32_t logged = desk.s.log.undoLogCount;
         const std::int32_t group = desk.s.log.undoGroupNext;
-        clickAt(desk, editFillet, {30, 31});
+        desk.click({30, 31});
         EXPECT_EQ(desk.s.store.entCount, 3) << row.what;
         EXPECT_EQ(desk.stat(1), Stat::on) << row.what;
         EXPECT_EQ(desk.stat(2), Stat::on) << row.what;
@@ -385,7 +386,7 @@ TEST(Fillet, OfFewerThanTwoObjectsUsesAGroup)
         desk.add(lineFrom({0, 0}, {100, 0}), one ? Stat::sel : Stat::on);
         const std::int32_t group = desk.s.log.undoGroupNext;
         desk.begin("Fillet");
-        clickAt(desk, editFillet, {30, 30});
+        desk.click({30, 30});
         EXPECT_EQ(desk.s.log.undoGroupNext, group + 1);
         EXPECT_EQ(desk.s.log.undoGroupTop, group + 1);
         EXPECT_EQ(desk.stat(1), Stat::on);
@@ -401,7 +402,7 @@ TEST(Fillet, OfThreeObjectsTakesTheFirstAndTheLast)
     desk.add(lineFrom({0, -100}, {0, 100}, {0, 60}));
     desk.s.filletRadius = 20;
     desk.begin("Fillet");
-    clickAt(desk, editFillet, {30, 30});
+    desk.click({30, 30});
     ASSERT_EQ(desk.s.store.entCount, 7);
     expectRounding(desk.slot(4), {20, 20}, 20, {20, 0}, {0, 20}, "first and last");
     const Stat after[] = {Stat::out, Stat::on, Stat::out, Stat::on, Stat::on, Stat::on};
@@ -415,7 +416,7 @@ TEST(Fillet, TakesColourLayerAndStyleOfTheArcFromTheFirstObject)
     second.layer = 7;
     second.style = 4;
     FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {60, 0}), second, 20);
-    clickAt(desk, editFillet, {30, 30});
+    desk.click({30, 30});
     fake::expectLooks(desk.rounding(), "arc");
     EXPECT_EQ(desk.secondCut().color, 0x0000FF);
     EXPECT_EQ(desk.secondCut().layer, 7);
@@ -425,7 +426,7 @@ TEST(Fillet, TakesColourLayerAndStyleOfTheArcFromTheFirstObject)
 TEST(Fillet, StaysForTheNextTwoObjectsWithItsRadiusInThePrompt)
 {
     FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {60, 0}), lineFrom({0, -100}, {0, 100}, {0, 60}), 24);
-    clickAt(desk, editFillet, {30, 30});
+    desk.click({30, 30});
     EXPECT_EQ(desk.s.curFunc, "Fillet");
     EXPECT_EQ(desk.s.stepNo, 0);
     EXPECT_EQ(desk.s.editPending, 0);
@@ -433,14 +434,14 @@ TEST(Fillet, StaysForTheNextTwoObjectsWithItsRadiusInThePrompt)
     EXPECT_EQ(fake::marks(desk.ops()).size(), 3U);
     desk.s.store.setStat(4, Stat::sel);
     desk.s.store.setStat(5, Stat::sel);
-    clickAt(desk, editFillet, {30, 30}); // step 1 now
+    desk.click({31, 30}); // step 1 now; a second click on one point would be the cancel
     EXPECT_EQ(desk.s.store.entCount, 9);
 }
 
 TEST(Fillet, IsTakenBackByOneUndo)
 {
     FilletDesk desk(lineFrom({-100, 0}, {100, 0}, {60, 0}), arcAt({0, 0}, 50, 0, 180, 20), 10);
-    clickAt(desk, editFillet, {20, -20});
+    desk.click({20, -20});
     ASSERT_TRUE(desk.made());
     undo(desk.s.store, desk.s.log);
     for (std::int32_t i = 1; i <= 5; ++i) EXPECT_EQ(desk.stat(i), i <= 2 ? Stat::on : Stat::out) << i;
@@ -460,7 +461,7 @@ TEST(Fillet, ArcTouchesBothObjectsIsBelowHalfACircleAndMeetsTheCutEnds)
         for (const EntityRecord& r : objects) desk.add(r);
         desk.s.filletRadius = radius;
         desk.begin("Fillet");
-        clickAt(desk, editFillet, dice.point());
+        desk.click(dice.point());
         if (desk.s.store.entCount != 6) {
             ASSERT_EQ(desk.s.store.entCount, 3) << i;
             continue;

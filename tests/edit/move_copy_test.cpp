@@ -19,7 +19,7 @@ TEST(Move, LiftsTheSelectionAtItsFirstClickAndDrawsItInPlace)
     desk.s.pickLast = {900, 900}; // of an earlier function
     desk.begin("Move");
     desk.ops();
-    desk.click(editMove, 3, 4);
+    desk.click(3, 4);
     EXPECT_EQ(desk.s.workAngle, 25);
     EXPECT_EQ(desk.s.pickLast, (Point{900, 900}));
     EXPECT_EQ(desk.s.promptText, "(Enter new reference point:)");
@@ -32,9 +32,9 @@ TEST(Move, ShowsTheMovedObjectsAgain)
     EditDesk desk;
     desk.add(sample(Kind::line));
     desk.begin("Move");
-    desk.click(editMove, 0, 0);
+    desk.click(0, 0);
     desk.ops();
-    desk.click(editMove, 5, 5);
+    desk.click(5, 5);
     const Ops expected = {"line 15 25 45 65"};
     EXPECT_EQ(fake::marks(desk.ops()), expected);
 }
@@ -46,10 +46,9 @@ TEST(Move, GhostIsTheSelectionAtThePointerInTheRubberBandPen)
         desk.add(sample(kind));
     desk.add(sample(Kind::line), Stat::on);
     desk.begin("Move");
-    desk.click(editMove, 0, 0);
-    desk.s.pickLast = {10, -5};
+    desk.click(0, 0);
     desk.ops();
-    drawSelectionGhost(desk.s, desk.pic1);
+    desk.move({10, -5});
     const Ops ops = desk.ops();
     ASSERT_GE(ops.size(), 6U);
     EXPECT_EQ(ops[0], "restoreSnapshot");
@@ -69,8 +68,8 @@ TEST(Move, HasNoGhostBeforeItsReferencePoint)
     desk.add(sample(Kind::line));
     desk.begin("Move");
     desk.ops();
-    drawSelectionGhost(desk.s, desk.pic1);
-    editMove(desk.s, desk.pic1); // the middle button counts no step
+    desk.move({1, 1});
+    desk.down(4, {1, 1}); // the middle button counts no step
     EXPECT_TRUE(desk.ops().empty());
     EXPECT_EQ(desk.s.store.entCount, 2);
 }
@@ -81,8 +80,8 @@ TEST(Move, OfNothingLeavesTheViewAsItWas)
     desk.add(sample(Kind::line), Stat::on);
     const Scale before = desk.pic1.getScale();
     desk.begin("Move");
-    desk.click(editMove, 0, 0);
-    desk.click(editMove, 50, 50);
+    desk.click(0, 0);
+    desk.click(50, 50);
     EXPECT_EQ(desk.pic1.getScale().left, before.left);
     EXPECT_EQ(desk.pic1.getScale().width, before.width);
     EXPECT_EQ(desk.stat(1), Stat::on);
@@ -95,12 +94,12 @@ TEST(Move, ThereAndBackGivesTheSameObject)
         EditDesk desk;
         desk.add(sample(kind));
         desk.begin("Move");
-        desk.click(editMove, 0, 0);
-        desk.click(editMove, 64, -32);
+        desk.click(0, 0);
+        desk.click(64, -32);
         desk.s.store.setStat(2, Stat::sel);
         desk.begin("Move");
-        desk.click(editMove, 64, -32);
-        desk.click(editMove, 0, 0);
+        desk.click(66, -30); // on the last point it would be the cancel
+        desk.click(2, 2);
         fake::expectRecord(desk.slot(3), sample(kind), 1e-4, "there and back");
     }
 }
@@ -110,14 +109,14 @@ TEST(Copy, EachFurtherClickRepeatsTheFirstOffsetInAGroupOfItsOwn)
     EditDesk desk;
     desk.add(sample(Kind::point));
     desk.begin("Copy");
-    desk.click(editCopy, 0, 0);
+    desk.click(0, 0);
     EXPECT_EQ(desk.s.promptText, "(Enter new reference point:)");
     EXPECT_EQ(desk.s.workAngle, 0);
-    desk.click(editCopy, 10, 20);
+    desk.click(10, 20);
     EXPECT_EQ(desk.s.promptText, "(Left click for another copy:)");
     const std::int32_t group = desk.s.log.undoGroupNext;
-    desk.click(editCopy, -300, 77);
-    desk.click(editCopy, 1, 1);
+    desk.click(-300, 77);
+    desk.click(1, 1);
     EXPECT_EQ(desk.s.log.undoGroupNext, group + 2);
     EXPECT_EQ(desk.slot(2).p1, (Point{17, 29}));
     EXPECT_EQ(desk.slot(3).p1, (Point{27, 49}));
@@ -137,12 +136,11 @@ TEST(Copy, KeepsTheOriginalsInThePictureUnderItsGhost)
     desk.add(sample(Kind::line));
     desk.begin("Copy");
     desk.ops();
-    desk.click(editCopy, 0, 0);
+    desk.click(0, 0);
     EXPECT_TRUE(desk.ops().empty());
-    desk.s.pickLast = {1, 1};
     for (const std::int16_t step : {std::int16_t{1}, std::int16_t{2}, std::int16_t{7}}) {
         desk.s.stepNo = step;
-        drawSelectionGhost(desk.s, desk.pic1);
+        desk.move({1, 1});
         const Ops expected = {"restoreSnapshot", "line 0 0 1 1", "line 11 21 41 61"};
         EXPECT_EQ(desk.ops(), expected);
     }
@@ -153,15 +151,14 @@ TEST(MirrorBand, IsTheMirrorLineAlone)
     EditDesk desk;
     desk.add(sample(Kind::line));
     desk.begin("Mirror Copy");
-    desk.click(editMirror, 1, 2);
+    desk.click(1, 2);
     EXPECT_EQ(desk.s.promptText, "(Enter end of mirror line:)");
-    desk.s.pickLast = {30, 40};
     desk.ops();
-    mirrorBand(desk.s, desk.pic1);
+    desk.move({30, 40});
     const Ops expected = {"restoreSnapshot", "line 1 2 30 40"};
     EXPECT_EQ(desk.ops(), expected);
     desk.s.stepNo = 0;
-    mirrorBand(desk.s, desk.pic1);
+    desk.move({30, 40});
     EXPECT_TRUE(desk.ops().empty());
 }
 

@@ -8,21 +8,15 @@
 namespace mirtane {
 namespace {
 
-using fake::dimension;
 using fake::only;
 using fake::Ops;
 
 // A level line from (0, 40) to (100, 40) with its text at (30, 30).
 EntityRecord level(Point text = {30, 30})
 {
-    EntityRecord r = dimension(Kind::linearDimension, "8 1/3\"");
-    r.p1 = {0, 0};
-    r.p2 = {100, 0};
-    r.p3 = {100, 40};
-    r.p4 = {0, 40};
-    r.p5 = text;
-    r.a1 = 0;
-    return r;
+    const EntityRecord points =
+        fake::record(Kind::linearDimension, {0, 0}, {100, 0}, {100, 40}, {0, 40}, text);
+    return fake::greenDimension(points, "8 1/3\"");
 }
 
 // A click is found within 24 units of a text.
@@ -30,29 +24,12 @@ class MoveDesk : public fake::EditDesk {
   public:
     MoveDesk()
     {
-        s.curFunc = "Move Dimension Text";
+        start("Move Dimension Text");
         s.arrowSize = 16;
     }
 
-    void pick(Point at)
-    {
-        s.stepNo = 1;
-        s.pickFirst = at;
-        s.mousePos = at;
-        editMoveDimText(s, pic1);
-    }
-    void move(Point at)
-    {
-        s.pickLast = at;
-        drawDimTextGhost(s, pic1);
-    }
-    void drop(Point at)
-    {
-        s.stepNo = 2;
-        s.pickLast = at;
-        s.mousePos = at;
-        editMoveDimText(s, pic1);
-    }
+    void pick(Point at) { click(at); }
+    void drop(Point at) { click(at); }
 };
 
 TEST(MoveDimensionText, SlidesByThePointersDistanceToThePointersSide)
@@ -297,7 +274,7 @@ TEST(MoveDimensionText, AnyPointerLeavesTheTextOnItsParallelOfTheLine)
     MoveDesk desk;
     for (int i = 0; i < 300; ++i) {
         desk.s.store.entCount = 1;
-        desk.s.curFunc = "Move Dimension Text";
+        desk.start("Move Dimension Text");
         EntityRecord r = level(point());
         r.p3 = point();
         r.p4 = point();

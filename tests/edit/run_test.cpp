@@ -28,50 +28,45 @@ struct Edit {
 const Edit edits[] = {
     {"Move",
      [](EditDesk& desk) {
-         desk.click(editMove, 1, 2);
-         desk.click(editMove, 31, 42);
+         desk.click(1, 2);
+         desk.click(31, 42);
      },
      Stat::out, 1},
     {"Copy",
      [](EditDesk& desk) {
-         desk.click(editCopy, 1, 2);
-         desk.click(editCopy, 31, 42);
+         desk.click(1, 2);
+         desk.click(31, 42);
      },
      Stat::sel, 1},
     {"Mirror Copy",
      [](EditDesk& desk) {
-         desk.click(editMirror, 1, 2);
-         desk.click(editMirror, 31, 42);
+         desk.click(1, 2);
+         desk.click(31, 42);
      },
      Stat::on, 1},
     {"Rotate",
      [](EditDesk& desk) {
-         desk.click(editRotate, 1, 2);
-         desk.s.editDegrees = 33;
-         desk.run(editRotate, 3);
+         desk.click(1, 2);
+         desk.typeIn("33");
      },
      Stat::out, 1},
     {"Radial Copy",
      [](EditDesk& desk) {
-         desk.click(editRadialCopy, 1, 2);
-         desk.s.editDegrees = 90;
-         desk.s.radialCount = 4;
-         desk.run(editRadialCopy, 3);
+         desk.click(1, 2);
+         desk.typeIn("90");
+         desk.typeIn("4");
      },
      Stat::on, 3},
     {"Scale",
      [](EditDesk& desk) {
-         desk.click(editScale, 1, 2);
-         desk.s.editDX = 3;
-         desk.s.editDY = -2;
-         desk.run(editScale, 3);
+         desk.click(1, 2);
+         desk.typeIn("3");
+         desk.typeIn("-2");
      },
      Stat::out, 1},
     {"Concentric Copy",
      [](EditDesk& desk) {
-         desk.s.stepNo = 1;
-         desk.s.offsetDistance = 12;
-         editConcentric(desk.s, desk.pic1);
+         desk.typeIn("1"); // inch
      },
      Stat::on, 1, true},
     {"Change",

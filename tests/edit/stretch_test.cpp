@@ -8,7 +8,6 @@ namespace mirtane {
 namespace {
 
 using fake::arcOf;
-using fake::clickAt;
 using fake::EditDesk;
 using fake::expectNear;
 using fake::lineFrom;
@@ -24,10 +23,10 @@ const Box everything{{-1e6F, -1e6F}, {1e6F, 1e6F}};
 void stretch(EditDesk& desk, const Box& window, Point by)
 {
     desk.begin("Stretch");
-    clickAt(desk, editStretch, window.from);
-    clickAt(desk, editStretch, window.to);
-    clickAt(desk, editStretch, {17, 23});
-    clickAt(desk, editStretch, {17 + by.x, 23 + by.y});
+    desk.click(window.from);
+    desk.click(window.to);
+    desk.click({17, 23});
+    desk.click({17 + by.x, 23 + by.y});
 }
 
 EntityRecord stretchedOn(EditDesk& desk, const EntityRecord& r, const Box& window, Point by)
@@ -181,7 +180,7 @@ TEST(Stretch, TurnsAnArcRoundWhenItsMiddleGoesToTheOtherSide)
 // The construction that draws arcs would miss the third point here.
 TEST(Stretch, RebuildsAnArcExactlyWithAnObtuseAngleAtItsStart)
 {
-    EntityRecord arc = fake::plain(Kind::arc);
+    EntityRecord arc = fake::green(fake::record(Kind::arc));
     arc.p2 = {0, 0};
     arc.p4 = {100, 0};
     arc.p3 = {-100, 300};
@@ -286,22 +285,24 @@ TEST(Stretch, TakesTheWindowFromThePointerAndTheOffsetFromTheThirdClick)
 {
     EditDesk desk;
     desk.add(lineFrom({10, 20}, {40, 60}));
+    for (const Point p : {Point{300, 300}, {303, 304}}) desk.add(fake::point(p), Stat::on);
     desk.begin("Stretch");
     desk.s.editPending = 0;
-    clickAt(desk, editStretch, {0, 0});
+    desk.ortho(true);
+    desk.click({0, 0});
     EXPECT_EQ(desk.s.editPending, 1);
-    desk.s.mousePos = {20, 30};
-    desk.click(editStretch, 100, 0); // as ortho has turned it
+    desk.click({20, 30});
+    EXPECT_EQ(desk.s.pickLast.y, 0) << "ortho has turned it";
     EXPECT_EQ(desk.s.promptText, "(Enter reference point:)");
     EXPECT_EQ(desk.s.stretchRight, 20);
     EXPECT_EQ(desk.s.stretchBottom, 30);
-    desk.s.mousePos = {999, 999};
-    desk.click(editStretch, 300, 300); // as snapped
+    desk.hold(fake::ctrlKey);
+    desk.click({291, 293});
     EXPECT_EQ(desk.s.promptText, "(Enter new reference point:)");
     EXPECT_EQ(desk.s.pickFirst, (Point{300, 300}));
-    desk.s.mousePos = {-999, 999};
-    desk.click(editStretch, 303, 304);
-    fake::expectLine(desk.slot(2), {13, 24}, {40, 60}, "start alone");
+    desk.ortho(false);
+    desk.click({314, 320});
+    fake::expectLine(desk.slot(4), {13, 24}, {40, 60}, "start alone");
 }
 
 TEST(Stretch, ShowsItsWindowAndThenTheSelectionAtThePointer)
@@ -309,23 +310,19 @@ TEST(Stretch, ShowsItsWindowAndThenTheSelectionAtThePointer)
     EditDesk desk;
     desk.add(lineFrom({10, 20}, {40, 60}));
     desk.begin("Stretch");
-    stretchBand(desk.s, desk.pic1);
+    desk.click({1, 2});
     desk.ops();
-    clickAt(desk, editStretch, {1, 2});
-    desk.s.pickLast = {30, 40};
-    desk.ops();
-    stretchBand(desk.s, desk.pic1);
+    desk.move({30, 40});
     const Ops box = {"restoreSnapshot", "line 1 2 30 2", "line 30 2 30 40", "line 30 40 1 40",
                      "line 1 40 1 2"};
     EXPECT_EQ(desk.ops(), box);
-    clickAt(desk, editStretch, {30, 40});
+    desk.click({30, 40});
     desk.ops();
-    stretchBand(desk.s, desk.pic1);
+    desk.move({35, 45});
     EXPECT_TRUE(desk.ops().empty());
-    clickAt(desk, editStretch, {5, 5});
-    desk.s.pickLast = {10, 4};
+    desk.click({5, 5});
     desk.ops();
-    stretchBand(desk.s, desk.pic1);
+    desk.move({10, 4});
     const Ops ghost = {"restoreSnapshot", "line 5 5 10 4", "line 15 19 45 59"};
     EXPECT_EQ(desk.ops(), ghost);
 }
@@ -336,7 +333,7 @@ TEST(Stretch, ShowsNoWindowBeforeItsFirstCorner)
     desk.add(lineFrom({10, 20}, {40, 60}));
     desk.begin("Stretch");
     desk.ops();
-    stretchBand(desk.s, desk.pic1);
+    desk.move({10, 4});
     EXPECT_TRUE(desk.ops().empty());
 }
 

@@ -8,7 +8,6 @@ namespace {
 
 using fake::arcAt;
 using fake::circleAt;
-using fake::clickAt;
 using fake::EditDesk;
 using fake::lineFrom;
 using fake::sample;
@@ -28,7 +27,7 @@ struct TrimDesk : EditDesk {
 EntityRecord trimmed(const EntityRecord& object, const EntityRecord& boundary, Point click)
 {
     TrimDesk desk(object, boundary);
-    clickAt(desk, editTrim, click);
+    desk.click(click);
     EXPECT_EQ(desk.stat(1), Stat::out);
     EXPECT_EQ(desk.stat(2), Stat::on);
     EXPECT_EQ(desk.s.store.entCount, 4);
@@ -149,7 +148,7 @@ TEST(Trim, ArcPickedMidwayOfItsGapKeepsWhatItsSlotHeld)
     TrimDesk desk(arc, lineFrom({-10, -20}, {-10, 20}));
     const EntityRecord stale = fake::arcOf({7, 7}, 3, 1, 2);
     desk.s.store.setRecord(3, stale);
-    clickAt(desk, editTrim, {-10, 5});
+    desk.click({-10, 5});
     EXPECT_EQ(desk.made().kind, Kind::arc);
     EXPECT_EQ(desk.made().p1, (Point{0, 0}));
     EXPECT_EQ(desk.made().rad, 50);
@@ -196,7 +195,7 @@ TEST(Trim, BetweenTwoCrossingsEquallyNearTheLastPointStays)
     desk.add(lineFrom({0, 0}, {100, 0}, {20, 0}));
     desk.add(circleAt({50, 0}, 20), Stat::on);
     desk.begin("Trim");
-    clickAt(desk, editTrim, {50, 20});
+    desk.click({50, 20});
     fake::expectLine(desk.slot(3), {0, 0}, {50, 20}, "on the boundary");
 
     EditDesk two;
@@ -204,7 +203,7 @@ TEST(Trim, BetweenTwoCrossingsEquallyNearTheLastPointStays)
     two.add(lineFrom({0, 0}, {100, 0}, {20, 0}));
     two.add(circleAt({50, 0}, 20), Stat::on);
     two.begin("Trim");
-    clickAt(two, editTrim, {50, 20});
+    two.click({50, 20});
     fake::expectLine(two.slot(4), {70, -100}, {70, 0}, "touching");
     fake::expectLine(two.slot(5), {0, 0}, {70, 0}, "as the one before");
 }
@@ -213,7 +212,7 @@ TEST(Trim, PickBesideALineCountsByItsFoot)
 {
     const EntityRecord upright = lineFrom({40, -10}, {40, 10});
     TrimDesk desk(lineFrom({0, 0}, {100, 0}, {39, 6}), upright);
-    clickAt(desk, editTrim, {40, 5});
+    desk.click({40, 5});
     fake::expectLine(desk.made(), {0, 0}, {40, 0}, "before");
     EXPECT_EQ(desk.slot(1).p5, (Point{39, 6}));
     fake::expectLine(trimmed(lineFrom({0, 0}, {100, 0}, {41, -20}), upright, {40, 5}), {40, 0}, {100, 0},
@@ -242,7 +241,7 @@ TEST(Trim, ClickFurtherThanAQuarterInchFromAllObjectsChangesNothing)
 {
     TrimDesk desk(lineFrom({0, 0}, {100, 0}, {20, 0}), lineFrom({40, -60}, {40, 60}));
     const std::int32_t group = desk.s.log.undoGroupNext;
-    clickAt(desk, editTrim, {64.5F, 30});
+    desk.click({64.5F, 30});
     EXPECT_EQ(desk.s.store.entCount, 3);
     EXPECT_EQ(desk.stat(1), Stat::sel);
     EXPECT_EQ(desk.s.curFunc, "Trim");
@@ -250,7 +249,7 @@ TEST(Trim, ClickFurtherThanAQuarterInchFromAllObjectsChangesNothing)
     EXPECT_EQ(desk.s.editPending, 0);
     EXPECT_EQ(desk.s.log.undoGroupNext, group);
     EXPECT_TRUE(desk.ops().empty());
-    clickAt(desk, editTrim, {64, 30}); // the next try, now step 2
+    desk.click({64, 30}); // the next try, now step 2
     EXPECT_EQ(desk.s.store.entCount, 4);
     EXPECT_EQ(desk.s.stepNo, 0);
     EXPECT_EQ(desk.s.curFunc, "Object Select");
@@ -282,7 +281,7 @@ TEST(Trim, TakesAsABoundaryOnlyWhatIsShownAndUnselectedAndUnderTheClick)
     for (const MissRow& row : rows) {
         TrimDesk desk(lineFrom({0, 0}, {100, 0}, {20, 0}), row.boundary);
         desk.s.store.setStat(2, row.stat);
-        clickAt(desk, editTrim, row.click);
+        desk.click(row.click);
         EXPECT_EQ(desk.s.store.entCount, 3) << row.what;
         EXPECT_EQ(desk.stat(1), Stat::sel) << row.what;
     }
@@ -295,7 +294,7 @@ TEST(Trim, OfBoundariesEquallyNearTakesTheLater)
     desk.add(lineFrom({40, -60}, {40, 60}), Stat::on);
     desk.add(lineFrom({50, -60}, {50, 60}), Stat::on);
     desk.begin("Trim");
-    clickAt(desk, editTrim, {45, 30});
+    desk.click({45, 30});
     fake::expectLine(desk.slot(4), {0, 0}, {50, 0}, "later");
 }
 
@@ -306,7 +305,7 @@ TEST(Trim, ParallelLinesLeaveTheDrawingAsItWas)
     for (const EntityRecord& boundary : parallels) {
         TrimDesk desk(lineFrom({0, 0}, {100, 0}, {20, 0}), boundary);
         const std::int32_t group = desk.s.log.undoGroupNext;
-        clickAt(desk, editTrim, {60, boundary.p1.y});
+        desk.click({60, boundary.p1.y});
         EXPECT_EQ(desk.s.store.entCount, 3);
         EXPECT_EQ(desk.stat(1), Stat::sel);
         EXPECT_EQ(desk.s.curFunc, "Trim");
@@ -329,7 +328,7 @@ TEST(Trim, MeetingMoreThanAViewsSizeBeyondTheViewLeavesTheDrawingAsItWas)
         const Point to = row.upright ? Point{row.at, 50} : Point{50, row.at};
         const Point along = row.upright ? Point{100, 0} : Point{0, 100};
         TrimDesk desk(lineFrom({0, 0}, along, {20, 20}), lineFrom(from, to));
-        clickAt(desk, editTrim, row.upright ? Point{row.at, 30} : Point{30, row.at});
+        desk.click(row.upright ? Point{row.at, 30} : Point{30, row.at});
         EXPECT_EQ(desk.s.store.entCount, row.trims ? 4 : 3) << row.at;
         EXPECT_EQ(desk.stat(1), row.trims ? Stat::out : Stat::sel) << row.at;
     }
@@ -342,7 +341,7 @@ TEST(Trim, StoppedByAParallelKeepsWhatIsMadeInTheGroupOfTheNextAction)
     desk.add(lineFrom({60, -50}, {60, 50}, {60, 40}));
     desk.add(lineFrom({40, -60}, {40, 60}), Stat::on);
     desk.begin("Trim");
-    clickAt(desk, editTrim, {40, 30});
+    desk.click({40, 30});
     ASSERT_EQ(desk.s.store.entCount, 5);
     fake::expectLine(desk.slot(4), {0, 0}, {40, 0}, "made");
     EXPECT_EQ(desk.stat(4), Stat::on);
@@ -369,7 +368,7 @@ TEST(Trim, ObjectThatMissesTheBoundaryStaysAsItIs)
         const std::int32_t logged = desk.s.log.undoLogCount;
         const Point click =
             boundary.kind == Kind::line ? Point{10, 60} : Point{boundary.p1.x, 60 + boundary.rad};
-        clickAt(desk, editTrim, click);
+        desk.click(click);
         EXPECT_EQ(desk.stat(1), Stat::on);
         EXPECT_EQ(desk.slot(1), object);
         EXPECT_EQ(desk.s.store.entCount, 3);
@@ -383,7 +382,7 @@ TEST(Trim, ThrowsAwaySelectedObjectsOfOtherKinds)
     for (const Kind kind : everyKind) {
         if (kind == Kind::line || kind == Kind::arc) continue;
         TrimDesk desk(sample(kind), lineFrom({40, -60}, {40, 60}));
-        clickAt(desk, editTrim, {40, 5});
+        desk.click({40, 5});
         EXPECT_EQ(desk.stat(1), Stat::out) << numberOf(kind);
         EXPECT_EQ(desk.s.store.entCount, 3) << numberOf(kind);
         undo(desk.s.store, desk.s.log);
@@ -401,7 +400,7 @@ TEST(Trim, OfSeveralObjectsIsTakenBackByOneUndo)
     desk.add(lineFrom({40, -60}, {40, 60}), Stat::on);
     const std::int32_t group = desk.s.log.undoGroupNext;
     desk.begin("Trim");
-    clickAt(desk, editTrim, {40, 5});
+    desk.click({40, 5});
     ASSERT_EQ(desk.s.store.entCount, 8);
     EXPECT_EQ(desk.s.log.undoGroupNext, group + 1);
     const Stat after[] = {Stat::out, Stat::out, Stat::on, Stat::out, Stat::on, Stat::on, Stat::on};
@@ -415,7 +414,7 @@ TEST(Trim, OfSeveralObjectsIsTakenBackByOneUndo)
 TEST(Trim, EndsTheRunAndShowsTheResult)
 {
     TrimDesk desk(lineFrom({0, 0}, {100, 0}, {20, 0}), lineFrom({40, -60}, {40, 60}));
-    clickAt(desk, editTrim, {40, 5});
+    desk.click({40, 5});
     EXPECT_EQ(desk.s.curFunc, "Object Select");
     EXPECT_EQ(desk.s.promptText, "(Click near object:)");
     EXPECT_EQ(desk.s.stepNo, 0);
@@ -436,7 +435,7 @@ TEST(Trim, WhatStaysEndsOnTheBoundaryAndHoldsThePickedPart)
         desk.add(object);
         desk.add(boundary, Stat::on);
         desk.begin("Trim");
-        clickAt(desk, editTrim, fake::pointOn(boundary, dice.between(0.1, 0.9)));
+        desk.click(fake::pointOn(boundary, dice.between(0.1, 0.9)));
         ASSERT_EQ(desk.stat(2), Stat::on);
         if (desk.s.store.entCount == 3) {
             ASSERT_EQ(desk.slot(1), object) << i;

@@ -12,11 +12,14 @@ using fake::Ops;
 
 BoundaryClick lastClick;
 
+// Asks the routine itself what it makes of a click, which the steps that call it keep to themselves.
 struct BoundaryDesk : LibraryDesk {
-    BoundaryDesk()
-        : LibraryDesk(
-              "Measure Area", [](Session& s, Canvas&) { lastClick = takeBoundaryClick(s); }, boundaryBand)
+    BoundaryDesk() : LibraryDesk("Measure Area") {}
+    void click(float x, float y)
     {
+        countStep(s);
+        (s.stepNo == 1 ? s.pickFirst : s.pickLast) = {x, y};
+        lastClick = takeBoundaryClick(s);
     }
 };
 

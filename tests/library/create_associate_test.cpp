@@ -11,10 +11,10 @@ using fake::LibraryDesk;
 
 // "Create Associate" with a name typed, waiting for the reference point.
 struct CreateDesk : LibraryDesk {
-    explicit CreateDesk(const char* name = "Door") : LibraryDesk("Create Associate", createAssociateStep)
+    explicit CreateDesk(const char* name = "Door") : LibraryDesk("Create Associate")
     {
-        s.associateName = name;
-        s.stepNo = 1;
+        typeIn(name);
+        EXPECT_EQ(s.stepNo, 1);
     }
 };
 
@@ -36,9 +36,10 @@ TEST(CreateAssociate, TakesTheCoordinatesRelativeToTheReferencePoint)
         {Kind::leader, 0b11111},
         {Kind::angularDimension, 0b11111},
     };
+    static_assert(std::size(rows) == drawnKinds, "a row for each kind");
     for (const Row& row : rows) {
         CreateDesk desk;
-        const EntityRecord source = fake::sampleOf(row.kind);
+        const EntityRecord source = fake::filled(row.kind);
         desk.add(source);
         desk.click(100, 200);
         ASSERT_EQ(desk.s.store.entCount, 3) << numberOf(row.kind);
@@ -74,7 +75,7 @@ TEST(CreateAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
         CreateDesk desk;
         for (int i = 0; i < 1500; ++i) desk.add(fake::circle({0, 0}, 1));
         desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
-        desk.click(100, 200);
+        desk.stepAt({100, 200});
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.freeSlots;
         EXPECT_EQ(desk.s.stepNo, 0);
     }
@@ -83,10 +84,10 @@ TEST(CreateAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
 TEST(CreateAssociate, KeepsTheOtherFieldsOfTheKind)
 {
     CreateDesk desk;
-    desk.add(fake::sampleOf(Kind::arc));
-    desk.add(fake::sampleOf(Kind::ellipse));
-    desk.add(fake::sampleOf(Kind::text));
-    desk.add(fake::sampleOf(Kind::angularDimension));
+    desk.add(fake::filled(Kind::arc));
+    desk.add(fake::filled(Kind::ellipse));
+    desk.add(fake::filled(Kind::text));
+    desk.add(fake::filled(Kind::angularDimension));
     desk.click(100, 200);
     const EntityRecord arc = desk.slot(5);
     EXPECT_EQ(arc.rad, 13);
@@ -126,7 +127,7 @@ TEST(CreateAssociate, LeavesTheSourceInTheDrawingAndNothingToUndo)
 TEST(CreateAssociate, PassesOverOtherKindsButDeselectsThem)
 {
     CreateDesk desk;
-    for (const Kind kind : {Kind{0}, Kind{11}, Kind{24}, Kind{25}}) desk.add(fake::sampleOf(kind));
+    for (const Kind kind : {Kind{0}, Kind{11}, Kind{24}, Kind{25}}) desk.add(fake::filled(kind));
     desk.click(10, 10);
     EXPECT_EQ(desk.s.store.entCount, 5);
     for (int i = 1; i < 5; ++i) EXPECT_EQ(desk.stat(i), Stat::on) << i;
@@ -136,8 +137,8 @@ TEST(CreateAssociate, GoesOnTheWorkingLayerAndMarksItUsed)
 {
     CreateDesk desk;
     desk.s.workLayer = 3;
-    desk.add(fake::sampleOf(Kind::line));
-    desk.click(0, 0);
+    desk.add(fake::filled(Kind::line));
+    desk.click(1, 1);
     EXPECT_EQ(desk.slot(2).layer, 3);
     EXPECT_EQ(desk.used(3), "Yes:");
     EXPECT_EQ(desk.used(7), "No :");
@@ -147,7 +148,7 @@ TEST(CreateAssociate, EndsWithTheNamesInTheListAndNoneChosen)
 {
     CreateDesk desk;
     desk.s.baseFunc = desk.s.lastFunc = "Window Select";
-    desk.add(fake::sampleOf(Kind::line));
+    desk.add(fake::filled(Kind::line));
     desk.click(5, 5);
     EXPECT_EQ(desk.s.curFunc, "Window Select");
     EXPECT_EQ(desk.s.stepNo, 0);
@@ -159,7 +160,7 @@ TEST(CreateAssociate, EndsWithTheNamesInTheListAndNoneChosen)
 TEST(CreateAssociate, WaitsForItsName)
 {
     CreateDesk desk("??????");
-    desk.add(fake::sampleOf(Kind::line));
+    desk.add(fake::filled(Kind::line));
     desk.click(5, 5);
     EXPECT_EQ(desk.s.stepNo, 1);
     EXPECT_EQ(desk.s.store.entCount, 2);

@@ -12,10 +12,10 @@ using fake::LibraryDesk;
 
 // "Create Hatch" with a name typed, waiting for the first corner.
 struct CreateDesk : LibraryDesk {
-    explicit CreateDesk(const char* name = "Brick") : LibraryDesk("Create Hatch", createHatchStep)
+    explicit CreateDesk(const char* name = "Brick") : LibraryDesk("Create Hatch")
     {
-        s.hatchName = name;
-        s.stepNo = 1;
+        typeIn(name);
+        EXPECT_EQ(s.stepNo, 1);
     }
     void tile()
     {
@@ -68,8 +68,8 @@ TEST(CreateHatch, TakesCirclesArcsAndPoints)
 {
     CreateDesk desk;
     desk.add(fake::circle({110, 210}, 5));
-    desk.add(fake::sampleOf(Kind::arc));
-    desk.add(fake::sampleOf(Kind::point));
+    desk.add(fake::filled(Kind::arc));
+    desk.add(fake::filled(Kind::point));
     desk.tile();
     ASSERT_EQ(desk.count(), 3);
     EXPECT_EQ(desk.row(0), fake::hatchCircle("Brick", {10, 10}, 5, 30, 20));
@@ -103,7 +103,7 @@ TEST(CreateHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
     for (const Row& row : rows) {
         CreateDesk desk;
         for (int i = 0; i < 1200; ++i) desk.add(fake::line({105, 215}, {125, 215}));
-        desk.add(fake::sampleOf(Kind::text));
+        desk.add(fake::filled(Kind::text));
         desk.s.hatchLibrary.count = row.count;
         desk.tile();
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.count;
@@ -126,8 +126,8 @@ TEST(CreateHatch, PassesOverOtherKindsAndWhatIsNotSelected)
     CreateDesk desk;
     for (const Kind kind : {Kind::ellipse, Kind::text, Kind::linearDimension, Kind::radialDimension,
                             Kind::leader, Kind::angularDimension, Kind{11}, Kind{25}})
-        desk.add(fake::sampleOf(kind));
-    desk.add(fake::sampleOf(Kind::line), Stat::on);
+        desk.add(fake::filled(kind));
+    desk.add(fake::filled(Kind::line), Stat::on);
     desk.tile();
     EXPECT_EQ(desk.count(), 0);
     EXPECT_TRUE(desk.list().empty()) << "a hatch without rows has no name in the list";

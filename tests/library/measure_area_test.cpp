@@ -14,7 +14,7 @@ namespace {
 using fake::LibraryDesk;
 
 struct AreaDesk : LibraryDesk {
-    AreaDesk() : LibraryDesk("Measure Area", measureAreaStep, boundaryBand) {}
+    AreaDesk() : LibraryDesk("Measure Area") {}
     void through(const std::vector<Point>& corners)
     {
         for (const Point p : corners) click(p.x, p.y);

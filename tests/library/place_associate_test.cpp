@@ -17,12 +17,7 @@ constexpr double rightAngle = 90 / 57.29578; // as the field stores it
 
 // "Place Associate" with "Door" chosen from the list.
 struct PlaceDesk : LibraryDesk {
-    PlaceDesk() : LibraryDesk("Place Associate", placeAssociateStep, placeAssociateBand)
-    {
-        s.baseFunc = s.lastFunc = s.curFunc;
-        s.associateName = "Door";
-        s.stepNo = 1;
-    }
+    PlaceDesk() : LibraryDesk("Place Associate") { s.associateName = "Door"; }
     void piece(EntityRecord r, const char* owner = "Door")
     {
         r.kind = pieceOf(r.kind);
@@ -102,7 +97,7 @@ TEST(PlaceAssociate, KeepsColourAndStyleAndTakesTheWorkingLayer)
     desk.s.workLayer = 5;
     desk.s.curColor = 0x0000FF;
     desk.s.curStyle = 1;
-    desk.piece(fake::sampleOf(Kind::line));
+    desk.piece(fake::filled(Kind::line));
     desk.click(0, 0);
     const EntityRecord object = desk.slot(2);
     EXPECT_EQ(object.color, 0x00FF00);
@@ -114,10 +109,7 @@ TEST(PlaceAssociate, KeepsColourAndStyleAndTakesTheWorkingLayer)
 EntityRecord quarterArc()
 {
     // centre (10, 0), radius 10, from the right to the top
-    EntityRecord r = fake::circle({10, 0}, 10);
-    r.kind = Kind::arc;
-    r.a1 = 0;
-    r.a2 = 1.5707963;
+    EntityRecord r = fake::arc({10, 0}, 10, 0, 1.5707963);
     r.p2 = {20, 0};
     r.p3 = {10, -10};
     r.p4 = {17.071068F, -7.071068F};
@@ -165,7 +157,7 @@ TEST(PlaceAssociate, AnglesOfArcsAreReducedOnceWhenAboveATurn)
     const EntityRecord object = placed(r, {{0, 0}, 2, false});
     EXPECT_EQ(object.a1, 6 + 2 - 6.2831853);
     EXPECT_EQ(object.a2, 4.2831853 + 2) << "a whole turn stays";
-    EntityRecord dimension = fake::sampleOf(Kind::angularDimension);
+    EntityRecord dimension = fake::filled(Kind::angularDimension);
     dimension.a1 = 6;
     EXPECT_EQ(placed(dimension, {{0, 0}, 2, false}).a1, 6 + 2 - 6.2831853);
 }
@@ -173,14 +165,14 @@ TEST(PlaceAssociate, AnglesOfArcsAreReducedOnceWhenAboveATurn)
 TEST(PlaceAssociate, DegreesOfTextsGoOnPastATurn)
 {
     for (const Kind kind : {Kind::text, Kind::linearDimension, Kind::radialDimension, Kind::leader}) {
-        EntityRecord r = fake::sampleOf(kind);
+        EntityRecord r = fake::filled(kind);
         r.a1 = 300;
         const EntityRecord object = placed(r, {{0, 0}, rightAngle, false});
         EXPECT_NEAR(object.a1, 390, 1e-6) << numberOf(kind);
         if (kind == Kind::text) continue;
         EXPECT_EQ(object.a2, 0.5) << numberOf(kind) << ": the size of its arrows";
     }
-    EntityRecord r = fake::sampleOf(Kind::angularDimension);
+    EntityRecord r = fake::filled(Kind::angularDimension);
     r.a3 = 300;
     EXPECT_NEAR(placed(r, {{0, 0}, rightAngle, false}).a3, 390, 1e-6);
 }
@@ -189,7 +181,7 @@ TEST(PlaceAssociate, TextAndDimensionsKeepTheirWordsAndSizes)
 {
     for (const Kind kind :
          {Kind::linearDimension, Kind::radialDimension, Kind::leader, Kind::angularDimension}) {
-        const EntityRecord object = placed(fake::sampleOf(kind), {{100, 0}, 0, false});
+        const EntityRecord object = placed(fake::filled(kind), {{100, 0}, 0, false});
         EXPECT_EQ(object.p1, (Point{101, 2})) << numberOf(kind);
         EXPECT_EQ(object.p5, (Point{109, 10})) << numberOf(kind);
         EXPECT_EQ(object.s1, 11) << numberOf(kind);
@@ -197,7 +189,7 @@ TEST(PlaceAssociate, TextAndDimensionsKeepTheirWordsAndSizes)
         EXPECT_EQ(object.t1, "words") << numberOf(kind);
         EXPECT_EQ(object.t2, "Garamond") << numberOf(kind);
     }
-    const EntityRecord text = placed(fake::sampleOf(Kind::text), {{100, 0}, 0, false});
+    const EntityRecord text = placed(fake::filled(Kind::text), {{100, 0}, 0, false});
     EXPECT_EQ(text.p1, (Point{101, 2}));
     EXPECT_EQ(text.p4, (Point{107, 8}));
     EXPECT_EQ(text.p2, (Point{3, 4})) << "size and justification";
@@ -207,7 +199,7 @@ TEST(PlaceAssociate, TextAndDimensionsKeepTheirWordsAndSizes)
 
 TEST(PlaceAssociate, AnEllipseKeepsTheRatioOfItsAxes)
 {
-    const EntityRecord object = placed(fake::sampleOf(Kind::ellipse), {{100, 0}, 0, true});
+    const EntityRecord object = placed(fake::filled(Kind::ellipse), {{100, 0}, 0, true});
     EXPECT_EQ(object.p1, (Point{99, 2}));
     EXPECT_EQ(object.p2, (Point{97, 4}));
     EXPECT_EQ(object.p3.x, 5);
@@ -217,7 +209,7 @@ TEST(PlaceAssociate, ReverseDropsTextAndDimensions)
 {
     for (const Kind kind :
          {Kind::text, Kind::linearDimension, Kind::radialDimension, Kind::leader, Kind::angularDimension}) {
-        EntityRecord piece = fake::sampleOf(kind);
+        EntityRecord piece = fake::filled(kind);
         piece.kind = pieceOf(piece.kind);
         EntityRecord object;
         EXPECT_FALSE(placePiece(piece, {{0, 0}, 0, true}, object)) << numberOf(kind);
@@ -230,7 +222,7 @@ TEST(PlaceAssociate, RecordsThatAreNoPiecesPlaceNothing)
     EntityRecord object;
     constexpr std::int16_t noPieces[] = {-32768, -1, 0, 1, 10, 21, 24, 25, 32767};
     for (const std::int16_t kind : noPieces) {
-        const EntityRecord r = fake::sampleOf(Kind{kind});
+        const EntityRecord r = fake::filled(Kind{kind});
         EXPECT_FALSE(placePiece(r, {}, object)) << kind;
     }
 }
@@ -238,7 +230,7 @@ TEST(PlaceAssociate, RecordsThatAreNoPiecesPlaceNothing)
 TEST(PlaceAssociate, TextAloneReversedPlacesNothingAndStillClosesAGroup)
 {
     PlaceDesk desk;
-    desk.piece(fake::sampleOf(Kind::text));
+    desk.piece(fake::filled(Kind::text));
     desk.reverse();
     desk.click(10, 10);
     EXPECT_EQ(desk.s.store.entCount, 2);
@@ -362,7 +354,7 @@ TEST(PlaceAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
         PlaceDesk desk;
         if (row.reversed) desk.reverse();
         for (int i = 0; i < 4; ++i) desk.piece(fake::circle({0, 0}, 1));
-        desk.piece(fake::sampleOf(Kind::text));
+        desk.piece(fake::filled(Kind::text));
         desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
         desk.click(100, 100);
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.what;

@@ -13,9 +13,8 @@ using fake::LibraryDesk;
 
 // "Place Hatch" with "Brick" chosen: tiles of 20 by 20, a level line through the middle of each.
 struct HatchDesk : LibraryDesk {
-    HatchDesk() : LibraryDesk("Place Hatch", placeHatchStep, boundaryBand)
+    HatchDesk() : LibraryDesk("Place Hatch")
     {
-        s.baseFunc = s.lastFunc = s.curFunc;
         s.hatchName = "Brick";
         s.hatchLibrary.add(fake::hatchLine("Brick", {0, 10}, {20, 10}, 20, 20));
     }
@@ -26,13 +25,17 @@ struct HatchDesk : LibraryDesk {
         const auto pieces = fillHatch({legs, s.hatchLibrary.used(), s.hatchName, 1, 0});
         return static_cast<std::int32_t>(pieces.size()) + 1;
     }
-    void square()
+    void corners(float left = 0)
     {
-        click(0, 0);
-        click(40, 0);
-        click(40, 40);
-        click(0, 40);
-        click(0, 0);
+        click(left, 0);
+        click(left + 40, 0);
+        click(left + 40, 40);
+        click(left, 40);
+    }
+    void square(float left = 0)
+    {
+        corners(left);
+        click(left, 0);
     }
 };
 
@@ -119,7 +122,7 @@ TEST(PlaceHatch, IsReadyForAnotherBoundaryWithTheSameHatch)
     EXPECT_EQ(desk.s.boundaryCount, 0);
     EXPECT_EQ(desk.s.boundary[0].from, (Point{1000000, 1000000}));
     EXPECT_EQ(desk.s.promptText, "(Enter the first point on the boundary:)");
-    desk.square();
+    desk.square(100); // a click where the last one closed would be the cancel
     EXPECT_EQ(desk.s.store.entCount, 9);
 }
 
@@ -211,8 +214,9 @@ TEST(PlaceHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
 {
     for (const MissingRow& row : missingRows) {
         HatchDesk desk;
+        desk.corners();
         desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
-        desk.square();
+        desk.stepAt({0, 0});
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.what;
     }
 }

@@ -3,84 +3,41 @@
 // A drawing and a click under way in it, as the snaps and picks find them. One world unit to the pixel, 1200
 // by 800: an object is meant within 24 units, and the view is 1200 wide.
 
-#include "geometry/angle.h"
-#include "kind_print.h"
-#include "model/session.h"
-#include "render/recording_canvas.h"
+#include "drawing_desk.h"
 #include "snap/snap.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace mirtane::fake {
 
 inline constexpr std::int16_t shift = 1;
 inline constexpr std::int16_t ctrl = 2;
 
-// The fields of an object that are looked at, so that a test names those that matter.
-struct Object {
-    Point p1{}, p2{}, p3{}, p4{}, p5{};
-    float rad = 0;
-    double a1 = 0, a2 = 0;
-    std::int32_t color = 0;
-    std::int16_t layer = 0, style = 0;
-    Kind kind = noKind;
-};
-
-class ClickDesk {
+// The snaps themselves are called, as it stands in their power to be told where ortho has turned a click to
+// and which function is at which step; that the drawing's input calls them, and when, is shown in tests/app.
+class ClickDesk : public DrawingDesk {
   public:
-    explicit ClickDesk(std::string_view function = "Line")
+    explicit ClickDesk(std::string_view function = "Line") : DrawingDesk({0, 0, 1200, 800})
     {
-        pic1.setScale({0, 0, 1200, 800});
         s.curFunc = function;
         ortho(false);
     }
 
-    std::int32_t add(const Object& o, Stat stat = Stat::on)
-    {
-        const std::int32_t slot = s.store.entCount++;
-        put(slot, o);
-        s.store.setStat(slot, stat);
-        return slot;
-    }
-    void put(std::int32_t slot, const Object& o)
-    {
-        EntityRecord r;
-        r.p1 = o.p1;
-        r.p2 = o.p2;
-        r.p3 = o.p3;
-        r.p4 = o.p4;
-        r.p5 = o.p5;
-        r.rad = o.rad;
-        r.a1 = o.a1;
-        r.a2 = o.a2;
-        r.color = o.color;
-        r.layer = o.layer;
-        r.style = o.style;
-        r.kind = o.kind;
-        s.store.setRecord(slot, r);
-    }
-    std::int32_t line(Point a, Point b, Stat stat = Stat::on)
-    {
-        return add({.p1 = a, .p2 = b, .kind = Kind::line}, stat);
-    }
+    void put(std::int32_t slot, const EntityRecord& r) { s.store.setRecord(slot, r); }
+    std::int32_t line(Point a, Point b, Stat stat = Stat::on) { return add(fake::line(a, b), stat); }
     std::int32_t circle(Point centre, float radius, Stat stat = Stat::on)
     {
-        return add({.p1 = centre, .rad = radius, .kind = Kind::circle}, stat);
+        return add(fake::circle(centre, radius), stat);
     }
     std::int32_t arc(Point centre, float radius, double a1, double a2, Stat stat = Stat::on)
     {
-        Object r{.p1 = centre, .rad = radius, .a1 = a1, .a2 = a2, .kind = Kind::arc};
-        r.p2 = polarPoint(centre, radius, a1);
-        r.p3 = polarPoint(centre, radius, a2);
-        return add(r, stat);
+        return add(fake::arc(centre, radius, a1, a2), stat);
     }
     std::int32_t ellipse(Point axisEnd, Point centre, float ratio, Stat stat = Stat::on)
     {
-        return add({.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = Kind::ellipse}, stat);
+        return add(fake::ellipse(axisEnd, centre, ratio), stat);
     }
-    std::int32_t point(Point at, Stat stat = Stat::on) { return add({.p1 = at, .kind = Kind::point}, stat); }
+    std::int32_t point(Point at, Stat stat = Stat::on) { return add(fake::point(at), stat); }
 
     void ortho(bool on) { s.controls["freecurs"_c].caption = on ? "Ortho/On" : "Ortho/Off"; }
 
@@ -127,10 +84,6 @@ class ClickDesk {
         shoot(code);
         return s.pickLast;
     }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{1200, 800}};
 };
 
 inline void expectPoint(Point found, Point wanted, const char* what, float within = 0.001f)

@@ -6,7 +6,6 @@ namespace mirtane {
 namespace {
 
 using fake::ClickDesk;
-using fake::Object;
 
 constexpr std::int32_t nobody = -1;
 
@@ -20,21 +19,16 @@ TEST(Pick, EachKindIsPickedWhereItIs)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         Point mouse;
         bool picked;
     };
-    const Object line{.p1 = {100, 100}, .p2 = {200, 100}, .kind = Kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
-    const Object quarter{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc};
-    const Object ellipse{.p1 = {500, 300}, .p2 = {400, 300}, .p3 = {0.5f, 0}, .kind = Kind::ellipse};
+    const EntityRecord line = fake::line({100, 100}, {200, 100});
+    const EntityRecord circle = fake::circle({300, 300}, 50);
+    const EntityRecord quarter = fake::arc({300, 300}, 50, 0, 1.5707963);
+    const EntityRecord ellipse = fake::ellipse({500, 300}, {400, 300}, 0.5f);
     const auto allPairs = [](Kind kind) {
-        return Object{.p1 = {100, 100},
-                      .p2 = {200, 200},
-                      .p3 = {300, 300},
-                      .p4 = {400, 400},
-                      .p5 = {500, 500},
-                      .kind = kind};
+        return fake::record(kind, {100, 100}, {200, 200}, {300, 300}, {400, 400}, {500, 500});
     };
     const Row rows[] = {
         {"a line", line, {150, 110}, true},
@@ -128,9 +122,9 @@ TEST(Pick, TextEditFindsTextsAndDimensionsOnly)
     desk.line({100, 100}, {200, 100});
     desk.point({150, 100});
     EXPECT_EQ(pickedAt(desk, {150, 101}), nobody);
-    const auto text = desk.add({.p1 = {150, 115}, .kind = Kind::text});
+    const auto text = desk.add(fake::record(Kind::text, {150, 115}));
     EXPECT_EQ(pickedAt(desk, {150, 101}), text);
-    const auto dimension = desk.add({.p5 = {150, 110}, .kind = Kind::linearDimension});
+    const auto dimension = desk.add(fake::record(Kind::linearDimension, {}, {}, {}, {}, {150, 110}));
     EXPECT_EQ(pickedAt(desk, {150, 101}), dimension);
     desk.s.curFunc = "Radial Dimension";
     EXPECT_EQ(pickedAt(desk, {160, 101}), 1) << "any kind";
@@ -174,7 +168,10 @@ TEST(ObjectSelect, TheClickIsRememberedForKinds1To6)
     for (const Kind kind : everyKind) {
         ClickDesk desk("Object Select");
         const Point text{105, 100};
-        desk.add({.p1 = {100, 100}, .p2 = {100, 100}, .p5 = text, .rad = 5, .a2 = 6.28, .kind = kind});
+        EntityRecord r = fake::record(kind, {100, 100}, {100, 100}, {}, {}, text);
+        r.rad = 5;
+        r.a2 = 6.28;
+        desk.add(r);
         desk.s.mousePos = {103, 104};
         ASSERT_TRUE(togglePick(desk.s, desk.pic1)) << numberOf(kind);
         EXPECT_EQ(desk.s.store.p5[1], kind <= Kind::text ? desk.s.mousePos : text) << numberOf(kind);
@@ -184,7 +181,7 @@ TEST(ObjectSelect, TheClickIsRememberedForKinds1To6)
 TEST(ObjectSelect, UnmarkingRemembersNoClick)
 {
     ClickDesk desk("Object Select");
-    desk.add({.p1 = {100, 100}, .p2 = {200, 100}, .p5 = {7, 8}, .kind = Kind::line}, Stat::sel);
+    desk.add(fake::record(Kind::line, {100, 100}, {200, 100}, {}, {}, {7, 8}), Stat::sel);
     desk.s.mousePos = {150, 104};
     ASSERT_TRUE(togglePick(desk.s, desk.pic1));
     EXPECT_EQ(desk.s.store.p5[1], (Point{7, 8}));

@@ -134,9 +134,8 @@ std::optional<Near> nearestOf(const EntityStore& store, std::size_t i, Point p, 
     case Kind::radialDimension:
     case Kind::angularDimension:
         return atPoint(p, store.p5[i]);
-    default:
-        return std::nullopt;
     }
+    return std::nullopt;
 }
 
 std::int32_t search(const EntityStore& store, const Rule& rule)
@@ -146,7 +145,7 @@ std::int32_t search(const EntityStore& store, const Rule& rule)
     for (std::int32_t slot = 1; slot < store.entCount; ++slot) {
         const std::size_t i = EntityStore::at(slot);
         if (slot == rule.skipped || !isShown(store, i)) continue;
-        if (store.kind[i] < rule.firstKind || store.kind[i] > rule.lastKind) continue;
+        if (std::ranges::find(rule.kinds, store.kind[i]) == rule.kinds.end()) continue;
         const auto near = nearestOf(store, i, rule.from, rule.arcs);
         if (!near || near->distance > radius) continue;
         best = slot;
@@ -171,9 +170,12 @@ std::vector<Point> offeredPoints(const EntityStore& store, std::size_t i)
         return ellipseEnds(store, i);
     case Kind::leader:
         return {store.p5[i], store.p1[i], store.p2[i]};
-    default:
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::angularDimension:
         return {};
     }
+    return {}; // no object
 }
 
 std::vector<Point> windowPoints(const EntityStore& store, std::size_t i)
@@ -200,9 +202,8 @@ std::vector<Point> windowPoints(const EntityStore& store, std::size_t i)
         return {store.p2[i], store.p3[i]};
     case Kind::angularDimension:
         return {store.p4[i], store.p5[i]};
-    default:
-        return {};
     }
+    return {}; // no object
 }
 
 } // namespace mirtane::plain

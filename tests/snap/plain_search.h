@@ -5,7 +5,9 @@
 
 #include "model/entity_store.h"
 
+#include <algorithm>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace mirtane::plain {
@@ -20,10 +22,17 @@ struct Near {
 // Where an object is nearest to p, if it is met at all.
 std::optional<Near> nearestOf(const EntityStore& store, std::size_t i, Point p, Arcs arcs);
 
+// Those with a place where the pointer may meet them, and those that are met at their words.
+inline constexpr Kind shapes[] = {Kind::line, Kind::circle, Kind::arc, Kind::ellipse, Kind::point};
+inline constexpr Kind worded[] = {Kind::text, Kind::linearDimension, Kind::radialDimension, Kind::leader,
+                                  Kind::angularDimension};
+static_assert(std::size(shapes) + std::size(worded) == drawnKinds, "a kind is in neither");
+inline constexpr Kind crossing[] = {Kind::line, Kind::circle, Kind::arc}; // which Snap Intersection takes
+
 struct Rule {
     Point from;
     float radius;
-    Kind firstKind, lastKind;
+    std::span<const Kind> kinds;
     Arcs arcs;
     std::int32_t skipped = -1;
     bool limitCounts = false; // an object at the very radius is a hit: so in a pick, not in a snap

@@ -12,7 +12,6 @@ namespace mirtane {
 namespace {
 
 using fake::ClickDesk;
-using fake::Object;
 using plain::Arcs;
 
 constexpr float radius = 24;
@@ -42,19 +41,24 @@ Stat throwStat(Dice& dice)
 
 Kind throwKind(Dice& dice)
 {
-    constexpr std::int16_t kinds[] = {1, 1, 1, 2, 2, 3, 3, 4, 5, 6, 7, 8, 9, 10, 11, 25, 30};
-    return Kind{kinds[dice.below(17)]};
+    // Lines, circles and arcs more often than the others, and some that are no objects.
+    constexpr Kind more[] = {Kind::line,          Kind::line,    Kind::circle,       Kind::arc,
+                             pieceOf(Kind::line), layerNameKind, polylineSegmentKind};
+    const std::size_t thrown =
+        static_cast<std::size_t>(dice.below(static_cast<int>(drawnKinds + std::size(more)))); // small
+    return thrown < drawnKinds ? everyKind[thrown] : more[thrown - drawnKinds];
 }
 
 // Whole numbers, lines along the axes, circles right over or beside the click: every distance is exact, and
 // ties are common.
-Object throwOnGrid(Dice& dice, Point click)
+EntityRecord throwOnGrid(Dice& dice, Point click)
 {
     const auto point = [&] {
         return Point{static_cast<float>(dice.below(40)), static_cast<float>(dice.below(40))}; // small numbers
     };
-    Object o{
-        .p1 = point(), .p2 = point(), .p3 = point(), .p4 = point(), .p5 = point(), .kind = throwKind(dice)};
+    EntityRecord o;
+    for (Point* p : {&o.p1, &o.p2, &o.p3, &o.p4, &o.p5}) *p = point();
+    o.kind = throwKind(dice);
     o.rad = static_cast<float>(dice.below(20)); // small numbers
     if (o.kind == Kind::line) (dice.below(2) ? o.p2.x = o.p1.x : o.p2.y = o.p1.y);
     if (isRound(o.kind)) (dice.below(2) ? o.p1.x = click.x : o.p1.y = click.y);
@@ -89,9 +93,9 @@ TEST(RandomDrawing, PickTakesTheNearestAndOfEqualsTheLast)
         desk.s.mousePos = click;
         const bool textEdit = run % 3 == 0;
         desk.s.curFunc = textEdit ? "Text Edit" : "Object Select";
-        const std::int32_t wanted =
-            plain::search(desk.s.store, {click, radius, textEdit ? Kind::text : Kind::line,
-                                         Kind::angularDimension, Arcs::onSweepAndABit, -1, true});
+        const std::int32_t wanted = plain::search(
+            desk.s.store, {click, radius, textEdit ? std::span<const Kind>(plain::worded) : everyKind,
+                           Arcs::onSweepAndABit, -1, true});
         ASSERT_EQ(pickObject(desk.s, desk.pic1), wanted) << run;
         picked += wanted >= 0;
     }
@@ -106,8 +110,7 @@ TEST(RandomDrawing, SnapObjectGivesTheNearestPointOfTheNearestObject)
         const Point click = throwClick(dice);
         drawOnGrid(desk, dice, click);
         const Point found = desk.snapped("so", click);
-        const std::int32_t wanted =
-            plain::search(desk.s.store, {click, radius, Kind::line, Kind::point, Arcs::whole});
+        const std::int32_t wanted = plain::search(desk.s.store, {click, radius, plain::shapes, Arcs::whole});
         ASSERT_EQ(desk.s.snapBestIndex, wanted) << run;
         if (wanted < 0) {
             ASSERT_EQ(found, click) << run;
@@ -126,7 +129,7 @@ TEST(RandomDrawing, SnapIntersectionTakesTheTwoNearest)
         const Point click = throwClick(dice);
         drawOnGrid(desk, dice, click);
         desk.snapped("si", click);
-        const plain::Rule rule{click, radius, Kind::line, Kind::arc, Arcs::onSweep};
+        const plain::Rule rule{click, radius, plain::crossing, Arcs::onSweep};
         const std::int32_t first = plain::search(desk.s.store, rule);
         ASSERT_EQ(desk.s.snapBestIndex, first) << run;
         plain::Rule again = rule;
@@ -144,11 +147,11 @@ TEST(RandomDrawing, SnapPercentageAndMidpointGoByTheNearestObject)
         drawOnGrid(desk, dice, click);
         desk.snapped("sf", click);
         ASSERT_EQ(desk.s.snapBestIndex,
-                  plain::search(desk.s.store, {click, radius, Kind::line, Kind::arc, Arcs::onSweep}))
+                  plain::search(desk.s.store, {click, radius, plain::crossing, Arcs::onSweep}))
             << run;
         desk.snapped("sm", click);
         ASSERT_EQ(desk.s.snapBestIndex,
-                  plain::search(desk.s.store, {click, 1200, Kind::line, Kind::arc, Arcs::whole}))
+                  plain::search(desk.s.store, {click, 1200, plain::crossing, Arcs::whole}))
             << run;
     }
 }
@@ -203,13 +206,14 @@ TEST(RandomDrawing, AWindowMarksWhatLiesWhollyInIt)
 }
 
 // Any coordinates, near the origin and far off: there are no ties, but two objects may be too close to call.
-Object throwAnywhere(Dice& dice, Point about)
+EntityRecord throwAnywhere(Dice& dice, Point about)
 {
     const auto point = [&] {
         return Point{about.x + dice.between(-300, 300), about.y + dice.between(-300, 300)};
     };
-    Object o{
-        .p1 = point(), .p2 = point(), .p3 = point(), .p4 = point(), .p5 = point(), .kind = throwKind(dice)};
+    EntityRecord o;
+    for (Point* p : {&o.p1, &o.p2, &o.p3, &o.p4, &o.p5}) *p = point();
+    o.kind = throwKind(dice);
     o.rad = dice.between(0, 300);
     o.a1 = dice.between(0, 6.28f);
     o.a2 = dice.between(0, 6.28f);
@@ -234,16 +238,15 @@ TEST(RandomDrawing, NothingNearerIsEverPassedOver)
         desk.s.store.entCount = 1;
         for (int i = 0; i < 30; ++i) desk.add(throwAnywhere(dice, {away, away}), throwStat(dice));
         desk.s.mousePos = click;
-        const auto compare = [&](std::int32_t found, Kind lastKind, Arcs arcs) {
-            const std::int32_t wanted =
-                plain::search(desk.s.store, {click, radius, Kind::line, lastKind, arcs});
+        const auto compare = [&](std::int32_t found, std::span<const Kind> kinds, Arcs arcs) {
+            const std::int32_t wanted = plain::search(desk.s.store, {click, radius, kinds, arcs});
             EXPECT_NEAR(distanceTo(desk.s.store, found, click, arcs),
                         distanceTo(desk.s.store, wanted, click, arcs), 0.01)
                 << run;
         };
-        compare(pickObject(desk.s, desk.pic1), Kind::angularDimension, Arcs::onSweepAndABit);
+        compare(pickObject(desk.s, desk.pic1), everyKind, Arcs::onSweepAndABit);
         desk.snapped("so", click);
-        compare(desk.s.snapBestIndex, Kind::point, Arcs::whole);
+        compare(desk.s.snapBestIndex, plain::shapes, Arcs::whole);
     }
 }
 

@@ -10,50 +10,34 @@ namespace {
 
 using fake::ClickDesk;
 using fake::expectPoint;
-using fake::Object;
-
-Object lineFrom(Point a, Point b)
-{
-    return {.p1 = a, .p2 = b, .kind = Kind::line};
-}
-
-Object circleAt(Point centre, float radius)
-{
-    return {.p1 = centre, .rad = radius, .kind = Kind::circle};
-}
-
-Object arcAt(Point centre, float radius, double a1, double a2)
-{
-    return {.p1 = centre, .rad = radius, .a1 = a1, .a2 = a2, .kind = Kind::arc};
-}
 
 TEST(SnapIntersection, MeetsTwoObjects)
 {
     struct Row {
         const char* what;
-        Object one, other;
+        EntityRecord one, other;
         Point mouse, snapped;
     };
-    const Object flat = lineFrom({100, 300}, {500, 300});
-    const Object left = circleAt({300, 300}, 50);
-    const Object right = circleAt({360, 300}, 50);
+    const EntityRecord flat = fake::line({100, 300}, {500, 300});
+    const EntityRecord left = fake::circle({300, 300}, 50);
+    const EntityRecord right = fake::circle({360, 300}, 50);
     const Row rows[] = {
-        {"two lines that cross", flat, lineFrom({200, 200}, {240, 360}), {226, 303}, {225, 300}},
+        {"two lines that cross", flat, fake::line({200, 200}, {240, 360}), {226, 303}, {225, 300}},
         {"circles, upper point", left, right, {331, 258}, {330, 260}},
         {"circles, lower point", left, right, {331, 342}, {330, 340}},
-        {"circles of two sizes", left, circleAt({350, 300}, 20), {343, 281}, {346, 280.404f}},
-        {"an arc and a circle", arcAt({300, 300}, 50, 0, 1.5707963), right, {331, 258}, {330, 260}},
+        {"circles of two sizes", left, fake::circle({350, 300}, 20), {343, 281}, {346, 280.404f}},
+        {"an arc and a circle", fake::arc({300, 300}, 50, 0, 1.5707963), right, {331, 258}, {330, 260}},
         {"line and circle, right", flat, left, {355, 305}, {350, 300}},
         {"line and circle, left", flat, left, {246, 304}, {250, 300}},
         {"circle and line", left, flat, {246, 304}, {250, 300}},
-        {"line over the centre", lineFrom({100, 270}, {500, 270}), left, {338, 268}, {340, 270}},
-        {"line and arc", flat, arcAt({300, 300}, 50, 0, 1.5707963), {352, 297}, {350, 300}},
+        {"line over the centre", fake::line({100, 270}, {500, 270}), left, {338, 268}, {340, 270}},
+        {"line and arc", flat, fake::arc({300, 300}, 50, 0, 1.5707963), {352, 297}, {350, 300}},
         {"the other point of a line and an arc may be off the arc",
-         lineFrom({100, 265}, {500, 265}),
-         arcAt({300, 300}, 50, 0, 1.5707963),
+         fake::line({100, 265}, {500, 265}),
+         fake::arc({300, 300}, 50, 0, 1.5707963),
          {320, 262},
          {335.707f, 265}},
-        {"a line that touches", lineFrom({100, 250}, {500, 250}), left, {304, 251}, {300, 250}},
+        {"a line that touches", fake::line({100, 250}, {500, 250}), left, {304, 251}, {300, 250}},
     };
     for (const Row& row : rows) {
         ClickDesk desk;
@@ -68,27 +52,24 @@ TEST(SnapIntersection, TheClickIsKeptWhereTwoObjectsDoNotMeet)
 {
     struct Row {
         const char* what;
-        Object one, other;
+        EntityRecord one, other;
         Point mouse;
     };
-    const Object circle = circleAt({300, 300}, 50);
+    const EntityRecord circle = fake::circle({300, 300}, 50);
     const Row rows[] = {
-        {"circles apart", circle, circleAt({410, 300}, 50), {355, 300}},
-        {"circles that touch", circle, circleAt({400, 300}, 50), {352, 301}},
-        {"circle in a circle", circle, circleAt({310, 300}, 30), {346, 300}},
-        {"about one centre", circle, circleAt({300, 300}, 45), {348, 300}},
-        {"line past a circle", lineFrom({100, 355}, {500, 355}), circle, {300, 353}},
-        {"both points of two circles as near", circle, circleAt({300, 290}, 45), {300, 250}},
-        {"only one object", circle, circleAt({900, 300}, 50), {352, 301}},
-        {"no object at all", circle, circleAt({900, 300}, 50), {600, 600}},
-        {"an ellipse is none",
-         circle,
-         {.p1 = {350, 300}, .p2 = {300, 300}, .p3 = {1, 0}, .kind = Kind::ellipse},
-         {352, 301}},
-        {"a point is none", circle, {.p1 = {350, 300}, .kind = Kind::point}, {352, 301}},
+        {"circles apart", circle, fake::circle({410, 300}, 50), {355, 300}},
+        {"circles that touch", circle, fake::circle({400, 300}, 50), {352, 301}},
+        {"circle in a circle", circle, fake::circle({310, 300}, 30), {346, 300}},
+        {"about one centre", circle, fake::circle({300, 300}, 45), {348, 300}},
+        {"line past a circle", fake::line({100, 355}, {500, 355}), circle, {300, 353}},
+        {"both points of two circles as near", circle, fake::circle({300, 290}, 45), {300, 250}},
+        {"only one object", circle, fake::circle({900, 300}, 50), {352, 301}},
+        {"no object at all", circle, fake::circle({900, 300}, 50), {600, 600}},
+        {"an ellipse is none", circle, fake::ellipse({350, 300}, {300, 300}, 1), {352, 301}},
+        {"a point is none", circle, fake::point({350, 300}), {352, 301}},
         {"an arc is met on its sweep only",
-         lineFrom({100, 300}, {500, 300}),
-         arcAt({300, 300}, 50, 0.2, 1.5),
+         fake::line({100, 300}, {500, 300}),
+         fake::arc({300, 300}, 50, 0.2, 1.5),
          {252, 297}},
     };
     for (const Row& row : rows) {
@@ -106,7 +87,7 @@ TEST(SnapIntersection, BothPointsOfALineAndACircleAsNearGiveTheOneTowardsTheLine
     for (const bool toTheRight : {true, false}) {
         ClickDesk desk;
         desk.circle({300, 300}, 20);
-        desk.add(toTheRight ? lineFrom({200, 290}, {400, 290}) : lineFrom({400, 290}, {200, 290}));
+        desk.add(toTheRight ? fake::line({200, 290}, {400, 290}) : fake::line({400, 290}, {200, 290}));
         expectPoint(desk.snapped("si", {300, 281}), {toTheRight ? 317.3205f : 282.6795f, 290}, "of two");
     }
 }
@@ -134,8 +115,8 @@ TEST(SnapIntersection, TwoLinesAreMetByTheHeightsOfTheSecondsEnds)
     };
     for (const Lines& row : rows) {
         ClickDesk desk;
-        desk.add(lineFrom(row.c, row.d));
-        desk.add(lineFrom(row.a, row.b)); // as near at least, and the last
+        desk.add(fake::line(row.c, row.d));
+        desk.add(fake::line(row.a, row.b)); // as near at least, and the last
         desk.firstClick(nearFirst);
         desk.s.mousePos = row.met;
         desk.shoot("si");
@@ -185,21 +166,24 @@ TEST(SnapIntersection, ASharedEndGoesBeforeTheHeights)
 {
     struct Row {
         const char* what;
-        Object first, second;
+        EntityRecord first, second;
         Point met;
     };
     const Row rows[] = {
-        {"start with end", lineFrom({100, 100}, {200, 100}), lineFrom({150, 50}, {100, 100}), {100, 100}},
-        {"start with start", lineFrom({100, 100}, {200, 100}), lineFrom({100, 100}, {150, 50}), {100, 100}},
-        {"end with start", lineFrom({200, 100}, {100, 100}), lineFrom({100, 100}, {150, 50}), {100, 100}},
-        {"end with end", lineFrom({200, 100}, {100, 100}), lineFrom({150, 50}, {100, 100}), {100, 100}},
+        {"start with end", fake::line({100, 100}, {200, 100}), fake::line({150, 50}, {100, 100}), {100, 100}},
+        {"start with start",
+         fake::line({100, 100}, {200, 100}),
+         fake::line({100, 100}, {150, 50}),
+         {100, 100}},
+        {"end with start", fake::line({200, 100}, {100, 100}), fake::line({100, 100}, {150, 50}), {100, 100}},
+        {"end with end", fake::line({200, 100}, {100, 100}), fake::line({150, 50}, {100, 100}), {100, 100}},
         {"both ends shared: the first's start",
-         lineFrom({100, 100}, {110, 100}),
-         lineFrom({110, 100}, {100, 100}),
+         fake::line({100, 100}, {110, 100}),
+         fake::line({110, 100}, {100, 100}),
          {100, 100}},
         {"both ends shared the same way",
-         lineFrom({110, 100}, {100, 100}),
-         lineFrom({110, 100}, {100, 100}),
+         fake::line({110, 100}, {100, 100}),
+         fake::line({110, 100}, {100, 100}),
          {110, 100}},
     };
     for (const Row& row : rows) {

@@ -6,20 +6,19 @@ namespace {
 
 using fake::ClickDesk;
 using fake::expectPoint;
-using fake::Object;
 
 TEST(SnapObject, GivesTheNearestPointOfEachKind)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         Point mouse, snapped;
     };
-    const Object flat{.p1 = {100, 100}, .p2 = {200, 100}, .kind = Kind::line};
-    const Object steep{.p1 = {100, 100}, .p2 = {200, 200}, .kind = Kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
-    const Object arc{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc};
-    const Object ellipse{.p1 = {500, 300}, .p2 = {400, 300}, .p3 = {0.5f, 0}, .kind = Kind::ellipse};
+    const EntityRecord flat = fake::line({100, 100}, {200, 100});
+    const EntityRecord steep = fake::line({100, 100}, {200, 200});
+    const EntityRecord circle = fake::circle({300, 300}, 50);
+    const EntityRecord arc = fake::arc({300, 300}, 50, 0, 1.5707963);
+    const EntityRecord ellipse = fake::ellipse({500, 300}, {400, 300}, 0.5f);
     const Row rows[] = {
         {"over a line", flat, {150, 90}, {150, 100}},
         {"under a line", flat, {170, 120}, {170, 100}},
@@ -42,11 +41,11 @@ TEST(SnapObject, GivesTheNearestPointOfEachKind)
         {"a quarter on", ellipse, {400, 240}, {400, 250}},
         {"opposite", ellipse, {295, 300}, {300, 300}},
         {"under it", ellipse, {400, 355}, {400, 350}},
-        {"a point", {.p1 = {10, 20}, .kind = Kind::point}, {15, 25}, {10, 20}},
-        {"no text", {.p1 = {10, 20}, .kind = Kind::text}, {15, 25}, {15, 25}},
-        {"no dimension", {.p5 = {10, 20}, .kind = Kind::linearDimension}, {15, 25}, {15, 25}},
-        {"no leader", {.p2 = {10, 20}, .kind = Kind::leader}, {15, 25}, {15, 25}},
-        {"no name of a layer", {.p1 = {10, 20}, .kind = layerNameKind}, {15, 25}, {15, 25}},
+        {"a point", fake::point({10, 20}), {15, 25}, {10, 20}},
+        {"no text", fake::record(Kind::text, {10, 20}), {15, 25}, {15, 25}},
+        {"no dimension", fake::record(Kind::linearDimension, {}, {}, {}, {}, {10, 20}), {15, 25}, {15, 25}},
+        {"no leader", fake::record(Kind::leader, {}, {10, 20}), {15, 25}, {15, 25}},
+        {"no name of a layer", fake::record(layerNameKind, {10, 20}), {15, 25}, {15, 25}},
     };
     for (const Row& row : rows) {
         ClickDesk desk;
@@ -191,13 +190,13 @@ TEST(SnapObject, TheLegMeetsEachKind)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         Point first, mouse, confined, snapped;
     };
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
-    const Object upperArc{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 3.1415927, .kind = Kind::arc};
-    const Object line{.p1 = {400, 100}, .p2 = {400, 200}, .kind = Kind::line};
-    const Object ellipse{.p1 = {500, 300}, .p2 = {400, 300}, .p3 = {0.5f, 0}, .kind = Kind::ellipse};
+    const EntityRecord circle = fake::circle({300, 300}, 50);
+    const EntityRecord upperArc = fake::arc({300, 300}, 50, 0, 3.1415927);
+    const EntityRecord line = fake::line({400, 100}, {400, 200});
+    const EntityRecord ellipse = fake::ellipse({500, 300}, {400, 300}, 0.5f);
     const Row rows[] = {
         {"near side of a circle", circle, {100, 330}, {255, 325}, {255, 330}, {260, 330}},
         {"far side of a circle", circle, {100, 330}, {345, 325}, {345, 330}, {340, 330}},
@@ -206,7 +205,7 @@ TEST(SnapObject, TheLegMeetsEachKind)
         {"from its centre", circle, {300, 300}, {345, 310}, {346, 300}, {350, 300}},
         {"from its centre, upward", circle, {300, 300}, {305, 255}, {300, 255}, {300, 250}},
         {"from the centre of a circle of no size",
-         {.p1 = {300, 300}, .kind = Kind::circle},
+         fake::record(Kind::circle, {300, 300}),
          {300, 300},
          {310, 300},
          {310, 300},
@@ -221,7 +220,7 @@ TEST(SnapObject, TheLegMeetsEachKind)
         {"a leg of no length", line, {390, 150}, {395, 150}, {390, 150}, {390, 150}},
         {"a leg of no length, circle", circle, {300, 340}, {300, 345}, {300, 340}, {300, 340}},
         {"an ellipse is met where the pointer is", ellipse, {100, 305}, {505, 300}, {505, 305}, {500, 300}},
-        {"a point", {.p1 = {10, 20}, .kind = Kind::point}, {100, 25}, {15, 26}, {15, 25}, {10, 20}},
+        {"a point", fake::point({10, 20}), {100, 25}, {15, 26}, {15, 25}, {10, 20}},
     };
     for (const Row& row : rows) {
         ClickDesk desk;
@@ -243,7 +242,7 @@ TEST(SnapObject, ALegAlongALineDrawnParallelEndsWhereOrthoPutIt)
         const Point place = dice.pointWithin({0, 0}, dice.chance() ? 300 : 30000);
         const fake::Pair pair =
             fake::drawnParallel(dice, place, dice.anySize(50, 1000), dice.between(0, 1.5707963));
-        desk.put(1, {.p1 = pair.other.from, .p2 = pair.other.to, .kind = Kind::line});
+        desk.put(1, fake::line(pair.other.from, pair.other.to));
         desk.s.store.setStat(1, Stat::on);
         desk.laterClick(pair.one.from, pair.other.at(dice.between(0.1, 0.9), 3), pair.one.to);
         desk.shoot("so");

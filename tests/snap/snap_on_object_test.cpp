@@ -7,40 +7,28 @@ namespace {
 
 using fake::ClickDesk;
 using fake::expectPoint;
-using fake::Object;
+
+EntityRecord withAngles(EntityRecord r, double a1, double a2)
+{
+    r.a1 = a1;
+    r.a2 = a2;
+    return r;
+}
 
 TEST(SnapPercentage, CountsFromTheEndNearerToThePointer)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         float share;
         Point mouse, snapped;
     };
-    const Object line{.p1 = {100, 100}, .p2 = {200, 150}, .kind = Kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
-    const Object arc{.p1 = {300, 300},
-                     .p2 = {350, 300},
-                     .p3 = {250, 300},
-                     .rad = 50,
-                     .a1 = 0,
-                     .a2 = 3.1415927,
-                     .kind = Kind::arc};
+    const EntityRecord line = fake::line({100, 100}, {200, 150});
+    const EntityRecord circle = fake::circle({300, 300}, 50);
+    const EntityRecord arc = fake::arc({300, 300}, 50, 0, 3.1415927);
     // From half past ten through three o'clock to six.
-    const Object over0{.p1 = {300, 300},
-                       .p2 = {264.645f, 264.645f},
-                       .p3 = {300, 350},
-                       .rad = 50,
-                       .a1 = 2.3561945,
-                       .a2 = 4.712389 - 6.2831853 + 6.2831853,
-                       .kind = Kind::arc};
-    const Object through0{.p1 = {300, 300},
-                          .p2 = {300, 350},
-                          .p3 = {300, 250},
-                          .rad = 50,
-                          .a1 = 4.712389,
-                          .a2 = 1.5707963,
-                          .kind = Kind::arc};
+    const EntityRecord over0 = fake::arc({300, 300}, 50, 2.3561945, 4.712389 - 6.2831853 + 6.2831853);
+    const EntityRecord through0 = fake::arc({300, 300}, 50, 4.712389, 1.5707963);
     const Row rows[] = {
         {"near the start of a line", line, 0.25f, {110, 105}, {125, 112.5f}},
         {"near its end", line, 0.25f, {190, 145}, {175, 137.5f}},
@@ -104,29 +92,17 @@ TEST(SnapMidpoint, GivesTheMiddleOfEachKind)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         Point mouse, snapped;
     };
     const Row rows[] = {
-        {"a line", {.p1 = {100, 100}, .p2 = {200, 150}, .kind = Kind::line}, {110, 106}, {150, 125}},
-        {"a circle's leftmost point",
-         {.p1 = {300, 300}, .rad = 50, .kind = Kind::circle},
-         {352, 300},
-         {250, 300}},
-        {"whatever its angles hold",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 1, .a2 = 2, .kind = Kind::circle},
-         {352, 300},
-         {250, 300}},
-        {"a quarter arc",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc},
-         {352, 300},
-         {335.3553f, 264.6447f}},
-        {"an arc through angle 0",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 4.712389, .a2 = 1.5707963, .kind = Kind::arc},
-         {310, 348},
-         {350, 300}},
+        {"a line", fake::line({100, 100}, {200, 150}), {110, 106}, {150, 125}},
+        {"a circle's leftmost point", fake::circle({300, 300}, 50), {352, 300}, {250, 300}},
+        {"whatever its angles hold", withAngles(fake::circle({300, 300}, 50), 1, 2), {352, 300}, {250, 300}},
+        {"a quarter arc", fake::arc({300, 300}, 50, 0, 1.5707963), {352, 300}, {335.3553f, 264.6447f}},
+        {"an arc through angle 0", fake::arc({300, 300}, 50, 4.712389, 1.5707963), {310, 348}, {350, 300}},
         {"clicked off its sweep",
-         {.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1.5707963, .kind = Kind::arc},
+         fake::arc({300, 300}, 50, 0, 1.5707963),
          {250, 305},
          {335.3553f, 264.6447f}},
     };
@@ -202,12 +178,12 @@ TEST(SnapPerpendicular, DropsFromTheFirstClick)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         Point first, mouse, snapped;
     };
-    const Object flat{.p1 = {100, 100}, .p2 = {200, 100}, .kind = Kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
-    const Object arc{.p1 = {300, 300}, .rad = 50, .a1 = 0, .a2 = 1, .kind = Kind::arc};
+    const EntityRecord flat = fake::line({100, 100}, {200, 100});
+    const EntityRecord circle = fake::circle({300, 300}, 50);
+    const EntityRecord arc = fake::arc({300, 300}, 50, 0, 1);
     const Row rows[] = {
         {"onto a line", flat, {170, 300}, {110, 105}, {170, 100}},
         {"beyond its end", flat, {400, 300}, {190, 105}, {400, 100}},

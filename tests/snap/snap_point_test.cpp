@@ -4,23 +4,21 @@ namespace mirtane {
 namespace {
 
 using fake::ClickDesk;
-using fake::Object;
 
 TEST(SnapPoint, EachKindOffersItsPoints)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         Point mouse, snapped;
     };
-    const Object line{.p1 = {100, 100}, .p2 = {200, 150}, .kind = Kind::line};
-    const Object circle{.p1 = {300, 300}, .rad = 50, .kind = Kind::circle};
-    const Object arc{
-        .p1 = {300, 300}, .p2 = {350, 300}, .p3 = {300, 250}, .p4 = {335, 265}, .rad = 50, .kind = Kind::arc};
-    const Object ellipse{.p1 = {500, 300}, .p2 = {400, 300}, .p3 = {0.5f, 0}, .kind = Kind::ellipse};
-    const Object text{.p1 = {300, 300}, .p2 = {48, 0}, .p4 = {320, 300}, .kind = Kind::text};
-    const Object leader{
-        .p1 = {100, 100}, .p2 = {200, 200}, .p3 = {250, 200}, .p5 = {260, 190}, .kind = Kind::leader};
+    const EntityRecord line = fake::line({100, 100}, {200, 150});
+    const EntityRecord circle = fake::circle({300, 300}, 50);
+    const EntityRecord arc = fake::record(Kind::arc, {300, 300}, {350, 300}, {300, 250}, {335, 265});
+    const EntityRecord ellipse = fake::ellipse({500, 300}, {400, 300}, 0.5f);
+    const EntityRecord text = fake::record(Kind::text, {300, 300}, {48, 0}, {}, {320, 300});
+    const EntityRecord leader =
+        fake::record(Kind::leader, {100, 100}, {200, 200}, {250, 200}, {}, {260, 190});
     const Row rows[] = {
         {"start of a line", line, {101, 101}, {100, 100}},
         {"end of a line", line, {190, 150}, {200, 150}},
@@ -35,7 +33,7 @@ TEST(SnapPoint, EachKindOffersItsPoints)
         {"upper end of the second axis", ellipse, {400, 260}, {400, 250}},
         {"lower end of the second axis", ellipse, {400, 340}, {400, 350}},
         {"the centre of an ellipse is none of its points", ellipse, {403, 299}, {400, 250}},
-        {"a point", {.p1 = {10, 20}, .kind = Kind::point}, {15, 25}, {10, 20}},
+        {"a point", fake::point({10, 20}), {15, 25}, {10, 20}},
         {"a text where it was entered", text, {310, 300}, {300, 300}},
         {"not where it is painted", text, {320, 300}, {300, 300}},
         {"its size and justification", text, {60, 10}, {48, 0}},
@@ -66,12 +64,7 @@ TEST(SnapPoint, OtherKindsOfferNothing)
     constexpr std::int16_t others[] = {7, 8, 10, 11, 15, 24, 25, 30, 35};
     for (const std::int16_t kind : others) {
         ClickDesk desk;
-        desk.add({.p1 = {100, 100},
-                  .p2 = {100, 100},
-                  .p3 = {100, 100},
-                  .p4 = {100, 100},
-                  .p5 = {100, 100},
-                  .kind = Kind{kind}});
+        desk.add(fake::record(Kind{kind}, {100, 100}, {100, 100}, {100, 100}, {100, 100}, {100, 100}));
         EXPECT_EQ(desk.snapped("sp", {101, 101}), (Point{0, 0})) << kind;
     }
 }
@@ -116,7 +109,7 @@ TEST(SnapPoint, OfPointsEquallyNearTheFirstIsTaken)
 TEST(SnapPoint, TheHeaderAndSlotsPastTheLastAreNotLookedAt)
 {
     ClickDesk desk;
-    desk.put(0, {.p1 = {100, 100}, .kind = Kind::point});
+    desk.put(0, fake::point({100, 100}));
     desk.s.store.setStat(0, Stat::on);
     desk.point({100, 100});
     --desk.s.store.entCount;

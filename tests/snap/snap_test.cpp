@@ -8,7 +8,6 @@ namespace {
 using fake::ClickDesk;
 using fake::ctrl;
 using fake::expectPoint;
-using fake::Object;
 using fake::shift;
 
 TEST(HeldSnap, CtrlGivesThePointAndShiftTheObject)

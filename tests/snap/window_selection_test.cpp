@@ -6,7 +6,6 @@ namespace mirtane {
 namespace {
 
 using fake::ClickDesk;
-using fake::Object;
 
 bool isSelected(ClickDesk& desk, bool filtered = false)
 {
@@ -24,19 +23,17 @@ TEST(WindowSelection, EachKindMustLieInByItsOwnPoints)
 {
     struct Row {
         const char* what;
-        Object object;
+        EntityRecord object;
         bool selected; // by the window from (100, 100) to (300, 300)
     };
     const Point in{200, 200};
     const Point out{500, 500};
     const auto pairs = [](Kind kind, Point a, Point b, Point c, Point d, Point e) {
-        return Object{.p1 = a, .p2 = b, .p3 = c, .p4 = d, .p5 = e, .kind = kind};
+        return fake::record(kind, a, b, c, d, e);
     };
-    const auto circle = [](Point centre, float radius) {
-        return Object{.p1 = centre, .rad = radius, .kind = Kind::circle};
-    };
+    const auto circle = [](Point centre, float radius) { return fake::circle(centre, radius); };
     const auto ellipse = [](Point axisEnd, Point centre, float ratio) {
-        return Object{.p1 = axisEnd, .p2 = centre, .p3 = {ratio, 0}, .kind = Kind::ellipse};
+        return fake::ellipse(axisEnd, centre, ratio);
     };
     const Row rows[] = {
         {"line within", pairs(Kind::line, in, {210, 210}, out, out, out), true},
@@ -167,15 +164,7 @@ TEST(WindowSelection, TheFilter)
         for (const bool filtered : {true, false}) {
             ClickDesk desk;
             const Point in{200, 200};
-            desk.add({.p1 = in,
-                      .p2 = in,
-                      .p3 = in,
-                      .p4 = in,
-                      .p5 = in,
-                      .color = yellow,
-                      .layer = 3,
-                      .style = 2,
-                      .kind = row.kind});
+            desk.add(fake::ofLooks(fake::record(row.kind, in, in, in, in, in), yellow, 3, 2));
             static_cast<FilterValues&>(desk.s) = row.filter; // to its part that holds the filter
             placeWindow(desk, {100, 100}, {300, 300});
             const bool wanted = row.kind <= Kind::angularDimension && (row.selected || !filtered);

@@ -3,26 +3,22 @@
 // The whole program without a window, at its start, with everything about it in memory.
 
 #include "app/shell.h"
-#include "kind_print.h"
+#include "drawing_desk.h"
 #include "memory_ports.h"
 #include "memory_work.h"
-#include "ops_text.h"
 #include "text/utf8.h"
-
-#include <memory>
 
 namespace mirtane::fake {
 
 inline constexpr const char* home = "/home/user";
 
-class Desk {
+class Desk : public DrawingDesk {
   public:
     explicit Desk(const std::map<std::string, std::string>& stored = {}, const MemoryWork& found = {})
         : work(found)
     {
         settings.values = stored;
         folders.folders = {"/", "/home", home};
-        pic1.setScale({0, 0, 4800, 3200});
         shell.start();
         pic1.takeOps();
     }
@@ -61,6 +57,13 @@ class Desk {
         name(typed);
         enter();
     }
+    // A point by a construction line, which counts as snapped.
+    void layPoint(float x, float y)
+    {
+        press(ids::blankToggle);
+        down(1, x, y);
+        press(ids::blankToggle);
+    }
     void drawLine(float x1, float y1, float x2, float y2)
     {
         press("Command1"_c);
@@ -70,22 +73,12 @@ class Desk {
         cancel();
     }
 
-    const std::string& text(ControlId id) const { return session->controls[id].text; }
-    const std::string& caption(ControlId id) const { return session->controls[id].caption; }
-    bool visible(ControlId id) const { return session->controls[id].visible; }
-    bool enabled(ControlId id) const { return session->controls[id].enabled; }
     std::string_view focused() const { return session->controls.focus.row().name; }
     std::string_view title() const { return caption("frmMain"_c); }
-    Stat stat(std::int32_t slot) const { return session->store.stat[EntityStore::at(slot)]; }
-    EntityRecord slot(std::int32_t number) const { return session->store.record(number); }
-    Ops ops() { return opsOn(pic1); }
 
     MemoryDisk disk;
     MemoryFolders folders{disk};
     MemorySettings settings;
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{1200, 800}};
     MemoryWork work;
     MemoryClock clock;
     Shell shell{*session, pic1, Ports{disk, folders, settings, home, nullptr, nullptr, {}, &work, &clock}};
