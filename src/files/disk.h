@@ -9,6 +9,22 @@ namespace mirtane {
 
 using Bytes = std::vector<std::uint8_t>;
 
+// What tells whether a file is still the one that was seen: changed, and replaced by another, it has another.
+struct FileStamp {
+    std::int64_t size = 0;
+    std::int64_t modified = 0; // nanoseconds of the system's clock
+    std::uint64_t inode = 0;
+    std::uint64_t device = 0;
+    std::string clock; // when it was modified, by the clock on the wall: "14:32"
+
+    // The clock on the wall is set forward and back.
+    bool operator==(const FileStamp& other) const
+    {
+        return size == other.size && modified == other.modified && inode == other.inode &&
+               device == other.device;
+    }
+};
+
 // The disk as the program needs it. Paths are absolute, UTF-8, divided by "/".
 class Disk {
   public:
@@ -20,8 +36,13 @@ class Disk {
     // Whether anything stands at the path: a file, a folder, a link that leads nowhere.
     virtual bool isTaken(const std::string& path) = 0;
 
-    // Puts the bytes on the disk whole: into a file beside the target, flushed, and renamed over it.
-    // On any fault the target is as it was, and false comes back.
+    // Of the file that the path leads to, through links as well; nothing where none is.
+    virtual std::optional<FileStamp> stamp(const std::string& path) = 0;
+
+    // Puts the bytes on the disk whole: into a file beside the target, flushed, and renamed over it. Links
+    // lead to where they led, and the file keeps its owner, its mode, its attributes and its other names.
+    // Where that can't be, it is written in place, and its old bytes stand elsewhere until it is whole. On
+    // any fault the target is as it was, and false comes back.
     virtual bool writeWhole(const std::string& path, const Bytes& bytes) = 0;
 };
 

@@ -50,7 +50,7 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);                 // the shell says when it ends
     applyTheme(application);
 
-    PosixDisk disk;
+    PosixDisk disk(StateFolder::ofUser());
     QtFolders folders;
     QtSettings settings;
     QtFonts fonts;

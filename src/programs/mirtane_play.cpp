@@ -108,9 +108,9 @@ int run(const Options& options)
     if (!QDir().mkpath(folder)) return complain("can't be made: " + options.home);
     const std::string home = QDir(folder).canonicalPath().toStdString();
 
-    PosixDisk disk;
+    PosixDisk disk(StateFolder(home + "/state"));
     QtFolders folders;
-    QtSettings settings(home + "/settings.ini");
+    QtSettings settings(home + "/settings.ini", disk);
     const auto session = std::make_unique<Session>();
     Surface surface(options.size.width, options.size.height, 1);
     surface.setScale({0, 0, static_cast<float>(options.size.width) * unitsPerPixel,

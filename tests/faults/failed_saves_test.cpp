@@ -10,11 +10,14 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QDirIterator>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+
+#include <unistd.h>
 
 namespace mirtane {
 namespace {
@@ -23,6 +26,7 @@ using fake::contentOf;
 using fake::Failing;
 using fake::FailingCalls;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 constexpr const char* before = "what was there before";
 
@@ -61,13 +65,21 @@ constexpr Saved kinds[] = {
 // What can fail with no harm: the bytes are on the disk, and in their place or not at all.
 bool mayFail(const std::string& call)
 {
-    return call == "fchmod" || call.ends_with(" folder");
+    return call == "flock" || call.ends_with(" folder");
+}
+
+// Then the file is written in place, as no new one can be put there.
+bool forbids(const std::string& call, int error)
+{
+    const bool isRight = error == EROFS || error == EACCES;
+    return call == "fchmod" || (isRight && (call == "open" || call == "rename"));
 }
 
 class FailedSaves : public testing::TestWithParam<Saved> {
   protected:
     FailedSaves()
     {
+        qputenv("XDG_STATE_HOME", QByteArray::fromStdString(state())); // where pages have their copies
         EXPECT_EQ(theatre_.playAll("press freecurs\nclick 1000 1000\nclick 1100 1000\ncancel 0 0\n"
                                    "click 1000 1010\nclick 1100 1010\ncancel 0 0\n"),
                   "");
@@ -79,10 +91,23 @@ class FailedSaves : public testing::TestWithParam<Saved> {
     }
 
     std::string path() const { return theatre_.home() + "/" + GetParam().file; }
+    std::string state() const { return theatre_.home() + "/state"; }
     QStringList names() const
     {
-        return QDir(theatre_.folder.path())
-            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+        QStringList names =
+            QDir(theatre_.folder.path())
+                .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+        names.removeAll("state");
+        return names;
+    }
+    // The files that are kept in the state folder.
+    std::vector<std::string> kept() const
+    {
+        std::vector<std::string> found;
+        QDirIterator at(QString::fromStdString(state()), QDir::Files | QDir::Hidden,
+                        QDirIterator::Subdirectories);
+        while (at.hasNext()) found.push_back(at.next().toStdString());
+        return found;
     }
 
     // A page tells when it was made.
@@ -117,7 +142,15 @@ class FailedSaves : public testing::TestWithParam<Saved> {
     {
         const std::string now = contentOf(path());
         EXPECT_TRUE(refused_ ? now == before : isWhole(now)) << now.size() << " bytes";
+        expectNothingElse();
+    }
+
+    virtual void expectKept() { expectOldOrNew(); }
+
+    void expectNothingElse()
+    {
         EXPECT_EQ(names(), QStringList{GetParam().file}) << "nothing is left beside it";
+        EXPECT_THAT(kept(), IsEmpty());
         EXPECT_GE(theatre_.session->store.entCount, 3) << "the work is still there";
     }
 
@@ -134,7 +167,7 @@ class FailedSaves : public testing::TestWithParam<Saved> {
             }
             SCOPED_TRACE(failed_ + ", call " + std::to_string(number) + ": " + std::strerror(error));
             expect();
-            expectOldOrNew();
+            expectKept();
         }
         ADD_FAILURE() << "the save has no end";
     }
@@ -151,8 +184,8 @@ TEST_P(FailedSaves, EachCallInTurnLeavesTheOldFileAndIsTold)
     for (const int error : {ENOSPC, EDQUOT, EROFS, EIO, EACCES}) {
         for (const bool lasting : {false, true}) {
             const auto told = [&] {
-                const bool fullBeforeTheWrite = lasting && failed_ == "fchmod";
-                EXPECT_EQ(refused_, !mayFail(failed_) || fullBeforeTheWrite);
+                const bool goesOn = forbids(failed_, error) || failed_ == "flock";
+                EXPECT_EQ(refused_, goesOn ? lasting : !mayFail(failed_));
             };
             failEachInTurn(error, lasting, told);
         }
@@ -173,16 +206,81 @@ TEST_P(FailedSaves, AWriteThatTakesHalfIsGoneOnWith)
 TEST_P(FailedSaves, WhatIsWrittenIsOnTheDiskBeforeItTakesTheOldOnesPlace)
 {
     std::vector<std::string> calls = save({});
-    std::erase(calls, "fchmod");
+    std::erase_if(calls, [](const std::string& call) { return call == "fchmod" || call == "flock"; });
     EXPECT_THAT(calls, ElementsAre("open", "write", "fsync", "close", "rename", "open folder", "fsync folder",
                                    "close folder"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, FailedSaves, testing::ValuesIn(kinds), [](const auto& kind) {
+// A file with two names is written in place, since a new one would take one of them alone.
+class FailedSavesInPlace : public FailedSaves {
+  protected:
+    FailedSavesInPlace()
+    {
+        EXPECT_TRUE(QDir().mkpath(QString::fromStdString(state() + "/mirtane")));
+        EXPECT_EQ(link(path().c_str(), secondName().c_str()), 0);
+    }
+
+    std::string secondName() const { return beside_.filePath("second").toStdString(); }
+
+    // The old bytes are in the file, or where nothing can be written any more, whole beside it.
+    void expectKept() override
+    {
+        EXPECT_EQ(contentOf(secondName()), contentOf(path()));
+        if (kept().empty()) return expectOldOrNew();
+        EXPECT_TRUE(refused_);
+        ASSERT_EQ(kept().size(), 1U);
+        EXPECT_EQ(contentOf(kept()[0]), before);
+        QFile::remove(QString::fromStdString(kept()[0]));
+    }
+
+    QTemporaryDir beside_;
+};
+
+TEST_P(FailedSavesInPlace, EachCallInTurnLeavesTheOldBytesAndIsTold)
+{
+    for (const int error : {ENOSPC, EDQUOT, EROFS, EIO, EACCES}) {
+        for (const bool lasting : {false, true}) {
+            failEachInTurn(error, lasting, [&] {
+                const bool harmless = failed_ == "close folder";
+                const bool goesOn = harmless || failed_ == "flock";
+                EXPECT_EQ(refused_, goesOn ? lasting : true);
+                EXPECT_TRUE(lasting || kept().empty()) << "one call alone keeps nothing from being put back";
+            });
+        }
+    }
+}
+
+TEST_P(FailedSavesInPlace, ASignalInAnyCallHarmsNothing)
+{
+    failEachInTurn(EINTR, false, [&] { EXPECT_FALSE(refused_ && failed_ != "rename"); });
+}
+
+TEST_P(FailedSavesInPlace, AWriteThatTakesHalfIsGoneOnWith)
+{
+    failEachInTurn(0, false, [&] { EXPECT_FALSE(refused_); });
+}
+
+// The old bytes stand in the state folder, name and all, before the first of them is written over.
+TEST_P(FailedSavesInPlace, TheOldBytesAreOnTheDiskBeforeTheNewOnesAreWritten)
+{
+    std::vector<std::string> calls = save({});
+    std::erase(calls, "flock");
+    EXPECT_THAT(calls,
+                ElementsAre("open what is there", "open", "write", "fsync", "close", "rename", "open folder",
+                            "fsync folder", "close folder", "write", "ftruncate", "fsync", "close"));
+}
+
+std::string nameOf(const testing::TestParamInfo<Saved>& kind)
+{
     std::string name = kind.param.file;
     std::ranges::replace(name, '.', '_');
     return name;
-});
+}
+
+constexpr Saved aFew[] = {kinds[0], kinds[2], std::end(kinds)[-1]};
+
+INSTANTIATE_TEST_SUITE_P(Of, FailedSavesInPlace, testing::ValuesIn(aFew), nameOf);
+INSTANTIATE_TEST_SUITE_P(Of, FailedSaves, testing::ValuesIn(kinds), nameOf);
 
 } // namespace
 } // namespace mirtane

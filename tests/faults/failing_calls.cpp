@@ -2,8 +2,10 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -32,7 +34,8 @@ template <class Function> Function* next(const char* name)
 
 bool takesRoom(std::string_view call)
 {
-    return call == "open" || call.starts_with("write") || call.starts_with("fsync") || call == "ftruncate";
+    return call == "open" || call == "mkdir" || call.starts_with("write") || call.starts_with("fsync") ||
+           call == "ftruncate";
 }
 
 // Counts a call. What it fails with; 0 if it does not.
@@ -61,9 +64,10 @@ bool isWithin(const char* path)
     return watch.on && path != nullptr && std::string_view(path).starts_with(watch.folder + "/");
 }
 
-bool isFolder(const char* path)
+bool isFolder(const char* path, int flags)
 {
-    return watch.on && path != nullptr && path == watch.folder;
+    const bool itself = watch.on && path != nullptr && path == watch.folder;
+    return itself || (isWithin(path) && (flags & O_DIRECTORY) != 0);
 }
 
 bool changes(int flags)
@@ -83,10 +87,11 @@ template <class Call> auto counted(const std::string& name, Call call) -> declty
 
 template <class Call> int opened(const char* path, int flags, Call call)
 {
-    const bool within = isWithin(path) && changes(flags);
-    if (!within && !isFolder(path)) return call();
-    const char* const as = within ? "" : " folder";
-    const int descriptor = counted(std::string("open") + as, call);
+    const bool folder = isFolder(path, flags);
+    if (!folder && !(isWithin(path) && changes(flags))) return call();
+    const char* const as = folder ? " folder" : "";
+    const char* const there = !folder && (flags & O_CREAT) == 0 ? " what is there" : "";
+    const int descriptor = counted(std::string("open") + as + there, call);
     if (descriptor >= 0 && descriptor < static_cast<int>(watch.opened.size())) openedAs(descriptor) = as;
     return descriptor;
 }
@@ -170,6 +175,12 @@ ssize_t write(int descriptor, const void* bytes, size_t size)
     return written(descriptor, size, [&](size_t n) { return real(descriptor, bytes, n); });
 }
 
+ssize_t pwrite(int descriptor, const void* bytes, size_t size, off_t at)
+{
+    static auto* const real = next<ssize_t(int, const void*, size_t, off_t)>("pwrite");
+    return written(descriptor, size, [&](size_t n) { return real(descriptor, bytes, n, at); });
+}
+
 int fsync(int descriptor)
 {
     static auto* const real = next<int(int)>("fsync");
@@ -186,6 +197,36 @@ int ftruncate64(int descriptor, off64_t size) noexcept
 {
     static auto* const real = next<int(int, off64_t)>("ftruncate64");
     return onDescriptor("ftruncate", descriptor, [&] { return real(descriptor, size); });
+}
+
+int ftruncate(int descriptor, off_t size) noexcept
+{
+    static auto* const real = next<int(int, off_t)>("ftruncate");
+    return onDescriptor("ftruncate", descriptor, [&] { return real(descriptor, size); });
+}
+
+int flock(int descriptor, int how) noexcept
+{
+    static auto* const real = next<int(int, int)>("flock");
+    return onDescriptor("flock", descriptor, [&] { return real(descriptor, how); });
+}
+
+int fchown(int descriptor, uid_t user, gid_t group) noexcept
+{
+    static auto* const real = next<int(int, uid_t, gid_t)>("fchown");
+    return onDescriptor("fchown", descriptor, [&] { return real(descriptor, user, group); });
+}
+
+int lsetxattr(const char* path, const char* name, const void* value, size_t size, int flags) noexcept
+{
+    static auto* const real = next<int(const char*, const char*, const void*, size_t, int)>("lsetxattr");
+    return onPath("lsetxattr", path, [&] { return real(path, name, value, size, flags); });
+}
+
+int mkdir(const char* path, mode_t mode) noexcept
+{
+    static auto* const real = next<int(const char*, mode_t)>("mkdir");
+    return onPath("mkdir", path, [&] { return real(path, mode); });
 }
 
 int fchmod(int descriptor, mode_t mode) noexcept

@@ -24,7 +24,7 @@ class FailingCalls {
     FailingCalls& operator=(const FailingCalls&) = delete;
 
     // What was called so far: "open", "write", "fsync", "close", "rename", "fchmod" and so on; with "folder"
-    // behind it for the folder itself.
+    // behind it for the folder itself and those in it, and "open what is there" for a file that is not made.
     const std::vector<std::string>& calls() const;
     // The call that failed, or was cut short; "" if the number was never reached.
     std::string failed() const;

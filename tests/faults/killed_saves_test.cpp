@@ -88,6 +88,8 @@ struct KilledSaves : testing::Test {
         EXPECT_EQ(QtFolders().files(folder.path().toStdString(), ".mtd"), shown);
         EXPECT_TRUE(PosixDisk().writeWhole(at("house.mtd"), few));
         EXPECT_EQ(contentOf(at("house.mtd")), textOf(few));
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), ours)
+            << "the next save removes what the killed ones left";
     }
 
     QTemporaryDir folder;

@@ -1,4 +1,5 @@
 #include "platform/posix/disk.h"
+#include "platform/posix/opened.h"
 
 #include <QDir>
 #include <QFile>
@@ -171,18 +172,6 @@ TEST_F(DiskTest, ANameAsLongAsTheDiskTakesIsWritten)
     EXPECT_EQ(names(), QStringList{QString::fromStdString(longest)});
 }
 
-TEST_F(DiskTest, WhatAKilledSaveLeftIsPassedOver)
-{
-    for (const char* number : {"0", "1"}) {
-        QFile left(folder_.filePath(QString(".mirtane-%1-%2").arg(getpid()).arg(number)));
-        ASSERT_TRUE(left.open(QIODevice::WriteOnly));
-        left.write("half");
-    }
-    EXPECT_TRUE(disk_.writeWhole(at("a.mtd"), bytesOf("whole")));
-    EXPECT_EQ(disk_.read(at("a.mtd")), bytesOf("whole"));
-    EXPECT_EQ(names().size(), 3);
-}
-
 TEST_F(DiskTest, WhatIsNoFileIsNotRead)
 {
     ASSERT_TRUE(QDir(folder_.path()).mkpath("folder.mtd"));
@@ -199,7 +188,7 @@ TEST_F(DiskTest, FileTooLargeForMemoryIsNotRead)
 {
     QFile file(QString::fromStdString(at("huge.mtd")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(PosixDisk::largestRead + 1)); // a hole, no bytes
+    ASSERT_TRUE(file.resize(Opened::largestRead + 1)); // a hole, no bytes
     EXPECT_FALSE(disk_.read(at("huge.mtd")).has_value());
 }
 

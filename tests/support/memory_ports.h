@@ -20,17 +20,46 @@ class MemoryDisk : public Disk {
 
     bool isTaken(const std::string& path) override { return files.contains(path); }
 
+    // Another one for whatever is written, also where a test puts other bytes among the files.
+    std::optional<FileStamp> stamp(const std::string& path) override
+    {
+        const auto found = files.find(path);
+        if (found == files.end()) return std::nullopt;
+        Stamped& last = stamped_[path];
+        if (last.stamp.modified == 0 || last.bytes != found->second)
+            last = {found->second, next(found->second)};
+        return last.stamp;
+    }
+
     bool writeWhole(const std::string& path, const Bytes& bytes) override
     {
         ++writesTried;
         if (refusesWrites) return false;
         files[path] = bytes;
+        stamped_[path] = {bytes, next(bytes)};
         return true;
     }
 
     std::map<std::string, Bytes> files; // by full path
     bool refusesWrites = false;
     int writesTried = 0;
+    std::string clock = "14:32"; // what it is when a file is written
+
+  private:
+    struct Stamped {
+        Bytes bytes;
+        FileStamp stamp;
+    };
+
+    FileStamp next(const Bytes& bytes)
+    {
+        ++writes_;
+        return {static_cast<std::int64_t>(bytes.size()), writes_, static_cast<std::uint64_t>(writes_), 1,
+                clock};
+    }
+
+    std::map<std::string, Stamped> stamped_;
+    std::int64_t writes_ = 0; // that were stamped
 };
 
 // The folders that were made, and in them the files of the disk.

@@ -60,9 +60,9 @@ class Theatre {
     std::string home() const { return folder.path().toStdString(); }
 
     QTemporaryDir folder;
-    PosixDisk disk;
+    PosixDisk disk{StateFolder(folder.path().toStdString() + "/state")};
     QtFolders folders;
-    QtSettings settings{folder.path().toStdString() + "/settings.ini"};
+    QtSettings settings{folder.path().toStdString() + "/settings.ini", disk};
     std::unique_ptr<Session> session = std::make_unique<Session>();
     Surface surface{1200, 800, 1};
     RecordingCanvas pic1{&surface};

@@ -1,7 +1,5 @@
 #include "platform/qt/settings.h"
 
-#include "platform/posix/disk.h"
-
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -114,11 +112,14 @@ std::string perUserFile()
 
 QtSettings::QtSettings() : QtSettings(perUserFile()) {}
 
-QtSettings::QtSettings(std::string iniFile) : path_(std::move(iniFile)) {}
+QtSettings::QtSettings(std::string iniFile, PosixDisk disk)
+    : path_(std::move(iniFile)), disk_(std::move(disk))
+{
+}
 
 Values QtSettings::read()
 {
-    const std::optional<Bytes> bytes = PosixDisk().read(path_);
+    const std::optional<Bytes> bytes = disk_.read(path_);
     if (!bytes || bytes->size() > largestFile) return {};
     return valuesIn(std::string(bytes->begin(), bytes->end()));
 }
@@ -130,7 +131,7 @@ void QtSettings::write(const Values& values)
     std::string text = std::string(section) + "\n";
     for (const auto& [key, value] : all) text += lineOf(key, value);
     QDir().mkpath(QFileInfo(QString::fromStdString(path_)).path());
-    PosixDisk().writeWhole(path_, Bytes(text.begin(), text.end()));
+    disk_.writeWhole(path_, Bytes(text.begin(), text.end()));
 }
 
 } // namespace mirtane

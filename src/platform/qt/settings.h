@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ports.h"
+#include "platform/posix/disk.h"
 
 namespace mirtane {
 
@@ -10,7 +11,7 @@ class QtSettings : public SettingsStore {
     // The per-user store.
     QtSettings();
     // An ini file at that path (UTF-8); it is made by the first write.
-    explicit QtSettings(std::string iniFile);
+    explicit QtSettings(std::string iniFile, PosixDisk disk = PosixDisk());
 
     // What is no line of a key, or in no section of ours, is passed over.
     std::map<std::string, std::string> read() override;
@@ -20,6 +21,7 @@ class QtSettings : public SettingsStore {
 
   private:
     std::string path_;
+    PosixDisk disk_;
 };
 
 } // namespace mirtane
