@@ -3,6 +3,7 @@
 // What the shell asks of the platform, in memory, so that a test sees all of it and can make it fail.
 
 #include "app/ports.h"
+#include "files/open_marks.h"
 
 #include <algorithm>
 #include <set>
@@ -60,6 +61,30 @@ class MemoryDisk : public Disk {
 
     std::map<std::string, Stamped> stamped_;
     std::int64_t writes_ = 0; // that were stamped
+};
+
+// The marks of this program, and those that a test leaves in the name of others.
+class MemoryOpenMarks : public OpenMarks {
+  public:
+    bool mark(const std::string& path) override
+    {
+        if (refusesMarks) return false;
+        marks.insert(path);
+        return true;
+    }
+
+    void unmark(const std::string& path) override { marks.erase(path); }
+
+    std::optional<OpenElsewhere> markedByAnother(const std::string& path) override
+    {
+        const auto found = ofOthers.find(path);
+        if (found == ofOthers.end()) return std::nullopt;
+        return found->second;
+    }
+
+    std::set<std::string> marks;
+    std::map<std::string, OpenElsewhere> ofOthers; // by full path
+    bool refusesMarks = false;
 };
 
 // The folders that were made, and in them the files of the disk.
