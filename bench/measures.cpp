@@ -2,6 +2,7 @@
 
 #include "app/files/open_drawing.h"
 #include "files/drawing_file.h"
+#include "files/kept_work.h"
 #include "render/redraw.h"
 #include "render/view.h"
 #include "sample.h"
@@ -139,6 +140,18 @@ void save(State& state, Bench& b)
         expect(b.disk.writeWhole(b.file, drawingBytes(b.session, SaveWhat::drawing)), notWritten, state);
 }
 
+// What an event waits for where unsaved work is kept: the writing goes on beside the program.
+void keep(State& state, Bench& b)
+{
+    const KeptAbout about{"house.mtd", b.file, "2026-11-22 14:32"};
+    for (auto _ : state) benchmark::DoNotOptimize(keptWork(b.session, about).data());
+}
+
+void plainBytesCopy(State& state, Bench& b)
+{
+    for (auto _ : state) benchmark::DoNotOptimize(Bytes(b.bytes).data());
+}
+
 void plainWrite(State& state, Bench& b)
 {
     for (auto _ : state) expect(writeFile(b.folder / "plain", b.bytes), notWritten, state);
@@ -246,6 +259,8 @@ void registerMeasures(Bench& bench)
     add("a pass over the same arrays", plainPass);
     add("zoomAll", zoom);
     add("a pass, and the lines", plainZoom);
+    add("unsaved work, kept", keep);
+    add("a copy of the same bytes", plainBytesCopy);
     // These wait for the disk, which no clock of the processor counts.
     add("save", save)->UseRealTime();
     add("a write of the same bytes", plainWrite)->UseRealTime();
@@ -270,6 +285,7 @@ std::span<const Comparison> comparisons()
         {"drawingBounds", "a pass over the same arrays", 0},
         {"zoomAll", "a pass, and the lines", 0},
         {"save", "a write of the same bytes", 3},
+        {"unsaved work, kept", "a copy of the same bytes", 0},
         {"load", "a read of the same bytes", 3},
         {"replaceDrawing", "the fields, one by one", 0},
         {"open, to the picture", "a read, and the lines", 0},

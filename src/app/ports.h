@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/disk.h"
+#include "files/open_marks.h"
 #include "files/work_keeper.h"
 #include "print/printer.h"
 
@@ -60,6 +61,7 @@ struct Ports {
     std::string ownFolder = {}; // where the user's files go at first; the program's folder if empty
     WorkKeeper* work = nullptr; // not owned; null where nothing is kept
     Clock* clock = nullptr;     // not owned; null where no time is told
+    OpenMarks* marks = nullptr; // not owned; null where other programs are not told
 };
 
 } // namespace mirtane

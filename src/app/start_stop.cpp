@@ -1,6 +1,7 @@
 #include "app/start_stop.h"
 
 #include "app/drawing/endings.h"
+#include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "app/settings.h"
@@ -84,6 +85,7 @@ void clearDrawing(App& app)
     s.drawingFile.clear();
     s.drawingFolder.clear();
     s.notices.settleOfDrawing();
+    watchOwnFile(app);
     takeAsSaved(app);
     setPrompt(s, app.pic1);
 }

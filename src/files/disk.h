@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/file_stamp.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -8,22 +10,6 @@
 namespace mirtane {
 
 using Bytes = std::vector<std::uint8_t>;
-
-// What tells whether a file is still the one that was seen: changed, and replaced by another, it has another.
-struct FileStamp {
-    std::int64_t size = 0;
-    std::int64_t modified = 0; // nanoseconds of the system's clock
-    std::uint64_t inode = 0;
-    std::uint64_t device = 0;
-    std::string clock; // when it was modified, by the clock on the wall: "14:32"
-
-    // The clock on the wall is set forward and back.
-    bool operator==(const FileStamp& other) const
-    {
-        return size == other.size && modified == other.modified && inode == other.inode &&
-               device == other.device;
-    }
-};
 
 // The disk as the program needs it. Paths are absolute, UTF-8, divided by "/".
 class Disk {

@@ -3,8 +3,10 @@
 #include "files/drawing_file.h"
 #include "files/entity_record_codec.h"
 
+#include <charconv>
 #include <cstddef>
 #include <string_view>
+#include <system_error>
 
 namespace mirtane {
 namespace {
@@ -52,12 +54,36 @@ std::string_view nextField(std::string_view& text)
     return field;
 }
 
+std::string stampText(const std::optional<FileStamp>& stamp)
+{
+    if (!stamp) return {};
+    return std::to_string(stamp->size) + "," + std::to_string(stamp->modified) + "," +
+           std::to_string(stamp->inode) + "," + std::to_string(stamp->device);
+}
+
+template <class Number> bool takeNumber(std::string_view& text, Number& number)
+{
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    text.remove_prefix(static_cast<std::size_t>(end - text.data())); // within the text
+    if (text.starts_with(',')) text.remove_prefix(1);
+    return fault == std::errc();
+}
+
+std::optional<FileStamp> stampIn(std::string_view text)
+{
+    FileStamp stamp;
+    const bool whole = takeNumber(text, stamp.size) && takeNumber(text, stamp.modified) &&
+                       takeNumber(text, stamp.inode) && takeNumber(text, stamp.device);
+    return whole ? std::optional(stamp) : std::nullopt;
+}
+
 EntityRecord recordOf(const KeptAbout& about)
 {
     EntityRecord r;
     r.kind = headerKind; // in the middle of a drawing it is a dead slot
     r.t1 = mark;
-    r.t2 = escaped(about.drawingName) + " " + escaped(about.drawingFile) + " " + escaped(about.time);
+    r.t2 = escaped(about.drawingName) + " " + escaped(about.drawingFile) + " " + escaped(about.time) + " " +
+           escaped(stampText(about.stamp));
     return r;
 }
 
@@ -68,6 +94,7 @@ KeptAbout aboutIn(const EntityRecord& r)
     for (std::string* field : {&about.drawingName, &about.drawingFile, &about.time}) {
         *field = plain(nextField(text));
     }
+    about.stamp = stampIn(plain(nextField(text)));
     return about;
 }
 

@@ -15,6 +15,7 @@ struct KeptAbout {
     std::string drawingName; // "house.mtd"
     std::string drawingFile; // the full path that it was opened from or saved to; empty if there is none
     std::string time;        // local, "2026-11-22 14:32"
+    std::optional<FileStamp> stamp = {}; // of that file when it was opened or saved
 
     friend bool operator==(const KeptAbout&, const KeptAbout&) = default;
 };

@@ -7,7 +7,8 @@ namespace mirtane {
 
 // Another running program of ours that has a drawing open.
 struct OpenElsewhere {
-    long process = 0; // its number; 0 where it is not known
+    long process = 0;  // its number; 0 where it is not known
+    std::string clock; // since when, by the clock on the wall: "14:32"
 };
 
 // Which drawings stand open in which of the programs that run. A mark goes with its program, however that

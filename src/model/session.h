@@ -6,12 +6,14 @@
 #include "geometry/way.h"
 #include "model/controls.h"
 #include "model/entity_store.h"
+#include "model/file_stamp.h"
 #include "model/layers.h"
 #include "model/library_tables.h"
 #include "model/notices.h"
 #include "model/undo_log.h"
 
 #include <array>
+#include <optional>
 #include <set>
 
 namespace mirtane {
@@ -159,12 +161,15 @@ struct FileState {
     std::int32_t savedCount = 1; // entCount at the last load or save
     std::int16_t saveFollowUp = follow::nothing;
     std::string drawingName = "untitled.mtd";
-    std::string drawingFile;   // full path of what was opened or saved as this drawing, if anything was
-    std::string drawingFolder; // the drawing's own; empty while it has none
-    WorkMark savedMark;        // the work at the last load or save
-    std::string savedTime;     // of that, local, "2026-11-22 14:32"
-    WorkMark keptMark;         // the work as it was last kept, in case the program dies
-    std::vector<std::string> leftWork; // what other runs left, by name; the last one is on offer
+    std::string drawingFile; // full path of what was opened or saved as this drawing, if anything was
+    std::optional<FileStamp> savedStamp; // of that file as it was opened or saved, if it is there
+    std::optional<FileStamp> seenStamp;  // as it was when it was last looked at
+    std::string markedFile;              // the one that other programs know to be open here
+    std::string drawingFolder;           // the drawing's own; empty while it has none
+    WorkMark savedMark;                  // the work at the last load or save
+    std::string savedTime;               // of that, local, "2026-11-22 14:32"
+    WorkMark keptMark;                   // the work as it was last kept, in case the program dies
+    std::vector<std::string> leftWork;   // what other runs left, by name; the last one is on offer
     std::string dxfName = "untitled.dxf";
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;

@@ -2,6 +2,11 @@
 
 #include "app/shell.h"
 #include "platform/posix/disk.h"
+#include "platform/posix/end_signals.h"
+#include "platform/posix/keeper_thread.h"
+#include "platform/posix/kept_files.h"
+#include "platform/posix/open_marks.h"
+#include "platform/posix/wall_clock.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/places.h"
@@ -14,6 +19,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QScreen>
+#include <QSocketNotifier>
+
+#include <cstdlib>
+#include <functional>
 
 namespace {
 
@@ -33,6 +42,28 @@ Surface firstSurface()
     return surface;
 }
 
+// Work that is not saved is kept before the program ends by what it has no say in.
+std::function<void()> keepWork;
+
+void keepWorkAtExit()
+{
+    if (keepWork) keepWork();
+}
+
+// Signals, the end of the desktop's session, and the display that goes away, upon which the toolkit calls
+// exit().
+void keepWorkAtTheLastMoment(QApplication& application, const EndSignals& endSignals)
+{
+    const auto* const notifier =
+        new QSocketNotifier(endSignals.descriptor(), QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, [] {
+        keepWork();
+        EndSignals::endBy(EndSignals::came());
+    });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, [] { keepWork(); });
+    static_cast<void>(std::atexit(keepWorkAtExit)); // it fails for the thirty-third at the earliest
+}
+
 // Empty for an empty name.
 std::string absolutePath(const char* argument)
 {
@@ -50,7 +81,13 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);                 // the shell says when it ends
     applyTheme(application);
 
-    PosixDisk disk(StateFolder::ofUser());
+    const EndSignals endSignals;
+    const StateFolder state = StateFolder::ofUser();
+    PosixDisk disk(state);
+    KeptFiles kept(state, disk);
+    KeeperThread keeper(kept);
+    WallClock clock;
+    PosixOpenMarks marks(state);
     QtFolders folders;
     QtSettings settings;
     QtFonts fonts;
@@ -59,12 +96,20 @@ int main(int argc, char* argv[])
     const std::unique_ptr<Printer> printer = systemPrinter();
     const Places places = placesOf(QCoreApplication::applicationDirPath());
     Shell shell(session, surface,
-                {disk, folders, settings, places.program, printer.get(), &fonts, places.ownFiles});
+                {disk, folders, settings, places.program, printer.get(), &fonts, places.ownFiles, &keeper,
+                 &clock, &marks});
     shell.start();
+    keepWork = [&] {
+        shell.rest();
+        keeper.flush();
+    };
+    keepWorkAtTheLastMoment(application, endSignals);
 
     MainWindow window(shell, surface);
     window.resize(firstSize);
     if (argc > 1) window.openWhenShown(absolutePath(argv[1]));
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    keepWork = {}; // the shell goes before what runs at the exit
+    return status;
 }

@@ -1,6 +1,10 @@
 // The program without its window: reads commands, does what a user would have done, and answers questions.
 
 #include "platform/posix/disk.h"
+#include "platform/posix/end_signals.h"
+#include "platform/posix/kept_files.h"
+#include "platform/posix/open_marks.h"
+#include "platform/posix/wall_clock.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/settings.h"
@@ -81,6 +85,14 @@ std::optional<std::string> contentOf(const std::string& name)
     return std::move(content).str();
 }
 
+// A signal does not end the program before work that is not saved has been kept.
+void endIfAsked(Shell& shell)
+{
+    if (EndSignals::came() == 0) return;
+    shell.rest();
+    EndSignals::endBy(EndSignals::came());
+}
+
 int playAll(play::Stage& stage, std::istream& script, const std::string& name)
 {
     int number = 0;
@@ -90,6 +102,7 @@ int playAll(play::Stage& stage, std::istream& script, const std::string& name)
         try {
             if (const auto answer = play::play(stage, line)) std::cout << *answer << std::endl;
             if (!std::cout) return complain("an answer can't be written");
+            endIfAsked(stage.shell);
         } catch (const play::Refusal& refusal) {
             std::cerr << name << ':' << number << ": " << refusal.reason << '\n';
             return refusal.status;
@@ -108,7 +121,12 @@ int run(const Options& options)
     if (!QDir().mkpath(folder)) return complain("can't be made: " + options.home);
     const std::string home = QDir(folder).canonicalPath().toStdString();
 
-    PosixDisk disk(StateFolder(home + "/state"));
+    const EndSignals endSignals;
+    const StateFolder state(home + "/state");
+    PosixDisk disk(state);
+    KeptFiles work(state, disk);
+    WallClock clock;
+    PosixOpenMarks marks(state);
     QtFolders folders;
     QtSettings settings(home + "/settings.ini", disk);
     const auto session = std::make_unique<Session>();
@@ -121,11 +139,14 @@ int run(const Options& options)
     pic1.record(options.isTyped() || content->find("ops") != std::string::npos);
     RecordingPrinter printer;
     QtFonts fonts;
-    Shell shell(*session, pic1, {disk, folders, settings, home, &printer, &fonts});
+    Shell shell(*session, pic1, {disk, folders, settings, home, &printer, &fonts, {}, &work, &clock, &marks});
     shell.start();
     play::Stage stage{shell, surface, pic1, printer};
     std::istringstream script(*content);
-    return options.isTyped() ? playAll(stage, std::cin, "-") : playAll(stage, script, options.file);
+    const int status =
+        options.isTyped() ? playAll(stage, std::cin, "-") : playAll(stage, script, options.file);
+    endIfAsked(shell); // the signal may have come while a line was waited for
+    return status;
 }
 
 } // namespace

@@ -21,10 +21,7 @@ class DimensionDesk : public FunctionDesk {
 // slot 1, and is seen for as long as the click takes; objects are counted from behind it.
 class MeasuringDesk : public DimensionDesk {
   public:
-    explicit MeasuringDesk(std::string_view function) : DimensionDesk(function)
-    {
-        add(point({}), Stat::off);
-    }
+    explicit MeasuringDesk(std::string_view function) : DimensionDesk(function) { add(point({}), Stat::off); }
 
     void snap(Point at, int button = 1)
     {

@@ -1,5 +1,7 @@
 #include "disk_contents.h"
 
+#include "files/entity_record_codec.h"
+
 #include <filesystem>
 #include <fstream>
 
@@ -62,6 +64,26 @@ void doublePart(Bytes& file, Random& random)
     file.insert(file.begin() + placeIn(file, random), part.begin(), part.end());
 }
 
+Bytes crowdedDrawing()
+{
+    constexpr std::int32_t lines = 400;
+    Bytes file;
+    ByteWriter out(file);
+    EntityRecord r;
+    r.kind = headerKind; // the first is the header, those behind it are dead
+    for (std::int32_t i = 0; i < EntityStore::slotCount - slotsLeftInCrowded - lines; ++i)
+        writeRecord(out, r);
+    r.kind = Kind::line;
+    r.layer = 1;
+    for (std::int32_t i = 0; i < lines; ++i) {
+        const auto at = static_cast<float>(i); // few
+        r.p1 = {at, 2 * at - 17};
+        r.p2 = {800 - at, 31 + at};
+        writeRecord(out, r);
+    }
+    return file;
+}
+
 std::string extensionOf(const std::string& name)
 {
     return name.substr(name.rfind('.'));
@@ -78,7 +100,9 @@ Bytes spoiled(Bytes file, Random& random)
 
 void fillDisk(Stage& stage, Random& random, bool damage)
 {
+    static const Bytes crowdedFile = crowdedDrawing();
     const std::string folder = std::string(home) + "/";
+    stage.disk.files[folder + crowded] = crowdedFile;
     for (const auto& [name, file] : goodFiles()) {
         stage.disk.files[folder + name] = file;
         Bytes shortened = file;

@@ -15,4 +15,9 @@ Bytes spoiled(Bytes file, Random& random);
 // also spoiled copies, whose numbers may be anything, NaN among them.
 void fillDisk(Stage& stage, Random& random, bool damage);
 
+// A drawing of a few hundred lines whose table is nearly full of dead records, so that a session soon comes
+// to the table's end, and to the end of the log.
+inline constexpr const char* crowded = "crowded.mtd";
+inline constexpr std::int32_t slotsLeftInCrowded = 9000;
+
 } // namespace mirtane::soak

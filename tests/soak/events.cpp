@@ -1,6 +1,7 @@
 #include "events.h"
 
 #include "app/actions.h"
+#include "disk_contents.h"
 #include "model/record_moves.h"
 #include "words.h"
 
@@ -295,6 +296,30 @@ void exitProgram(Turn& t)
     t.random.oneIn(2) ? t.hand.press("fil14"_c) : t.hand.closeForm("frmMain"_c);
 }
 
+void rest(Turn& t)
+{
+    t.hand.rest();
+}
+
+bool isCrowded(const Stage& stage)
+{
+    return stage.s.drawingName == crowded;
+}
+
+// What fills the table and the log fastest.
+void moveAll(Turn& t)
+{
+    if (!isCrowded(t.stage)) return;
+    t.hand.press("Command19"_c);
+    t.hand.scale({-4000, -4000, 8000, 8000});
+    t.hand.click({-4000, -4000});
+    t.hand.click({3999, 3999});
+    t.hand.cancel(t.point());
+    t.hand.press(ids::editMove);
+    t.hand.click({0, 0});
+    t.hand.click({1, -1});
+}
+
 struct Doing {
     std::size_t weight;
     void (*run)(Turn& turn);
@@ -306,17 +331,25 @@ constexpr Doing doings[] = {
     {25, pickAny},   {12, undoSome},       {8, redoSome},       {10, useKeys},     {4, turnWheel},
     {1, setScale},   {4, resetScale},      {1, resize},         {6, zoom},         {20, select},
     {60, edit},      {20, useLibrary},     {15, useFile},       {15, useForm},     {6, print},
-    {5, giveFocus},  {40, pressAny},       {1, closeDrawing},
+    {5, giveFocus},  {40, pressAny},       {1, closeDrawing},   {15, rest},        {60, moveAll},
 };
 
 } // namespace
+
+void openCrowded(Hand& hand)
+{
+    hand.press("fil4"_c);
+    hand.put("frmfile.Text1"_c, crowded);
+    hand.enter();
+}
 
 void doSomething(Stage& stage, Hand& hand, Random& random, Manner manner)
 {
     constexpr std::int32_t manySlots = 3000; // each redraw passes over all of them
     constexpr std::size_t doingsBetweenExits = 3000;
     Turn turn{stage, hand, random, manner};
-    if (stage.s.store.entCount > manySlots && random.oneIn(10)) return closeDrawing(turn);
+    if (!isCrowded(stage) && stage.s.store.entCount > manySlots && random.oneIn(10))
+        return closeDrawing(turn);
     if (random.oneIn(doingsBetweenExits)) return exitProgram(turn);
     random.weighted(doings).run(turn);
 }

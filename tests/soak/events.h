@@ -9,4 +9,7 @@ namespace mirtane::soak {
 // One thing that a user might do next: a few events.
 void doSomething(Stage& stage, Hand& hand, Random& random, Manner manner);
 
+// Opens the drawing whose table is nearly full.
+void openCrowded(Hand& hand);
+
 } // namespace mirtane::soak

@@ -40,8 +40,7 @@ std::string shownText(const std::string& text)
 
 bool Hand::reaches(ControlId id) const
 {
-    const Controls& controls = stage_.s.controls;
-    return controls[id].visible && controls[id].enabled && controls[formOf(id)].visible;
+    return stage_.shell.takesInput(id);
 }
 
 void Hand::move(Point at)
@@ -151,6 +150,12 @@ void Hand::resize(int width, int height)
     note("resize " + std::to_string(width) + " " + std::to_string(height));
     stage_.pic1.resizePixels(width, height, 1);
     stage_.shell.resized();
+}
+
+void Hand::rest()
+{
+    note("idle");
+    stage_.shell.rest();
 }
 
 void Hand::closeForm(ControlId form)

@@ -33,6 +33,7 @@ class Hand {
     void scale(const Scale& scale);
     void resize(int width, int height);
     void closeForm(ControlId form);
+    void rest();
 
     // Whether the user can reach a control: all of the above do nothing where not.
     bool reaches(ControlId id) const;

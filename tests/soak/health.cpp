@@ -1,5 +1,6 @@
 #include "health.h"
 
+#include "files/kept_work.h"
 #include "tables/functions.h"
 #include "text/utf8.h"
 
@@ -197,6 +198,11 @@ void checkView(const Stage& stage, Faults& faults)
     faults.unless(scale.width > 0 && scale.height > 0, "the world window is empty");
 }
 
+void checkKeptWork(const Stage& stage, Faults& faults)
+{
+    if (stage.work.kept) faults.unless(readKeptWork(*stage.work.kept).has_value(), "kept work can't be read");
+}
+
 std::vector<bool> alive(const EntityStore& store)
 {
     std::vector<bool> live;
@@ -238,6 +244,7 @@ std::string faultOf(const Stage& stage, Manner manner)
     checkPrompt(s, faults);
     checkUnderWay(s, faults);
     checkView(stage, faults);
+    checkKeptWork(stage, faults);
     if (manner != Manner::tame) return faults.first();
     checkNumbers(s, faults);
     return faults.none() ? faultOfUndo(s) : faults.first();

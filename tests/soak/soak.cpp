@@ -29,6 +29,7 @@ class Play {
         fillDisk(stage_, random_, manner_ != Manner::tame);
         files_ = stage_.disk.files;
         stage_.shell.start();
+        if (random_.oneIn(8)) openCrowded(hand_);
     }
 
     // Goes on to that many events, or to the end of the program. What is wrong, or "".

@@ -4,6 +4,7 @@
 
 #include "app/shell.h"
 #include "memory_ports.h"
+#include "memory_work.h"
 #include "print/recording_printer.h"
 #include "render/raster_canvas.h"
 #include "text/utf8.h"
@@ -59,7 +60,11 @@ struct Stage {
     std::unique_ptr<Session> session = std::make_unique<Session>();
     Session& s = *session;
     BoxTextCanvas pic1{surfaceWidth, surfaceHeight};
-    Shell shell{*session, pic1, Ports{disk, folders, settings, home, &printer, &fonts}};
+    fake::MemoryWork work;
+    fake::MemoryClock clock;
+    fake::MemoryOpenMarks marks;
+    Shell shell{*session, pic1,
+                Ports{disk, folders, settings, home, &printer, &fonts, {}, &work, &clock, &marks}};
 };
 
 } // namespace mirtane::soak

@@ -81,7 +81,9 @@ class Desk : public DrawingDesk {
     MemorySettings settings;
     MemoryWork work;
     MemoryClock clock;
-    Shell shell{*session, pic1, Ports{disk, folders, settings, home, nullptr, nullptr, {}, &work, &clock}};
+    MemoryOpenMarks marks;
+    Shell shell{*session, pic1,
+                Ports{disk, folders, settings, home, nullptr, nullptr, {}, &work, &clock, &marks}};
 };
 
 inline std::string titleOf(std::string_view doing, std::string_view drawing = "untitled.mtd")

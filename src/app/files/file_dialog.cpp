@@ -1,6 +1,7 @@
 #include "app/files/file_dialog.h"
 
 #include "app/files/file_flows.h"
+#include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/start_stop.h"
 #include "app/typing/keys.h"
@@ -191,7 +192,10 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     setSelectedText(s.controls[ids::fileName], name);
     s.saveFollowUp = follow::nothing;
     showFolder(app, firstFolder(app, flow));
-    if (!proposesOwnFile(s)) showWhetherItOverwrites(s);
+    if (!proposesOwnFile(s))
+        showWhetherItOverwrites(s);
+    else if (warnOfOwnFile(app))
+        s.controls[ids::fileConfirm].caption = "Overwrite?";
     s.controls[ids::fileForm].visible = true;
     s.controls.focus = ids::fileName;
 }
@@ -244,6 +248,16 @@ void saveAndOpenAgain(App& app)
     if (!app.s.drawingFile.empty() && proposesOwnFile(app.s)) confirmFileDialog(app, ids::fileConfirm);
 }
 
+namespace {
+
+// Someone else may have saved it while the dialog stood.
+bool changedSinceItWasShown(App& app, const FileChoice& choice)
+{
+    return savesWholeDrawing(choice) && pathOf(choice) == app.s.drawingFile && !ownFileIsAsSeen(app);
+}
+
+} // namespace
+
 void confirmFileDialog(App& app, ControlId)
 {
     Session& s = app.s;
@@ -255,6 +269,8 @@ void confirmFileDialog(App& app, ControlId)
     const FileChoice choice = choiceOf(s, name);
     if (!isSaving(s.controls)) {
         if (openFile(app, choice)) hideDialog(s.controls);
+    } else if (changedSinceItWasShown(app, choice)) {
+        if (warnOfOwnFile(app)) s.controls[ids::fileConfirm].caption = "Overwrite?";
     } else if (saveFile(app, choice)) {
         if (savesWholeDrawing(choice)) return carryOutFollowUp(app);
         hideDialog(s.controls);

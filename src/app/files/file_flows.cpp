@@ -3,6 +3,7 @@
 #include "app/drawing/endings.h"
 #include "app/files/library_flows.h"
 #include "app/files/open_drawing.h"
+#include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "commands/prompt.h"
@@ -29,6 +30,7 @@ void takeFile(App& app, const FileChoice& choice)
     s.drawingName = choice.name;
     s.drawingFile = pathOf(choice);
     s.drawingFolder = choice.folder;
+    watchOwnFile(app);
     takeAsSaved(app);
 }
 
@@ -39,6 +41,7 @@ void takePartOfFile(App& app, const FileChoice& choice, std::int32_t leftOut)
     s.drawingName = "untitled.mtd";
     s.drawingFile.clear();
     s.drawingFolder = choice.folder;
+    watchOwnFile(app);
     tellLeftOut(s.notices, choice.name, leftOut, s.drawingName);
 }
 
@@ -111,6 +114,7 @@ bool openDxfFile(App& app, const FileChoice& choice)
     s.drawingFile.clear();           // what may be there under that name is another drawing
     s.drawingFolder = choice.folder; // the drawing is saved beside the file that it came from
     const std::int32_t leftOut = openDxf(app, *file);
+    watchOwnFile(app);
     takeAsSaved(app);
     if (leftOut > 0) takePartOfFile(app, choice, leftOut);
     setPrompt(s, app.pic1);

@@ -2,6 +2,7 @@
 
 #include "app/drawing/endings.h"
 #include "app/files/open_drawing.h"
+#include "app/files/own_file.h"
 #include "commands/prompt.h"
 #include "files/kept_work.h"
 #include "model/work_mark.h"
@@ -32,7 +33,7 @@ std::string folderOf(const std::string& path)
 
 KeptAbout aboutDrawing(const Session& s, const Ports& ports)
 {
-    return {s.drawingName, s.drawingFile, nowBy(ports.clock)};
+    return {s.drawingName, s.drawingFile, nowBy(ports.clock), s.savedStamp};
 }
 
 std::optional<KeptWork> workOnOffer(App& app)
@@ -123,6 +124,8 @@ void restoreLeftWork(App& app)
         forgetOwners(s.store);
         openDrawing(app, work->drawing);
         takeAsUnsaved(s, work->about);
+        watchOwnFile(app);
+        s.savedStamp = work->about.stamp; // as that run knew it: what others did since is told
         setPrompt(s, app.pic1);
     }
     offerNext(app);

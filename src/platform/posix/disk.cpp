@@ -3,6 +3,7 @@
 #include "platform/posix/in_place.h"
 #include "platform/posix/new_file.h"
 #include "platform/posix/opened.h"
+#include "platform/posix/wall_clock.h"
 
 #include <ctime>
 
@@ -43,16 +44,6 @@ Target targetAt(const std::string& path)
         S_ISREG(there.st_mode) && ::faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0;
     target.hasOtherNames = there.st_nlink > 1;
     return target;
-}
-
-// Hours and minutes of the clock on the wall.
-std::string clockAt(std::time_t time)
-{
-    std::tm local = {};
-    char text[] = "00:00";
-    if (::localtime_r(&time, &local) == nullptr) return text;
-    std::strftime(text, sizeof text, "%H:%M", &local);
-    return text;
 }
 
 // Counted round, as a file may say that it is from the year 2400.

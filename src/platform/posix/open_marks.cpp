@@ -1,6 +1,7 @@
 #include "platform/posix/open_marks.h"
 
 #include "platform/posix/hash.h"
+#include "platform/posix/wall_clock.h"
 
 #include <unistd.h>
 
@@ -26,6 +27,12 @@ Bytes contentFor(const std::string& real)
 {
     const std::string content = std::to_string(::getpid()) + "\n" + real + "\n";
     return {content.begin(), content.end()};
+}
+
+std::string sinceWhen(const std::filesystem::path& mark)
+{
+    struct stat told = {};
+    return ::lstat(mark.c_str(), &told) == 0 ? clockAt(told.st_mtim.tv_sec) : std::string();
 }
 
 } // namespace
@@ -64,7 +71,8 @@ std::optional<OpenElsewhere> PosixOpenMarks::markedByAnother(const std::string& 
     const auto own = own_.find(real);
     for (const std::filesystem::path& mark : heldFiles(state_.path(), stemFor(real))) {
         if (own != own_.end() && own->second.path == mark) continue;
-        if (removeIfDead(mark) == Holder::alive) return OpenElsewhere{makerOf(mark, stemFor(real))};
+        if (removeIfDead(mark) == Holder::alive)
+            return OpenElsewhere{makerOf(mark, stemFor(real)), sinceWhen(mark)};
     }
     return std::nullopt;
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/app.h"
+
+namespace mirtane {
+
+// The file that the drawing was opened from or saved to, which others may change, take away or have open as
+// well.
+
+// The drawing is that of s.drawingFile as it is now on the disk; others are told that it is open here, and
+// this program that it is open there. Empty is no file.
+void watchOwnFile(App& app);
+
+// Says in the strip what stands in the way of saving the drawing to its file unseen: someone else changed it,
+// it is no longer there, or another program of ours has it open. Gives whether there was anything to say.
+bool warnOfOwnFile(App& app);
+
+// Whether the file is as it was when it was last asked about, in watchOwnFile or warnOfOwnFile.
+bool ownFileIsAsSeen(App& app);
+
+} // namespace mirtane

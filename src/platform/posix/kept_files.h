@@ -1,0 +1,36 @@
+#pragma once
+
+#include "files/work_keeper.h"
+#include "platform/posix/held_file.h"
+#include "platform/posix/state_folder.h"
+
+namespace mirtane {
+
+// Kept work as files in the state folder. Beside that of each run stands a file which the run holds while it
+// lives, so that others leave the work of a living one alone.
+class KeptFiles : public WorkKeeper {
+  public:
+    // The disk must outlive this.
+    KeptFiles(StateFolder state, Disk& disk) : state_(std::move(state)), disk_(disk) {}
+    ~KeptFiles() override;
+    KeptFiles(const KeptFiles&) = delete;
+    KeptFiles& operator=(const KeptFiles&) = delete;
+
+    void keep(Bytes work) override;
+    void forget() override;
+    std::vector<std::string> left() override;
+    std::optional<Bytes> read(const std::string& name) override;
+    bool adopt(const std::string& name) override;
+    void remove(const std::string& name) override;
+
+  private:
+    // The file of this run, which from now on is known to be alive; nothing where the folder can't be used.
+    std::optional<std::string> own();
+    std::string pathOf(const std::string& name) const;
+
+    StateFolder state_;
+    Disk& disk_;
+    HeldFile holder_;
+};
+
+} // namespace mirtane
