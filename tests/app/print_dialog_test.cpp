@@ -48,42 +48,25 @@ class TestPrinter : public RecordingPrinter {
     fake::MemoryDisk* disk = nullptr; // where pages become files
 };
 
-// The program at its start, with a printer.
-class Office {
+struct HasPrinter {
+    TestPrinter printer;
+};
+
+// The program at its start, with a printer. What is added is selected.
+class Office : public HasPrinter, public fake::Desk {
   public:
-    explicit Office(float width = 12240, float height = 15840) : printer(width, height)
+    explicit Office(float width = 12240, float height = 15840)
+        : HasPrinter{TestPrinter(width, height)}, Desk({}, {}, &printer)
     {
         printer.disk = &disk;
-        folders.folders = {"/", "/home", fake::home};
-        pic1.setScale({0, 0, 4800, 3200});
-        shell.start();
-        pic1.takeOps();
     }
 
-    void add(const EntityRecord& r)
-    {
-        const std::int32_t slot = s.store.entCount++;
-        s.store.setRecord(slot, r);
-        s.store.setStat(slot, Stat::sel);
-    }
+    void add(const EntityRecord& r) { Desk::add(r, Stat::sel); }
 
     // Fits at 12 drawing units to the inch, ten twips to the world unit.
-    void addLine()
-    {
-        EntityRecord r;
-        r.kind = Kind::line;
-        r.p2 = {1152, 0};
-        r.color = 0xFFFFFF;
-        add(r);
-    }
+    void addLine() { add(fake::ofLooks(fake::line({}, {1152, 0}), 0xFFFFFF)); }
 
-    void addPoint()
-    {
-        EntityRecord r;
-        r.kind = Kind::point;
-        r.p1 = {50, 50};
-        add(r);
-    }
+    void addPoint() { add(fake::point({50, 50})); }
 
     void ask() { shell.click("picset"_c); }
     // The first object, at the fitted scale.
@@ -93,29 +76,14 @@ class Office {
         ask();
         press(printButton);
     }
-    void type(std::string_view keys)
-    {
-        for (const char c : keys) shell.keyPress(static_cast<unsigned char>(c)); // ASCII
-    }
     void typeOver(std::string_view keys)
     {
         shell.click(typed);
         type(keys);
     }
-    void press(ControlId id) { shell.click(id); }
-    const std::string& text(ControlId id) const { return session->controls[id].text; }
-    bool isOpen() const { return session->controls[dialog].visible; }
-    Stat stat() const { return session->store.stat[EntityStore::at(1)]; }
+    bool isOpen() const { return visible(dialog); }
+    Stat stat() const { return Desk::stat(1); }
     double scale() const { return s.printScale; }
-
-    fake::MemoryDisk disk;
-    fake::MemoryFolders folders{disk};
-    fake::MemorySettings settings;
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{1200, 800}};
-    TestPrinter printer;
-    Shell shell{*session, pic1, Ports{disk, folders, settings, fake::home, &printer}};
 };
 
 TEST(PrintDialog, WithNothingSelectedSaysSoAndStaysAway)
@@ -156,10 +124,7 @@ TEST(PrintDialog, ShowsSevenDigitsWithAPoint)
     const FittedRow rows[] = {{770, "8.020833"}, {1153, "12.01042"}, {96, "1"}, {1.2e10F, "1.25E+08"}};
     for (const FittedRow& row : rows) {
         Office office;
-        EntityRecord r;
-        r.kind = Kind::line;
-        r.p2 = {row.width, 0};
-        office.add(r);
+        office.add(fake::line({}, {row.width, 0}));
         office.ask();
         EXPECT_EQ(office.text(typed), row.shown);
         EXPECT_EQ(office.text(fitted), row.shown);

@@ -1,4 +1,5 @@
 #include "convert_process.h"
+#include "records.h"
 
 #include <QFile>
 #include <QImage>
@@ -31,37 +32,17 @@ EntityRecord header()
 
 EntityRecord line(Point from, Point to, std::int16_t layer)
 {
-    EntityRecord r;
-    r.kind = Kind::line;
-    r.p1 = from;
-    r.p2 = to;
-    r.layer = layer;
-    r.color = white;
-    return r;
+    return fake::ofLooks(fake::line(from, to), white, layer);
 }
 
 EntityRecord circle(Point centre, float radius, std::int16_t layer)
 {
-    EntityRecord r;
-    r.kind = Kind::circle;
-    r.p1 = centre;
-    r.rad = radius;
-    r.layer = layer;
-    r.color = red;
-    return r;
+    return fake::ofLooks(fake::circle(centre, radius), red, layer);
 }
 
 EntityRecord words(std::string text, std::int16_t layer)
 {
-    EntityRecord r;
-    r.kind = Kind::text;
-    r.p1 = r.p4 = {12, 120};
-    r.p2 = {48, 0};
-    r.t1 = std::move(text);
-    r.t2 = "Garamond";
-    r.layer = layer;
-    r.color = white;
-    return r;
+    return fake::ofLooks(fake::text({12, 120}, std::move(text)), white, layer);
 }
 
 // The circle comes last: what stands behind one is not read back from a DXF file.

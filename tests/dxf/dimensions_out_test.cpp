@@ -12,11 +12,8 @@ using namespace samples;
 EntityRecord dimension(Kind kind, float style)
 {
     EntityRecord r = object(kind);
-    r.s1 = style;
-    r.s2 = 12;
     r.p5 = world(5, 6);
-    r.t1 = "10";
-    return r;
+    return fake::dimension(r, "10", style, 12, "");
 }
 
 // Measures 10 units from left to right; the dimension line lies 5 above.

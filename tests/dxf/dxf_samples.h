@@ -5,7 +5,7 @@
 #include "dxf/dxf_reader.h"
 #include "dxf/dxf_writer.h"
 #include "dxf/scanner.h"
-#include "kind_print.h"
+#include "records.h"
 
 #include <cmath>
 #include <cstdio>
@@ -99,18 +99,12 @@ inline Point world(float x, float y)
 
 inline EntityRecord object(Kind kind)
 {
-    EntityRecord r;
-    r.kind = kind;
-    r.color = 0xFFFFFF;
-    return r;
+    return fake::ofLooks(fake::record(kind), 0xFFFFFF);
 }
 
 inline EntityRecord lineObject(float x1, float y1, float x2, float y2)
 {
-    EntityRecord r = object(Kind::line);
-    r.p1 = world(x1, y1);
-    r.p2 = world(x2, y2);
-    return r;
+    return fake::ofLooks(fake::line(world(x1, y1), world(x2, y2)), 0xFFFFFF);
 }
 
 // A drawing of selected objects, and what the writer makes of it.
@@ -168,11 +162,7 @@ inline std::string single(double value)
 // Of radius 1 about the origin, half as high.
 inline EntityRecord levelEllipse()
 {
-    EntityRecord r = object(Kind::ellipse);
-    r.p1 = world(1, 0);
-    r.p2 = world(0, 0);
-    r.p3.x = 0.5F;
-    return r;
+    return fake::ofLooks(fake::ellipse(world(1, 0), world(0, 0), 0.5F), 0xFFFFFF);
 }
 
 // What it is exploded into: each line runs from the later point back to the one before.

@@ -13,13 +13,10 @@ using namespace samples;
 // A text of that justification and rotation at (1000, 500).
 EntityRecord textOf(float justification, double degrees)
 {
-    EntityRecord r;
-    r.kind = Kind::text;
-    r.p1 = {1000, 500};
-    r.p2 = {48, justification};
+    EntityRecord r = fake::text({1000, 500}, "text");
+    r.p2.y = justification;
     r.p4 = {-1, -1};
     r.a1 = degrees;
-    r.t1 = "text";
     return r;
 }
 
@@ -87,12 +84,8 @@ TEST(SetTextAnchors, OtherKindsAndSlotsBeyondTheDrawingKeepTheirs)
 TEST(FixUp, ALineGetsItsMiddleAndACircleThePointAtItsLeft)
 {
     Session s;
-    EntityRecord line = object(Kind::line, 1);
-    line.p1 = {10, 20};
-    line.p2 = {-30, 100};
-    EntityRecord circle = object(Kind::circle, 1);
-    circle.p1 = {10, 20};
-    circle.rad = 15;
+    const EntityRecord line = fake::line({10, 20}, {-30, 100});
+    const EntityRecord circle = fake::circle({10, 20}, 15);
     EntityRecord arc = circle;
     arc.kind = Kind::arc;
     add(s, line, Stat::on);

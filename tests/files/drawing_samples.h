@@ -3,8 +3,8 @@
 // Records and files for the tests of drawing files.
 
 #include "files/entity_record_codec.h"
-#include "kind_print.h"
 #include "model/session.h"
+#include "records.h"
 
 #include <initializer_list>
 #include <limits>
@@ -18,21 +18,15 @@ inline constexpr float infinite = std::numeric_limits<float>::infinity();
 
 inline EntityRecord object(Kind kind, std::int16_t layer)
 {
-    EntityRecord r;
-    r.kind = kind;
-    r.layer = layer;
-    r.p1 = {static_cast<float>(numberOf(kind)), 1}; // small whole numbers
-    r.p2 = {static_cast<float>(numberOf(kind) + 30), 41};
-    r.color = 0x0000FF;
+    const auto number = static_cast<float>(numberOf(kind)); // a small whole one
+    EntityRecord r = fake::ofLooks(fake::record(kind, {number, 1}, {number + 30, 41}), 0x0000FF, layer);
     if (kind >= Kind::text) r.t1 = "text " + std::to_string(numberOf(kind));
     return r;
 }
 
 inline EntityRecord layerName(float layer, std::string name)
 {
-    EntityRecord r;
-    r.kind = layerNameKind;
-    r.p1.x = layer + 2;
+    EntityRecord r = fake::record(layerNameKind, {layer + 2, 0});
     r.t1 = std::move(name);
     return r;
 }

@@ -3,6 +3,7 @@
 #include "files/drawing_file.h"
 #include "files/entity_record_codec.h"
 #include "files/library_row_codec.h"
+#include "records.h"
 
 #include <gtest/gtest.h>
 
@@ -36,12 +37,8 @@ MultipleLine multipleLine(const std::string& name, float m1)
 
 EntityRecord piece(float x)
 {
-    EntityRecord r;
-    r.kind = Kind{11};
-    r.p1 = {x, x};
-    r.p2 = {x + 1, x + 2};
-    r.layer = 4;
-    r.color = 0xE0E0E0;
+    const EntityRecord points = fake::record(pieceOf(Kind::line), {x, x}, {x + 1, x + 2});
+    EntityRecord r = fake::ofLooks(points, 0xE0E0E0, 4);
     r.t1 = "kept";
     return r;
 }

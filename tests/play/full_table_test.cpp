@@ -1,6 +1,7 @@
 // A drawing of 59,899 slots, opened and drawn in as a user would.
 
 #include "files/entity_record_codec.h"
+#include "records.h"
 #include "theatre.h"
 
 #include <gtest/gtest.h>
@@ -21,13 +22,9 @@ Bytes drawingOf(std::int32_t count)
     r.layer = 1;
     r.color = 0xFFFFFF;
     writeRecord(out, r);
-    r = {};
-    r.kind = Kind::line;
-    r.layer = 1;
     for (std::int32_t i = 1; i < count; ++i) {
-        r.p1 = {static_cast<float>(i % 300), 0}; // small whole numbers
-        r.p2 = {static_cast<float>(i % 300), 200};
-        writeRecord(out, r);
+        const auto x = static_cast<float>(i % 300); // a small whole number
+        writeRecord(out, fake::ofLooks(fake::line({x, 0}, {x, 200}), 0, 1));
     }
     return bytes;
 }

@@ -1,6 +1,7 @@
 #include "print/page.h"
 
 #include "print/recording_printer.h"
+#include "records.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -40,22 +41,16 @@ std::string textOf(const PrintOp& op)
     return text;
 }
 
+constexpr std::int32_t white = 0xFFFFFF;
+
 EntityRecord record(Kind kind, Point p1 = {}, Point p2 = {})
 {
-    EntityRecord r;
-    r.kind = kind;
-    r.p1 = p1;
-    r.p2 = p2;
-    r.color = 0xFFFFFF;
-    return r;
+    return fake::ofLooks(fake::record(kind, p1, p2), white);
 }
 
-EntityRecord lineOf(Point from, Point to, std::int32_t color = 0xFFFFFF, std::int16_t style = 0)
+EntityRecord lineOf(Point from, Point to, std::int32_t color = white, std::int16_t style = 0)
 {
-    EntityRecord r = record(Kind::line, from, to);
-    r.color = color;
-    r.style = style;
-    return r;
+    return fake::ofLooks(fake::line(from, to), color, 0, style);
 }
 
 EntityRecord roundOf(Kind kind, Point centre, float rad)
@@ -67,19 +62,13 @@ EntityRecord roundOf(Kind kind, Point centre, float rad)
 
 EntityRecord ellipseOf(Point end, Point centre, float ratio)
 {
-    EntityRecord r = record(Kind::ellipse, end, centre);
-    r.p3 = {ratio, 0};
-    return r;
+    return fake::ofLooks(fake::ellipse(end, centre, ratio), white);
 }
 
-// Written 12 units high at a place of its own beside the point that was entered.
+// 12 units high.
 EntityRecord textAt(Point painted, const std::string& words)
 {
-    EntityRecord r = record(Kind::text, painted, {12, 0});
-    r.p4 = painted;
-    r.t1 = words;
-    r.t2 = "Serif";
-    return r;
+    return fake::ofLooks(fake::text(painted, words, 12, "Serif"), white);
 }
 
 class Page : public testing::Test {

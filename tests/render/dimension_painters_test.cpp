@@ -1,12 +1,10 @@
 #include "render/dimension_painters.h"
 
-#include "ops_text.h"
+#include "drawing_desk.h"
 #include "render/entity_painter.h"
 #include "render/redraw.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace mirtane {
 namespace {
@@ -16,40 +14,20 @@ using fake::Ops;
 // Arrows of 64, so that a quarter of one is a whole number.
 EntityRecord linearRecord()
 {
-    EntityRecord r;
-    r.kind = Kind::linearDimension;
-    r.p1 = {100, 400};
-    r.p2 = {700, 400};
-    r.p3 = {700, 300};
-    r.p4 = {100, 300};
-    r.p5 = {350, 250};
-    r.s1 = arrow::open;
-    r.s2 = 64;
-    r.color = 255;
-    r.style = 4;
-    r.t1 = "50'-0\"";
-    r.t2 = "Garamond";
-    return r;
+    const EntityRecord points =
+        fake::record(Kind::linearDimension, {100, 400}, {700, 400}, {700, 300}, {100, 300}, {350, 250});
+    return fake::ofLooks(fake::dimension(points, "50'-0\"", arrow::open, 64), 255, 0, 4);
 }
 
 EntityRecord angularRecord()
 {
-    EntityRecord r;
-    r.kind = Kind::angularDimension;
-    r.p1 = {300, 400};
-    r.p2 = {400, 400};
-    r.p3 = {300, 350};
-    r.p4 = {500, 400};
-    r.p5 = {450, 300};
-    r.s1 = r.s2 = 64;
+    const EntityRecord points =
+        fake::record(Kind::angularDimension, {300, 400}, {400, 400}, {300, 350}, {500, 400}, {450, 300});
+    EntityRecord r = fake::dimension(points, "86", 64, 64);
     r.rad = 200;
     r.a2 = 1.5;
     r.a3 = 45;
-    r.style = 0; // no arrow
-    r.color = 255;
-    r.t1 = "86";
-    r.t2 = "Garamond";
-    return r;
+    return fake::ofLooks(r, 255, 0, 0); // no arrow
 }
 
 EntityRecord leaderRecord()
@@ -65,22 +43,8 @@ EntityRecord leaderRecord()
 }
 
 // A view of 1000 by 800 with its corner at the origin.
-struct DimensionPainting : testing::Test {
-    DimensionPainting() { look({0, 0, 1000, 800}); }
-
-    void look(const Scale& scale)
-    {
-        pic1.setScale(scale);
-        readViewLimits(s, pic1);
-        pic1.takeOps();
-    }
-
-    std::int32_t add(const EntityRecord& r, Stat stat = Stat::on)
-    {
-        s.store.setRecord(s.store.entCount, r);
-        s.store.setStat(s.store.entCount, stat);
-        return s.store.entCount++;
-    }
+struct DimensionPainting : testing::Test, fake::DrawingDesk {
+    DimensionPainting() : DrawingDesk({0, 0, 1000, 800}, {500, 400}) {}
 
     // Without what a redraw begins and ends with.
     Ops redrawn()
@@ -89,10 +53,6 @@ struct DimensionPainting : testing::Test {
         const Ops ops = fake::opsOn(pic1);
         return {ops.begin() + 1, ops.end() - 3};
     }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{500, 400}};
 };
 
 const Ops linearLines = {"line 700 357.376 700 257.376", "line 100 357.376 100 257.376",

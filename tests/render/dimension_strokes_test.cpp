@@ -2,6 +2,7 @@
 
 #include "geometry/angle.h"
 #include "ops_text.h"
+#include "records.h"
 
 #include <gtest/gtest.h>
 
@@ -343,12 +344,7 @@ TEST(DimensionStrokes, NeverHaveACoordinateThatCanNotBe)
 TEST(DimensionStrokes, AreTheSameFromARecordAndFromItsSlot)
 {
     const auto store = std::make_unique<EntityStore>();
-    EntityRecord r;
-    r.kind = Kind::angularDimension;
-    r.p1 = {1, 2};
-    r.p2 = {200, 3};
-    r.p3 = {4, -100};
-    r.p4 = {301, 2};
+    EntityRecord r = fake::record(Kind::angularDimension, {1, 2}, {200, 3}, {4, -100}, {301, 2});
     r.s1 = 48;
     r.s2 = 49;
     r.rad = 300;

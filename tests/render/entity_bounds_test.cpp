@@ -2,6 +2,8 @@
 
 #include "render/entity_bounds.h"
 
+#include "records.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -10,20 +12,10 @@
 namespace mirtane {
 namespace {
 
+using fake::record;
+
 constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinite = std::numeric_limits<float>::infinity();
-
-EntityRecord record(Kind kind, Point p1, Point p2 = {}, Point p3 = {}, Point p4 = {}, Point p5 = {})
-{
-    EntityRecord r;
-    r.kind = kind;
-    r.p1 = p1;
-    r.p2 = p2;
-    r.p3 = p3;
-    r.p4 = p4;
-    r.p5 = p5;
-    return r;
-}
 
 IntegerBox boxOf(const EntityRecord& r, float textWidth = 0)
 {

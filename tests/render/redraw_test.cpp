@@ -1,11 +1,10 @@
 #include "render/redraw.h"
 
-#include "ops_text.h"
+#include "drawing_desk.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
 
 namespace mirtane {
 namespace {
@@ -13,27 +12,16 @@ namespace {
 using fake::Ops;
 
 // A view of 1000 by 800 with its corner at the origin.
-struct Redraw : testing::Test {
-    Redraw()
-    {
-        pic1.setScale({0, 0, 1000, 800});
-        readViewLimits(s, pic1);
-    }
+struct Redraw : testing::Test, fake::DrawingDesk {
+    Redraw() : DrawingDesk({0, 0, 1000, 800}, {500, 200}) {}
 
     void add(Kind kind, Point p1, Point p2 = {}, float rad = 0, Stat stat = Stat::on)
     {
-        EntityRecord r;
-        r.kind = kind;
-        r.p1 = p1;
-        r.p2 = p2;
+        EntityRecord r = fake::record(kind, p1, p2);
         r.rad = rad;
-        r.color = 255;
-        r.style = 1;
         if (kind == Kind::ellipse) r.p3.x = 0.5F;
         if (kind == Kind::arc) r.a2 = 1;
-        s.store.setRecord(s.store.entCount, r);
-        s.store.setStat(s.store.entCount, stat);
-        ++s.store.entCount;
+        DrawingDesk::add(fake::ofLooks(r, 255, 0, 1), stat);
     }
 
     Ops painted()
@@ -42,10 +30,6 @@ struct Redraw : testing::Test {
         redrawAll(s, pic1);
         return fake::opsOn(pic1);
     }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{500, 200}};
 };
 
 TEST_F(Redraw, OfAnEmptyDrawingJustClearsAndKeepsThePicture)
@@ -83,10 +67,7 @@ TEST_F(Redraw, NeverPaintsHiddenDeletedOrForeignSlots)
 
 TEST_F(Redraw, NeverPaintsTheHeader)
 {
-    EntityRecord r;
-    r.kind = Kind::line;
-    r.p2 = {10, 10};
-    s.store.setRecord(0, r);
+    s.store.setRecord(0, fake::line({}, {10, 10}));
     s.store.setStat(0, Stat::on);
     add(Kind::point, {7, 8});
     EXPECT_EQ(fake::marks(painted()), Ops{"point 7 8"});

@@ -1,13 +1,12 @@
 #include "render/text_painter.h"
 
-#include "ops_text.h"
+#include "drawing_desk.h"
 #include "render/entity_painter.h"
 #include "render/redraw.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
 
 namespace mirtane {
 namespace {
@@ -16,32 +15,17 @@ using fake::Ops;
 
 EntityRecord textRecord()
 {
-    EntityRecord r;
-    r.kind = Kind::text;
-    r.p1 = {500, 400};
-    r.p2 = {48, 1};
+    EntityRecord r = fake::text({500, 400}, "Level 1", 48, "Courier");
+    r.p2.y = 1;
     r.p4 = {380, 400};
     r.rad = 144;
     r.color = 255;
-    r.t1 = "Level 1";
-    r.t2 = "Courier";
     return r;
 }
 
 // A view of 1000 by 800 with its corner at the origin.
-struct TextPainting : testing::Test {
-    TextPainting()
-    {
-        pic1.setScale({0, 0, 1000, 800});
-        readViewLimits(s, pic1);
-        pic1.takeOps();
-    }
-
-    void add(const EntityRecord& r, Stat stat = Stat::on)
-    {
-        s.store.setRecord(s.store.entCount, r);
-        s.store.setStat(s.store.entCount++, stat);
-    }
+struct TextPainting : testing::Test, fake::DrawingDesk {
+    TextPainting() : DrawingDesk({0, 0, 1000, 800}, {500, 400}) {}
 
     // Without what a redraw begins and ends with.
     Ops redrawn()
@@ -56,10 +40,6 @@ struct TextPainting : testing::Test {
         paintText(pic1, textLettering(r));
         return fake::opsOn(pic1);
     }
-
-    std::unique_ptr<Session> session = std::make_unique<Session>();
-    Session& s = *session;
-    RecordingCanvas pic1{Size{500, 400}};
 };
 
 TEST_F(TextPainting, StartsWhereTheTextWasPlacedWhateverItsJustification)

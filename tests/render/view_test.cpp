@@ -23,23 +23,6 @@ void expectScale(const Desk& desk, Scale expected, const char* what = "")
     EXPECT_EQ(desk.s.viewBottom, scale.top + scale.height) << what;
 }
 
-// Puts a record behind the last object.
-void put(Desk& desk, const EntityRecord& r, Stat stat = Stat::on)
-{
-    desk.s.store.setRecord(desk.s.store.entCount, r);
-    desk.s.store.setStat(desk.s.store.entCount, stat);
-    ++desk.s.store.entCount;
-}
-
-EntityRecord lineRecord(Point a, Point b)
-{
-    EntityRecord r;
-    r.kind = Kind::line;
-    r.p1 = a;
-    r.p2 = b;
-    return r;
-}
-
 TEST(EmptyDrawing, IsOnlyRefreshedByZoomAllAndZoomOut)
 {
     for (const ControlId id : {"Command42"_c, "Command44"_c}) {
@@ -67,7 +50,7 @@ TEST(ZoomAll, IsAnchoredAtTheUpperLeftWithTheSpareRoomAtTheRightOrBelow)
     };
     for (const Row& row : rows) {
         Desk desk;
-        put(desk, lineRecord(row.a, row.b));
+        desk.add(fake::line(row.a, row.b));
         desk.press("Command42"_c);
         expectScale(desk, row.expected, row.what);
         EXPECT_EQ(desk.s.wholeViewFlag, 1) << row.what;
@@ -77,12 +60,12 @@ TEST(ZoomAll, IsAnchoredAtTheUpperLeftWithTheSpareRoomAtTheRightOrBelow)
 TEST(ZoomAll, ShowsWhatIsOnOrSelectedAndNothingElse)
 {
     Desk desk;
-    put(desk, lineRecord({0, 0}, {300, 200}));
-    put(desk, lineRecord({-900, 0}, {900, 0}), Stat::off);
-    put(desk, lineRecord({0, -900}, {0, 900}), Stat::out);
-    EntityRecord dead = lineRecord({5000, 5000}, {6000, 6000});
+    desk.add(fake::line({0, 0}, {300, 200}));
+    desk.add(fake::line({-900, 0}, {900, 0}), Stat::off);
+    desk.add(fake::line({0, -900}, {0, 900}), Stat::out);
+    EntityRecord dead = fake::line({5000, 5000}, {6000, 6000});
     dead.kind = headerKind; // merged from another file
-    put(desk, dead);
+    desk.add(dead);
     desk.press("Command42"_c);
     expectScale(desk, {-7.5F, -5, 315, 210});
 }
@@ -90,7 +73,7 @@ TEST(ZoomAll, ShowsWhatIsOnOrSelectedAndNothingElse)
 TEST(ZoomAll, WithEverythingUndoneKeepsTheViewAndRepaints)
 {
     Desk desk;
-    put(desk, lineRecord({0, 0}, {300, 200}), Stat::out);
+    desk.add(fake::line({0, 0}, {300, 200}), Stat::out);
     desk.press("Command42"_c);
     expectScale(desk, {0, 0, 4800, 3200});
     EXPECT_EQ(desk.s.wholeViewFlag, 1);
@@ -102,10 +85,7 @@ TEST(ZoomAll, WithEverythingUndoneKeepsTheViewAndRepaints)
 TEST(ZoomAll, OfASinglePointKeepsTheView)
 {
     Desk desk;
-    EntityRecord point;
-    point.kind = Kind::point;
-    point.p1 = {50, 60};
-    put(desk, point);
+    desk.add(fake::point({50, 60}));
     desk.press("Command42"_c);
     expectScale(desk, {0, 0, 4800, 3200});
     EXPECT_EQ(desk.s.wholeViewFlag, 1);
@@ -115,7 +95,7 @@ TEST(ZoomOut, DriftsToTheUpperLeftAtEachStep)
 {
     Desk desk;
     desk.pic1.setScale({100, 50, 1000, 500});
-    put(desk, lineRecord({0, 0}, {300, 200}));
+    desk.add(fake::line({0, 0}, {300, 200}));
     desk.press("Command44"_c);
     expectScale(desk, {100 - 60.5F, 50 - 30.25F, 1100, 550}, "once");
     desk.press("Command44"_c);
@@ -128,7 +108,7 @@ TEST(ZoomOut, DriftsToTheUpperLeftAtEachStep)
 TEST(ZoomOut, LeavesTheWholeViewFlag)
 {
     Desk desk;
-    put(desk, lineRecord({0, 0}, {300, 200}));
+    desk.add(fake::line({0, 0}, {300, 200}));
     desk.press("Command42"_c);
     desk.press("Command44"_c);
     EXPECT_EQ(desk.s.wholeViewFlag, 1);
@@ -233,7 +213,7 @@ TEST_F(ZoomWindow, KeepsTheCornersSorted)
 TEST(ZoomAbout, KeepsThePointUnderThePointerWhereItIs)
 {
     Desk desk;
-    put(desk, lineRecord({0, 0}, {300, 200}));
+    desk.add(fake::line({0, 0}, {300, 200}));
     zoomAbout(desk.s, desk.pic1, {1200, 800}, 2);
     expectScale(desk, {600, 400, 2400, 1600});
     EXPECT_EQ(desk.s.wholeViewFlag, 0);

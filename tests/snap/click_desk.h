@@ -13,8 +13,8 @@ namespace mirtane::fake {
 inline constexpr std::int16_t shift = 1;
 inline constexpr std::int16_t ctrl = 2;
 
-// The snaps themselves are called, as it stands in their power to be told where ortho has turned a click to
-// and which function is at which step; that the drawing's input calls them, and when, is shown in tests/app.
+// The snaps themselves are called: so a test can say where ortho has turned the click to, and which function
+// is at which step. That the canvas input calls them, and when, is shown in tests/app.
 class ClickDesk : public DrawingDesk {
   public:
     explicit ClickDesk(std::string_view function = "Line") : DrawingDesk({0, 0, 1200, 800})

@@ -14,8 +14,11 @@ inline constexpr const char* home = "/home/user";
 
 class Desk : public DrawingDesk {
   public:
-    explicit Desk(const std::map<std::string, std::string>& stored = {}, const MemoryWork& found = {})
-        : work(found)
+    explicit Desk(const std::map<std::string, std::string>& stored = {}, const MemoryWork& found = {},
+                  Printer* printer = nullptr)
+        : work(found),
+          shell(*session, pic1,
+                Ports{disk, folders, settings, home, printer, nullptr, {}, &work, &clock, &marks})
     {
         settings.values = stored;
         folders.folders = {"/", "/home", home};
@@ -82,8 +85,7 @@ class Desk : public DrawingDesk {
     MemoryWork work;
     MemoryClock clock;
     MemoryOpenMarks marks;
-    Shell shell{*session, pic1,
-                Ports{disk, folders, settings, home, nullptr, nullptr, {}, &work, &clock, &marks}};
+    Shell shell;
 };
 
 inline std::string titleOf(std::string_view doing, std::string_view drawing = "untitled.mtd")

@@ -16,7 +16,7 @@ namespace mirtane::fake {
 
 class DrawingDesk {
   public:
-    explicit DrawingDesk(const Scale& view = {0, 0, 4800, 3200})
+    explicit DrawingDesk(const Scale& view = {0, 0, 4800, 3200}, Size surface = {1200, 800}) : pic1(surface)
     {
         resetLayers(s.layerTable);
         look(view);
@@ -78,7 +78,7 @@ class DrawingDesk {
 
     std::unique_ptr<Session> session = std::make_unique<Session>();
     Session& s = *session;
-    RecordingCanvas pic1{Size{1200, 800}};
+    RecordingCanvas pic1;
 };
 
 } // namespace mirtane::fake

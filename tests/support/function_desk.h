@@ -8,7 +8,6 @@
 #include "app/drawing/starters.h"
 #include "app/typing/typed_entry.h"
 #include "drawing_desk.h"
-#include "snap/snap.h"
 #include "tables/functions.h"
 #include "text/utf8.h"
 
@@ -16,9 +15,7 @@
 
 namespace mirtane::fake {
 
-// Codes of canvasKeyDown.
-inline constexpr int shiftKey = 16; // snaps to objects while it is held
-inline constexpr int ctrlKey = 17;  // to points
+inline constexpr int ctrlKey = 17; // as canvasKeyDown names it; while it is held clicks are snapped to points
 
 class FunctionDesk : public DrawingDesk {
   public:
@@ -48,7 +45,6 @@ class FunctionDesk : public DrawingDesk {
 
     void hold(int key) { canvasKeyDown(s, pic1, key); }
     void letGo() { canvasKeyUp(s); }
-    void arm(ControlId snap) { pressSnapButton(s, pic1, snap); }
 
     // Keys on the drawing.
     void key(char32_t code) { canvasKeyPress(s, pic1, code); }
