@@ -126,6 +126,25 @@ TEST(Architecture, AFunctionIsAskedForByNameInTheShellAlone)
     for (const Row& row : rows) check(row);
 }
 
+TEST(Architecture, OnThePlatformNumbersBecomeWholeInOnePlaceAlone)
+{
+    const Row rows[] = {
+        {"a cast", "platform/qt/surface.cpp", "int size = static_cast<int>(height * share);\n", 1},
+        {"a cast to a fixed size", "platform/posix/clock.cpp", "static_cast<std::int32_t>(seconds * 1e3)", 1},
+        {"a narrower number", "platform/qt/window/page.cpp", "return static_cast<float>(points * 20);", 1},
+        {"a rounding", "platform/qt/page_painter.cpp", "const auto n = std::lround(radians);\n", 1},
+        {"the toolkit's rounding", "platform/qt/window/box.cpp", "move(qRound(x), 0);", 1},
+        {"a point of the toolkit", "platform/qt/window/box.cpp", "rect().contains(at.toPoint())", 1},
+        {"a size of the toolkit", "platform/qt/window/box.cpp", "QSizeF(w, h).toSize().width()", 1},
+        {"the one place", "platform/qt/whole.h", "return static_cast<int>(std::round(value));", 0},
+        {"a count", "platform/qt/folders.cpp", "all.reserve(static_cast<std::size_t>(list.size()));", 0},
+        {"a wider number", "platform/qt/surface.cpp", "static_cast<double>(height) / 2", 0},
+        {"another floor, where doors are", "render/raster.cpp", "static_cast<int>(x)", 0},
+        {"a comment", "platform/qt/surface.cpp", "// static_cast<int>(x) would not do\n", 0},
+    };
+    for (const Row& row : rows) check(row);
+}
+
 TEST(Architecture, ACircleOfFilesIsSeen)
 {
     EXPECT_EQ(circles({{"app/a.h", ""},

@@ -107,6 +107,34 @@ bool asksForFunctionByName(std::string_view line)
         asked, [code](std::string_view words) { return code.find(words) != std::string_view::npos; });
 }
 
+// A number that an int can't hold ends the program where it is cast, so that all of these go through one
+// checked place. The compiler refuses conversions without a cast; casts to sizes, to bytes and to whole
+// numbers of 64 bits can't be told from those of counts and times, and are let pass.
+constexpr std::string_view checkedPlace = "platform/qt/whole.h";
+
+bool makesNumberWhole(std::string_view line)
+{
+    constexpr std::string_view ways[] = {"static_cast<int>",
+                                         "static_cast<short>",
+                                         "static_cast<long>",
+                                         "static_cast<float>",
+                                         "static_cast<qint",
+                                         "static_cast<std::int16_t",
+                                         "static_cast<std::int32_t",
+                                         "lround(",
+                                         "lrint(",
+                                         "qRound",
+                                         "qFloor(",
+                                         "qCeil(",
+                                         ".toSize()",
+                                         ".toPoint()",
+                                         ".toRect()",
+                                         ".toAlignedRect()"};
+    const std::string_view code = line.substr(0, line.find("//"));
+    return std::ranges::any_of(
+        ways, [code](std::string_view way) { return code.find(way) != std::string_view::npos; });
+}
+
 } // namespace
 
 std::vector<std::string> faults(std::string_view path, std::string_view source)
@@ -123,6 +151,9 @@ std::vector<std::string> faults(std::string_view path, std::string_view source)
         if (from->folder != shell && asksForFunctionByName(line))
             found.push_back(std::string(path) +
                             ": compares the running function with a name: " + std::string(line));
+        if (path.starts_with("platform/") && path != checkedPlace && makesNumberWhole(line))
+            found.push_back(std::string(path) + ": makes a number whole beside " + std::string(checkedPlace) +
+                            ": " + std::string(line));
     });
     return found;
 }

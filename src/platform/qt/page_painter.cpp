@@ -2,6 +2,7 @@
 
 #include "platform/posix/disk.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/whole.h"
 
 #include <QBuffer>
 #include <QCursor>
@@ -17,7 +18,7 @@ namespace {
 
 constexpr double twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
-constexpr double pdfDotsPerInch = 600;
+constexpr int pdfDotsPerInch = 600;
 constexpr double degreesPerRadian = 57.29577951308232; // the toolkit's own degrees, not those of the drawing
 constexpr double sixteenthsPerDegree = 16;
 
@@ -41,13 +42,13 @@ QPageSize paperOfCountry()
 
 float twips(double points)
 {
-    return static_cast<float>(points * twipsPerPoint); // paper is a few thousand twips wide
+    return singleOf(points * twipsPerPoint);
 }
 
 int sixteenths(double radians)
 {
-    return static_cast<int>(
-        std::lround(radians * degreesPerRadian * sixteenthsPerDegree)); // within a turn or two
+    constexpr int turns = 2 * 360 * 16; // more than any remainder of a turn
+    return wholeWithin(radians * degreesPerRadian * sixteenthsPerDegree, -turns, turns);
 }
 
 } // namespace
@@ -123,7 +124,7 @@ void PagePainter::rotatedText(double x, double y, double height, int degrees, bo
     painter_.setPen(QPen(Qt::black, 1));
     painter_.setFont(face);
     painter_.translate(at(x, y));
-    painter_.rotate(-degrees);
+    painter_.rotate(0.0 - degrees); // the least whole number has no opposite
     painter_.scale(em / faceSize, em / faceSize);
     painter_.drawText(QPointF(0, QFontMetricsF(face, painter_.device()).ascent()), textOf(utf8));
     painter_.restore();
@@ -161,7 +162,7 @@ bool PdfPrinter::beginPage(const PageName& name)
     auto writer = std::make_unique<QPdfWriter>(buffer.get());
     writer->setPageSize(paper_);
     writer->setPageMargins(QMarginsF(0, 0, 0, 0));
-    writer->setResolution(static_cast<int>(pdfDotsPerInch)); // whole
+    writer->setResolution(pdfDotsPerInch);
     writer->setCreator(QStringLiteral("Mirtane 4.00"));
     writer->setTitle(QString::fromStdString(name.title));
     buffer_ = std::move(buffer);

@@ -2,6 +2,7 @@
 
 #include "geometry/fault.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/whole.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -43,8 +44,7 @@ void setLineHeight(QFont& font, int height)
     constexpr int sample = 256;
     font.setPixelSize(sample);
     const double share = sample / std::max(lineHeightOf(font), 1.0);
-    font.setPixelSize(
-        std::max(1, static_cast<int>(std::lround(height * share)))); // at most largestFace times share
+    font.setPixelSize(wholeWithin(height * share, 1, largestFace * sample));
 }
 
 bool isNear(PixelPoint at)
@@ -122,7 +122,7 @@ void Surface::text(float x, float y, int degrees, std::string_view utf8)
 void Surface::write(const Face& face, PixelPoint at, int degrees, const QString& text)
 {
     QTransform turned = QTransform::fromTranslate(at.x, at.y);
-    turned.rotate(-degrees); // the toolkit turns clockwise
+    turned.rotate(0.0 - degrees); // the toolkit turns clockwise; the least whole number has no opposite
     turned.scale(face.enlarged, face.enlarged);
     QFont font = face.font;
     font.setUnderline(underline_);

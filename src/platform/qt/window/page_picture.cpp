@@ -2,6 +2,7 @@
 
 #include "app/dialogs/print_dialog.h"
 #include "platform/qt/page_painter.h"
+#include "platform/qt/whole.h"
 
 #include <QPainter>
 
@@ -25,7 +26,7 @@ void PagePicture::paintEvent(QPaintEvent*)
     if (!(s.pageWidth > 0 && s.pageHeight > 0)) return;
     const double ratio = devicePixelRatioF();
     const double scale = std::min(width() * ratio / s.pageWidth, height() * ratio / s.pageHeight);
-    QImage page(QSizeF(s.pageWidth * scale, s.pageHeight * scale).toSize().expandedTo(QSize(1, 1)),
+    QImage page(wholeSize({s.pageWidth * scale, s.pageHeight * scale}).expandedTo(QSize(1, 1)),
                 QImage::Format_RGB32);
     page.fill(Qt::white);
     PicturePrinter printer(page, s.pageWidth, s.pageHeight, scale);

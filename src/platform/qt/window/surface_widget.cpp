@@ -1,5 +1,6 @@
 #include "platform/qt/window/surface_widget.h"
 
+#include "platform/qt/whole.h"
 #include "platform/qt/window/typed_keys.h"
 
 #include <QInputMethodEvent>
@@ -94,12 +95,12 @@ void SurfaceWidget::showPart(const PixelRect& pixels)
     const double ratio = devicePixelRatioF();
     const QPointF first(pixels.left / ratio, pixels.top / ratio);
     const QPointF last(pixels.right / ratio, pixels.bottom / ratio);
-    update(QRectF(first, last).toAlignedRect());
+    update(wholeRectRound({first, last}));
 }
 
 void SurfaceWidget::fitSurface()
 {
-    const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
+    const QSize pixels = wholeSize(QSizeF(size()) * devicePixelRatioF());
     const Size now = surface_.getPixelSize();
     const bool fits = pixels == QSize(now.width, now.height) && surface_.ratio() == devicePixelRatioF();
     if (pixels.isEmpty() || fits) return;

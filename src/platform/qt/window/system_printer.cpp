@@ -1,6 +1,7 @@
 #include "platform/qt/window/system_printer.h"
 
 #include "platform/qt/page_painter.h"
+#include "platform/qt/whole.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -15,12 +16,12 @@ constexpr double twipsPerPoint = 20;
 // Twips of the printable area; paper is a few thousand of them wide.
 float widthOf(const QPrinter& printer)
 {
-    return static_cast<float>(printer.pageLayout().paintRectPoints().width() * twipsPerPoint);
+    return singleOf(printer.pageLayout().paintRectPoints().width() * twipsPerPoint);
 }
 
 float heightOf(const QPrinter& printer)
 {
-    return static_cast<float>(printer.pageLayout().paintRectPoints().height() * twipsPerPoint);
+    return singleOf(printer.pageLayout().paintRectPoints().height() * twipsPerPoint);
 }
 
 // What a default printer is made of must be there before the page's size is read.

@@ -1,6 +1,7 @@
 #include "platform/qt/window/text_box.h"
 
 #include "platform/qt/fonts.h"
+#include "platform/qt/whole.h"
 #include "platform/qt/window/typed_keys.h"
 
 #include <QAction>
@@ -14,7 +15,7 @@ namespace {
 // The toolkit counts 16-bit units, a Control characters; beyond the first plane the two differ.
 int charactersBefore(const QString& text, int unit)
 {
-    return static_cast<int>(text.left(unit).toUcs4().size()); // texts are short
+    return countOf(text.left(unit).toUcs4().size());
 }
 
 int unitsBefore(const QString& text, int character)
@@ -169,7 +170,7 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event)
     // Who selects text in a field goes on there; what only shows something gives the focus back at once.
     const bool isDisplay = id_.row().kind == ControlKind::display;
     if (event->button() == Qt::LeftButton && (isDisplay || !hasSelectedText()) &&
-        rect().contains(event->position().toPoint())) {
+        rect().contains(wholePoint(event->position()))) {
         gate_.send([this](Shell& shell) { shell.click(id_); });
     }
 }
