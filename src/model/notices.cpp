@@ -18,6 +18,12 @@ void Notices::settle(Matter matter)
                     standing_.end());
 }
 
+bool Notices::tells(Matter matter) const
+{
+    return std::any_of(standing_.begin(), standing_.end(),
+                       [matter](const Notice& one) { return one.matter == matter; });
+}
+
 void Notices::settleOfDrawing()
 {
     for (const Matter matter :

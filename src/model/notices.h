@@ -13,6 +13,7 @@ namespace mirtane {
 
 enum class Matter : std::uint8_t {
     workLeft,     // by a program that is no longer alive
+    workNotKept,  // as the disk takes nothing
     leftOut,      // of a file, for want of room
     tableFull,    // an edit was refused
     fileChanged,  // by someone else, since it was opened or saved here
@@ -39,6 +40,7 @@ class Notices {
     void settle(Matter matter);
     // What is said of the drawing goes with it.
     void settleOfDrawing();
+    bool tells(Matter matter) const;
     // None where nothing is to be said.
     const Notice* shown() const;
 

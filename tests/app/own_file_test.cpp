@@ -186,7 +186,7 @@ TEST(OwnFile, ThatAnotherChangedIsNotReplacedUnseen)
         desk.press(menu);
         EXPECT_EQ(desk.button(), "Overwrite?");
         EXPECT_EQ(desk.caption("notice"_c),
-                  "house.mtd was changed by another program at 15:07. Saved now, it is as it stands here.");
+                  "house.mtd was changed on the disk at 15:07: saving replaces what is there.");
         EXPECT_EQ(desk.disk.files[housePath], theirs);
         desk.enter(); // it was said
         EXPECT_NE(desk.disk.files[housePath], theirs);
@@ -220,7 +220,7 @@ TEST(OwnFile, ThatVanishedIsTold)
     desk.press("fil7"_c);
     EXPECT_EQ(desk.button(), "Overwrite?");
     EXPECT_EQ(desk.caption("notice"_c),
-              "house.mtd is no longer where it was. Saved now, it is as it stands here.");
+              "house.mtd is no longer on the disk: saving puts it back.");
     desk.enter();
     EXPECT_TRUE(desk.disk.files.contains(housePath));
 }
@@ -288,7 +288,7 @@ TEST(OwnFile, ChangedBetweenTheLossAndTheRestoreIsTold)
     next.press("notice.Command1"_c);
     next.press("fil7"_c);
     EXPECT_EQ(next.caption("frmfile.Command1"_c), "Overwrite?");
-    EXPECT_NE(next.caption("notice"_c).find("was changed by another program at 16:00"), std::string::npos);
+    EXPECT_NE(next.caption("notice"_c).find("was changed on the disk at 16:00"), std::string::npos);
 }
 
 // More than there is room for

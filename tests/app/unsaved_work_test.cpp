@@ -173,6 +173,28 @@ TEST(UnsavedWork, StaysWhereNothingCoversIt)
     }
 }
 
+TEST(UnsavedWork, ThatCannotBeKeptIsToldAndTriedAgain)
+{
+    Desk desk;
+    desk.work.refuses = true;
+    desk.drawLine(100, 200, 300, 411);
+    desk.shell.rest();
+    const char* const said = "What you draw is not kept for the case that the machine goes down: the disk takes "
+                             "nothing. Save often.";
+    expectNotice(desk, said);
+    desk.move(400, 500);
+    desk.shell.rest();
+    expectNotice(desk, said);
+    EXPECT_EQ(desk.work.keeps, 2);
+    desk.work.refuses = false;
+    desk.shell.rest();
+    desk.drawLine(1, 2, 3, 4);
+    desk.shell.rest();
+    expectNotice(desk, "");
+    ASSERT_TRUE(desk.work.kept);
+    EXPECT_EQ(readKeptWork(*desk.work.kept)->drawing, drawingBytes(desk.s, SaveWhat::drawing));
+}
+
 // Bringing back
 
 TEST(LeftWork, IsOfferedAndBroughtBackUnderItsOwnName)

@@ -14,8 +14,9 @@ class MemoryWork : public WorkKeeper {
     void keep(Bytes work) override
     {
         ++keeps;
-        kept = std::move(work);
+        if (!refuses) kept = std::move(work);
     }
+    bool fails() const override { return refuses && keeps > 0; }
     void forget() override { kept.reset(); }
     std::vector<std::string> left() override
     {
@@ -41,6 +42,7 @@ class MemoryWork : public WorkKeeper {
     std::optional<Bytes> kept;
     std::map<std::string, Bytes> leftBehind; // by name
     int keeps = 0;
+    bool refuses = false;
 };
 
 class MemoryClock : public Clock {

@@ -24,13 +24,13 @@ bool isPlainName(const std::string& name)
 }
 
 // The drawing is from now on that of the file.
-void takeFile(App& app, const FileChoice& choice)
+void takeFile(App& app, const FileChoice& choice, const std::optional<FileStamp>& stamp)
 {
     FileState& s = app.s;
     s.drawingName = choice.name;
     s.drawingFile = pathOf(choice);
     s.drawingFolder = choice.folder;
-    watchOwnFile(app);
+    watchOwnFile(app, stamp);
     takeAsSaved(app);
 }
 
@@ -52,7 +52,7 @@ bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
     endWhatIsBegun(s, app.pic1);
     const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
     afterSave(s, what);
-    if (what == SaveWhat::drawing) takeFile(app, choice);
+    if (what == SaveWhat::drawing) takeFile(app, choice, app.ports.disk.stamp(pathOf(choice)));
     if (marksGo) redrawAll(s, app.pic1);
     return true;
 }
@@ -75,6 +75,7 @@ void mergeDrawing(App& app, const FileChoice& choice, const Bytes& file)
 
 bool openDrawingFile(App& app, const FileChoice& choice)
 {
+    const std::optional<FileStamp> stamp = app.ports.disk.stamp(pathOf(choice)); // what comes later is a change
     const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
     if (!file) return false;
     endWhatIsBegun(app.s, app.pic1);
@@ -83,7 +84,7 @@ bool openDrawingFile(App& app, const FileChoice& choice)
         mergeDrawing(app, choice, *file);
     } else {
         const std::int32_t leftOut = openDrawing(app, *file);
-        takeFile(app, choice);
+        takeFile(app, choice, stamp);
         if (leftOut > 0) takePartOfFile(app, choice, leftOut);
     }
     setPrompt(app.s, app.pic1);

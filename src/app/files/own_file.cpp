@@ -13,10 +13,9 @@ bool warnOfChange(App& app, const std::optional<FileStamp>& now)
     Session& s = app.s;
     s.notices.settle(Matter::fileChanged);
     if (now == s.savedStamp) return false;
-    const std::string sentence =
-        now ? s.drawingName + " was changed by another program at " + now->clock + "."
-            : s.drawingName + " is no longer where it was.";
-    say(s.notices, Matter::fileChanged, sentence + " Saved now, it is as it stands here.");
+    say(s.notices, Matter::fileChanged,
+        now ? s.drawingName + " was changed on the disk at " + now->clock + ": saving replaces what is there."
+            : s.drawingName + " is no longer on the disk: saving puts it back.");
     return true;
 }
 
@@ -34,7 +33,7 @@ bool warnOfOthers(App& app)
 
 } // namespace
 
-void watchOwnFile(App& app)
+void watchOwnFile(App& app, std::optional<FileStamp> stamp)
 {
     Session& s = app.s;
     OpenMarks* const marks = app.ports.marks;
@@ -45,12 +44,8 @@ void watchOwnFile(App& app)
     }
     s.notices.settle(Matter::fileChanged);
     s.notices.settle(Matter::openElsewhere);
-    s.savedStamp.reset();
-    if (!s.drawingFile.empty()) {
-        s.savedStamp = app.ports.disk.stamp(s.drawingFile);
-        warnOfOthers(app);
-    }
-    s.seenStamp = s.savedStamp;
+    if (!s.drawingFile.empty()) warnOfOthers(app);
+    s.savedStamp = s.seenStamp = std::move(stamp);
 }
 
 bool warnOfOwnFile(App& app)

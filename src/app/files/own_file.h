@@ -9,7 +9,8 @@ namespace mirtane {
 
 // The drawing is that of s.drawingFile as it is now on the disk; others are told that it is open here, and
 // this program that it is open there. Empty is no file.
-void watchOwnFile(App& app);
+// The stamp is that of before the file was read, or after it was written.
+void watchOwnFile(App& app, std::optional<FileStamp> stamp = {});
 
 // Says in the strip what stands in the way of saving the drawing to its file unseen: someone else changed it,
 // it is no longer there, or another program of ours has it open. Gives whether there was anything to say.

@@ -42,6 +42,16 @@ std::optional<KeptWork> workOnOffer(App& app)
     return bytes ? readKeptWork(*bytes) : std::nullopt;
 }
 
+// It is told once, and until it goes well again.
+void tellWhetherItFails(Notices& notices, const WorkKeeper& keeper)
+{
+    if (!keeper.fails()) return notices.settle(Matter::workNotKept);
+    if (notices.tells(Matter::workNotKept)) return;
+    notices.post({Matter::workNotKept,
+                  "What you draw is not kept for the case that the machine goes down: the disk takes nothing. Save often.",
+                  {}});
+}
+
 // What can't be read stays where it is, out of the way.
 void offerNext(App& app)
 {
@@ -81,9 +91,13 @@ void keepUnsavedWork(App& app)
 {
     Session& s = app.s;
     const WorkMark mark = workMark(s);
-    if (app.ports.work == nullptr || mark == s.keptMark) return;
+    WorkKeeper* const keeper = app.ports.work;
+    if (keeper == nullptr) return;
+    tellWhetherItFails(s.notices, *keeper);
+    if (mark == s.keptMark && !keeper->fails()) return;
     s.keptMark = mark;
-    app.ports.work->keep(keptWork(s, aboutDrawing(s, app.ports)));
+    keeper->keep(keptWork(s, aboutDrawing(s, app.ports)));
+    tellWhetherItFails(s.notices, *keeper);
 }
 
 void takeAsSaved(App& app)
@@ -124,8 +138,7 @@ void restoreLeftWork(App& app)
         forgetOwners(s.store);
         openDrawing(app, work->drawing);
         takeAsUnsaved(s, work->about);
-        watchOwnFile(app);
-        s.savedStamp = work->about.stamp; // as that run knew it: what others did since is told
+        watchOwnFile(app, work->about.stamp); // as that run knew it: what others did since is told
         setPrompt(s, app.pic1);
     }
     offerNext(app);

@@ -75,14 +75,16 @@ std::string KeptFiles::pathOf(const std::string& name) const
     return state_.path() + "/" + name;
 }
 
-// What fails leaves what was kept before; there is nobody to tell, and the next change tries again.
+// What fails leaves what was kept before.
 void KeptFiles::keep(Bytes work)
 {
-    if (const std::optional<std::string> path = own()) static_cast<void>(disk_.writeWhole(*path, work));
+    const std::optional<std::string> path = own();
+    fails_ = !path || !disk_.writeWhole(*path, work);
 }
 
 void KeptFiles::forget()
 {
+    fails_ = false;
     if (!holder_.file.isOpen()) return;
     ::unlink((holder_.path.string() + std::string(ending)).c_str());
 }

@@ -4,6 +4,8 @@
 #include "platform/posix/held_file.h"
 #include "platform/posix/state_folder.h"
 
+#include <atomic>
+
 namespace mirtane {
 
 // Kept work as files in the state folder. Beside that of each run stands a file which the run holds while it
@@ -17,6 +19,7 @@ class KeptFiles : public WorkKeeper {
     KeptFiles& operator=(const KeptFiles&) = delete;
 
     void keep(Bytes work) override;
+    bool fails() const override { return fails_; }
     void forget() override;
     std::vector<std::string> left() override;
     std::optional<Bytes> read(const std::string& name) override;
@@ -31,6 +34,7 @@ class KeptFiles : public WorkKeeper {
     StateFolder state_;
     Disk& disk_;
     HeldFile holder_;
+    std::atomic<bool> fails_ = false; // asked while another thread keeps
 };
 
 } // namespace mirtane

@@ -101,6 +101,7 @@ void MainWindow::rest()
 {
     rest_.stop();
     gate_.shell().rest();
+    copyControls(); // not by the gate, whose events begin the wait anew
 }
 
 void MainWindow::openWhenShown(const std::string& path)

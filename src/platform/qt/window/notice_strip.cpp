@@ -29,7 +29,9 @@ NoticeStrip::NoticeStrip(const ControlMaker& maker, QWidget* parent)
     row.setSpacing(12);
     row.addWidget(&sentence_, 1);
     for (const ControlId button : {ControlId(ids::noticeFirst), ControlId(ids::noticeSecond)}) {
-        row.addWidget(&maker.make(button, *this));
+        QWidget& widget = maker.make(button, *this);
+        widget.setFocusPolicy(Qt::TabFocus); // a click leaves the keys where they were
+        row.addWidget(&widget);
     }
     maker.views().add(ids::notice, *this);
 }
