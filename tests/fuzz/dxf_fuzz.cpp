@@ -13,11 +13,6 @@ using namespace mirtane::fuzz;
 
 namespace {
 
-float widthOf(const EntityRecord& r)
-{
-    return r.p2.x * static_cast<float>(r.t1.size()); // texts are below 16 million characters
-}
-
 bool isFinite(Point p)
 {
     return std::isfinite(p.x) && std::isfinite(p.y);
@@ -53,6 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Session& s = freshSession();
     open(s, rewritten ? tolerantDxf(file) : file);
     show(s);
+    showOnPage(s);
     changeStat(s.store, Stat::on, Stat::sel);
     DxfScratch scratch;
     const DxfFile written = dxfFile(s.store, scratch);

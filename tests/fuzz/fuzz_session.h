@@ -4,15 +4,20 @@
 
 #include "files/drawing_file.h"
 #include "model/session.h"
+#include "print/page.h"
+#include "print/recording_printer.h"
 #include "render/entity_bounds.h"
 #include "render/raster_canvas.h"
 #include "render/redraw.h"
 #include "text/utf8.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <string_view>
+#include <utility>
 
 namespace mirtane::fuzz {
 
@@ -44,10 +49,17 @@ inline Session& freshSession()
     return s;
 }
 
-// A small surface that really paints; each character of a text is a box.
+// A small surface that really paints, and counts what it is asked to; each character of a text is a box.
 class SmallCanvas : public RasterCanvas {
   public:
     SmallCanvas() : RasterCanvas(60, 40) {}
+
+    void line(float x1, float y1, float x2, float y2) override
+    {
+        ++strokes_;
+        RasterCanvas::line(x1, y1, x2, y2);
+    }
+    std::int64_t takeStrokes() { return std::exchange(strokes_, 0); }
 
     void setFontName(std::string_view) override {}
     void setFontSize(float size) override { size_ = size; }
@@ -63,21 +75,64 @@ class SmallCanvas : public RasterCanvas {
 
   private:
     float size_ = 0;
+    std::int64_t strokes_ = 0;
 };
+
+inline float widthOf(const EntityRecord& r)
+{
+    return 0.6F * r.p2.x * static_cast<float>(utf8Length(r.t1)); // as above
+}
+
+// No object may ask for more than a bounded number of strokes, whatever it holds and wherever one looks.
+inline void showFrom(Session& s, SmallCanvas& pic1, const Scale& scale)
+{
+    constexpr std::int64_t mostStrokes = 12000;
+    pic1.setScale(scale);
+    readViewLimits(s, pic1);
+    pic1.takeStrokes();
+    redrawAll(s, pic1);
+    require(pic1.takeStrokes() <= mostStrokes * s.store.end(), "strokes of a redraw");
+}
+
+// From far out, from between two numbers of 32 bits, and from so near that a point fills the window.
+inline void showAround(Session& s, SmallCanvas& pic1)
+{
+    showFrom(s, pic1, {-1.5e38F, -1e38F, 3e38F, 2e38F});
+    showFrom(s, pic1, {2e9F, -2e9F, 0.3F, 0.2F});
+    for (std::int32_t i = 1; i < std::min(s.store.end(), 4); ++i) {
+        const Point p = s.store.p1[EntityStore::at(i)];
+        const float rad = s.store.rad[EntityStore::at(i)];
+        for (const Point at : {p, Point{p.x + rad, p.y}, s.store.p2[EntityStore::at(i)]})
+            if (std::isfinite(at.x) && std::isfinite(at.y)) showFrom(s, pic1, {at.x, at.y, 0.003F, 0.002F});
+    }
+}
+
+inline void showOnPage(Session& s)
+{
+    constexpr float pageWidth = 12240, pageHeight = 15840;
+    constexpr std::size_t mostMarks = 400;
+    changeStat(s.store, Stat::on, Stat::sel);
+    s.pageWidth = pageWidth;
+    s.pageHeight = pageHeight;
+    s.printFactor = 1;
+    fittedScale(s, s.store);
+    RecordingPrinter printer;
+    drawPage(s.store, pageMapping(s, s.store), s.pageHeight, printer);
+    require(printer.printed().size() <= mostMarks * EntityStore::at(s.store.end()), "marks on a page");
+    changeStat(s.store, Stat::sel, Stat::on);
+}
 
 // Fits the view to the drawing and paints it, as opening a drawing does.
 inline void show(Session& s)
 {
     static SmallCanvas pic1;
-    const TextWidthOf widthOf = [](const EntityRecord& r) {
-        return 0.6F * r.p2.x * static_cast<float>(utf8Length(r.t1)); // as above
-    };
     setTextAnchors(s.store, widthOf);
     Scale scale{0, 0, 240, 160};
     fitScaleOrMove(drawingBounds(s.store, widthOf), 1.5, scale);
     pic1.setScale(scale);
     readViewLimits(s, pic1);
     redrawAll(s, pic1);
+    showAround(s, pic1);
     fixUpLinesAndCircles(s.store);
 }
 

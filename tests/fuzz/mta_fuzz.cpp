@@ -16,5 +16,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(written.size() <= size && std::equal(written.begin(), written.end(), data),
             "an associate written");
     show(s);
+    showOnPage(s);
     return 0;
 }

@@ -21,5 +21,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     mergeLayer(s, file, someLayer);
     requireTables(s);
     show(s);
+    showOnPage(s);
     return 0;
 }
