@@ -9,6 +9,7 @@
 #include "geometry/fault.h"
 #include "model/insertion.h"
 #include "model/missing.h"
+#include "model/room.h"
 #include "render/painters.h"
 #include "render/redraw.h"
 #include "tables/list_modes.h"
@@ -136,10 +137,8 @@ template <class Use> void forEachLine(Session& s, Use use)
     }
 }
 
-// False when the table has no slot for it.
-bool storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
+void storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
 {
-    const bool fits = EntityStore::holds(s.store.entCount);
     EntityRecord r = s.store.record(s.store.entCount);
     r.p1 = row.legStart;
     r.p2 = row.legEnd;
@@ -153,24 +152,26 @@ bool storeLine(Session& s, Canvas& pic1, const MultipleLine& row)
     pic1.setColor(row.colour);
     pic1.setStyle(row.style);
     paintLineSegment(pic1, s, r.p1, r.p2);
-    return fits;
 }
 
-void storeLegs(Session& s, Canvas& pic1)
+// False if there is no room for the legs of all lines.
+bool storeLegs(Session& s, Canvas& pic1)
 {
+    std::int64_t lines = 0;
+    forEachLine(s, [&](const MultipleLine&) { ++lines; });
+    if (!hasRoomFor(s, lines)) return false;
     const Corner corner = cornerUnderway(s);
-    Missing missing;
     restorePicture(pic1);
     forEachLine(s, [&](MultipleLine& row) {
         row.legEnd = narrowed(corner.mitre(row.m1), row.legEnd);
-        if (!storeLine(s, pic1, row)) ++missing.pieces;
+        storeLine(s, pic1, row);
         row.legStart = row.legEnd;
     });
     pic1.snapshot();
     setRubberBandPen(pic1);
     endGroup(s.log);
     updateGauge(s);
-    tellMissing(s.controls, missing);
+    return true;
 }
 
 void drawLine(Canvas& pic1, Point from, Point to)
@@ -243,7 +244,7 @@ void multipleLinesStep(Session& s, Canvas& pic1)
         s.ptB = s.pickLast;
         goOnFromEnd(s);
     } else if (s.stepNo > 2) {
-        storeLegs(s, pic1);
+        if (!storeLegs(s, pic1)) return;
         s.ptA = s.ptB;
         s.ptB = s.pickLast;
         goOnFromEnd(s);

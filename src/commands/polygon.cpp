@@ -4,6 +4,7 @@
 #include "commands/prompt.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
+#include "model/room.h"
 #include "render/redraw.h"
 
 namespace mirtane {
@@ -46,7 +47,7 @@ void commitSides(Session& s, Canvas& pic1)
 void polygonStep(Session& s, Canvas& pic1)
 {
     if (s.stepNo == 1) setPrompt(s, pic1);
-    if (s.stepNo != 2) return;
+    if (s.stepNo != 2 || !hasRoomFor(s, s.polygonSides)) return;
     commitSides(s, pic1);
     setText(s.controls[ids::typedDigits], "");
     s.pickFirst = s.pickLast;

@@ -3,6 +3,7 @@
 #include "commands/prompt.h"
 #include "commands/typed_text.h"
 #include "model/insertion.h"
+#include "model/room.h"
 #include "render/redraw.h"
 #include "render/text_painter.h"
 #include "snap/pick.h"
@@ -86,7 +87,10 @@ void textEditPreview(Session& s, Canvas& pic1)
 
 void finishTextEdit(Session& s, Canvas& pic1)
 {
-    if (stillThere(s)) replacePicked(s, pic1);
+    if (stillThere(s)) {
+        if (!hasRoomFor(s, 1)) return textEditPreview(s, pic1); // what was typed can still be had
+        replacePicked(s, pic1);
+    }
     redrawAll(s, pic1);
     clearTypedText(s);
     s.stepNo = 0;

@@ -104,14 +104,19 @@ bool breakObject(const EntityRecord& r, Cut& cut, Pieces& pieces)
     return false;
 }
 
-void breakSelection(Session& s, Cut cut)
+// False if there is no room for all pieces.
+bool breakSelection(Session& s, Cut cut)
 {
+    Pieces pieces;
+    std::vector<std::int32_t> broken, whole;
     for (const std::int32_t slot : selectedSlots(s.store)) {
-        Pieces pieces;
-        if (!breakObject(s.store.record(slot), cut, pieces)) s.store.setStat(slot, Stat::on);
-        for (const EntityRecord& piece : pieces) addObject(s, piece);
+        (breakObject(s.store.record(slot), cut, pieces) ? broken : whole).push_back(slot);
     }
-    turnSources(s, selectedSlots(s.store), Sources::goOut);
+    if (!hasRoomFor(s, std::ssize(pieces))) return false;
+    for (const EntityRecord& piece : pieces) addObject(s, piece);
+    turnSources(s, whole, Sources::comeOn);
+    turnSources(s, broken, Sources::goOut);
+    return true;
 }
 
 } // namespace
@@ -125,8 +130,7 @@ void editBreak(Session& s, Canvas& pic1)
     }
     s.editStepX = s.pickLast.x;
     s.editStepY = s.pickLast.y;
-    breakSelection(s, {{s.editDX, s.editDY}, {s.editStepX, s.editStepY}});
-    endRun(s, pic1);
+    if (breakSelection(s, {{s.editDX, s.editDY}, {s.editStepX, s.editStepY}})) endRun(s, pic1);
 }
 
 } // namespace mirtane

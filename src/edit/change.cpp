@@ -31,15 +31,16 @@ void deselect(Session& s, Canvas& pic1)
     s.controls.focus = ids::drawing;
 }
 
-void changeSelection(Session& s, Canvas& pic1, const Changes& changes)
+bool changeSelection(Session& s, Canvas& pic1, const Changes& changes)
 {
-    runOnSelection(s, Sources::goOut, [&changes](EntityRecord r) {
+    const bool done = runOnSelection(s, Sources::goOut, [&changes](EntityRecord r) {
         r.layer = changes.layer.value_or(r.layer);
         r.color = changes.color.value_or(r.color);
         if (hasLineStyle(r.kind)) r.style = changes.style.value_or(r.style);
         return r;
     });
-    endRun(s, pic1);
+    if (done) endRun(s, pic1);
+    return done;
 }
 
 } // namespace mirtane

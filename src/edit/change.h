@@ -25,7 +25,7 @@ struct Changes {
 };
 
 // The selected objects anew, with the changes, also when there are none. On a hidden layer they are shown
-// until the layer is next switched.
-void changeSelection(Session& s, Canvas& pic1, const Changes& changes);
+// until the layer is next switched. False if there is no room for all of them: then nothing was done.
+bool changeSelection(Session& s, Canvas& pic1, const Changes& changes);
 
 } // namespace mirtane

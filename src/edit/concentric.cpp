@@ -22,9 +22,9 @@ EntityRecord offset(EntityRecord r, float by)
 void editConcentric(Session& s, Canvas& pic1)
 {
     const float by = s.offsetDistance;
-    runOnSelection(
+    const bool done = runOnSelection(
         s, Sources::comeOn, [by](EntityRecord r) { return offset(std::move(r), by); }, isRound);
-    endRun(s, pic1);
+    if (done) endRun(s, pic1);
 }
 
 } // namespace mirtane

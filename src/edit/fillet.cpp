@@ -86,23 +86,27 @@ void cutTo(Session& s, std::int32_t slot, Point touch)
     turnSources(s, {slot}, Sources::goOut);
 }
 
-void filletSelection(Session& s)
+// False if there is no room for the arc and the two objects that it joins.
+bool filletSelection(Session& s)
 {
+    constexpr std::int64_t objects = 3;
     const std::vector<std::int32_t> selected = selectedSlots(s.store);
-    if (selected.size() < 2) return;
+    if (selected.size() < 2) return true;
     const EntityRecord first = s.store.record(selected.front());
     const auto fillet = filletOf(s, first, s.store.record(selected.back()));
-    if (!fillet) return;
+    if (!fillet) return true;
+    if (!hasRoomFor(s, objects)) return false;
     addObject(s, roundingArc(first, *fillet, s.filletRadius));
     cutTo(s, selected.front(), fillet->firstTouch);
     cutTo(s, selected.back(), fillet->secondTouch);
+    return true;
 }
 
 } // namespace
 
 void editFillet(Session& s, Canvas& pic1)
 {
-    filletSelection(s);
+    if (!filletSelection(s)) return;
     turnSources(s, selectedSlots(s.store), Sources::comeOn);
     s.editPending = 0;
     s.stepNo = 0;

@@ -89,8 +89,8 @@ void editMirror(Session& s, Canvas& pic1)
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 2) return;
     const MirrorLine line(s.pickFirst, s.pickLast);
-    runOnSelection(s, Sources::comeOn, [&](EntityRecord r) { return mirrored(pic1, line, std::move(r)); });
-    endRun(s, pic1);
+    const auto rule = [&](EntityRecord r) { return mirrored(pic1, line, std::move(r)); };
+    if (runOnSelection(s, Sources::comeOn, rule)) endRun(s, pic1);
 }
 
 void mirrorBand(Session& s, Canvas& pic1)

@@ -45,10 +45,10 @@ void setOffset(Session& s)
     }
 }
 
-void copyWithOffset(Session& s, Sources sources)
+bool copyWithOffset(Session& s, Sources sources)
 {
     setOffset(s);
-    runOnSelection(s, sources, [&s](EntityRecord r) {
+    return runOnSelection(s, sources, [&s](EntityRecord r) {
         shift(r, s.editDX, s.editDY);
         return r;
     });
@@ -64,15 +64,14 @@ void editMove(Session& s, Canvas& pic1)
         setPrompt(s, pic1);
         return;
     }
-    copyWithOffset(s, Sources::goOut);
-    endRun(s, pic1);
+    if (copyWithOffset(s, Sources::goOut)) endRun(s, pic1);
 }
 
 void editCopy(Session& s, Canvas& pic1)
 {
     if (s.stepNo < 1) return;
     if (s.stepNo > 1) {
-        copyWithOffset(s, Sources::stay);
+        if (!copyWithOffset(s, Sources::stay)) return;
         closeGroup(s, pic1);
     }
     setPrompt(s, pic1);

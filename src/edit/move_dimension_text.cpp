@@ -76,6 +76,7 @@ void editMoveDimText(Session& s, Canvas& pic1)
         restorePicture(pic1);
         return;
     }
+    if (!hasRoomFor(s, 1)) return;
     replacePicked(s);
     endRun(s, pic1);
 }

@@ -180,11 +180,11 @@ void editScale(Session& s, Canvas& pic1)
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 3) return;
     const Scaling scaling{s.pickFirst, s.editDX, s.editDY, pic1};
-    runOnSelection(s, Sources::goOut, [&scaling](EntityRecord r) {
+    const bool done = runOnSelection(s, Sources::goOut, [&scaling](EntityRecord r) {
         rules[placeOf(r.kind)](scaling, r);
         return r;
     });
-    endRun(s, pic1);
+    if (done) endRun(s, pic1);
 }
 
 } // namespace mirtane

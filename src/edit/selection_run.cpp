@@ -5,6 +5,8 @@
 #include "render/redraw.h"
 #include "tables/kinds.h"
 
+#include <algorithm>
+
 namespace mirtane {
 
 std::vector<std::int32_t> selectedSlots(const EntityStore& store)
@@ -15,6 +17,12 @@ std::vector<std::int32_t> selectedSlots(const EntityStore& store)
         if (store.stat[at] == Stat::sel && isDrawnKind(store.kind[at])) selected.push_back(i);
     }
     return selected;
+}
+
+std::int64_t countSelected(const EntityStore& store, bool (*takes)(Kind))
+{
+    return std::ranges::count_if(selectedSlots(store),
+                                 [&](std::int32_t slot) { return takes(store.kind[EntityStore::at(slot)]); });
 }
 
 void addObject(Session& s, const EntityRecord& r)

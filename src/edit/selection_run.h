@@ -5,6 +5,7 @@
 // in one group, so that undo needs nothing from any edit.
 
 #include "model/insertion.h"
+#include "model/room.h"
 #include "render/canvas.h"
 #include "tables/kinds.h"
 
@@ -20,27 +21,28 @@ enum class Sources {
 // The slots that are "sel", of kinds 1 to 10 alone, in their order.
 std::vector<std::int32_t> selectedSlots(const EntityStore& store);
 
-// Writes the fields of the object's kind into the next slot, "on", and commits it in the group under way.
-// Past the table's end the object is lost without a word, and entCount grows all the same.
+// How many of them are of a kind that takes says yes to.
+std::int64_t countSelected(const EntityStore& store, bool (*takes)(Kind));
+
+// Writes the fields of the object's kind into the next slot, "on", and commits it in the group under way. The
+// caller has asked for room.
 void addObject(Session& s, const EntityRecord& r);
 
 void turnSources(Session& s, const std::vector<std::int32_t>& selected, Sources to);
 
 // rule gives the changed object for each selected one that takes, a test of the kind, says yes to.
-// All selected objects then become what sources says. The group stays open.
+// All selected objects then become what sources says. The group stays open. False if there is no room for all
+// of them: then nothing was done.
 template <class Rule>
-void runOnSelection(Session& s, Sources sources, Rule rule, bool (*takes)(Kind) = isDrawnKind)
+[[nodiscard]] bool runOnSelection(Session& s, Sources sources, Rule rule, bool (*takes)(Kind) = isDrawnKind)
 {
+    if (!hasRoomFor(s, countSelected(s.store, takes))) return false;
     const std::vector<std::int32_t> selected = selectedSlots(s.store);
     for (const std::int32_t slot : selected) {
-        if (!takes(s.store.kind[EntityStore::at(slot)])) continue;
-        if (EntityStore::holds(s.store.entCount)) {
-            addObject(s, rule(s.store.record(slot)));
-        } else {
-            commitInGroup(s); // no slot takes it: nothing is worked out
-        }
+        if (takes(s.store.kind[EntityStore::at(slot)])) addObject(s, rule(s.store.record(slot)));
     }
     turnSources(s, selected, sources);
+    return true;
 }
 
 // Ends the group, also one in which nothing was written, and shows the gauge and the whole picture.

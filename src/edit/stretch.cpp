@@ -127,14 +127,14 @@ void takeWindow(Session& s)
     s.stretchBottom = bottom;
 }
 
-void pullSelection(Session& s)
+bool pullSelection(Session& s)
 {
     s.editDX = 0;
     s.editDY = 0;
     keep(s.editDX, static_cast<double>(s.pickLast.x) - s.pickFirst.x); // widened before the difference
     keep(s.editDY, static_cast<double>(s.pickLast.y) - s.pickFirst.y); // widened before the difference
     const Pull pull{s.stretchLeft, s.stretchTop, s.stretchRight, s.stretchBottom, s.editDX, s.editDY, s};
-    runOnSelection(s, Sources::goOut, [&pull](EntityRecord r) {
+    return runOnSelection(s, Sources::goOut, [&pull](EntityRecord r) {
         rules[placeOf(r.kind)](pull, r); // only drawn kinds are selected
         return r;
     });
@@ -155,8 +155,8 @@ void editStretch(Session& s, Canvas& pic1)
 {
     if (s.stepNo < 1) return;
     if (s.stepNo == 4) {
-        pullSelection(s);
-        return endRun(s, pic1);
+        if (pullSelection(s)) endRun(s, pic1);
+        return;
     }
     if (s.stepNo == 1) s.editPending = 1;
     if (s.stepNo == 2) takeWindow(s);

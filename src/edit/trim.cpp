@@ -5,7 +5,9 @@
 #include "geometry/crossing.h"
 #include "snap/object_search.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace mirtane {
 namespace {
@@ -45,7 +47,7 @@ class Trim {
     {
     }
 
-    // False ends the run.
+    // False ends the run. Nothing is in the drawing yet.
     bool trimObject(std::int32_t slot)
     {
         const EntityRecord object = s_.store.record(slot);
@@ -54,11 +56,20 @@ class Trim {
         if (boundary_.kind == Kind::line && object.kind == Kind::line) {
             if (found.count == 0 || isFarOff(found.points[0])) return false;
         } else if (found.count == 0) {
-            s_.store.setStat(slot, Stat::on);
+            missed_.push_back(slot);
             return true;
         }
         s_.pickLast = nearerCrossing(found, chosenBy(object), s_.pickLast);
-        addObject(s_, cutTo(object, s_.pickLast));
+        cut_.push_back(cutTo(object, s_.pickLast));
+        return true;
+    }
+
+    // False if there is no room for all that was cut.
+    bool takeIntoDrawing()
+    {
+        if (!hasRoomFor(s_, std::ssize(cut_))) return false;
+        for (const EntityRecord& object : cut_) addObject(s_, object);
+        turnSources(s_, missed_, Sources::comeOn);
         return true;
     }
 
@@ -80,7 +91,8 @@ class Trim {
 
     EntityRecord cutTo(const EntityRecord& object, Point at) const
     {
-        if (object.kind == Kind::arc) return cutArc(object, at, s_.store.record(s_.store.entCount));
+        const auto slot = s_.store.entCount + static_cast<std::int32_t>(cut_.size()); // at most 60,000 more
+        if (object.kind == Kind::arc) return cutArc(object, at, s_.store.record(slot));
         return trimmedLine(object, at, boundary_.kind == Kind::line ? toSpareAtLine : toSpareAtRound);
     }
 
@@ -93,6 +105,8 @@ class Trim {
     Session& s_;
     Scale scale_;
     EntityRecord boundary_;
+    std::vector<EntityRecord> cut_;
+    std::vector<std::int32_t> missed_;
 };
 
 ObjectHit findBoundary(const Session& s, const Canvas& pic1)
@@ -113,9 +127,9 @@ void editTrim(Session& s, Canvas& pic1)
     if (!hit.found()) return;
     s.pickLast = hit.at;
     Trim trim(s, pic1, hit.slot);
-    for (const std::int32_t slot : selectedSlots(s.store)) {
-        if (!trim.trimObject(slot)) return;
-    }
+    const bool goesThrough =
+        std::ranges::all_of(selectedSlots(s.store), [&](std::int32_t slot) { return trim.trimObject(slot); });
+    if (!trim.takeIntoDrawing() || !goesThrough) return;
     turnSources(s, selectedSlots(s.store), Sources::goOut);
     endRun(s, pic1);
 }

@@ -9,6 +9,7 @@
 #include "model/kind_fields.h"
 #include "model/missing.h"
 #include "model/record_moves.h"
+#include "model/room.h"
 #include "render/entity_painter.h"
 #include "render/redraw.h"
 #include "tables/kinds.h"
@@ -99,8 +100,7 @@ template <class Use> void forEachPlaced(const Session& s, Use use)
     }
 }
 
-// False when the table has no slot for it.
-bool addPlaced(Session& s, EntityRecord object)
+void addPlaced(Session& s, EntityRecord object)
 {
     const std::int32_t slot = s.store.entCount;
     object.layer = s.workLayer;
@@ -108,9 +108,8 @@ bool addPlaced(Session& s, EntityRecord object)
     s.store.setStat(slot, Stat::on);
     // The slot may have been a piece before the drawing was closed, and must not become one of this
     // associate.
-    if (EntityStore::holds(slot)) s.store.ownerName[EntityStore::at(slot)].clear();
+    s.store.ownerName[EntityStore::at(slot)].clear();
     commitInGroup(s);
-    return EntityStore::holds(slot);
 }
 
 } // namespace
@@ -159,16 +158,15 @@ void placeAssociateStep(Session& s, Canvas& pic1)
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 2) return;
     computePixelMapping(s, pic1);
-    Missing missing;
-    forEachPlaced(s, [&](const EntityRecord& object) {
-        if (!addPlaced(s, object)) ++missing.pieces;
-    });
+    std::vector<EntityRecord> placed;
+    forEachPlaced(s, [&](const EntityRecord& object) { placed.push_back(object); });
+    if (!hasRoomFor(s, std::ssize(placed))) return;
+    for (const EntityRecord& object : placed) addPlaced(s, object);
     updateGauge(s);
     endGroup(s.log);
     redrawAll(s, pic1);
     s.stepNo = 0;
     setPrompt(s, pic1);
-    tellMissing(s.controls, missing);
 }
 
 void placeAssociateBand(Session& s, Canvas& pic1)

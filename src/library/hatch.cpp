@@ -8,38 +8,38 @@
 #include "library/libraries.h"
 #include "model/insertion.h"
 #include "model/kind_fields.h"
+#include "model/room.h"
 #include "render/redraw.h"
 #include "tables/list_modes.h"
+
+#include <optional>
 
 namespace mirtane {
 namespace {
 
 // -- placing --
 
-// False when the table has no slot for it.
-bool addPiece(Session& s, EntityRecord r)
+void addPiece(Session& s, EntityRecord r)
 {
     const std::int32_t slot = s.store.entCount;
     r.layer = s.workLayer;
     r.color = s.curColor;
     writeFieldsOfKind(s.store, slot, r);
-    if (EntityStore::holds(slot)) {
-        s.store.t1[EntityStore::at(slot)].clear();
-        s.store.t2[EntityStore::at(slot)].clear();
-    }
+    s.store.t1[EntityStore::at(slot)].clear();
+    s.store.t2[EntityStore::at(slot)].clear();
     s.store.setStat(slot, Stat::on);
     commitInGroup(s);
-    return EntityStore::holds(slot);
 }
 
-Missing fill(Session& s)
+// Gives what the tables of a fill had no room for; nothing if the drawing's has none for what they hold.
+std::optional<Missing> fill(Session& s)
 {
     Missing missing;
     const HatchFill wanted{closedBoundary(s), s.hatchLibrary.used(), s.hatchName, s.hatchScale,
                            s.hatchRotation};
-    for (const HatchPiece& piece : fillHatch(wanted, missing)) {
-        if (!addPiece(s, hatchObject(piece, wanted))) ++missing.pieces;
-    }
+    const std::vector<HatchPiece> pieces = fillHatch(wanted, missing);
+    if (!hasRoomFor(s, std::ssize(pieces))) return std::nullopt;
+    for (const HatchPiece& piece : pieces) addPiece(s, hatchObject(piece, wanted));
     endGroup(s.log);
     return missing;
 }
@@ -121,12 +121,13 @@ void placeHatchStep(Session& s, Canvas& pic1)
     const bool closed = takeBoundaryClick(s) == BoundaryClick::closed;
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (!closed) return;
-    const Missing missing = fill(s);
+    const std::optional<Missing> missing = fill(s);
+    if (!missing) return;
     dropBoundary(s);
     s.stepNo = 0;
     redrawAll(s, pic1);
     setPrompt(s, pic1);
-    tellMissing(s.controls, missing);
+    tellMissing(s.controls, *missing);
 }
 
 void createHatchStep(Session& s, Canvas& pic1)

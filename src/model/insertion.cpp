@@ -1,6 +1,7 @@
 #include "model/insertion.h"
 
 #include "model/missing.h"
+#include "model/room.h"
 #include "text/numbers.h"
 
 namespace mirtane {
@@ -173,7 +174,7 @@ void updateGauge(Session& s)
 {
     std::string percent = formatNumber(s.store.entCount / slotsPerPercent, NumberFormat::paddedThousandths);
     // What is missing says more than the warning that it may come to that.
-    if (s.store.entCount >= warnFromCount && !tellsMissing(s.controls)) {
+    if (s.store.entCount >= warnFromCount && !tellsMissing(s.controls) && !tellsNoRoom(s.controls)) {
         setText(s.controls[ids::entry], "You are out of memory! Save and exit now.");
     }
     if (s.numComma == 1) percent = withComma(percent);

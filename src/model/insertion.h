@@ -26,8 +26,8 @@ void commitInGroup(Session& s); // the action goes on: the caller ends the group
 void commitSlot(Session& s);    // the object is the whole action
 
 // Shows the share of the table in use in memy, and warns in entry when it is nearly full, unless entry tells
-// of pieces that are missing. An insertion calls it before entCount is advanced, so it lags one object
-// behind.
+// of pieces that are missing or of an action that was refused for want of room. An insertion calls it before
+// entCount is advanced, so it lags one object behind.
 void updateGauge(Session& s);
 
 } // namespace mirtane

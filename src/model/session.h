@@ -229,6 +229,8 @@ struct Session : Attributes,
                  PickResults,
                  EditState,
                  PrintState {
+    std::int64_t roomMissing = 0; // objects for which the action under way, if it is refused, has no room
+
     EntityStore store;
     UndoLog log;
     LayerTable layerTable;

@@ -514,7 +514,7 @@ void fillTable(LibraryDesk& desk, std::int32_t freeSlots)
     desk.s.store.entCount = EntityStore::slotCount - freeSlots;
 }
 
-TEST(LibraryMenus, WhatTheTableCouldNotTakeWholeIsSaidAfterTheWarningThatItIsFull)
+TEST(LibraryMenus, WhatTheTableHasNoRoomForIsSaidAfterTheWarningThatItIsFull)
 {
     LibraryDesk desk;
     desk.drawLine(1000, 1020, 1100, 1020);
@@ -528,20 +528,20 @@ TEST(LibraryMenus, WhatTheTableCouldNotTakeWholeIsSaidAfterTheWarningThatItIsFul
     desk.press(associates.place);
     desk.choose(0);
     desk.click(2000, 2000);
-    EXPECT_EQ(desk.text("entry"_c), "The table is full: 1 piece is missing");
-    EXPECT_EQ(desk.text("memy"_c), "100.003");
+    EXPECT_EQ(desk.text("entry"_c), "Not done: room for 1 more object is missing");
+    EXPECT_EQ(desk.text("memy"_c), "100.000");
 
     desk.press(multipleLines.place);
     desk.choose(0);
     for (const Point p : {Point{2100, 2000}, {2500, 2000}, {2500, 2600}}) desk.click(p.x, p.y);
-    EXPECT_EQ(desk.text("entry"_c), "The table is full: 2 pieces are missing");
+    EXPECT_EQ(desk.text("entry"_c), "Not done: room for 1 more object is missing");
     desk.cancel();
 
     desk.press(hatches.place);
     desk.choose(0);
     desk.fillSquare();
-    EXPECT_TRUE(desk.text("entry"_c).starts_with("The table is full: 2")) << desk.text("entry"_c);
-    EXPECT_TRUE(desk.text("entry"_c).ends_with(" pieces are missing"));
+    EXPECT_TRUE(desk.text("entry"_c).starts_with("Not done: room for ")) << desk.text("entry"_c);
+    EXPECT_TRUE(desk.text("entry"_c).ends_with(" more objects is missing"));
     desk.click(1, 1);
     EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.") << "of the next click";
 }

@@ -426,15 +426,15 @@ TEST(MultipleLines, PointsOnOneSpotDoNoHarm)
     }
 }
 
-TEST(MultipleLines, ACornerSaysHowManyOfItsLinesTheTableHadNoRoomFor)
+TEST(MultipleLines, ACornerSaysForHowManyLinesTheTableHasNoRoom)
 {
     struct Row {
         std::int32_t freeSlots; // of three lines
         const char* said;
     };
-    const Row rows[] = {{0, "The table is full: 3 pieces are missing"},
-                        {1, "The table is full: 2 pieces are missing"},
-                        {2, "The table is full: 1 piece is missing"}};
+    const Row rows[] = {{0, "Not done: room for 3 more objects is missing"},
+                        {1, "Not done: room for 2 more objects is missing"},
+                        {2, "Not done: room for 1 more object is missing"}};
     for (const Row& row : rows) {
         Drawn run({10, 20, -5});
         run.s.store.entCount = EntityStore::slotCount - row.freeSlots;
@@ -443,15 +443,15 @@ TEST(MultipleLines, ACornerSaysHowManyOfItsLinesTheTableHadNoRoomFor)
     }
 }
 
-TEST(MultipleLines, AFullTableLosesLinesWithoutHarm)
+TEST(MultipleLines, AFullTableTakesNoLineRatherThanSome)
 {
     Drawn run({10, 20});
     run.s.store.entCount = EntityStore::slotCount - 1;
     run.click({0, 0});
     run.click({100, 0});
     run.click({100, 100});
-    EXPECT_EQ(run.s.store.entCount, EntityStore::slotCount + 1);
-    EXPECT_EQ(run.slot(EntityStore::slotCount - 1).kind, Kind::line);
+    EXPECT_EQ(run.s.store.entCount, EntityStore::slotCount - 1);
+    EXPECT_EQ(run.slot(EntityStore::slotCount - 1).kind, Kind{});
 }
 
 } // namespace

@@ -325,17 +325,17 @@ TEST(PlaceAssociate, ShowsTheGauge)
     EXPECT_EQ(desk.text("memy"_c), "000.498");
 }
 
-TEST(PlaceAssociate, AFullTableLosesObjectsWithoutHarm)
+TEST(PlaceAssociate, AFullTableTakesNone)
 {
     PlaceDesk desk;
     desk.piece(fake::line({0, 0}, {10, 20}));
     desk.piece(fake::circle({5, 5}, 2));
     desk.s.store.entCount = EntityStore::slotCount;
     desk.click(100, 100);
-    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 2);
+    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount);
 }
 
-TEST(PlaceAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
+TEST(PlaceAssociate, SaysForHowManyObjectsTheTableHasNoRoom)
 {
     struct Row {
         const char* what;
@@ -344,10 +344,10 @@ TEST(PlaceAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
         const char* said;
     };
     const Row rows[] = {
-        {"all of them", 0, false, "The table is full: 5 pieces are missing"},
-        {"some", 2, false, "The table is full: 3 pieces are missing"},
-        {"one", 4, false, "The table is full: 1 piece is missing"},
-        {"a reversed text is not missed", 3, true, "The table is full: 1 piece is missing"},
+        {"all of them", 0, false, "Not done: room for 5 more objects is missing"},
+        {"some", 2, false, "Not done: room for 3 more objects is missing"},
+        {"one", 4, false, "Not done: room for 1 more object is missing"},
+        {"a reversed text is not missed", 3, true, "Not done: room for 1 more object is missing"},
         {"none, at the last slot", 5, false, "You are out of memory! Save and exit now."},
     };
     for (const Row& row : rows) {

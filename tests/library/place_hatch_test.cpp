@@ -167,13 +167,13 @@ TEST(PlaceHatch, RowsPastTheTablesEndAreNotLookedAt)
     EXPECT_EQ(desk.s.store.entCount, 5);
 }
 
-TEST(PlaceHatch, AFullTableLosesPiecesWithoutHarm)
+TEST(PlaceHatch, AFullTableTakesNoPieceRatherThanSome)
 {
     HatchDesk desk;
     desk.s.store.entCount = EntityStore::slotCount - 1;
     desk.square();
-    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 3);
-    EXPECT_EQ(desk.stat(EntityStore::slotCount - 1), Stat::on);
+    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount - 1);
+    EXPECT_EQ(desk.stat(EntityStore::slotCount - 1), Stat::none);
 }
 
 TEST(PlaceHatch, FillsABoundaryOfAHundredEdgesAndRefusesOneMore)
@@ -204,9 +204,9 @@ struct MissingRow {
 };
 
 constexpr MissingRow missingRows[] = {
-    {"all of them", 0, "The table is full: 4 pieces are missing"},
-    {"all but one", 1, "The table is full: 3 pieces are missing"},
-    {"one", 3, "The table is full: 1 piece is missing"},
+    {"all of them", 0, "Not done: room for 4 more objects is missing"},
+    {"all but one", 1, "Not done: room for 3 more objects is missing"},
+    {"one", 3, "Not done: room for 1 more object is missing"},
     {"none", 4, ""},
 };
 

@@ -156,8 +156,7 @@ void acceptFilter(App& app, ControlId)
 {
     Session& s = app.s;
     if (isChange(s.controls)) {
-        s.editPending = 0;
-        changeSelection(s, app.pic1, chosenChanges(s));
+        if (!changeSelection(s, app.pic1, chosenChanges(s))) return; // the dialog stays up
         resetCriteria(s);
     }
     hideDialog(s.controls);

@@ -11,6 +11,7 @@
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
 #include "model/insertion.h"
+#include "model/room.h"
 #include "render/redraw.h"
 #include "render/view.h"
 #include "snap/snap.h"
@@ -93,6 +94,23 @@ bool takesSnapAsItIs(const Session& s, const FunctionRow& row)
     return row.orthoOnClick == Ortho::unlessSnapped && snapIsOn(s);
 }
 
+void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Point at)
+{
+    if (button == leftButton) countStep(s);
+    storeClick(s, at);
+    if (row.clicks == Clicks::pickObjects) return pickClick(s, pic1);
+    s.pointWasSnapped = false;
+    const bool isSnapped = takesSnapAsItIs(s, row); // asked before the snap is disarmed
+    if (!isSnapped) confineClick(s, row);
+    holdSnap(s, pic1);
+    oneShotSnap(s, pic1);
+    s.controls[ids::snapLabel].caption.clear();
+    const bool cancels = row.samePointCancels && !isSnapped;
+    if (cancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
+    callStep(s, pic1);
+    updateGauge(s);
+}
+
 void endSelection(Session& s, Canvas& pic1)
 {
     changeStat(s.store, Stat::sel, Stat::on);
@@ -124,19 +142,7 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
         if (button == leftButton) constructionClick(s, pic1, at);
         return;
     }
-    if (button == leftButton) countStep(s);
-    storeClick(s, at);
-    if (row->clicks == Clicks::pickObjects) return pickClick(s, pic1);
-    s.pointWasSnapped = false;
-    const bool isSnapped = takesSnapAsItIs(s, *row); // asked before the snap is disarmed
-    if (!isSnapped) confineClick(s, *row);
-    holdSnap(s, pic1);
-    oneShotSnap(s, pic1);
-    s.controls[ids::snapLabel].caption.clear();
-    const bool cancels = row->samePointCancels && !isSnapped;
-    if (cancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
-    callStep(s, pic1);
-    updateGauge(s);
+    unlessRefused(s, [&] { takeClick(s, pic1, *row, button, at); });
 }
 
 void cancel(Session& s, Canvas& pic1, Point at)

@@ -4,6 +4,7 @@
 #include "app/drawing/endings.h"
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
+#include "model/room.h"
 #include "model/shown_prompt.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -45,12 +46,14 @@ void turnOff(Session& s, Canvas& pic1)
     s.functionPrompt.function = s.curFunc; // a prompt shown meanwhile told of the construction line
     if (!zoomWindowIsOn(s.controls)) endPassingPrompt(s);
     if (!takesRelease(findFunction(s.curFunc), s.stepNo)) return;
-    countStep(s);
-    if (s.stepNo == 1) s.pickFirst = s.blankStart;
-    if (s.stepNo > 1) s.pickLast = s.blankStart;
-    s.mousePos = s.blankStart;
-    s.pointWasSnapped = true;
-    callStep(s, pic1);
+    unlessRefused(s, [&] {
+        countStep(s);
+        if (s.stepNo == 1) s.pickFirst = s.blankStart;
+        if (s.stepNo > 1) s.pickLast = s.blankStart;
+        s.mousePos = s.blankStart;
+        s.pointWasSnapped = true;
+        callStep(s, pic1);
+    });
 }
 
 void confineLeg(CanvasInput& s)

@@ -22,9 +22,11 @@ void showFonts(App& app, std::string_view caption)
     list.row = -1;
 }
 
-void changeSelectedFont(App& app, const std::string& font)
+// False if there is no room for the texts anew.
+bool changeSelectedFont(App& app, const std::string& font)
 {
     Session& s = app.s;
+    if (hasSelection(s) && !hasRoomFor(s, countSelected(s.store, hasWords))) return false;
     endWhatIsBegun(s, app.pic1);
     const auto rule = [&](EntityRecord r) {
         r.t2 = font;
@@ -32,10 +34,10 @@ void changeSelectedFont(App& app, const std::string& font)
         return r;
     };
     if (countWithStat(s.store, Stat::sel) > 0) { // it may have gone while the list was shown
-        runOnSelection(s, Sources::goOut, rule, hasWords);
-        endRun(s, app.pic1);
+        if (runOnSelection(s, Sources::goOut, rule, hasWords)) endRun(s, app.pic1);
     }
     showEditFunctions(s.controls);
+    return true;
 }
 
 } // namespace
@@ -85,13 +87,12 @@ void fontEntered(App& app)
     if (list.row < 0 || list.row >= std::ssize(list.rows)) return;
     const std::string font = list.rows[static_cast<std::size_t>(list.row)]; // not negative, tested above
     if (refusesText(s.controls, font)) return;
+    if (mode == list_mode::changeSelectedFont && !changeSelectedFont(app, font)) return;
     s.controls.focus = ids::drawing;
     if (mode == list_mode::selectFont) {
         s.textFont = font;
         s.controls[ids::lineSettings].font = font;
         app.pic1.setFontName(font);
-    } else if (mode == list_mode::changeSelectedFont) {
-        changeSelectedFont(app, font);
     }
 }
 

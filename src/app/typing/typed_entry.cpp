@@ -11,6 +11,7 @@
 #include "edit/concentric.h"
 #include "geometry/fault.h"
 #include "geometry/way.h"
+#include "model/room.h"
 #include "tables/functions.h"
 #include "text/distance_grammar.h"
 #include "text/measure.h"
@@ -198,9 +199,7 @@ void editNumberKey(Session& s, Canvas& pic1, const EditNumber& row, char32_t cod
     s.controls.focus = ids::drawing;
 }
 
-} // namespace
-
-void entryKeyPress(Session& s, Canvas& pic1, char32_t code)
+void takeEntryKey(Session& s, Canvas& pic1, char32_t code)
 {
     const FunctionRow* row = findFunction(s.curFunc);
     if (row == nullptr) return;
@@ -213,6 +212,13 @@ void entryKeyPress(Session& s, Canvas& pic1, char32_t code)
         return editNumberKey(s, pic1, *number, code);
     }
     distanceKey(s, pic1, *row, code);
+}
+
+} // namespace
+
+void entryKeyPress(Session& s, Canvas& pic1, char32_t code)
+{
+    unlessRefused(s, [&] { takeEntryKey(s, pic1, code); });
 }
 
 } // namespace mirtane
