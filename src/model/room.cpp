@@ -9,7 +9,35 @@
 namespace mirtane {
 namespace {
 
+constexpr const char* forgetsAssociates = " Save your associates before: it forgets them.";
 constexpr std::string_view roomFor = "Not done: room for ";
+
+bool isPiece(const EntityStore& store, std::int32_t slot)
+{
+    const std::size_t at = EntityStore::at(slot);
+    return isDrawnKind(objectOf(store.kind[at])) && isLiveName(store.ownerName[at]);
+}
+
+bool hasPieces(const EntityStore& store)
+{
+    for (std::int32_t i = 1; i < store.end(); ++i) {
+        if (isPiece(store, i)) return true;
+    }
+    return false;
+}
+
+void tellHowToMakeRoom(Session& s)
+{
+    const std::int32_t slots = slotsToRegain(s.store);
+    s.notices.settle(Matter::tableFull);
+    if (slots == 0) return;
+    const std::string objects =
+        withThousands(slots) + (slots == 1 ? " replaced object makes" : " replaced objects make");
+    s.notices.post(
+        {Matter::tableFull,
+         "Save and open again: " + objects + " room." + (hasPieces(s.store) ? forgetsAssociates : ""),
+         {{"Save and open again", Offer::saveAndOpenAgain}, {"Close", Offer::goOn}}});
+}
 
 } // namespace
 
@@ -22,9 +50,7 @@ std::int32_t slotsToRegain(const EntityStore& store)
 {
     std::int32_t slots = 0;
     for (std::int32_t i = 1; i < store.end(); ++i) {
-        const std::size_t at = EntityStore::at(i);
-        const bool isPiece = isDrawnKind(objectOf(store.kind[at])) && isLiveName(store.ownerName[at]);
-        if (store.stat[at] == Stat::out && !isPiece) ++slots;
+        if (store.stat[EntityStore::at(i)] == Stat::out && !isPiece(store, i)) ++slots;
     }
     return slots;
 }
@@ -41,6 +67,7 @@ void refuseForRoom(Session& s, std::int64_t missing)
 {
     s.roomMissing = missing;
     setText(s.controls[ids::entry], noRoomText(missing));
+    tellHowToMakeRoom(s);
 }
 
 std::string noRoomText(std::int64_t missing)

@@ -17,7 +17,8 @@ std::int32_t slotsToRegain(const EntityStore& store);
 // Whether the table takes that many more objects. If not, the action is refused.
 [[nodiscard]] bool hasRoomFor(Session& s, std::int64_t objects);
 
-// The one place where an action is refused for want of room: entry says for how many objects there is none.
+// The one place where an action is refused for want of room: entry says for how many objects there is none, and the
+// strip how to make some.
 void refuseForRoom(Session& s, std::int64_t missing);
 
 // "Not done: room for 8,412 more objects is missing"

@@ -245,7 +245,8 @@ void saveAndOpenAgain(App& app)
 {
     openFileDialog(app, {"Save File", "Save", "*.mtd"}, app.s.drawingName);
     app.s.saveFollowUp = follow::openAgain;
-    if (!app.s.drawingFile.empty() && proposesOwnFile(app.s)) confirmFileDialog(app, ids::fileConfirm);
+    const bool nothingInTheWay = app.s.controls[ids::fileConfirm].caption == "Save";
+    if (proposesOwnFile(app.s) && nothingInTheWay) confirmFileDialog(app, ids::fileConfirm);
 }
 
 namespace {
