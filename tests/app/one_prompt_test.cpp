@@ -1,6 +1,8 @@
 // The title, the line below the drawing and the session never tell of two different prompts.
 
+#include "app/drawing/starters.h"
 #include "desk.h"
+#include "tables/functions.h"
 
 #include <gtest/gtest.h>
 
@@ -86,6 +88,25 @@ TEST(OnePrompt, OfZoomWindowOverAConstructionLineThatIsReleased)
         desk.press("Command43"_c);
         desk.press("blank"_c);
         expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+    }
+}
+
+// A function that has no prompt leaves the one that stands, which must not ask for a corner that is no longer wanted.
+TEST(OnePrompt, OfAWindowThatGivesWayToAFunctionWithoutAPrompt)
+{
+    for (const ControlId window : {"Command18"_c, "Command19"_c}) {
+        for (const char* function : {"Change", "Move Dimension Text"}) {
+            Desk desk;
+            desk.drawLine(-2100, 133, 411, 977);
+            desk.press(window);
+            desk.s.store.setStat(1, Stat::sel);
+            const std::string asked = desk.s.promptText;
+            desk.click(300, 410);
+            ASSERT_EQ(desk.s.promptText, "(Enter opposite corner of window:)");
+            startFunction(desk.s, desk.pic1, *findFunction(function));
+            EXPECT_EQ(desk.s.windowStep, 0);
+            expectOnePrompt(desk, function, asked);
+        }
     }
 }
 

@@ -87,7 +87,10 @@ TEST(UnsavedWork, IsKeptOnceTheUserRests)
         ASSERT_TRUE(desk.work.kept) << change.what;
         const std::optional<KeptWork> work = readKeptWork(*desk.work.kept);
         ASSERT_TRUE(work) << change.what;
-        EXPECT_EQ(work->about, house) << change.what;
+        EXPECT_EQ(work->about.drawingName, house.drawingName) << change.what;
+        EXPECT_EQ(work->about.drawingFile, house.drawingFile) << change.what;
+        EXPECT_EQ(work->about.time, house.time) << change.what;
+        EXPECT_EQ(work->about.stamp, desk.disk.stamp(house.drawingFile)) << change.what;
         EXPECT_EQ(work->drawing, drawingBytes(desk.s, SaveWhat::drawing)) << change.what;
     }
 }

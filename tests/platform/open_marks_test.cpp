@@ -162,7 +162,7 @@ TEST(MemoryOpenMarks, AreAsThoseOfTheSystem)
     fake::MemoryOpenMarks marks;
     EXPECT_TRUE(marks.mark("/a"));
     EXPECT_FALSE(marks.markedByAnother("/a").has_value());
-    marks.ofOthers["/a"] = {4711};
+    marks.ofOthers["/a"] = {4711, "09:12"};
     ASSERT_TRUE(marks.markedByAnother("/a").has_value());
     EXPECT_EQ(marks.markedByAnother("/a")->process, 4711);
     marks.unmark("/a");

@@ -98,7 +98,9 @@ TEST(PlayCommands, PutTypesOverWhatStandsInATextBox)
                     "expect get frmfile.Text1.text == \"a house of mine\"\n"
                     "put frmfile.Text1 \"b \\u00e4 \\\"c\\\"\"\n"
                     "expect get frmfile.Text1.text == \"b \\u00e4 \\\"c\\\"\"\n"
-                    "put angle 4x5\nexpect get angle.text == \"45\"\nexpect focused == \"angle\"");
+                    "put angle 4x5\nexpect get angle.text == \"000.000\"\n" // it stands behind the dialog
+                    "press frmfile.Command2\nput angle 4x5\nexpect get angle.text == \"45\"\n"
+                    "expect focused == \"angle\"");
     for (const char* line : {"put List1 a", "put Command1 a", "put nothing a", "put", "put angle \"open",
                              "put Text3 a", "put frmprintset a"}) {
         EXPECT_EQ(t.statusOf(line), 2) << line;

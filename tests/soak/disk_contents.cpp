@@ -71,6 +71,8 @@ Bytes crowdedDrawing()
     ByteWriter out(file);
     EntityRecord r;
     r.kind = headerKind; // the first is the header, those behind it are dead
+    r.t1 = "us";
+    r.t2 = "Garamond";
     for (std::int32_t i = 0; i < EntityStore::slotCount - slotsLeftInCrowded - lines; ++i)
         writeRecord(out, r);
     r.kind = Kind::line;

@@ -160,7 +160,8 @@ void checkUnderWay(const Session& s, Faults& faults)
     faults.unless(blankIsOff == (s.curFunc != "Blank Line"), "the caption of blank");
     const bool asksForCorner = s.promptText == "(Enter opposite corner of window:)";
     const bool zooms = s.controls["snaplab"_c].caption == "Zoom Window is on:";
-    faults.unless(zooms || asksForCorner == (s.windowStep > 0), "windowStep");
+    faults.unless(zooms || asksForCorner == (s.windowStep > 0),
+                  "windowStep " + std::to_string(s.windowStep) + " of " + s.curFunc + " " + s.promptText);
     const bool borrowsOrtho = s.curFunc == "Ellipse" || s.curFunc == "Blank Line";
     faults.unless(borrowsOrtho || s.controls["freecurs"_c].caption == s.orthoCaption,
                   "ortho is not given back");

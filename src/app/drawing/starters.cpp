@@ -10,6 +10,7 @@ namespace mirtane {
 void changeFunction(Session& s, Canvas& pic1, const FunctionRow& row, std::int16_t firstStep)
 {
     showWhatIsHidden(s, pic1);
+    beginWindowAnew(s); // whose prompt stays where the function has none of its own
     forgetWhatIsBegun(s);
     s.stepNo = firstStep;
     s.curFunc = row.name;

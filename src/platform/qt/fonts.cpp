@@ -1,17 +1,51 @@
 #include "platform/qt/fonts.h"
 
 #include <QFontDatabase>
+#include <QSet>
+
+#include <algorithm>
 
 namespace mirtane {
+namespace {
+
+const QSet<QString>& installedFamilies()
+{
+    static const QStringList families = QFontDatabase::families();
+    static const QSet<QString> found(families.begin(), families.end());
+    return found;
+}
+
+// The machine searches all its fonts for what stands in for one that is not there, each time it meets a new
+// name. A file may hold a new name for each text; no drawing has that many.
+bool isLookedFor(const QString& family)
+{
+    constexpr qsizetype mostMissing = 200;
+    static QSet<QString> missing;
+    if (installedFamilies().contains(family) || missing.contains(family)) return true;
+    if (missing.size() == mostMissing) return false;
+    missing.insert(family);
+    return true;
+}
+
+} // namespace
+
+QString drawnText(std::string_view utf8)
+{
+    constexpr qsizetype longest = 2000;
+    constexpr std::size_t mostBytes = 4 * longest; // of so many characters
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(std::min(utf8.size(), mostBytes)))
+        .left(longest); // few
+}
 
 QFont faceOf(const QString& name)
 {
     constexpr qsizetype longestName = 31;
     const QString family = name.left(longestName);
     QFont font;
+    font.setHintingPreference(QFont::PreferNoHinting); // widths in proportion at every size
+    if (!isLookedFor(family)) return font;
     font.setFamilies(family == QLatin1String("Garamond") ? QStringList{family, QStringLiteral("EB Garamond")}
                                                          : QStringList{family});
-    font.setHintingPreference(QFont::PreferNoHinting); // widths in proportion at every size
     return font;
 }
 

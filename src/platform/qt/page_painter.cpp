@@ -126,7 +126,7 @@ void PagePainter::rotatedText(double x, double y, double height, int degrees, bo
     painter_.translate(at(x, y));
     painter_.rotate(0.0 - degrees); // the least whole number has no opposite
     painter_.scale(em / faceSize, em / faceSize);
-    painter_.drawText(QPointF(0, QFontMetricsF(face, painter_.device()).ascent()), textOf(utf8));
+    painter_.drawText(QPointF(0, QFontMetricsF(face, painter_.device()).ascent()), drawnText(utf8));
     painter_.restore();
 }
 

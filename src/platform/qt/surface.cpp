@@ -105,7 +105,7 @@ float Surface::textWidth(std::string_view utf8) const
     if (!(fontSize_ > 0)) return 0;
     constexpr double heightPerSize = static_cast<double>(pixelsPerInch) / pointsPerInch;
     const Face& face = sizedFace(measuredFace);
-    const double advance = QFontMetricsF(face.font).horizontalAdvance(textOf(utf8));
+    const double advance = QFontMetricsF(face.font).horizontalAdvance(drawnText(utf8));
     float width = 0;
     keep(width, quotient(advance * fontSize_ * heightPerSize, face.line));
     return width;
@@ -116,7 +116,7 @@ void Surface::text(float x, float y, int degrees, std::string_view utf8)
     const int height = lineHeight();
     const PixelPoint at = pixelAt({x, y});
     if (height == 0 || !isNear(at)) return;
-    write(sizedFace(height), {std::nearbyint(at.x), std::nearbyint(at.y)}, degrees, textOf(utf8));
+    write(sizedFace(height), {std::nearbyint(at.x), std::nearbyint(at.y)}, degrees, drawnText(utf8));
 }
 
 void Surface::write(const Face& face, PixelPoint at, int degrees, const QString& text)
