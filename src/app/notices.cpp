@@ -16,7 +16,7 @@ void goOn(App& app)
 // What is being drawn is not thrown away for what was left: it can be saved first.
 void restore(App& app)
 {
-    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::restoreWork);
+    if (hasUnsavedWork(app.s) && leftWorkIsThere(app)) return offerToSave(app, follow::restoreWork);
     restoreLeftWork(app);
 }
 
@@ -41,6 +41,7 @@ void takeOffer(App& app, ControlId button)
     if (notice == nullptr || number >= notice->buttons.size()) return;
     const Offer offer = notice->buttons[number].offer; // the notice may go
     const auto* const row = std::ranges::find(offerRows, offer, &OfferRow::offer);
+    app.s.controls.focus = ids::drawing; // the next press is not meant for what the strip says then
     if (row != std::end(offerRows)) row->carryOut(app);
 }
 

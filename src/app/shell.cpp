@@ -7,6 +7,7 @@
 #include "app/dialogs/print_dialog.h"
 #include "app/drawing/canvas_input.h"
 #include "app/files/file_dialog.h"
+#include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "app/menus/file_menus.h"
@@ -294,7 +295,10 @@ bool Shell::takesInput(ControlId id) const
 
 void Shell::rest()
 {
-    event([](App& app) { keepUnsavedWork(app); });
+    event([](App& app) {
+        keepUnsavedWork(app);
+        reviewOthers(app);
+    });
 }
 
 void Shell::settle(ControlId focusBefore)

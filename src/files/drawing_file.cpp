@@ -169,8 +169,12 @@ Bytes drawingBytes(const Session& s, SaveWhat what)
     file.reserve(recordBytesWithoutTexts * EntityStore::at(s.store.end() + 1));
     ByteWriter out(file);
     writeRecord(out, headerRecord(s));
-    for (std::int32_t i = 1; i < s.store.end(); ++i)
-        if (isWritten(s, i, what)) writeRecord(out, s.store.record(i));
+    EntityRecord record;
+    for (std::int32_t i = 1; i < s.store.end(); ++i) {
+        if (!isWritten(s, i, what)) continue;
+        s.store.fill(record, i);
+        writeRecord(out, record);
+    }
     return file;
 }
 

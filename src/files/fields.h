@@ -7,6 +7,7 @@
 #include "files/bytes.h"
 #include "text/code_page.h"
 
+#include <algorithm>
 #include <concepts>
 
 namespace mirtane {
@@ -40,12 +41,16 @@ class FieldWriter {
     explicit FieldWriter(ByteWriter& out) : out_(out) {}
 
     template <class... Number> void operator()(const Number&... field) { out_.numbers(field...); }
-    template <TextField... Text> void operator()(const Text&... field)
-    {
-        (out_.counted(toCodePage(field)), ...);
-    }
+    template <TextField... Text> void operator()(const Text&... field) { (put(field), ...); }
 
   private:
+    // Nearly all texts are the same in both.
+    void put(const std::string& field)
+    {
+        const bool plain = std::all_of(field.begin(), field.end(), [](char c) { return c > 0; });
+        out_.counted(plain ? field : toCodePage(field));
+    }
+
     ByteWriter& out_;
 };
 

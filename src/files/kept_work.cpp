@@ -83,7 +83,8 @@ EntityRecord recordOf(const KeptAbout& about)
     r.kind = headerKind; // in the middle of a drawing it is a dead slot
     r.t1 = mark;
     r.t2 = escaped(about.drawingName) + " " + escaped(about.drawingFile) + " " + escaped(about.time) + " " +
-           escaped(stampText(about.stamp));
+           escaped(stampText(about.stamp)) + " " + escaped(about.folder) + " " +
+           std::to_string(about.changes) + " " + escaped(about.since);
     return r;
 }
 
@@ -95,6 +96,10 @@ KeptAbout aboutIn(const EntityRecord& r)
         *field = plain(nextField(text));
     }
     about.stamp = stampIn(plain(nextField(text)));
+    about.folder = plain(nextField(text));
+    std::string_view changes = nextField(text);
+    static_cast<void>(takeNumber(changes, about.changes)); // none where it is no number
+    about.since = plain(nextField(text));
     return about;
 }
 

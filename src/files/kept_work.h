@@ -16,6 +16,9 @@ struct KeptAbout {
     std::string drawingFile; // the full path that it was opened from or saved to; empty if there is none
     std::string time;        // local, "2026-11-22 14:32"
     std::optional<FileStamp> stamp = {}; // of that file when it was opened or saved
+    std::string folder = {};             // the drawing's own, also where it has no file
+    std::int32_t changes = 0;            // that are not saved
+    std::string since = {};              // the time of the last load or save
 
     friend bool operator==(const KeptAbout&, const KeptAbout&) = default;
 };

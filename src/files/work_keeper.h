@@ -15,8 +15,10 @@ class WorkKeeper {
     // Puts the bytes in place of what this run has kept. They may be on their way to the disk when this comes
     // back; a later call overtakes them. What fails leaves what was kept before.
     virtual void keep(Bytes work) = 0;
-    // Whether the last work that got there could not be put there.
+    // Whether the last work could not be put there, or is no longer there.
     virtual bool fails() const = 0;
+    // Waits until what was to be kept, or forgotten, is.
+    virtual void flush() = 0;
     // Nothing of this run is unsaved any more.
     virtual void forget() = 0;
 

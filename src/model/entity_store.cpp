@@ -14,10 +14,31 @@ EntityStore::EntityStore()
 
 EntityRecord EntityStore::record(std::int32_t slot) const
 {
-    if (!holds(slot)) return {};
+    EntityRecord r;
+    if (holds(slot)) fill(r, slot);
+    return r;
+}
+
+void EntityStore::fill(EntityRecord& r, std::int32_t slot) const
+{
     const std::size_t i = at(slot);
-    return {p1[i], p2[i], p3[i],    p4[i],    p5[i],    s1[i],   s2[i], rad[i], a1[i],
-            a2[i], a3[i], color[i], layer[i], style[i], kind[i], t1[i], t2[i]};
+    r.p1 = p1[i];
+    r.p2 = p2[i];
+    r.p3 = p3[i];
+    r.p4 = p4[i];
+    r.p5 = p5[i];
+    r.s1 = s1[i];
+    r.s2 = s2[i];
+    r.rad = rad[i];
+    r.a1 = a1[i];
+    r.a2 = a2[i];
+    r.a3 = a3[i];
+    r.color = color[i];
+    r.layer = layer[i];
+    r.style = style[i];
+    r.kind = kind[i];
+    r.t1 = t1[i];
+    r.t2 = t2[i];
 }
 
 void EntityStore::setRecord(std::int32_t slot, const EntityRecord& r)

@@ -8,8 +8,8 @@ namespace mirtane {
 
 // The drawing: one table of slots as parallel arrays, allocated once at full size. Slot 0 is the header,
 // objects stand in slots 1 to entCount - 1, and no slot is compacted or reused while a drawing is open.
-// Nothing refuses an insertion: past the last slot writes are dropped while entCount goes on growing, so
-// readers loop to end() and not to entCount.
+// The table itself refuses no insertion: past the last slot writes are dropped while entCount goes on
+// growing, so readers loop to end() and not to entCount. Who adds several at once asks model/room.h before.
 struct EntityStore {
     static constexpr std::int32_t slotCount = 60001;
 
@@ -22,6 +22,8 @@ struct EntityStore {
 
     // The fields of a slot; an empty record for a slot that does not exist.
     EntityRecord record(std::int32_t slot) const;
+    // The same, of a slot that exists, into a record that was used before, whose texts keep their room.
+    void fill(EntityRecord& r, std::int32_t slot) const;
 
     // Writes all fields of a slot but stat, ownerName and dxfTag. A slot that does not exist is passed over.
     void setRecord(std::int32_t slot, const EntityRecord& r);

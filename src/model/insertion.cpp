@@ -160,7 +160,10 @@ void commitInGroup(Session& s)
 {
     const std::int32_t slot = s.store.entCount;
     logFlip(s.log, slot, Stat::on);
-    if (EntityStore::holds(slot)) markUsed(s.layerTable, s.store.layer[EntityStore::at(slot)]);
+    if (EntityStore::holds(slot))
+        markUsed(s.layerTable, s.store.layer[EntityStore::at(slot)]);
+    else
+        tellNotStored(s);
     ++s.store.entCount;
 }
 

@@ -11,6 +11,12 @@ void Notices::post(Notice notice)
     standing_.push_back(std::move(notice));
 }
 
+void Notices::postBehind(Notice notice)
+{
+    settle(notice.matter);
+    standing_.insert(standing_.begin(), std::move(notice));
+}
+
 void Notices::settle(Matter matter)
 {
     standing_.erase(std::remove_if(standing_.begin(), standing_.end(),
@@ -26,8 +32,8 @@ bool Notices::tells(Matter matter) const
 
 void Notices::settleOfDrawing()
 {
-    for (const Matter matter :
-         {Matter::leftOut, Matter::tableFull, Matter::fileChanged, Matter::openElsewhere}) {
+    for (const Matter matter : {Matter::leftOut, Matter::tableFull, Matter::fileChanged,
+                                Matter::openElsewhere, Matter::fileInTheWay}) {
         settle(matter);
     }
 }

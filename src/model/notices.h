@@ -12,6 +12,7 @@
 namespace mirtane {
 
 enum class Matter : std::uint8_t {
+    fileInTheWay, // of what is to be saved
     workLeft,     // by a program that is no longer alive
     workNotKept,  // as the disk takes nothing
     leftOut,      // of a file, for want of room
@@ -37,6 +38,8 @@ class Notices {
   public:
     // In front of the others. What was said of the same matter goes.
     void post(Notice notice);
+    // Behind the others, as it can wait; or in its place, if the matter stands already.
+    void postBehind(Notice notice);
     void settle(Matter matter);
     // What is said of the drawing goes with it.
     void settleOfDrawing();

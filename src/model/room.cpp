@@ -26,17 +26,21 @@ bool hasPieces(const EntityStore& store)
     return false;
 }
 
-void tellHowToMakeRoom(Session& s)
+// Behind what is said before it.
+void tellHowToMakeRoom(Session& s, const std::string& before)
 {
     const std::int32_t slots = slotsToRegain(s.store);
     s.notices.settle(Matter::tableFull);
-    if (slots == 0) return;
+    if (slots == 0) {
+        if (!before.empty()) s.notices.post({Matter::tableFull, before, {{"Close", Offer::goOn}}});
+        return;
+    }
     const std::string objects =
         withThousands(slots) + (slots == 1 ? " replaced object makes" : " replaced objects make");
-    s.notices.post(
-        {Matter::tableFull,
-         "Save and open again: " + objects + " room." + (hasPieces(s.store) ? forgetsAssociates : ""),
-         {{"Save and open again", Offer::saveAndOpenAgain}, {"Close", Offer::goOn}}});
+    s.notices.post({Matter::tableFull,
+                    before + (before.empty() ? "" : " ") + "Save and open again: " + objects + " room." +
+                        (hasPieces(s.store) ? forgetsAssociates : ""),
+                    {{"Save and open again", Offer::saveAndOpenAgain}, {"Close", Offer::goOn}}});
 }
 
 } // namespace
@@ -67,7 +71,14 @@ void refuseForRoom(Session& s, std::int64_t missing)
 {
     s.roomMissing = missing;
     setText(s.controls[ids::entry], noRoomText(missing));
-    tellHowToMakeRoom(s);
+    tellHowToMakeRoom(s, "");
+}
+
+void tellNotStored(Session& s)
+{
+    if (!s.notices.tells(Matter::tableFull)) {
+        tellHowToMakeRoom(s, "The table is full: what is drawn now is not kept.");
+    }
 }
 
 std::string noRoomText(std::int64_t missing)

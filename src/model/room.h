@@ -17,9 +17,12 @@ std::int32_t slotsToRegain(const EntityStore& store);
 // Whether the table takes that many more objects. If not, the action is refused.
 [[nodiscard]] bool hasRoomFor(Session& s, std::int64_t objects);
 
-// The one place where an action is refused for want of room: entry says for how many objects there is none, and the
-// strip how to make some.
+// The one place where an action is refused for want of room: entry says for how many objects there is none,
+// and the strip how to make some.
 void refuseForRoom(Session& s, std::int64_t missing);
+
+// An object was drawn that found no slot: the strip says so, and how to make room.
+void tellNotStored(Session& s);
 
 // "Not done: room for 8,412 more objects is missing"
 std::string noRoomText(std::int64_t missing);

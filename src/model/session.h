@@ -166,11 +166,13 @@ struct FileState {
     std::optional<FileStamp> seenStamp;  // as it was when it was last looked at
     std::string markedFile;              // the one that other programs know to be open here
     std::string drawingFolder;           // the drawing's own; empty while it has none
+    std::int32_t changesBefore = 0;      // not saved either, of the run that the work was restored from
     WorkMark savedMark;                  // the work at the last load or save
     std::string savedTime;               // of that, local, "2026-11-22 14:32"
     WorkMark keptMark;                   // the work as it was last kept, in case the program dies
     std::vector<std::string> leftWork;   // what other runs left, by name; the last one is on offer
     std::string dxfName = "untitled.dxf";
+    std::string proposedName;          // by the file dialog
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;
     std::string programFolder;

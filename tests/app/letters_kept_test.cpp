@@ -1,6 +1,7 @@
 // A drawing keeps the letters of one code page. Others are refused where they would be stored.
 
 #include "layer_desk.h"
+#include "text/utf8.h"
 
 #include "text/code_page.h"
 

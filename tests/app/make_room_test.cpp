@@ -101,8 +101,36 @@ TEST(FullTable, IsSavedToItsOwnFileAndOpenedAgain)
     EXPECT_EQ(desk.s.drawingName, "house.mtd");
     EXPECT_EQ(desk.lines().size(), before.size());
     for (std::size_t i = 0; i < before.size(); ++i) EXPECT_EQ(desk.lines()[i].p2, before[i].p2);
+    EXPECT_EQ(desk.text("entry"_c), "");
     desk.moveAll();
     EXPECT_EQ(desk.s.store.entCount, 11);
+}
+
+// A single object is drawn whatever the table holds, and lost without this word.
+TEST(FullTable, SaysWhatIsDrawnInVain)
+{
+    FullDesk desk(1);
+    desk.drawLine(3, 4, 500, 600);
+    EXPECT_FALSE(desk.visible("notice"_c));
+    for (int i = 0; i < 2; ++i) {
+        desk.drawLine(13, 4, 500, 600);
+        EXPECT_EQ(desk.caption("notice"_c),
+                  "The table is full: what is drawn now is not kept. Save and open again: "
+                  "59,994 replaced objects make room.");
+        desk.press("notice.Command2"_c);
+        EXPECT_FALSE(desk.visible("notice"_c));
+    }
+}
+
+TEST(FullTable, TakesNoNameOfALayer)
+{
+    FullDesk desk(0);
+    desk.nameLayer(1, "walls");
+    EXPECT_EQ(desk.text("entry"_c), "Not done: room for 1 more object is missing");
+    EXPECT_EQ(desk.s.layerTable.find(1)->layerName, "1");
+    desk.addLayer("roof");
+    EXPECT_EQ(desk.s.layerTable.layerCount, 16);
+    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount);
 }
 
 TEST(FullTable, WithoutAFileAsksWhereTo)

@@ -3,6 +3,7 @@
 
 #include "edits_desk.h"
 
+#include "model/insertion.h"
 #include "text/numbers.h"
 
 #include <gtest/gtest.h>

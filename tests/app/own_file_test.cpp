@@ -219,8 +219,7 @@ TEST(OwnFile, ThatVanishedIsTold)
     desk.disk.files.erase(housePath);
     desk.press("fil7"_c);
     EXPECT_EQ(desk.button(), "Overwrite?");
-    EXPECT_EQ(desk.caption("notice"_c),
-              "house.mtd is no longer on the disk: saving puts it back.");
+    EXPECT_EQ(desk.caption("notice"_c), "house.mtd is no longer on the disk: saving puts it back.");
     desk.enter();
     EXPECT_TRUE(desk.disk.files.contains(housePath));
 }
@@ -245,6 +244,135 @@ TEST(OwnFile, OpenInAnotherProgramIsToldAtOnceAndBeforeASave)
     desk.press("fil7"_c);
     EXPECT_EQ(desk.button(), "Save");
     EXPECT_EQ(desk.caption("notice"_c), "");
+}
+
+// What would be replaced comes in front of who else is there.
+TEST(OwnFile, ChangedByAProgramThatHasItOpenIsToldAsChanged)
+{
+    for (const bool before : {true, false}) {
+        HouseDesk desk;
+        desk.marks.ofOthers[housePath] = {4711, "09:12"};
+        if (before) desk.changeByAnother();
+        desk.press("fil7"_c);
+        if (!before) {
+            desk.changeByAnother();
+            desk.enter();
+        }
+        EXPECT_TRUE(desk.visible("frmfile"_c));
+        EXPECT_EQ(desk.caption("notice"_c),
+                  "house.mtd was changed on the disk at 15:07: saving replaces what is there.");
+    }
+}
+
+TEST(OwnFile, IsNoLongerToldToBeOpenElsewhereOnceItIsNot)
+{
+    HouseDesk desk;
+    desk.marks.ofOthers[housePath] = {4711, "09:12"};
+    desk.saveAs("house");
+    EXPECT_TRUE(desk.visible("notice"_c));
+    desk.shell.rest();
+    EXPECT_TRUE(desk.visible("notice"_c));
+    desk.marks.ofOthers.clear();
+    desk.shell.rest();
+    EXPECT_FALSE(desk.visible("notice"_c));
+}
+
+// A stick that was pulled out, a share that went away.
+TEST(OwnFile, ThatVanishedWithItsFolderIsToldInTheFolderThatIsShownInstead)
+{
+    HouseDesk desk;
+    desk.press("fil7"_c);
+    goTo(desk, other);
+    desk.enter();
+    desk.drawLine(3, 4, 511, 622);
+    desk.disk.files.erase(other + "/house.mtd");
+    desk.disk.files.erase(housePath);
+    desk.folders.folders.erase(other);
+    desk.press("fil7"_c);
+    EXPECT_EQ(desk.button(), "Overwrite?");
+    EXPECT_EQ(desk.caption("notice"_c), "house.mtd is no longer on the disk: saving puts it back.");
+}
+
+TEST(OwnFile, ThatVanishedIsAskedForAtTheEnd)
+{
+    for (const ControlId menu : {"fil5"_c, "fil14"_c, "fil4"_c}) {
+        HouseDesk desk;
+        desk.saveAs("house");
+        desk.disk.files.erase(housePath);
+        desk.press(menu);
+        EXPECT_EQ(desk.caption("frmfile"_c), "Save Changes");
+        EXPECT_FALSE(desk.shell.ended());
+        EXPECT_EQ(desk.s.store.entCount, 3);
+    }
+}
+
+// Files of others
+
+TEST(FileOfOthers, ThatAppearsWhileTheDialogStandsIsNotReplacedUnseen)
+{
+    for (const ControlId menu : {"fil7"_c, "fil9"_c, "dd4"_c}) {
+        HouseDesk desk;
+        desk.s.store.setStat(1, Stat::sel);
+        desk.press(menu);
+        desk.name("barn");
+        const std::string path = menu == "dd4"_c ? "/home/user/barn.dxf" : "/home/user/barn.mtd";
+        const Bytes theirs = {1, 2, 3};
+        desk.disk.files[path] = theirs;
+        desk.enter();
+        EXPECT_TRUE(desk.visible("frmfile"_c));
+        EXPECT_EQ(desk.button(), "Overwrite?");
+        EXPECT_EQ(desk.disk.files[path], theirs);
+        EXPECT_NE(desk.caption("notice"_c).find(" is there already: saving replaces it."), std::string::npos);
+        desk.enter();
+        EXPECT_NE(desk.disk.files[path], theirs);
+        EXPECT_EQ(desk.caption("notice"_c), "");
+    }
+}
+
+TEST(FileOfOthers, ThatStandsOpenElsewhereIsToldBeforeItIsReplaced)
+{
+    HouseDesk desk;
+    desk.disk.files["/home/user/barn.mtd"] = {1, 2, 3};
+    desk.marks.ofOthers["/home/user/barn.mtd"] = {4711, "09:12"};
+    desk.press("fil7"_c);
+    desk.name("barn");
+    EXPECT_EQ(desk.button(), "Overwrite?");
+    desk.enter();
+    EXPECT_EQ(desk.disk.files["/home/user/barn.mtd"], (Bytes{1, 2, 3}));
+    EXPECT_EQ(desk.caption("notice"_c),
+              "barn.mtd stands open in another Mirtane since 09:12: saving replaces it.");
+    desk.name("shed");
+    EXPECT_EQ(desk.caption("notice"_c), "");
+    desk.name("barn");
+    desk.enter();
+    desk.enter();
+    EXPECT_NE(desk.disk.files["/home/user/barn.mtd"], (Bytes{1, 2, 3}));
+}
+
+// A name with points that the dialog itself proposes is not another one when it is confirmed.
+TEST(OwnName, OfALayerOrAnExportIsTheOneThatIsShown)
+{
+    HouseDesk desk;
+    desk.nameLayer(1, "level 1.5");
+    desk.disk.files["/home/user/level 1.mtd"] = {7};
+    desk.menuRow("ly15"_c, 1);
+    EXPECT_EQ(desk.text("frmfile.Text1"_c), "level 1.5.mtd");
+    EXPECT_EQ(desk.button(), "Save");
+    desk.enter();
+    EXPECT_EQ(desk.disk.files["/home/user/level 1.mtd"], Bytes{7});
+    EXPECT_TRUE(desk.disk.files.contains("/home/user/level 1.5.mtd"));
+}
+
+TEST(NotSaved, IsSaidNoLongerOnceItIsSaved)
+{
+    HouseDesk desk;
+    desk.press("fil7"_c);
+    desk.name("a/b");
+    desk.enter();
+    EXPECT_EQ(desk.text("entry"_c), "Drawing not saved!");
+    desk.name("barn");
+    desk.enter();
+    EXPECT_EQ(desk.text("entry"_c), "");
 }
 
 TEST(OwnFile, IsMarkedWhileItIsOpen)

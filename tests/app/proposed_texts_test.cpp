@@ -1,6 +1,7 @@
 // What the program proposes in a box is selected as a whole, so that it is typed over.
 
 #include "desk.h"
+#include "text/utf8.h"
 
 #include "layer_desk.h"
 

@@ -182,8 +182,9 @@ TEST(UnsavedWork, ThatCannotBeKeptIsToldAndTriedAgain)
     desk.work.refuses = true;
     desk.drawLine(100, 200, 300, 411);
     desk.shell.rest();
-    const char* const said = "What you draw is not kept for the case that the machine goes down: the disk takes "
-                             "nothing. Save often.";
+    const char* const said =
+        "What you draw is not kept for the case that the machine goes down: the disk takes "
+        "nothing. Save often.";
     expectNotice(desk, said);
     desk.move(400, 500);
     desk.shell.rest();
@@ -287,6 +288,73 @@ TEST(LeftWork, ThatAnotherRunTookIsNotTakenTwice)
     expectNotice(desk, "");
     EXPECT_TRUE(linesOf(desk).empty());
     EXPECT_FALSE(desk.work.kept);
+}
+
+TEST(LeftWork, IsBroughtBackAlsoWhereItCannotBeTakenOver)
+{
+    Desk desk({}, fake::MemoryWork({{"a", workOf(5)}}));
+    desk.work.refusesAdoption = true;
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(linesOf(desk).size(), 5U);
+    EXPECT_TRUE(desk.work.leftBehind.contains("a"));
+}
+
+// The work under way is not given up for what is no longer there.
+TEST(LeftWork, ThatWasTakenByAnotherRunCostsNothing)
+{
+    Desk desk({}, fake::MemoryWork({{"a", workOf(5)}}));
+    desk.drawLine(1, 2, 400, 777);
+    desk.work.leftBehind.clear();
+    desk.press("notice.Command1"_c);
+    EXPECT_FALSE(desk.visible("frmfile"_c));
+    EXPECT_EQ(linesOf(desk).size(), 1U);
+    expectNotice(desk, "");
+}
+
+TEST(LeftWork, TakesAPressOnlyForWhatWasSaid)
+{
+    Desk desk({}, fake::MemoryWork({{"1", workOf(1)}, {"2", workOf(2)}}));
+    desk.shell.giveFocus(ids::noticeSecond);
+    desk.enter();
+    EXPECT_EQ(desk.work.leftBehind.size(), 1U);
+    EXPECT_EQ(desk.focused(), "pic1");
+    desk.enter();
+    EXPECT_EQ(desk.work.leftBehind.size(), 1U);
+}
+
+TEST(LeftWork, CanBeReachedThoughNothingCanBeKept)
+{
+    Desk desk({}, fake::MemoryWork({{"a", workOf(5)}}));
+    desk.work.refuses = true;
+    desk.drawLine(1, 2, 400, 777);
+    desk.shell.rest();
+    expectNotice(desk, "house.mtd, 14:32: work that was not saved is here.", "Restore", "Throw away");
+}
+
+TEST(LeftWork, CountsWhatWasNotSavedBefore)
+{
+    KeptAbout about = house;
+    about.changes = 20;
+    about.since = "2026-11-22 13:01";
+    about.folder = "/home/user/plans";
+    Desk desk({}, fake::MemoryWork({{"a", workOf(20, about)}}));
+    desk.folders.folders.insert("/home/user/plans");
+    desk.press("notice.Command1"_c);
+    desk.drawLine(1, 2, 400, 777);
+    desk.press("fil14"_c);
+    EXPECT_EQ(desk.caption("frmfile.Label4"_c), "house.mtd: 21 changes since 13:01. \"End\" gives them up.");
+    EXPECT_EQ(desk.text("frmfile.Dir1"_c), "/home/user/plans");
+}
+
+// A save that is cut short may leave neither the old file nor the new one whole.
+TEST(UnsavedWork, IsKeptBeforeItsFileIsWritten)
+{
+    Desk desk;
+    desk.drawLine(100, 200, 300, 411);
+    desk.disk.refusesWrites = true;
+    desk.saveAs("house");
+    ASSERT_TRUE(desk.work.kept);
+    EXPECT_EQ(readKeptWork(*desk.work.kept)->drawing, drawingBytes(desk.s, SaveWhat::drawing));
 }
 
 // What a function has under way when the work is brought back is ended with the drawing that it was in.

@@ -21,9 +21,10 @@ namespace {
 
 constexpr unsigned seed = 20041;
 
+// By each of the four ends.
 int kills()
 {
-    return std::getenv("MIRTANE_LONG") != nullptr ? 200 : 20;
+    return std::getenv("MIRTANE_LONG") != nullptr ? 50 : 5;
 }
 
 // mirtane-play with a pipe to type into and one to read its answers from.
@@ -193,18 +194,23 @@ struct KilledRuns : testing::Test {
     int missing = 0;
 };
 
-TEST_F(KilledRuns, LoseNothingThatWasDoneBeforeTheUserRested)
+class KilledRunsBy : public KilledRuns, public testing::WithParamInterface<End> {};
+
+TEST_P(KilledRunsBy, LoseNothingThatWasDoneBeforeTheUserRested)
 {
+    random.seed(seed + static_cast<unsigned>(GetParam().signal)); // not negative
     for (int i = 0; i < kills(); ++i) {
-        const End& end = ends[static_cast<std::size_t>(i) % std::size(ends)]; // not negative
         clear();
-        session(end);
+        session(GetParam());
         if (HasFatalFailure()) return;
-        restore(end);
+        restore(GetParam());
         if (HasFatalFailure()) return;
     }
-    std::cout << kills() << " kills: at most " << missing << " lines missing, none of them before a rest\n";
+    std::cout << kills() << " times " << GetParam().what << ": at most " << missing
+              << " lines missing, none of them before a rest\n";
 }
+
+INSTANTIATE_TEST_SUITE_P(Ends, KilledRunsBy, testing::ValuesIn(ends));
 
 // A run that is killed again before its user has saved what it brought back.
 TEST_F(KilledRuns, MayBeKilledAgain)

@@ -31,6 +31,7 @@ TEST(KeptWork, ComesBackWithWhatItIs)
         {"\u5bb6.mtd", "/home/\u00e4\u0416/\u5bb6.mtd", ""},
         {"", "", ""},
         {"a.mtd", "/a.mtd", "2026-11-22 14:32", FileStamp{-1, INT64_MIN, UINT64_MAX, 7, "15:00"}},
+        {"a.mtd", "", "2026-11-22 14:32", {}, "/srv/the plans", 4711, "2026-11-21 08:00"},
         {std::string(3000, 'n'), "/" + std::string(4000, '\xfe') + "\n", "%"},
     };
     for (const KeptAbout& about : abouts) {

@@ -118,6 +118,25 @@ TEST_F(KeptFilesTest, OfARunThatEndsInOrderAreAsItLeftThem)
     EXPECT_EQ(KeptFiles(state(), disk).left().size(), 1U);
 }
 
+// What sweeps old files away takes the file by which a run is known to live, or all there is.
+TEST_F(KeptFilesTest, AreKeptAnewWhereTheyWereSweptAway)
+{
+    KeptFiles kept(state(), disk);
+    kept.keep({1});
+    for (const QString& name : names()) {
+        if (!name.endsWith(".mtd")) QFile::remove(folder.filePath("state/" + name));
+    }
+    kept.keep({2});
+    EXPECT_TRUE(KeptFiles(state(), disk).left().empty()) << "it lives";
+    EXPECT_EQ(names().filter(".mtd").size(), 1);
+    QDir(folder.filePath("state")).removeRecursively();
+    EXPECT_TRUE(kept.fails());
+    kept.keep({3});
+    EXPECT_FALSE(kept.fails());
+    EXPECT_EQ(names().filter(".mtd").size(), 1);
+    EXPECT_TRUE(KeptFiles(state(), disk).left().empty());
+}
+
 TEST_F(KeptFilesTest, ThatFindNoPlaceFail)
 {
     QFile(folder.filePath("state")).open(QIODevice::WriteOnly); // a file where the folder should be
@@ -138,6 +157,7 @@ class SlowKeeper : public WorkKeeper {
         ++keeps;
     }
     bool fails() const override { return false; }
+    void flush() override {}
     void forget() override { kept.reset(); }
     std::vector<std::string> left() override
     {

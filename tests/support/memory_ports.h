@@ -5,41 +5,22 @@
 #include "app/ports.h"
 #include "files/open_marks.h"
 
-#include <algorithm>
 #include <set>
 
 namespace mirtane::fake {
 
 class MemoryDisk : public Disk {
   public:
-    std::optional<Bytes> read(const std::string& path) override
-    {
-        const auto found = files.find(path);
-        if (found == files.end()) return std::nullopt;
-        return found->second;
-    }
+    MemoryDisk();
+    ~MemoryDisk() override;
+    MemoryDisk(const MemoryDisk&) = delete;
+    MemoryDisk& operator=(const MemoryDisk&) = delete;
 
-    bool isTaken(const std::string& path) override { return files.contains(path); }
-
+    std::optional<Bytes> read(const std::string& path) override;
+    bool isTaken(const std::string& path) override;
     // Another one for whatever is written, also where a test puts other bytes among the files.
-    std::optional<FileStamp> stamp(const std::string& path) override
-    {
-        const auto found = files.find(path);
-        if (found == files.end()) return std::nullopt;
-        Stamped& last = stamped_[path];
-        if (last.stamp.modified == 0 || last.bytes != found->second)
-            last = {found->second, next(found->second)};
-        return last.stamp;
-    }
-
-    bool writeWhole(const std::string& path, const Bytes& bytes) override
-    {
-        ++writesTried;
-        if (refusesWrites) return false;
-        files[path] = bytes;
-        stamped_[path] = {bytes, next(bytes)};
-        return true;
-    }
+    std::optional<FileStamp> stamp(const std::string& path) override;
+    bool writeWhole(const std::string& path, const Bytes& bytes) override;
 
     std::map<std::string, Bytes> files; // by full path
     bool refusesWrites = false;
@@ -52,12 +33,7 @@ class MemoryDisk : public Disk {
         FileStamp stamp;
     };
 
-    FileStamp next(const Bytes& bytes)
-    {
-        ++writes_;
-        return {static_cast<std::int64_t>(bytes.size()), writes_, static_cast<std::uint64_t>(writes_), 1,
-                clock};
-    }
+    FileStamp next(const Bytes& bytes);
 
     std::map<std::string, Stamped> stamped_;
     std::int64_t writes_ = 0; // that were stamped
@@ -66,21 +42,14 @@ class MemoryDisk : public Disk {
 // The marks of this program, and those that a test leaves in the name of others.
 class MemoryOpenMarks : public OpenMarks {
   public:
-    bool mark(const std::string& path) override
-    {
-        if (refusesMarks) return false;
-        marks.insert(path);
-        return true;
-    }
+    MemoryOpenMarks();
+    ~MemoryOpenMarks() override;
+    MemoryOpenMarks(const MemoryOpenMarks&) = delete;
+    MemoryOpenMarks& operator=(const MemoryOpenMarks&) = delete;
 
-    void unmark(const std::string& path) override { marks.erase(path); }
-
-    std::optional<OpenElsewhere> markedByAnother(const std::string& path) override
-    {
-        const auto found = ofOthers.find(path);
-        if (found == ofOthers.end()) return std::nullopt;
-        return found->second;
-    }
+    bool mark(const std::string& path) override;
+    void unmark(const std::string& path) override;
+    std::optional<OpenElsewhere> markedByAnother(const std::string& path) override;
 
     std::set<std::string> marks;
     std::map<std::string, OpenElsewhere> ofOthers; // by full path
@@ -90,30 +59,15 @@ class MemoryOpenMarks : public OpenMarks {
 // The folders that were made, and in them the files of the disk.
 class MemoryFolders : public Folders {
   public:
-    explicit MemoryFolders(const MemoryDisk& disk) : disk_(disk) {}
+    explicit MemoryFolders(const MemoryDisk& disk);
+    ~MemoryFolders() override;
+    MemoryFolders(const MemoryFolders&) = delete;
+    MemoryFolders& operator=(const MemoryFolders&) = delete;
 
-    std::vector<std::string> files(const std::string& folder, const std::string& extension) override
-    {
-        std::vector<std::string> names;
-        for (const auto& [path, bytes] : disk_.files) {
-            const std::string name = path.substr(path.rfind('/') + 1);
-            if (path == folder + "/" + name && name.ends_with(extension)) names.push_back(name);
-        }
-        return names;
-    }
-
-    std::vector<std::string> subfolders(const std::string& folder) override
-    {
-        std::vector<std::string> names;
-        for (const std::string& known : folders) {
-            const std::string name = known.substr(known.rfind('/') + 1);
-            if (known == folder + "/" + name) names.push_back(name);
-        }
-        return names;
-    }
-
-    std::vector<std::string> drives() override { return {"/"}; }
-    bool exists(const std::string& folder) override { return folders.contains(folder); }
+    std::vector<std::string> files(const std::string& folder, const std::string& extension) override;
+    std::vector<std::string> subfolders(const std::string& folder) override;
+    std::vector<std::string> drives() override;
+    bool exists(const std::string& folder) override;
 
     std::set<std::string> folders; // full paths
 
@@ -123,13 +77,13 @@ class MemoryFolders : public Folders {
 
 class MemorySettings : public SettingsStore {
   public:
-    std::map<std::string, std::string> read() override { return values; }
+    MemorySettings();
+    ~MemorySettings() override;
+    MemorySettings(const MemorySettings&) = delete;
+    MemorySettings& operator=(const MemorySettings&) = delete;
 
-    void write(const std::map<std::string, std::string>& written) override
-    {
-        ++writes;
-        values = written;
-    }
+    std::map<std::string, std::string> read() override;
+    void write(const std::map<std::string, std::string>& written) override;
 
     std::map<std::string, std::string> values;
     int writes = 0;

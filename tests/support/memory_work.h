@@ -8,46 +8,31 @@ namespace mirtane::fake {
 
 class MemoryWork : public WorkKeeper {
   public:
-    MemoryWork() = default;
-    explicit MemoryWork(std::map<std::string, Bytes> left) : leftBehind(std::move(left)) {}
+    MemoryWork();
+    explicit MemoryWork(std::map<std::string, Bytes> left);
+    MemoryWork(const MemoryWork&);
+    MemoryWork& operator=(const MemoryWork&) = delete;
+    ~MemoryWork() override;
 
-    void keep(Bytes work) override
-    {
-        ++keeps;
-        if (!refuses) kept = std::move(work);
-    }
-    bool fails() const override { return refuses && keeps > 0; }
-    void forget() override { kept.reset(); }
-    std::vector<std::string> left() override
-    {
-        std::vector<std::string> names;
-        for (const auto& [name, bytes] : leftBehind) names.push_back(name);
-        return names;
-    }
-    std::optional<Bytes> read(const std::string& name) override
-    {
-        const auto found = leftBehind.find(name);
-        return found == leftBehind.end() ? std::nullopt : std::optional(found->second);
-    }
-    bool adopt(const std::string& name) override
-    {
-        const auto found = leftBehind.find(name);
-        if (found == leftBehind.end()) return false;
-        kept = found->second;
-        leftBehind.erase(found);
-        return true;
-    }
-    void remove(const std::string& name) override { leftBehind.erase(name); }
+    void keep(Bytes work) override;
+    bool fails() const override;
+    void flush() override;
+    void forget() override;
+    std::vector<std::string> left() override;
+    std::optional<Bytes> read(const std::string& name) override;
+    bool adopt(const std::string& name) override;
+    void remove(const std::string& name) override;
 
     std::optional<Bytes> kept;
     std::map<std::string, Bytes> leftBehind; // by name
     int keeps = 0;
     bool refuses = false;
+    bool refusesAdoption = false;
 };
 
 class MemoryClock : public Clock {
   public:
-    std::string now() override { return time; }
+    std::string now() override;
 
     std::string time = "2026-11-22 14:32";
 };

@@ -51,20 +51,15 @@ const std::vector<std::string>& namesListed(const Controls& controls)
     return controls[ids::fileList].rows;
 }
 
-// The drawing's own name, as the dialog proposes it.
-bool isOwnName(const Session& s, const std::string& name)
-{
-    return s.filePattern == "*.mtd" && name == s.drawingName;
-}
-
-// A file of the list, or the drawing's own, is meant as it stands, were there three points in its name: else
-// another file would be opened, or written over.
+// A file of the list, or the name that the dialog proposed, is meant as it stands, were there three points in
+// it: else another file would be opened, or written over.
 std::string chosenName(const Session& s)
 {
     const std::string& typed = s.controls[ids::fileName].text;
     const auto& names = namesListed(s.controls);
-    const bool isListed = std::ranges::find(names, typed) != names.end() && typed.front() != '.';
-    return isListed || isOwnName(s, typed) ? typed : normalisedName(s);
+    const bool isListed = std::ranges::find(names, typed) != names.end();
+    const bool isMeant = (isListed || typed == s.proposedName) && !typed.starts_with('.');
+    return isMeant ? typed : normalisedName(s);
 }
 
 bool sameButForCase(std::string_view a, std::string_view b)
@@ -96,6 +91,7 @@ bool isSaving(const Controls& controls)
 // The one overwrite warning: the button says so while the name is that of a file in the list.
 void showWhetherItOverwrites(Session& s)
 {
+    s.notices.settle(Matter::fileInTheWay);
     if (!isSaving(s.controls)) return;
     const std::vector<std::string>& names = namesListed(s.controls);
     const bool present = std::ranges::find(names, chosenName(s)) != names.end();
@@ -166,6 +162,17 @@ std::string folderThatExists(App& app, const FolderPair& folders)
 
 namespace {
 
+// The drawing's own file needs no warning, unless someone else was at it. Its folder may be gone with it.
+void showWhatItWouldReplace(App& app)
+{
+    Session& s = app.s;
+    const bool ownFile = proposesOwnFile(s);
+    if (!ownFile) showWhetherItOverwrites(s);
+    const bool own = ownFile || (savesWholeDrawing(choiceOf(s, chosenName(s))) && ownFileIsGone(app));
+    if (isSaving(s.controls) && own && warnOfOwnFile(app))
+        s.controls[ids::fileConfirm].caption = "Overwrite?";
+}
+
 // The drawing itself is saved where it is from, wherever parts of it or others went meanwhile.
 std::string firstFolder(App& app, const FileFlow& flow)
 {
@@ -190,29 +197,29 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     s.controls[ids::fileRemark].caption.clear();
     setText(s.controls[ids::fileType], std::string(pattern.typeLine));
     setSelectedText(s.controls[ids::fileName], name);
+    s.proposedName = name;
     s.saveFollowUp = follow::nothing;
     showFolder(app, firstFolder(app, flow));
-    if (!proposesOwnFile(s))
-        showWhetherItOverwrites(s);
-    else if (warnOfOwnFile(app))
-        s.controls[ids::fileConfirm].caption = "Overwrite?";
+    showWhatItWouldReplace(app);
     s.controls[ids::fileForm].visible = true;
     s.controls.focus = ids::fileName;
 }
 
 namespace {
 
-void hideDialog(Controls& controls)
+void hideDialog(Session& s)
 {
-    controls[ids::fileForm].visible = false;
-    controls.focus = ids::drawing;
+    s.notices.settle(Matter::fileInTheWay);
+    s.controls[ids::fileForm].visible = false;
+    s.controls.focus = ids::drawing;
 }
 
 // The replaced objects go with it.
 void openDrawingAgain(App& app)
 {
-    const FileState& s = app.s;
-    openFile(app, {s.drawingFolder, s.drawingName, "Open Drawing", "*.mtd"});
+    Session& s = app.s;
+    if (!openFile(app, {s.drawingFolder, s.drawingName, "Open Drawing", "*.mtd"})) return;
+    setText(s.controls[ids::entry], ""); // that there was no room
 }
 
 // What was asked for before the work was saved or given up.
@@ -221,7 +228,7 @@ void carryOutFollowUp(App& app)
     const std::int16_t followUp = app.s.saveFollowUp;
     if (followUp == follow::exit) return endProgram(app);
     app.s.saveFollowUp = follow::nothing;
-    hideDialog(app.s.controls);
+    hideDialog(app.s);
     if (followUp == follow::nothing) return setPrompt(app.s, app.pic1);
     if (followUp == follow::openAgain) return openDrawingAgain(app);
     clearDrawing(app);
@@ -251,10 +258,15 @@ void saveAndOpenAgain(App& app)
 
 namespace {
 
-// Someone else may have saved it while the dialog stood.
-bool changedSinceItWasShown(App& app, const FileChoice& choice)
+// Someone else may have saved a file there while the dialog stood.
+bool isToBeToldFirst(App& app, const FileChoice& choice)
 {
-    return savesWholeDrawing(choice) && pathOf(choice) == app.s.drawingFile && !ownFileIsAsSeen(app);
+    Session& s = app.s;
+    const bool drawing = savesWholeDrawing(choice);
+    if (drawing && pathOf(choice) == s.drawingFile) return !ownFileIsAsSeen(app) && warnOfOwnFile(app);
+    if (s.notices.tells(Matter::fileInTheWay)) return false;
+    const bool saidByButton = s.controls[ids::fileConfirm].caption == "Overwrite?";
+    return (drawing || !saidByButton) && warnOfFileInTheWay(app, pathOf(choice), choice.name, saidByButton);
 }
 
 } // namespace
@@ -269,12 +281,12 @@ void confirmFileDialog(App& app, ControlId)
     (s.*patternOf(s).folders).last = folderShown(s.controls);
     const FileChoice choice = choiceOf(s, name);
     if (!isSaving(s.controls)) {
-        if (openFile(app, choice)) hideDialog(s.controls);
-    } else if (changedSinceItWasShown(app, choice)) {
-        if (warnOfOwnFile(app)) s.controls[ids::fileConfirm].caption = "Overwrite?";
+        if (openFile(app, choice)) hideDialog(s);
+    } else if (isToBeToldFirst(app, choice)) {
+        s.controls[ids::fileConfirm].caption = "Overwrite?";
     } else if (saveFile(app, choice)) {
         if (savesWholeDrawing(choice)) return carryOutFollowUp(app);
-        hideDialog(s.controls);
+        hideDialog(s);
     }
 }
 
@@ -289,7 +301,7 @@ void openDrawingAt(App& app, const std::string& path)
     openFileDialog(app, flow, name);
     const bool isDrawing = name.size() > 4 && sameButForCase(name.substr(name.size() - 4), ".mtd");
     const FileChoice choice{folder, name, std::string(flow.caption), std::string(flow.pattern)};
-    if (isDrawing && openFile(app, choice)) hideDialog(s.controls);
+    if (isDrawing && openFile(app, choice)) hideDialog(s);
 }
 
 void dismissFileDialog(App& app, ControlId)
@@ -301,7 +313,7 @@ void dismissFileDialog(App& app, ControlId)
 void closeFileDialog(App& app)
 {
     app.s.saveFollowUp = follow::nothing;
-    hideDialog(app.s.controls);
+    hideDialog(app.s);
 }
 
 void fileNameKeyPress(App& app, char32_t code)

@@ -48,6 +48,7 @@ void takePartOfFile(App& app, const FileChoice& choice, std::int32_t leftOut)
 bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
 {
     Session& s = app.s;
+    keepBeforeSave(app); // where the file has to be written in place, it is not whole for a moment
     if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
     endWhatIsBegun(s, app.pic1);
     const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
@@ -75,7 +76,8 @@ void mergeDrawing(App& app, const FileChoice& choice, const Bytes& file)
 
 bool openDrawingFile(App& app, const FileChoice& choice)
 {
-    const std::optional<FileStamp> stamp = app.ports.disk.stamp(pathOf(choice)); // what comes later is a change
+    const std::optional<FileStamp> stamp =
+        app.ports.disk.stamp(pathOf(choice)); // what comes later is a change
     const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
     if (!file) return false;
     endWhatIsBegun(app.s, app.pic1);
@@ -158,8 +160,12 @@ bool saveFile(App& app, const FileChoice& choice)
 {
     for (const PatternRoutines& row : patternRoutines) {
         if (row.pattern != choice.pattern) continue;
-        if (isPlainName(choice.name) && row.save(app, choice)) return true;
-        setText(app.s.controls[ids::entry], std::string(row.notSaved));
+        Control& entry = app.s.controls[ids::entry];
+        if (isPlainName(choice.name) && row.save(app, choice)) {
+            if (entry.text == row.notSaved) setText(entry, "");
+            return true;
+        }
+        setText(entry, std::string(row.notSaved));
     }
     return false;
 }

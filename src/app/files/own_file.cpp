@@ -8,6 +8,11 @@ void say(Notices& notices, Matter matter, std::string sentence)
     notices.post({matter, std::move(sentence), {{"Close", Offer::goOn}}});
 }
 
+std::string since(const OpenElsewhere& other)
+{
+    return other.clock.empty() ? "" : " since " + other.clock;
+}
+
 bool warnOfChange(App& app, const std::optional<FileStamp>& now)
 {
     Session& s = app.s;
@@ -26,8 +31,8 @@ bool warnOfOthers(App& app)
     if (app.ports.marks == nullptr) return false;
     const std::optional<OpenElsewhere> other = app.ports.marks->markedByAnother(s.drawingFile);
     if (!other) return false;
-    const std::string since = other->clock.empty() ? "" : " since " + other->clock;
-    say(s.notices, Matter::openElsewhere, s.drawingName + " stands open in another Mirtane" + since + ".");
+    say(s.notices, Matter::openElsewhere,
+        s.drawingName + " stands open in another Mirtane" + since(*other) + ".");
     return true;
 }
 
@@ -44,6 +49,7 @@ void watchOwnFile(App& app, std::optional<FileStamp> stamp)
     }
     s.notices.settle(Matter::fileChanged);
     s.notices.settle(Matter::openElsewhere);
+    s.notices.settle(Matter::fileInTheWay);
     if (!s.drawingFile.empty()) warnOfOthers(app);
     s.savedStamp = s.seenStamp = std::move(stamp);
 }
@@ -52,8 +58,32 @@ bool warnOfOwnFile(App& app)
 {
     const std::optional<FileStamp> now = app.ports.disk.stamp(app.s.drawingFile);
     app.s.seenStamp = now;
-    const bool changed = warnOfChange(app, now);
-    return warnOfOthers(app) || changed;
+    const bool others = warnOfOthers(app);
+    return warnOfChange(app, now) || others; // the change comes in front: saving would replace it
+}
+
+void reviewOthers(App& app)
+{
+    const Session& s = app.s;
+    if (s.notices.tells(Matter::openElsewhere) && !app.ports.marks->markedByAnother(s.drawingFile)) {
+        app.s.notices.settle(Matter::openElsewhere);
+    }
+}
+
+bool ownFileIsGone(App& app)
+{
+    return !app.s.drawingFile.empty() && !app.ports.disk.stamp(app.s.drawingFile);
+}
+
+bool warnOfFileInTheWay(App& app, const std::string& path, const std::string& name, bool toldBefore)
+{
+    const std::optional<OpenElsewhere> other =
+        app.ports.marks != nullptr ? app.ports.marks->markedByAnother(path) : std::nullopt;
+    if (!other && (toldBefore || !app.ports.disk.isTaken(path))) return false;
+    say(app.s.notices, Matter::fileInTheWay,
+        name + (other ? " stands open in another Mirtane" + since(*other) : " is there already") +
+            ": saving replaces it.");
+    return true;
 }
 
 bool ownFileIsAsSeen(App& app)

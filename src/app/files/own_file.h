@@ -16,6 +16,16 @@ void watchOwnFile(App& app, std::optional<FileStamp> stamp = {});
 // it is no longer there, or another program of ours has it open. Gives whether there was anything to say.
 bool warnOfOwnFile(App& app);
 
+// The other program that had it open may have ended.
+void reviewOthers(App& app);
+
+// Whether the drawing has a file that is no longer on the disk.
+bool ownFileIsGone(App& app);
+
+// Says what else stands at the path to which something is to be saved: a drawing that another program has
+// open, or, if the user was not told of it before, any file. Gives whether there was anything to say.
+bool warnOfFileInTheWay(App& app, const std::string& path, const std::string& name, bool toldBefore);
+
 // Whether the file is as it was when it was last asked about, in watchOwnFile or warnOfOwnFile.
 bool ownFileIsAsSeen(App& app);
 

@@ -26,14 +26,15 @@ std::string shortTime(const std::string& time, const std::string& now)
     return today ? time.substr(blank + 1) : time;
 }
 
-std::string folderOf(const std::string& path)
+std::int32_t unsavedChanges(const Session& s)
 {
-    return path.substr(0, std::max<std::size_t>(path.rfind('/'), 1));
+    return std::max(1, s.changesBefore + s.log.undoGroupNext - s.savedMark.undoGroupNext);
 }
 
 KeptAbout aboutDrawing(const Session& s, const Ports& ports)
 {
-    return {s.drawingName, s.drawingFile, nowBy(ports.clock), s.savedStamp};
+    return {s.drawingName,   s.drawingFile,     nowBy(ports.clock), s.savedStamp,
+            s.drawingFolder, unsavedChanges(s), s.savedTime};
 }
 
 std::optional<KeptWork> workOnOffer(App& app)
@@ -47,9 +48,10 @@ void tellWhetherItFails(Notices& notices, const WorkKeeper& keeper)
 {
     if (!keeper.fails()) return notices.settle(Matter::workNotKept);
     if (notices.tells(Matter::workNotKept)) return;
-    notices.post({Matter::workNotKept,
-                  "What you draw is not kept for the case that the machine goes down: the disk takes nothing. Save often.",
-                  {}});
+    notices.postBehind({Matter::workNotKept,
+                        "What you draw is not kept for the case that the machine goes down: the disk takes "
+                        "nothing. Save often.",
+                        {}});
 }
 
 // What can't be read stays where it is, out of the way.
@@ -61,9 +63,9 @@ void offerNext(App& app)
         const std::optional<KeptWork> work = workOnOffer(app);
         if (!work) continue;
         const std::string time = shortTime(work->about.time, nowBy(app.ports.clock));
-        s.notices.post({Matter::workLeft,
-                        work->about.drawingName + ", " + time + ": work that was not saved is here.",
-                        {{"Restore", Offer::restoreWork}, {"Throw away", Offer::throwWorkAway}}});
+        s.notices.postBehind({Matter::workLeft,
+                              work->about.drawingName + ", " + time + ": work that was not saved is here.",
+                              {{"Restore", Offer::restoreWork}, {"Throw away", Offer::throwWorkAway}}});
         return;
     }
 }
@@ -73,11 +75,11 @@ void takeAsUnsaved(Session& s, const KeptAbout& about)
 {
     s.drawingName = about.drawingName;
     s.drawingFile = about.drawingFile;
-    s.drawingFolder = about.drawingFile.empty() ? "" : folderOf(about.drawingFile);
+    s.drawingFolder = about.folder;
     s.savedCount = 0;
-    s.savedTime = about.time;
-    s.savedMark = {};
-    s.keptMark = workMark(s);
+    s.savedTime = about.since;
+    s.changesBefore = about.changes;
+    s.savedMark = s.keptMark = workMark(s);
 }
 
 } // namespace
@@ -100,18 +102,26 @@ void keepUnsavedWork(App& app)
     tellWhetherItFails(s.notices, *keeper);
 }
 
+void keepBeforeSave(App& app)
+{
+    if (app.ports.work == nullptr) return;
+    keepUnsavedWork(app);
+    app.ports.work->flush();
+}
+
 void takeAsSaved(App& app)
 {
     Session& s = app.s;
     s.savedMark = workMark(s);
     s.keptMark = s.savedMark;
+    s.changesBefore = 0;
     s.savedTime = nowBy(app.ports.clock);
     if (app.ports.work != nullptr) app.ports.work->forget();
 }
 
 std::string whatIsUnsaved(const Session& s, std::string_view button, Clock* clock)
 {
-    const std::int32_t changes = std::max(1, s.log.undoGroupNext - s.savedMark.undoGroupNext);
+    const std::int32_t changes = unsavedChanges(s);
     std::string text =
         s.drawingName + ": " + withThousands(changes) + (changes == 1 ? " change" : " changes");
     if (!s.savedTime.empty()) text += " since " + shortTime(s.savedTime, nowBy(clock));
@@ -130,8 +140,9 @@ void restoreLeftWork(App& app)
     Session& s = app.s;
     if (s.leftWork.empty()) return;
     const std::optional<KeptWork> work = workOnOffer(app);
-    // Another run may have been quicker.
-    const bool ours = work && app.ports.work->adopt(s.leftWork.back());
+    // Of two runs one takes it over. Where the folder takes nothing it is brought back all the same, and
+    // stays there.
+    const bool ours = work && (app.ports.work->adopt(s.leftWork.back()) || workOnOffer(app));
     s.leftWork.pop_back();
     if (ours) {
         endWhatIsBegun(s, app.pic1);
@@ -142,6 +153,11 @@ void restoreLeftWork(App& app)
         setPrompt(s, app.pic1);
     }
     offerNext(app);
+}
+
+bool leftWorkIsThere(App& app)
+{
+    return !app.s.leftWork.empty() && workOnOffer(app);
 }
 
 void throwLeftWorkAway(App& app)

@@ -12,6 +12,9 @@ bool hasUnsavedWork(const Session& s);
 // Keeps the drawing if something was done since it was last kept or saved.
 void keepUnsavedWork(App& app);
 
+// Keeps it on the disk before its file is written.
+void keepBeforeSave(App& app);
+
 // The drawing is as it is on the disk, or was given up: nothing of it is to be kept.
 void takeAsSaved(App& app);
 
@@ -25,5 +28,7 @@ void offerLeftWork(App& app);
 // Brings back the work on offer as the drawing, which must not hold unsaved work.
 void restoreLeftWork(App& app);
 void throwLeftWorkAway(App& app);
+// Another run may have taken it meanwhile.
+bool leftWorkIsThere(App& app);
 
 } // namespace mirtane

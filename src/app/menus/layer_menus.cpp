@@ -6,6 +6,7 @@
 #include "commands/kept_letters.h"
 #include "commands/live_text.h"
 #include "geometry/fault.h"
+#include "model/room.h"
 #include "render/redraw.h"
 #include "tables/list_modes.h"
 
@@ -87,7 +88,7 @@ void writeLayerName(EntityStore& store, std::int32_t layer, const std::string& n
 
 void nameLayer(Session& s, const std::string& name)
 {
-    if (name.empty()) return;
+    if (name.empty() || !hasRoomFor(s, 1)) return;
     if (Layer* row = s.layerTable.find(s.chosenLayer)) row->layerName = name;
     writeLayerName(s.store, s.chosenLayer, name);
     showLayers(s);
@@ -98,7 +99,7 @@ void addLayer(Session& s, const std::string& name)
 {
     mode(s.controls) = list_mode::setWorkingLayer;
     const std::int32_t number = s.layerTable.layerCount;
-    if (!name.empty() && number < LayerTable::rowLimit) {
+    if (!name.empty() && number < LayerTable::rowLimit && hasRoomFor(s, 1)) {
         Layer& row = *s.layerTable.find(number); // below the limit, tested above
         const std::string used = row.layerUsed;
         s.layerTable.resetRow(number, s.workLayer);

@@ -12,7 +12,8 @@ namespace mirtane {
 // faster than the disk takes them, the last one is written.
 class KeeperThread : public WorkKeeper {
   public:
-    // The keeper must outlive this, and is used by nobody else. It can be asked whether it fails while it keeps.
+    // The keeper must outlive this, and is used by nobody else. It can be asked whether it fails while it
+    // keeps.
     explicit KeeperThread(WorkKeeper& keeper);
     ~KeeperThread() override; // once all is written
     KeeperThread(const KeeperThread&) = delete;
@@ -21,8 +22,7 @@ class KeeperThread : public WorkKeeper {
     void keep(Bytes work) override;
     bool fails() const override { return keeper_.fails(); }
     void forget() override;
-    // Waits until all is on the disk.
-    void flush();
+    void flush() override;
 
     // These wait for what is on its way.
     std::vector<std::string> left() override;

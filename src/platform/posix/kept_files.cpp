@@ -43,12 +43,17 @@ std::filesystem::path holderOf(std::filesystem::path kept)
     return kept.replace_extension();
 }
 
+bool stands(const std::filesystem::path& path)
+{
+    struct stat there = {};
+    return ::lstat(path.c_str(), &there) == 0;
+}
+
 // Where no holder stands any more, its run ended between the two removals, or another run found it dead.
 bool isLeft(const std::filesystem::path& kept)
 {
     const std::filesystem::path holder = holderOf(kept);
-    struct stat there = {};
-    return ::lstat(holder.c_str(), &there) != 0 || removeIfDead(holder) == Holder::dead;
+    return !stands(holder) || removeIfDead(holder) == Holder::dead;
 }
 
 } // namespace
@@ -61,7 +66,7 @@ KeptFiles::~KeptFiles()
 std::optional<std::string> KeptFiles::own()
 {
     constexpr mode_t forTheUser = 0600;
-    if (!holder_.file.isOpen()) {
+    if (!holder_.file.isOpen() || !stands(holder_.path)) {
         const std::optional<std::string> folder = state_.made();
         if (!folder) return std::nullopt;
         holder_ = makeHeld(*folder, stem, forTheUser);
@@ -79,14 +84,26 @@ std::string KeptFiles::pathOf(const std::string& name) const
 void KeptFiles::keep(Bytes work)
 {
     const std::optional<std::string> path = own();
-    fails_ = !path || !disk_.writeWhole(*path, work);
+    const bool done = path && disk_.writeWhole(*path, work);
+    const std::scoped_lock lock(mutex_);
+    failed_ = !done;
+    if (!done) return;
+    if (!kept_.empty() && kept_ != *path) ::unlink(kept_.c_str());
+    kept_ = *path;
+}
+
+bool KeptFiles::fails() const
+{
+    const std::scoped_lock lock(mutex_);
+    return failed_ || (!kept_.empty() && !stands(kept_));
 }
 
 void KeptFiles::forget()
 {
-    fails_ = false;
-    if (!holder_.file.isOpen()) return;
-    ::unlink((holder_.path.string() + std::string(ending)).c_str());
+    const std::scoped_lock lock(mutex_);
+    failed_ = false;
+    if (!kept_.empty()) ::unlink(kept_.c_str());
+    kept_.clear();
 }
 
 std::vector<std::string> KeptFiles::left()
@@ -107,7 +124,10 @@ std::optional<Bytes> KeptFiles::read(const std::string& name)
 bool KeptFiles::adopt(const std::string& name)
 {
     const std::optional<std::string> path = own();
-    return path && std::rename(pathOf(name).c_str(), path->c_str()) == 0;
+    if (!path || std::rename(pathOf(name).c_str(), path->c_str()) != 0) return false;
+    const std::scoped_lock lock(mutex_);
+    kept_ = *path;
+    return true;
 }
 
 void KeptFiles::remove(const std::string& name)

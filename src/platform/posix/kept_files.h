@@ -4,7 +4,7 @@
 #include "platform/posix/held_file.h"
 #include "platform/posix/state_folder.h"
 
-#include <atomic>
+#include <mutex>
 
 namespace mirtane {
 
@@ -19,7 +19,8 @@ class KeptFiles : public WorkKeeper {
     KeptFiles& operator=(const KeptFiles&) = delete;
 
     void keep(Bytes work) override;
-    bool fails() const override { return fails_; }
+    bool fails() const override;
+    void flush() override {}
     void forget() override;
     std::vector<std::string> left() override;
     std::optional<Bytes> read(const std::string& name) override;
@@ -28,13 +29,16 @@ class KeptFiles : public WorkKeeper {
 
   private:
     // The file of this run, which from now on is known to be alive; nothing where the folder can't be used.
+    // What sweeps old files away may have taken the one by which it was known.
     std::optional<std::string> own();
     std::string pathOf(const std::string& name) const;
 
     StateFolder state_;
     Disk& disk_;
     HeldFile holder_;
-    std::atomic<bool> fails_ = false; // asked while another thread keeps
+    mutable std::mutex mutex_; // what stands below is asked while another thread keeps
+    bool failed_ = false;
+    std::string kept_; // the path, while something is kept
 };
 
 } // namespace mirtane

@@ -16,7 +16,8 @@ std::string told(std::time_t time, const char* form)
 
 std::string clockAt(std::time_t time)
 {
-    return told(time, "%H:%M");
+    const bool today = told(time, "%F") == told(std::time(nullptr), "%F");
+    return told(time, today ? "%H:%M" : "%F %H:%M");
 }
 
 std::string WallClock::now()

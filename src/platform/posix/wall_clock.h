@@ -6,7 +6,7 @@
 
 namespace mirtane {
 
-// Hours and minutes of the clock on the wall: "14:32".
+// By the clock on the wall: "14:32" of today, "2026-11-20 14:32" of another day.
 std::string clockAt(std::time_t time);
 
 class WallClock : public Clock {

@@ -5,6 +5,7 @@
 #include "platform/qt/whole.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTextLayout>
 #include <QTransform>
@@ -119,6 +120,20 @@ void Surface::text(float x, float y, int degrees, std::string_view utf8)
     write(sizedFace(height), {std::nearbyint(at.x), std::nearbyint(at.y)}, degrees, drawnText(utf8));
 }
 
+namespace {
+
+// Of a text that no hand has typed the letters that can be seen: large ones cost a millisecond each.
+void drawLetters(QPainter& painter, const QTextLine& words, const QPointF& corner, const QRectF& seen)
+{
+    const int first = words.xToCursor(seen.left());
+    const int last = words.xToCursor(seen.right());
+    for (const QGlyphRun& run : words.glyphRuns(std::max(0, first - 1), last - first + 2)) {
+        painter.drawGlyphRun(corner, run);
+    }
+}
+
+} // namespace
+
 void Surface::write(const Face& face, PixelPoint at, int degrees, const QString& text)
 {
     QTransform turned = QTransform::fromTranslate(at.x, at.y);
@@ -145,7 +160,11 @@ void Surface::write(const Face& face, PixelPoint at, int degrees, const QString&
     painter.setTransform(turned);
     painter.setPen(QColor::fromRgb(color()));
     // Letters that another font lends may be higher; they must not push the line down.
-    layout.draw(&painter, QPointF(0, face.ascent - words.ascent()));
+    const QPointF corner(0, face.ascent - words.ascent());
+    constexpr qsizetype longestTyped = 100;
+    if (text.size() <= longestTyped) return layout.draw(&painter, corner);
+    const QRectF seen = turned.inverted().mapRect(QRectF(pixels.rect())).adjusted(-line, 0, line, 0);
+    drawLetters(painter, words, corner, seen);
 }
 
 } // namespace mirtane

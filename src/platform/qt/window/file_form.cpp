@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 
 namespace mirtane {
 namespace {
@@ -39,7 +40,10 @@ void layFileForm(const ControlMaker& maker, QWidget& form)
     drives.setFixedHeight(driveRows * drives.fontMetrics().height() + 2 * drives.fontMetrics().height());
     grid.addWidget(&drives, 2, 1);
     grid.addWidget(&maker.makeLabelled(ids::fileTypeLabel, ids::fileType, form), 3, 0, 1, 2);
-    grid.addWidget(&maker.make(ids::fileRemark, form), 4, 0, 1, 2);
+    auto& remark = static_cast<QLabel&>(maker.make(ids::fileRemark, form)); // labels are made as such
+    remark.setWordWrap(true);
+    remark.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    grid.addWidget(&remark, 4, 0, 1, 2);
     grid.addWidget(&buttonRow(maker, form), 5, 0, 1, 2);
 }
 

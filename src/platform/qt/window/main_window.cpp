@@ -22,7 +22,7 @@ namespace {
 // How long nothing may happen before work that is not saved is kept, and how long it may go on happening; in
 // milliseconds.
 constexpr int restBegins = 1000;
-constexpr qint64 longestWithoutRest = 10000;
+constexpr qint64 longestWithoutRest = 1900;
 
 // The line under the drawing: the prompt, which may need all of the width, and the pointer's position.
 QWidget& statusLine(const ControlMaker& maker, QWidget& parent)

@@ -31,9 +31,16 @@ NoticeStrip::NoticeStrip(const ControlMaker& maker, QWidget* parent)
     for (const ControlId button : {ControlId(ids::noticeFirst), ControlId(ids::noticeSecond)}) {
         QWidget& widget = maker.make(button, *this);
         widget.setFocusPolicy(Qt::TabFocus); // a click leaves the keys where they were
+        widget.installEventFilter(this);
         row.addWidget(&widget);
     }
     maker.views().add(ids::notice, *this);
+}
+
+// The first click may have brought up another matter, for which the second was not meant.
+bool NoticeStrip::eventFilter(QObject* watched, QEvent* event)
+{
+    return event->type() == QEvent::MouseButtonDblClick || QWidget::eventFilter(watched, event);
 }
 
 void NoticeStrip::show(const Control& now)

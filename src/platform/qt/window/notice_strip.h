@@ -14,6 +14,9 @@ class NoticeStrip : public QWidget, public ControlView {
 
     void show(const Control& now) override;
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     QLabel& sentence_; // belongs to this
 };
