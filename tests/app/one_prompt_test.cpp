@@ -91,7 +91,8 @@ TEST(OnePrompt, OfZoomWindowOverAConstructionLineThatIsReleased)
     }
 }
 
-// A function that has no prompt leaves the one that stands, which must not ask for a corner that is no longer wanted.
+// A function that has no prompt leaves the one that stands, which must not ask for a corner that is no longer
+// wanted.
 TEST(OnePrompt, OfAWindowThatGivesWayToAFunctionWithoutAPrompt)
 {
     for (const ControlId window : {"Command18"_c, "Command19"_c}) {

@@ -293,19 +293,6 @@ TEST(OwnFile, ThatVanishedWithItsFolderIsToldInTheFolderThatIsShownInstead)
     EXPECT_EQ(desk.caption("notice"_c), "house.mtd is no longer on the disk: saving puts it back.");
 }
 
-TEST(OwnFile, ThatVanishedIsAskedForAtTheEnd)
-{
-    for (const ControlId menu : {"fil5"_c, "fil14"_c, "fil4"_c}) {
-        HouseDesk desk;
-        desk.saveAs("house");
-        desk.disk.files.erase(housePath);
-        desk.press(menu);
-        EXPECT_EQ(desk.caption("frmfile"_c), "Save Changes");
-        EXPECT_FALSE(desk.shell.ended());
-        EXPECT_EQ(desk.s.store.entCount, 3);
-    }
-}
-
 // Files of others
 
 TEST(FileOfOthers, ThatAppearsWhileTheDialogStandsIsNotReplacedUnseen)

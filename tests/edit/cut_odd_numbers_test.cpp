@@ -88,7 +88,8 @@ TEST(CutsOfOddNumbers, PastTheEndOfTheTableWriteNothing)
         const Point clicks[] = {{30, 45}, {31, 12}, {5, 5}, {9, 9}};
         for (int click = 0; click < cut.clicks; ++click) desk.click(clicks[click]);
         EXPECT_EQ(desk.slot(1).p2, (Point{100, 0})) << cut.name;
-        const bool misses = std::string(cut.name) == "Trim"; // both objects, which lose the selection and need no slot
+        const bool misses =
+            std::string(cut.name) == "Trim"; // both objects, which lose the selection and need no slot
         EXPECT_EQ(countWithStat(desk.s.store, Stat::sel), misses ? 0 : 2) << cut.name;
         EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount) << cut.name;
     }

@@ -112,17 +112,20 @@ TEST_F(StampTest, TellsTheTimeAsTheClockOnTheWallDoes)
         const char* clock;
     };
     const Row rows[] = {
-        {"UTC0", 20000 * day + 14 * 3600 + 32 * 60 + 59, "14:32"},
-        {"UTC0", 20000 * day, "00:00"},
-        {"UTC0", 20000 * day + 9 * 3600 + 5 * 60, "09:05"},
-        {"XST-5:30", 20000 * day + 20 * 3600, "01:30"},
-        {"UTC0", 157000 * day + 3600, "01:00"}, // in the year 2399
+        {"UTC0", 20000 * day + 14 * 3600 + 32 * 60 + 59, "2024-10-04 14:32"},
+        {"UTC0", 20000 * day, "2024-10-04 00:00"},
+        {"UTC0", 20000 * day + 9 * 3600 + 5 * 60, "2024-10-04 09:05"},
+        {"XST-5:30", 20000 * day + 20 * 3600, "2024-10-05 01:30"},
+        {"UTC0", 157000 * day + 3600, "2399-11-08 01:00"},
     };
     for (const Row& row : rows) {
         in(row.zone);
         setTime("a.mtd", row.seconds, 0);
         EXPECT_EQ(stamp()->clock, row.clock);
     }
+    in("UTC0");
+    setTime("a.mtd", time(nullptr), 0);
+    EXPECT_EQ(stamp()->clock.size(), 5U) << "of today the time is enough";
     in("UTC0");
     const auto winter = stamp();
     in("XST-1");

@@ -79,7 +79,7 @@ bool warnOfFileInTheWay(App& app, const std::string& path, const std::string& na
 {
     const std::optional<OpenElsewhere> other =
         app.ports.marks != nullptr ? app.ports.marks->markedByAnother(path) : std::nullopt;
-    if (!other && (toldBefore || !app.ports.disk.isTaken(path))) return false;
+    if (!other && (toldBefore || !app.ports.disk.stamp(path))) return false;
     say(app.s.notices, Matter::fileInTheWay,
         name + (other ? " stands open in another Mirtane" + since(*other) : " is there already") +
             ": saving replaces it.");

@@ -2,7 +2,6 @@
 
 #include "app/drawing/endings.h"
 #include "app/files/file_dialog.h"
-#include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/start_stop.h"
 #include "dxf/dxf_names.h"
@@ -61,12 +60,6 @@ constexpr FileFlow namedFlows[] = {
     {list_mode::saveMultipleLines, "Save", "*.mtm"},
 };
 
-// What is not saved, and what was but is no longer on the disk.
-bool isAtStake(App& app)
-{
-    return hasUnsavedWork(app.s) || (app.s.store.entCount > 1 && ownFileIsGone(app));
-}
-
 } // namespace
 
 void openFileFlow(App& app, ControlId entry)
@@ -77,7 +70,7 @@ void openFileFlow(App& app, ControlId entry)
         setText(app.s.controls[ids::entry], "Nothing Selected!");
         return;
     }
-    if (row->afterUnsavedWork != follow::nothing && isAtStake(app)) {
+    if (row->afterUnsavedWork != follow::nothing && hasUnsavedWork(app.s)) {
         return offerToSave(app, row->afterUnsavedWork);
     }
     openFileDialog(app, row->flow, row->name(app.s));
@@ -91,7 +84,7 @@ void openNamedFlow(App& app, std::string_view caption, const std::string& name)
 
 void closeDrawing(App& app, ControlId)
 {
-    if (isAtStake(app)) return offerToSave(app, follow::clear);
+    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::clear);
     clearDrawing(app);
 }
 
@@ -99,7 +92,7 @@ void leaveProgram(App& app)
 {
     endWhatIsBegun(app.s, app.pic1);
     app.s.saveFollowUp = follow::exit;
-    if (isAtStake(app)) {
+    if (hasUnsavedWork(app.s)) {
         offerToSave(app, follow::exit);
     } else {
         endProgram(app);

@@ -14,7 +14,8 @@ namespace mirtane {
 // Garamond stands in for Garamond.
 QFont faceOf(const QString& name);
 
-// A text as it is measured and painted: of one that no hand has typed, the first 2,000 letters, since each costs.
+// A text as it is measured and painted: of one that no hand has typed, the first 2,000 letters, since each
+// costs.
 QString drawnText(std::string_view utf8);
 
 // The fonts of this machine's screen.
