@@ -34,14 +34,14 @@ bool tellsNoRoom(const Controls& controls);
 // step and the points that were taken for it count for nothing. The next click may go on, or cancel.
 template <class Act> void unlessRefused(Session& s, Act act)
 {
-    const FunctionState function = s;
-    const ScratchPoints points = s;
-    const CanvasInput input = s;
-    const EditState edit = s;
+    const FunctionState function = static_cast<const FunctionState&>(s); // the base alone, as all seven below
+    const ScratchPoints points = static_cast<const ScratchPoints&>(s);
+    const CanvasInput input = static_cast<const CanvasInput&>(s);
+    const EditState edit = static_cast<const EditState&>(s);
     s.roomMissing = 0;
     act();
     if (s.roomMissing == 0) return;
-    static_cast<FunctionState&>(s) = function; // the base alone, as the next three
+    static_cast<FunctionState&>(s) = function;
     static_cast<ScratchPoints&>(s) = points;
     static_cast<CanvasInput&>(s) = input;
     static_cast<EditState&>(s) = edit;

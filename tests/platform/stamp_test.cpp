@@ -105,18 +105,20 @@ TEST_F(StampTest, TellsTheTimeAsTheClockOnTheWallDoes)
         qputenv("TZ", name);
         tzset();
     };
-    constexpr time_t day = 86400;
+    constexpr time_t minute = 60;
+    constexpr time_t hour = 60 * minute;
+    constexpr time_t day = 24 * hour;
     struct Row {
         const char* zone;
         time_t seconds;
         const char* clock;
     };
     const Row rows[] = {
-        {"UTC0", 20000 * day + 14 * 3600 + 32 * 60 + 59, "2024-10-04 14:32"},
+        {"UTC0", 20000 * day + 14 * hour + 32 * minute + 59, "2024-10-04 14:32"},
         {"UTC0", 20000 * day, "2024-10-04 00:00"},
-        {"UTC0", 20000 * day + 9 * 3600 + 5 * 60, "2024-10-04 09:05"},
-        {"XST-5:30", 20000 * day + 20 * 3600, "2024-10-05 01:30"},
-        {"UTC0", 157000 * day + 3600, "2399-11-08 01:00"},
+        {"UTC0", 20000 * day + 9 * hour + 5 * minute, "2024-10-04 09:05"},
+        {"XST-5:30", 20000 * day + 20 * hour, "2024-10-05 01:30"},
+        {"UTC0", 157000 * day + hour, "2399-11-08 01:00"},
     };
     for (const Row& row : rows) {
         in(row.zone);

@@ -10,6 +10,8 @@ class EndSignals {
     ~EndSignals();
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
+    EndSignals(EndSignals&&) = delete;
+    EndSignals& operator=(EndSignals&&) = delete;
 
     // Becomes readable when a signal has come.
     int descriptor() const;

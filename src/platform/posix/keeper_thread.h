@@ -18,6 +18,8 @@ class KeeperThread : public WorkKeeper {
     ~KeeperThread() override; // once all is written
     KeeperThread(const KeeperThread&) = delete;
     KeeperThread& operator=(const KeeperThread&) = delete;
+    KeeperThread(KeeperThread&&) = delete;
+    KeeperThread& operator=(KeeperThread&&) = delete;
 
     void keep(Bytes work) override;
     bool fails() const override { return keeper_.fails(); }

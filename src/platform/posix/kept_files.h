@@ -17,6 +17,8 @@ class KeptFiles : public WorkKeeper {
     ~KeptFiles() override;
     KeptFiles(const KeptFiles&) = delete;
     KeptFiles& operator=(const KeptFiles&) = delete;
+    KeptFiles(KeptFiles&&) = delete;
+    KeptFiles& operator=(KeptFiles&&) = delete;
 
     void keep(Bytes work) override;
     bool fails() const override;
