@@ -7,7 +7,6 @@
 #include "files/bytes.h"
 #include "text/code_page.h"
 
-#include <algorithm>
 #include <concepts>
 
 namespace mirtane {
@@ -45,11 +44,7 @@ class FieldWriter {
 
   private:
     // Nearly all texts are the same in both.
-    void put(const std::string& field)
-    {
-        const bool plain = std::all_of(field.begin(), field.end(), [](char c) { return c > 0; });
-        out_.counted(plain ? field : toCodePage(field));
-    }
+    void put(const std::string& field) { out_.counted(isSameInCodePage(field) ? field : toCodePage(field)); }
 
     ByteWriter& out_;
 };

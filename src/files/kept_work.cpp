@@ -22,15 +22,16 @@ std::string escaped(std::string_view text)
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c); // its bits
         const bool plain = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-        if (plain)
+        if (plain) {
             all += c;
-        else
-            (((all += '%') += digits[byte / 16U]) += digits[byte % 16U]);
+        } else {
+            all += {'%', digits[byte / 16U], digits[byte % 16U]};
+        }
     }
     return all;
 }
 
-std::string plain(std::string_view text)
+std::string unescaped(std::string_view text)
 {
     std::string all;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -93,13 +94,13 @@ KeptAbout aboutIn(const EntityRecord& r)
     std::string_view text = r.t2;
     KeptAbout about;
     for (std::string* field : {&about.drawingName, &about.drawingFile, &about.time}) {
-        *field = plain(nextField(text));
+        *field = unescaped(nextField(text));
     }
-    about.stamp = stampIn(plain(nextField(text)));
-    about.folder = plain(nextField(text));
+    about.stamp = stampIn(unescaped(nextField(text)));
+    about.folder = unescaped(nextField(text));
     std::string_view changes = nextField(text);
     static_cast<void>(takeNumber(changes, about.changes)); // none where it is no number
-    about.since = plain(nextField(text));
+    about.since = unescaped(nextField(text));
     return about;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// What a table had no room for, and how entry says so. Nothing refuses what is too much: it is dropped, and
-// who draws is told of it.
+// What a table had no room for, and how entry says so. What is too much for a library is dropped, and who
+// draws is told of it; an action on the drawing is refused as a whole (model/room.h).
 
 #include "model/controls.h"
 

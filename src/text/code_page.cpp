@@ -54,6 +54,12 @@ std::string_view firstBeyondCodePage(std::string_view utf8)
     return {};
 }
 
+bool isSameInCodePage(std::string_view utf8)
+{
+    // A char is signed on some machines and not on others.
+    return std::ranges::all_of(utf8, [](char c) { return static_cast<unsigned char>(c) < firstOdd; });
+}
+
 std::string toCodePage(std::string_view utf8)
 {
     std::string bytes;

@@ -13,6 +13,9 @@ bool inCodePage(char32_t code);
 // The first character of utf8 that the code page lacks; empty where it has them all.
 std::string_view firstBeyondCodePage(std::string_view utf8);
 
+// Whether the bytes of a text for a file are those of its UTF-8: all of them are below 80.
+bool isSameInCodePage(std::string_view utf8);
+
 // The bytes of utf8 for a file. A character that the code page lacks, and each malformed byte, becomes "?".
 std::string toCodePage(std::string_view utf8);
 

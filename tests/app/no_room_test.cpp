@@ -25,21 +25,9 @@ struct RoomDesk : EditsDesk {
         cancel(1, 1);
     }
 
-    std::int32_t add(const EntityRecord& r, Stat stat = Stat::sel)
-    {
-        const std::int32_t slot = s.store.entCount;
-        s.store.setRecord(slot, r);
-        commitSlot(s);
-        s.store.setStat(slot, stat);
-        return slot;
-    }
-    std::int32_t line(Point a, Point b, Stat stat = Stat::sel)
-    {
-        EntityRecord r = like(Kind::line);
-        r.p1 = a;
-        r.p2 = b;
-        return add(r, stat);
-    }
+    // All selected unless told otherwise, dashed and green on layer 3.
+    std::int32_t add(const EntityRecord& r, Stat stat = Stat::sel) { return draw(fake::green(r), stat); }
+    std::int32_t line(Point a, Point b, Stat stat = Stat::sel) { return add(fake::line(a, b), stat); }
     // p5 is where it was picked.
     std::int32_t picked(Point a, Point b, Point at)
     {
@@ -49,42 +37,27 @@ struct RoomDesk : EditsDesk {
     }
     std::int32_t circle(Point centre, float radius, Stat stat = Stat::sel)
     {
-        EntityRecord r = like(Kind::circle);
-        r.p1 = centre;
-        r.rad = radius;
-        return add(r, stat);
+        return add(fake::circle(centre, radius), stat);
     }
     std::int32_t arc(Point centre, float radius, double a1, double a2)
     {
-        EntityRecord r = like(Kind::arc);
-        r.p1 = centre;
-        r.rad = radius;
-        r.a1 = a1;
-        r.a2 = a2;
-        r.p2 = r.p3 = r.p4 = {centre.x + radius, centre.y};
-        return add(r);
+        return add(fake::arc(centre, radius, a1, a2));
     }
-    std::int32_t words(Kind kind, Point at, Stat stat = Stat::sel)
+    std::int32_t placedText(Point at, Stat stat = Stat::sel) { return add(fake::text(at, "words"), stat); }
+    std::int32_t dimension(Point at, Stat stat = Stat::sel)
     {
-        EntityRecord r = like(kind);
-        r.style = 0;
-        r.p1 = r.p4 = r.p5 = at;
-        r.p2 = kind == Kind::text ? Point{48, 0} : Point{at.x + 300, at.y + 100};
-        r.p3 = kind == Kind::text ? Point{} : Point{at.x + 300, at.y};
-        r.s1 = 1;
-        r.s2 = 48;
-        r.rad = 70;
-        r.t1 = "words";
-        r.t2 = "Courier";
-        return add(r, stat);
+        const Point end{at.x + 300, at.y};
+        const EntityRecord points =
+            fake::record(Kind::linearDimension, at, {at.x + 300, at.y + 100}, end, at, at);
+        return add(fake::dimension(points, "words", 1, 48), stat);
     }
     void everything()
     {
         line({311, 402}, {933, 1210});
         circle({1200.5F, 900}, 88);
         arc({-700, 555}, 120, 0.4, 2.9);
-        words(Kind::text, {1500, 1555});
-        words(Kind::linearDimension, {1700, 1711});
+        placedText({1500, 1555});
+        dimension({1700, 1711});
         line({5, 5}, {6, 6}, Stat::out);
         line({15, 5}, {6, 16}, Stat::on);
     }
@@ -116,17 +89,6 @@ struct RoomDesk : EditsDesk {
         }
         s.store.entCount = EntityStore::slotCount - slots;
     }
-
-  private:
-    static EntityRecord like(Kind kind)
-    {
-        EntityRecord r;
-        r.kind = kind;
-        r.layer = 3;
-        r.color = 0x00FF00;
-        r.style = 2;
-        return r;
-    }
 };
 
 void hatch(RoomDesk& d)
@@ -144,7 +106,7 @@ void hatch(RoomDesk& d)
 void associate(RoomDesk& d, bool withWords)
 {
     for (const std::int32_t slot : {d.line({0, 0}, {10, 20}, Stat::out), d.circle({5, 5}, 7, Stat::out),
-                                    withWords ? d.words(Kind::text, {1, 2}, Stat::out) : 0}) {
+                                    withWords ? d.placedText({1, 2}, Stat::out) : 0}) {
         if (slot == 0) continue;
         d.s.store.kind[EntityStore::at(slot)] = pieceOf(d.s.store.kind[EntityStore::at(slot)]);
         d.s.store.ownerName[EntityStore::at(slot)] = "door";
@@ -311,7 +273,7 @@ const Adding addings[] = {
      [](RoomDesk& d) { d.enter(); }, 2},
     {"Move Dimension Text",
      [](RoomDesk& d) {
-         d.words(Kind::linearDimension, {1700, 1711}, Stat::on);
+         d.dimension({1700, 1711}, Stat::on);
          d.press("dim11"_c);
          d.click(1701, 1712);
          d.move(1800, 1700);
@@ -319,7 +281,7 @@ const Adding addings[] = {
      [](RoomDesk& d) { d.click(1800, 1700); }, 1},
     {"Text Edit",
      [](RoomDesk& d) {
-         d.words(Kind::text, {1500, 1555}, Stat::on);
+         d.placedText({1500, 1555}, Stat::on);
          d.press("Command16"_c);
          d.click(1501, 1556);
          d.type(" and more");
@@ -556,7 +518,7 @@ TEST(NoRoom, IsNoMatterOfWhatAddsNothing)
 {
     for (const char* what : {"Delete", "Concentric Copy", "Break"}) {
         RoomDesk desk;
-        const std::int32_t slot = desk.words(Kind::text, {700, 700});
+        const std::int32_t slot = desk.placedText({700, 700});
         desk.startOn("Move");
         desk.cancel(5, 5);
         desk.s.store.setStat(slot, Stat::sel);

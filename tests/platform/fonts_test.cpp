@@ -26,6 +26,45 @@ TEST(Fonts, OfATextThatNoHandTypedTheFirstLettersAreDrawn)
     }
 }
 
+std::vector<std::uint32_t> painted(float x, float y, int degrees, float size, bool underlined,
+                                   const std::string& text)
+{
+    Surface surface(320, 240, 1);
+    surface.setScale({-37, 4011, 1280, 960});
+    surface.clear();
+    surface.setColor(0xFFFFFF);
+    surface.setFontSize(size);
+    surface.setUnderline(underlined);
+    surface.text(x, y, degrees, text);
+    const auto pixels = surface.picture().pixels();
+    return {pixels.begin(), pixels.end()};
+}
+
+// A longer one is painted by the letters in view: a blank behind the longest that hands type makes one.
+TEST(Fonts, OfALongTextTheLettersInViewArePaintedAsThoseOfAShortOne)
+{
+    struct Row {
+        float x, y;
+        int degrees;
+        float size;
+    };
+    const Row rows[] = {
+        {0, 4100, 0, 48},       {-2000, 4400, 0, 48},  {700, 4900, 37, 90},   {1200, 4020, -143, 60},
+        {-9000, 4300, 0, 300},  {500, 30000, 90, 700}, {-300, 3900, -41, 12}, {-40000, 4200, 0, 1100},
+        {-1500, 5600, 45, 150}, {600, 4500, 180, 80},
+    };
+    std::string shorter;
+    for (int i = 0; i < 20; ++i) shorter += "Wa\u00e7fi";
+    ASSERT_EQ(drawnText(shorter).size(), 100);
+    for (const Row& row : rows) {
+        const auto expected = painted(row.x, row.y, row.degrees, row.size, false, shorter);
+        EXPECT_EQ(painted(row.x, row.y, row.degrees, row.size, false, shorter + " "), expected)
+            << row.x << " " << row.degrees;
+    }
+    const auto bare = painted(0, 4100, 0, 90, false, shorter + " ");
+    EXPECT_NE(painted(0, 4100, 0, 90, true, shorter + " "), bare) << "a line is drawn under it";
+}
+
 TEST(Fonts, ThatAreNotThereAreLookedForSoOftenAndNoMore)
 {
     ASSERT_FALSE(QFontDatabase::families().isEmpty());

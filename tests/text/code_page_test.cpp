@@ -68,6 +68,16 @@ TEST(CodePage, WhatItLacksIsOneQuestionMark)
     for (const Pair& row : rows) EXPECT_EQ(toCodePage(row.utf8), row.bytes) << row.what;
 }
 
+TEST(CodePage, IsTheSameAsUtf8BelowEightyAlone)
+{
+    EXPECT_TRUE(isSameInCodePage(""));
+    for (int byte = 0; byte < 256; ++byte) {
+        const std::string text = "ab" + std::string(1, static_cast<char>(byte)) + "c"; // its bits
+        EXPECT_EQ(isSameInCodePage(text), byte < 0x80) << byte;
+        EXPECT_EQ(isSameInCodePage(text) && toCodePage(text) != text, false) << byte;
+    }
+}
+
 TEST(CodePage, TellsTheFirstCharacterThatItLacks)
 {
     const Pair rows[] = {

@@ -40,7 +40,6 @@ end_it() {
     wait "$program" 2>/dev/null || true
 }
 
-header_and_about=300 # bytes at the most
 record=90
 most_missing=0
 

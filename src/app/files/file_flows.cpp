@@ -34,21 +34,28 @@ void takeFile(App& app, const FileChoice& choice, const std::optional<FileStamp>
     takeAsSaved(app);
 }
 
-// The drawing is a part of the file's, which must not be replaced by it.
-void takePartOfFile(App& app, const FileChoice& choice, std::int32_t leftOut)
+// The drawing has no file yet, but the folder of the one that it came from.
+void takeFolder(App& app, const FileChoice& choice, const std::string& name)
 {
-    Session& s = app.s;
-    s.drawingName = "untitled.mtd";
+    FileState& s = app.s;
+    s.drawingName = name;
     s.drawingFile.clear();
     s.drawingFolder = choice.folder;
     watchOwnFile(app);
-    tellLeftOut(s.notices, choice.name, leftOut, s.drawingName);
+    takeAsSaved(app);
+}
+
+// The drawing is a part of the file's, which must not be replaced by it.
+void takePartOfFile(App& app, const FileChoice& choice, std::int32_t leftOut)
+{
+    takeFolder(app, choice, "untitled.mtd");
+    tellLeftOut(app.s.notices, choice.name, leftOut, app.s.drawingName);
 }
 
 bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
 {
     Session& s = app.s;
-    keepBeforeSave(app); // where the file has to be written in place, it is not whole for a moment
+    if (what == SaveWhat::drawing) keepBeforeSave(app); // its file may not be whole for a moment
     if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
     endWhatIsBegun(s, app.pic1);
     const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
@@ -86,8 +93,10 @@ bool openDrawingFile(App& app, const FileChoice& choice)
         mergeDrawing(app, choice, *file);
     } else {
         const std::int32_t leftOut = openDrawing(app, *file);
-        takeFile(app, choice, stamp);
-        if (leftOut > 0) takePartOfFile(app, choice, leftOut);
+        if (leftOut > 0)
+            takePartOfFile(app, choice, leftOut);
+        else
+            takeFile(app, choice, stamp);
     }
     setPrompt(app.s, app.pic1);
     return true;
@@ -113,13 +122,12 @@ bool openDxfFile(App& app, const FileChoice& choice)
     if (!file) return false;
     endWhatIsBegun(s, app.pic1);
     s.dxfName = choice.name;
-    s.drawingName = drawingNameOf(choice.name);
-    s.drawingFile.clear();           // what may be there under that name is another drawing
-    s.drawingFolder = choice.folder; // the drawing is saved beside the file that it came from
     const std::int32_t leftOut = openDxf(app, *file);
-    watchOwnFile(app);
-    takeAsSaved(app);
-    if (leftOut > 0) takePartOfFile(app, choice, leftOut);
+    if (leftOut > 0)
+        takePartOfFile(app, choice, leftOut);
+    else
+        takeFolder(app, choice,
+                   drawingNameOf(choice.name)); // what is there under that name is another drawing
     setPrompt(s, app.pic1);
     return true;
 }

@@ -3,8 +3,6 @@
 #include <QFontDatabase>
 #include <QSet>
 
-#include <algorithm>
-
 namespace mirtane {
 namespace {
 
@@ -29,12 +27,16 @@ bool isLookedFor(const QString& family)
 
 } // namespace
 
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); // texts are short
+}
+
 QString drawnText(std::string_view utf8)
 {
-    constexpr qsizetype longest = 2000;
-    constexpr std::size_t mostBytes = 4 * longest; // of so many characters
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(std::min(utf8.size(), mostBytes)))
-        .left(longest); // few
+    constexpr std::size_t longest = 2000;
+    constexpr std::size_t bytesOfALetter = 4;
+    return textOf(utf8.substr(0, longest * bytesOfALetter)).left(longest);
 }
 
 QFont faceOf(const QString& name)

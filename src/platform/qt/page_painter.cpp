@@ -29,11 +29,6 @@ Qt::PenStyle penStyleOf(std::int16_t style)
     return style >= 0 && style < std::ssize(styles) ? styles[style] : Qt::SolidLine;
 }
 
-QString textOf(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); // texts are short
-}
-
 QPageSize paperOfCountry()
 {
     const bool imperial = QLocale::system().measurementSystem() != QLocale::MetricSystem;

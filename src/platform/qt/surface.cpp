@@ -21,11 +21,6 @@ constexpr int largestFace = 1024;        // pixels; higher letters are enlarged
 constexpr int measuredFace = 256;        // pixels; the longest string of twice as high letters overflows
 constexpr double farthestPixel = 1e6;
 
-QString textOf(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); // texts are short
-}
-
 constexpr int pixelsPerInch = 96;
 constexpr int pointsPerInch = 72;
 
