@@ -273,7 +273,7 @@ void Shell::doubleClickRow(ControlId list, int row)
 {
     const bool takesSecondClick =
         list == ids::fileList || (list == ids::selectionList && listsFonts(s_.controls));
-    if (!takesSecondClick) return;
+    if (!takesSecondClick || !hasRow(s_.controls[list], row) || !canBeUsed(s_.controls, list)) return;
     clickRow(list, row);
     keyPress(enterKey);
 }

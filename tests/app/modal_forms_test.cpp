@@ -20,6 +20,7 @@ struct Paper {
 struct Room : Paper, Desk {
     Room() : Desk({}, {}, &paper)
     {
+        press("freecurs"_c); // no ortho: what is drawn goes where the pointer is
         for (float y = 1000; y < 1300; y += 100) drawLine(-1000, y, 1400, y + 37);
         click(2000, 2000);
     }
