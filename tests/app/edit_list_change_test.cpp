@@ -11,9 +11,6 @@ using fake::changeRow;
 using fake::editRows;
 using fake::EditsDesk;
 
-const ControlId boxes[] = {"frmfilter.Text1"_c, "frmfilter.Text2"_c, "frmfilter.Text3"_c,
-                           "frmfilter.Text4"_c};
-
 TEST(Change, OpensItsDialogFromTheListAndFromTheForm)
 {
     for (const bool fromForm : {false, true}) {
@@ -30,7 +27,7 @@ TEST(Change, OpensItsDialogFromTheListAndFromTheForm)
         EXPECT_TRUE(desk.visible("frmfilter"_c));
         EXPECT_FALSE(desk.visible("frmedit"_c));
         EXPECT_EQ(desk.caption("frmfilter"_c), "Change Properties");
-        for (const ControlId box : boxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
+        for (const ControlId box : fake::filterBoxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
         EXPECT_EQ(desk.mode(), "Change Properties");
         EXPECT_EQ(desk.rows(), desk.s.layerTable.rows());
         EXPECT_EQ(desk.s.controls["frmfilter.List1"_c].rows, desk.s.layerTable.rows());
@@ -71,7 +68,7 @@ TEST(Change, GivesLayerColourAndStyleAsOneAction)
     EXPECT_EQ(desk.s.stepNo, 0);
     EXPECT_EQ(desk.s.editPending, 0);
     EXPECT_EQ(desk.title(), fake::titleOf("Window Select(Place window around objects:)"));
-    for (const ControlId box : boxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
+    for (const ControlId box : fake::filterBoxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
     EXPECT_EQ(desk.s.filterLayer, -1);
     EXPECT_EQ(desk.s.filterStyle, -1);
     EXPECT_EQ(desk.s.filterColor, 0);
@@ -188,7 +185,7 @@ TEST(Change, ResetSetsAllBoxesBack)
     desk.press("frmfilter.cu8"_c);
     desk.press("frmfilter.st7"_c);
     desk.press("frmfilter.rst1"_c);
-    for (const ControlId box : boxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
+    for (const ControlId box : fake::filterBoxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
     EXPECT_TRUE(desk.visible("frmfilter"_c));
     desk.press("frmfilter.Command1"_c);
     EXPECT_EQ(desk.slot(2).layer, 1);
@@ -214,7 +211,7 @@ TEST(Change, CancelledDropsTheSelectionAndChangesNothing)
         EXPECT_EQ(desk.s.editPending, 0);
         EXPECT_EQ(desk.s.stepNo, 0);
         EXPECT_EQ(desk.s.filterColor, 0);
-        for (const ControlId box : boxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
+        for (const ControlId box : fake::filterBoxes) EXPECT_EQ(desk.text(box), "All") << box.row().name;
     }
 }
 

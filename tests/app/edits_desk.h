@@ -8,8 +8,6 @@
 
 namespace mirtane::fake {
 
-inline constexpr ControlId list = "List1"_c;
-
 struct EditFunction {
     const char* name;
     int row; // of the list
@@ -85,9 +83,5 @@ struct EditsDesk : Desk {
         return fake::marks(ops());
     }
 };
-
-inline const std::vector<std::string> editRows = {
-    "Break", "Trim",   "Stretch", "Copy", "Mirror Copy", "Radial Copy", "Concentric Copy", "Move", "Rotate",
-    "Scale", "Change", "Fillet",  "",     "Delete"};
 
 } // namespace mirtane::fake

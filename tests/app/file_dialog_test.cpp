@@ -8,8 +8,7 @@ namespace mirtane {
 namespace {
 
 using fake::Desk;
-
-const std::string houseFile = "/home/user/house.mtd";
+using fake::houseFile;
 
 void expectDialog(const Desk& desk, const char* caption, const char* confirm, const char* dismiss,
                   const char* name)

@@ -9,9 +9,6 @@ namespace {
 using fake::Desk;
 using testing::ElementsAre;
 
-constexpr ControlId boxes[] = {"frmfilter.Text1"_c, "frmfilter.Text2"_c, "frmfilter.Text3"_c,
-                               "frmfilter.Text4"_c};
-
 struct Criteria {
     int layer = -1;
     int kind = -1;
@@ -36,7 +33,7 @@ class FilterDialog : public testing::Test {
     std::vector<std::string> texts() const
     {
         std::vector<std::string> all;
-        for (const ControlId box : boxes) all.push_back(desk.text(box));
+        for (const ControlId box : fake::filterBoxes) all.push_back(desk.text(box));
         return all;
     }
 
@@ -153,7 +150,7 @@ TEST_F(FilterDialog, AClickOnABoxShowsAllButTheCriterionStillFilters)
     desk.press("frmfilter.ob5"_c);
     desk.press("frmfilter.cu8"_c);
     desk.press("frmfilter.st7"_c);
-    for (const ControlId box : boxes) {
+    for (const ControlId box : fake::filterBoxes) {
         desk.press(box);
         EXPECT_EQ(desk.text(box), "All");
         EXPECT_EQ(desk.focused(), "frmfilter.List1");

@@ -6,8 +6,6 @@
 
 namespace mirtane::fake {
 
-inline constexpr ControlId list = "List1"_c;
-
 struct LayerMenu {
     ControlId menu;
     const char* caption;

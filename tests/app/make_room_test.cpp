@@ -11,8 +11,6 @@ namespace {
 
 using namespace fake;
 
-const std::string housePath = "/home/user/house.mtd";
-
 // Lines that are shown, and so many replaced objects that the table has room for a few more alone.
 struct FullDesk : LayerDesk {
     explicit FullDesk(std::int32_t left = 3)
@@ -168,11 +166,11 @@ TEST(FullTable, WhoseFileWasChangedAsksBefore)
 {
     FullDesk desk;
     desk.moveAll();
-    desk.disk.files[housePath].push_back(1);
-    const Bytes theirs = desk.disk.files[housePath];
+    desk.disk.files[houseFile].push_back(1);
+    const Bytes theirs = desk.disk.files[houseFile];
     desk.press("notice.Command1"_c);
     EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Overwrite?");
-    EXPECT_EQ(desk.disk.files[housePath], theirs);
+    EXPECT_EQ(desk.disk.files[houseFile], theirs);
     desk.press("frmfile.Command1"_c);
     EXPECT_EQ(desk.s.store.entCount, 6);
 }

@@ -114,7 +114,7 @@ void associate(RoomDesk& d, bool withWords)
     d.library("Select Associate", "door");
 }
 
-void multipleLines(RoomDesk& d, std::vector<Point> clicks)
+void drawMultipleLines(RoomDesk& d, std::vector<Point> clicks)
 {
     for (const float offset : {-20.0F, 0.0F, 33.0F}) {
         MultipleLine row;
@@ -311,12 +311,12 @@ const Adding addings[] = {
      [](RoomDesk& d) { d.click(500, 500); }, 6},
     {"the first legs of multiple lines",
      [](RoomDesk& d) {
-         multipleLines(d, {{400, 400}, {800, 450}});
+         drawMultipleLines(d, {{400, 400}, {800, 450}});
      },
      [](RoomDesk& d) { d.click(900, 900); }, 3},
     {"further legs of multiple lines",
      [](RoomDesk& d) {
-         multipleLines(d, {{400, 400}, {800, 450}, {930, 1000}, {400, 1100}});
+         drawMultipleLines(d, {{400, 400}, {800, 450}, {930, 1000}, {400, 1100}});
      },
      [](RoomDesk& d) { d.click(390, 700); }, 3},
     {"Polygon",

@@ -6,8 +6,7 @@ namespace mirtane {
 namespace {
 
 using fake::Desk;
-
-const std::string houseFile = "/home/user/house.mtd";
+using fake::houseFile;
 
 struct OpenFile : testing::Test {
     OpenFile() { desk.drawLine(100, 100, 400, 100); }

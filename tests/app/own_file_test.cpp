@@ -12,7 +12,6 @@ namespace {
 
 using namespace fake;
 
-const std::string housePath = "/home/user/house.mtd";
 const std::string other = "/home/other";
 
 struct HouseDesk : LayerDesk {
@@ -28,7 +27,7 @@ struct HouseDesk : LayerDesk {
     void changeByAnother(const std::string& time = "15:07")
     {
         disk.clock = time;
-        disk.files[housePath].push_back(7);
+        disk.files[houseFile].push_back(7);
     }
     const std::string& button() const { return caption("frmfile.Command1"_c); }
 };
@@ -57,7 +56,7 @@ const WanderRow wanderings[] = {
      }},
     {"a layer that was loaded from elsewhere",
      [](HouseDesk& d) {
-         d.disk.files[other + "/1.mtd"] = d.disk.files[housePath];
+         d.disk.files[other + "/1.mtd"] = d.disk.files[houseFile];
          d.menuRow("ly13"_c, 1);
          goTo(d, other);
          d.name("1");
@@ -92,9 +91,9 @@ TEST(OwnFolder, IsWhereTheDrawingIsSavedWhateverWasDoneElsewhere)
             desk.press(menu);
             EXPECT_EQ(desk.text("frmfile.Dir1"_c), home) << row.what;
             EXPECT_EQ(desk.button(), "Save") << row.what;
-            const Bytes before = desk.disk.files[housePath];
+            const Bytes before = desk.disk.files[houseFile];
             desk.enter();
-            EXPECT_NE(desk.disk.files[housePath], before) << row.what;
+            EXPECT_NE(desk.disk.files[houseFile], before) << row.what;
             EXPECT_EQ(desk.disk.files[other + "/house.mtd"], foreign) << row.what;
         }
     }
@@ -147,7 +146,7 @@ TEST(OwnName, WithTwoPointsIsSavedUnderItself)
 {
     for (const char* name : {"plan.v2.mtd", "a.b.c.d.mtd", "north.wing.MTD"}) {
         HouseDesk desk;
-        desk.disk.files[std::string("/home/user/") + name] = desk.disk.files[housePath];
+        desk.disk.files[std::string("/home/user/") + name] = desk.disk.files[houseFile];
         desk.saveAs("house");
         desk.shell.openDrawing(std::string("/home/user/") + name);
         desk.disk.files.erase(std::string("/home/user/") + name); // so that no list shows it
@@ -182,14 +181,14 @@ TEST(OwnFile, ThatAnotherChangedIsNotReplacedUnseen)
     for (const ControlId menu : {"fil7"_c, "fil5"_c, "fil14"_c}) {
         HouseDesk desk;
         desk.changeByAnother();
-        const Bytes theirs = desk.disk.files[housePath];
+        const Bytes theirs = desk.disk.files[houseFile];
         desk.press(menu);
         EXPECT_EQ(desk.button(), "Overwrite?");
         EXPECT_EQ(desk.caption("notice"_c),
                   "house.mtd was changed on the disk at 15:07: saving replaces what is there.");
-        EXPECT_EQ(desk.disk.files[housePath], theirs);
+        EXPECT_EQ(desk.disk.files[houseFile], theirs);
         desk.enter(); // it was said
-        EXPECT_NE(desk.disk.files[housePath], theirs);
+        EXPECT_NE(desk.disk.files[houseFile], theirs);
         EXPECT_FALSE(desk.visible("frmfile"_c));
     }
 }
@@ -201,10 +200,10 @@ TEST(OwnFile, ThatIsChangedWhileTheDialogStandsIsNotReplacedUnseen)
     EXPECT_EQ(desk.button(), "Save");
     for (const char* time : {"15:07", "15:09"}) {
         desk.changeByAnother(time);
-        const Bytes theirs = desk.disk.files[housePath];
+        const Bytes theirs = desk.disk.files[houseFile];
         desk.enter();
         EXPECT_TRUE(desk.visible("frmfile"_c)) << time;
-        EXPECT_EQ(desk.disk.files[housePath], theirs) << time;
+        EXPECT_EQ(desk.disk.files[houseFile], theirs) << time;
         EXPECT_EQ(desk.button(), "Overwrite?") << time;
         EXPECT_NE(desk.caption("notice"_c).find(time), std::string::npos);
     }
@@ -216,12 +215,12 @@ TEST(OwnFile, ThatIsChangedWhileTheDialogStandsIsNotReplacedUnseen)
 TEST(OwnFile, ThatVanishedIsTold)
 {
     HouseDesk desk;
-    desk.disk.files.erase(housePath);
+    desk.disk.files.erase(houseFile);
     desk.press("fil7"_c);
     EXPECT_EQ(desk.button(), "Overwrite?");
     EXPECT_EQ(desk.caption("notice"_c), "house.mtd is no longer on the disk: saving puts it back.");
     desk.enter();
-    EXPECT_TRUE(desk.disk.files.contains(housePath));
+    EXPECT_TRUE(desk.disk.files.contains(houseFile));
 }
 
 TEST(OwnFile, OpenInAnotherProgramIsToldAtOnceAndBeforeASave)
@@ -229,7 +228,7 @@ TEST(OwnFile, OpenInAnotherProgramIsToldAtOnceAndBeforeASave)
     HouseDesk desk;
     desk.saveAs("house");
     desk.press("fil5"_c);
-    desk.marks.ofOthers[housePath] = {4711, "09:12"};
+    desk.marks.ofOthers[houseFile] = {4711, "09:12"};
     desk.open("house");
     const char* const said = "house.mtd stands open in another Mirtane since 09:12.";
     EXPECT_EQ(desk.caption("notice"_c), said);
@@ -251,7 +250,7 @@ TEST(OwnFile, ChangedByAProgramThatHasItOpenIsToldAsChanged)
 {
     for (const bool before : {true, false}) {
         HouseDesk desk;
-        desk.marks.ofOthers[housePath] = {4711, "09:12"};
+        desk.marks.ofOthers[houseFile] = {4711, "09:12"};
         if (before) desk.changeByAnother();
         desk.press("fil7"_c);
         if (!before) {
@@ -267,7 +266,7 @@ TEST(OwnFile, ChangedByAProgramThatHasItOpenIsToldAsChanged)
 TEST(OwnFile, IsNoLongerToldToBeOpenElsewhereOnceItIsNot)
 {
     HouseDesk desk;
-    desk.marks.ofOthers[housePath] = {4711, "09:12"};
+    desk.marks.ofOthers[houseFile] = {4711, "09:12"};
     desk.saveAs("house");
     EXPECT_TRUE(desk.visible("notice"_c));
     desk.shell.rest();
@@ -286,7 +285,7 @@ TEST(OwnFile, ThatVanishedWithItsFolderIsToldInTheFolderThatIsShownInstead)
     desk.enter();
     desk.drawLine(3, 4, 511, 622);
     desk.disk.files.erase(other + "/house.mtd");
-    desk.disk.files.erase(housePath);
+    desk.disk.files.erase(houseFile);
     desk.folders.folders.erase(other);
     desk.press("fil7"_c);
     EXPECT_EQ(desk.button(), "Overwrite?");
@@ -365,7 +364,7 @@ TEST(NotSaved, IsSaidNoLongerOnceItIsSaved)
 TEST(OwnFile, IsMarkedWhileItIsOpen)
 {
     HouseDesk desk;
-    EXPECT_EQ(desk.marks.marks, std::set<std::string>{housePath});
+    EXPECT_EQ(desk.marks.marks, std::set<std::string>{houseFile});
     desk.saveAs("barn");
     EXPECT_EQ(desk.marks.marks, std::set<std::string>{"/home/user/barn.mtd"});
     desk.press("fil5"_c);
@@ -385,7 +384,7 @@ TEST(OwnFile, OfTwoWhoSaveInTurnNoneLosesAChangeUnseen)
         EXPECT_EQ(saver.button(), turn == 0 ? "Save" : "Overwrite?") << turn;
         saver.enter();
         ASSERT_FALSE(saver.visible("frmfile"_c));
-        waiting.disk.files[housePath] = saver.disk.files[housePath];
+        waiting.disk.files[houseFile] = saver.disk.files[houseFile];
     }
 }
 
@@ -398,7 +397,7 @@ TEST(OwnFile, ChangedBetweenTheLossAndTheRestoreIsTold)
     desk.saveAs("house");
     MemoryWork left({{"a", *lost.work.kept}});
     Desk next({}, left);
-    next.disk.files[housePath] = {9, 9, 9};
+    next.disk.files[houseFile] = {9, 9, 9};
     next.disk.clock = "16:00";
     next.press("notice.Command1"_c);
     next.press("fil7"_c);

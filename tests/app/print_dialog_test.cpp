@@ -53,9 +53,9 @@ struct HasPrinter {
 };
 
 // The program at its start, with a printer. What is added is selected.
-class Office : public HasPrinter, public fake::Desk {
+class PrintDesk : public HasPrinter, public fake::Desk {
   public:
-    explicit Office(float width = 12240, float height = 15840)
+    explicit PrintDesk(float width = 12240, float height = 15840)
         : HasPrinter{TestPrinter(width, height)}, Desk({}, {}, &printer)
     {
         printer.disk = &disk;
@@ -88,7 +88,7 @@ class Office : public HasPrinter, public fake::Desk {
 
 TEST(PrintDialog, WithNothingSelectedSaysSoAndStaysAway)
 {
-    Office office;
+    PrintDesk office;
     office.s.printFactor = 0.25F;
     office.s.stepNo = 2;
     office.ask();
@@ -101,7 +101,7 @@ TEST(PrintDialog, WithNothingSelectedSaysSoAndStaysAway)
 
 TEST(PrintDialog, ShowsTheFittedValueInBothBoxes)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     EXPECT_TRUE(office.isOpen());
@@ -123,7 +123,7 @@ TEST(PrintDialog, ShowsSevenDigitsWithAPoint)
 {
     const FittedRow rows[] = {{770, "8.020833"}, {1153, "12.01042"}, {96, "1"}, {1.2e10F, "1.25E+08"}};
     for (const FittedRow& row : rows) {
-        Office office;
+        PrintDesk office;
         office.add(fake::line({}, {row.width, 0}));
         office.ask();
         EXPECT_EQ(office.text(typed), row.shown);
@@ -134,7 +134,7 @@ TEST(PrintDialog, ShowsSevenDigitsWithAPoint)
 TEST(PrintDialog, TheFittedValueIsSelectedAndTypedOver)
 {
     for (const char* keys : {"24", "13,5", "1000"}) {
-        Office office;
+        PrintDesk office;
         office.addLine();
         office.ask();
         EXPECT_EQ(office.s.controls[typed].anchor, 0);
@@ -151,7 +151,7 @@ TEST(PrintDialog, TheFittedValueIsSelectedAndTypedOver)
 
 TEST(PrintDialog, BackspaceTakesTheFittedValueAwayWhole)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.type("\b");
@@ -161,7 +161,7 @@ TEST(PrintDialog, BackspaceTakesTheFittedValueAwayWhole)
 
 TEST(PrintDialog, TheFittedValuePrintsAtTheFittedSize)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.pic1.takeOps();
@@ -178,7 +178,7 @@ TEST(PrintDialog, TheFittedValuePrintsAtTheFittedSize)
 
 TEST(PrintDialog, TwiceTheValueHalvesThePicture)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.typeOver("24");
@@ -190,7 +190,7 @@ TEST(PrintDialog, TwiceTheValueHalvesThePicture)
 
 TEST(PrintDialog, AFactorNeverCarriesOverToTheNextRun)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.typeOver("24");
@@ -206,7 +206,7 @@ TEST(PrintDialog, AFactorNeverCarriesOverToTheNextRun)
 TEST(PrintDialog, RefusesSilentlyWhatIsEmptyOrBelowTheFittedValue)
 {
     for (const char* keys : {"", "11.99999", "0", "-24", ".", "-"}) {
-        Office office;
+        PrintDesk office;
         office.addLine();
         office.ask();
         const std::string entry = office.text("entry"_c);
@@ -223,7 +223,7 @@ TEST(PrintDialog, RefusesSilentlyWhatIsEmptyOrBelowTheFittedValue)
 
 TEST(PrintDialog, AClickOnTheBoxEmptiesItAndNotTheFittedValue)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.press(typed);
@@ -233,7 +233,7 @@ TEST(PrintDialog, AClickOnTheBoxEmptiesItAndNotTheFittedValue)
 
 TEST(PrintDialog, KeysThatAreNoPartOfANumberAreDroppedAndACommaIsAPoint)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.typeOver("a-1x2, 5e+3");
@@ -244,7 +244,7 @@ TEST(PrintDialog, KeysThatAreNoPartOfANumberAreDroppedAndACommaIsAPoint)
 
 TEST(PrintDialog, EnterPrintsAsTheButtonDoes)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.typeOver("48\r");
@@ -256,7 +256,7 @@ TEST(PrintDialog, EnterPrintsAsTheButtonDoes)
 TEST(PrintDialog, CancelAndTheCloseButtonDropTheSelection)
 {
     for (const bool byFrame : {false, true}) {
-        Office office;
+        PrintDesk office;
         office.addLine();
         office.ask();
         office.pic1.takeOps();
@@ -274,7 +274,7 @@ TEST(PrintDialog, CancelAndTheCloseButtonDropTheSelection)
 
 TEST(PrintDialog, ASinglePointPrintsAtTheLastScaleWhichHoldsForAFactorOfOne)
 {
-    Office office;
+    PrintDesk office;
     office.addPoint();
     office.ask();
     EXPECT_EQ(office.text(typed), "0");
@@ -286,7 +286,7 @@ TEST(PrintDialog, ASinglePointPrintsAtTheLastScaleWhichHoldsForAFactorOfOne)
 
 TEST(PrintDialog, APrinterOfNoSizePrintsNothingYetDropsTheSelection)
 {
-    Office office(0, 0);
+    PrintDesk office(0, 0);
     office.addLine();
     office.ask();
     office.typeOver("1000");
@@ -312,7 +312,7 @@ TEST(PrintDialog, WithoutAPrinterNothingFails)
 
 TEST(PrintDialog, AFilePageIsNamedAfterTheDrawingAndShown)
 {
-    Office office;
+    PrintDesk office;
     office.printer.toFile = true;
     office.s.drawingName = "house.mtd";
     office.addLine();
@@ -325,7 +325,7 @@ TEST(PrintDialog, AFilePageIsNamedAfterTheDrawingAndShown)
 TEST(PrintDialog, APageHasTheDrawingsNameForItsTitle)
 {
     for (const bool toFile : {false, true}) {
-        Office office;
+        PrintDesk office;
         office.printer.toFile = toFile;
         office.s.drawingName = "maison \u00E0 c\u00F4t\u00E9.mtd";
         office.addLine();
@@ -352,7 +352,7 @@ TEST(PrintDialog, AFilePageTakesThePlaceOfNoFileButItsOwn)
     };
     const std::string folder = std::string(fake::home) + "/";
     for (const PageRow& row : rows) {
-        Office office;
+        PrintDesk office;
         office.printer.toFile = true;
         office.s.drawingName = "house.mtd";
         office.addLine();
@@ -368,7 +368,7 @@ TEST(PrintDialog, AFilePageTakesThePlaceOfNoFileButItsOwn)
 
 TEST(PrintDialog, AFilePageOfAnotherFolderIsAnotherFile)
 {
-    Office office;
+    PrintDesk office;
     office.printer.toFile = true;
     office.folders.folders.insert("/plans");
     office.addLine();
@@ -381,7 +381,7 @@ TEST(PrintDialog, AFilePageOfAnotherFolderIsAnotherFile)
 
 TEST(PrintDialog, AFilePageThatFailedIsNoneOfThisSession)
 {
-    Office office;
+    PrintDesk office;
     office.printer.toFile = true;
     office.printer.refusesEnds = true;
     office.addLine();
@@ -395,7 +395,7 @@ TEST(PrintDialog, AFilePageThatFailedIsNoneOfThisSession)
 TEST(PrintDialog, AFilePageThatFailsIsToldAndLosesNothing)
 {
     for (const bool atEnd : {false, true}) {
-        Office office;
+        PrintDesk office;
         office.printer.toFile = true;
         (atEnd ? office.printer.refusesEnds : office.printer.refusesPages) = true;
         office.addLine();
@@ -409,7 +409,7 @@ TEST(PrintDialog, AFilePageThatFailsIsToldAndLosesNothing)
 
 TEST(PrintDialog, PaperIsNotNamedInTheEntry)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     setText(office.s.controls["entry"_c], "as it was");
     office.ask();
@@ -419,7 +419,7 @@ TEST(PrintDialog, PaperIsNotNamedInTheEntry)
 
 TEST(PrintDialog, PrinterSetupLeavesThePageAsItWasAtTheStart)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.press("prtstp"_c);
     EXPECT_EQ(office.printer.setups, 1);
@@ -430,7 +430,7 @@ TEST(PrintDialog, PrinterSetupLeavesThePageAsItWasAtTheStart)
 TEST(PrintDialog, ThePictureIsThePageThatComesOut)
 {
     for (const char* value : {"12", "17.5", "100000"}) {
-        Office office;
+        PrintDesk office;
         office.addLine();
         office.addPoint();
         office.ask();
@@ -447,7 +447,7 @@ TEST(PrintDialog, ThePictureIsThePageThatComesOut)
 
 TEST(PrintDialog, ThePictureOfASinglePointIsThePageThatComesOut)
 {
-    Office office;
+    PrintDesk office;
     office.s.printScale = 8;
     office.addPoint();
     office.ask();
@@ -462,7 +462,7 @@ TEST(PrintDialog, ThePictureOfASinglePointIsThePageThatComesOut)
 
 TEST(PrintDialog, ThePictureIsEmptyWhileTheValueIsRefused)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.ask();
     office.typeOver("");
@@ -475,7 +475,7 @@ TEST(PrintDialog, ThePictureIsEmptyWhileTheValueIsRefused)
 
 TEST(PrintDialog, LeavesNothingOfAFunctionHalfBegun)
 {
-    Office office;
+    PrintDesk office;
     office.addLine();
     office.s.store.setStat(1, Stat::sel);
     office.shell.click("Command20"_c);
@@ -492,7 +492,7 @@ TEST(PrintDialog, LeavesNothingOfAFunctionHalfBegun)
 
 TEST(PrintDialog, PageGoesWhereTheDialogWouldSave)
 {
-    Office office;
+    PrintDesk office;
     office.printer.toFile = true;
     office.s.drawings = {fake::home, "/gone"};
     office.addLine();

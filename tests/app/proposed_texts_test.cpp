@@ -23,7 +23,7 @@ void expectSelected(const LayerDesk& desk, ControlId box, const std::string& tex
     EXPECT_EQ(desk.s.controls.focus, box) << what;
 }
 
-struct NameRow {
+struct ProposedNameRow {
     const char* what;
     void (*ask)(LayerDesk& desk);
     const char* proposed;
@@ -37,7 +37,7 @@ void nameTheDrawing(LayerDesk& desk)
 }
 
 // The roads that lead to the file dialog with a name.
-const NameRow nameRows[] = {
+const ProposedNameRow nameRows[] = {
     {"save", [](LayerDesk& d) { d.press("fil7"_c); }, "\xC3\xA9t\xC3\xA9.mtd"},
     {"selected", [](LayerDesk& d) { d.press("fil9"_c); }, "selected.mtd"},
     {"close", [](LayerDesk& d) { d.press("fil5"_c); }, "\xC3\xA9t\xC3\xA9.mtd"},
@@ -49,7 +49,7 @@ const NameRow nameRows[] = {
 
 TEST(ProposedName, IsSelectedAsAWholeWithTheCaretBehindIt)
 {
-    for (const NameRow& row : nameRows) {
+    for (const ProposedNameRow& row : nameRows) {
         LayerDesk desk;
         nameTheDrawing(desk);
         row.ask(desk);
@@ -59,7 +59,7 @@ TEST(ProposedName, IsSelectedAsAWholeWithTheCaretBehindIt)
 
 TEST(ProposedName, IsTypedOverAndTakenAwayWhole)
 {
-    for (const NameRow& row : nameRows) {
+    for (const ProposedNameRow& row : nameRows) {
         LayerDesk desk;
         nameTheDrawing(desk);
         row.ask(desk);

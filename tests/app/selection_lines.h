@@ -8,10 +8,6 @@
 
 namespace mirtane::fake {
 
-inline const std::vector<std::string> editRows{
-    "Break", "Trim",   "Stretch", "Copy", "Mirror Copy", "Radial Copy", "Concentric Copy", "Move", "Rotate",
-    "Scale", "Change", "Fillet",  "",     "Delete"};
-
 // Three lines one below the other: slots 1 to 3, from x 1000 to 2000 at y 1000, 1200 and 1400.
 class SelectionLines : public testing::Test {
   protected:

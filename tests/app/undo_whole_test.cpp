@@ -13,9 +13,9 @@ using fake::Desk;
 
 constexpr const char* tooLongAgo = "Too long ago to undo";
 
-// Actions of any size, made as edits make them.
-struct Draughtsman {
-    explicit Draughtsman(std::int32_t logCount = 0)
+// A drawing with actions of any size, made as edits make them.
+struct Actions {
+    explicit Actions(std::int32_t logCount = 0)
     {
         desk.s.log.undoLogCount = logCount;
         desk.s.log.undoGroupNext = desk.s.log.undoGroupTop = 7;
@@ -74,7 +74,7 @@ constexpr Group wholeGroups[] = {
 TEST(UndoWhole, FlipsEveryGroupThatTheLogHoldsAndRedoBringsItBack)
 {
     for (const Group& group : wholeGroups) {
-        Draughtsman d(group.logCount);
+        Actions d(group.logCount);
         d.draw(group.objects);
         d.undo();
         EXPECT_EQ(d.shown(1, group.objects), 0) << group.what;
@@ -99,7 +99,7 @@ TEST(UndoWhole, LeavesAGroupAloneOfWhichRecordsWereOverwritten)
         {"far from the start of the log", 31234, 9000, 31001},
     };
     for (const Row& row : rows) {
-        Draughtsman d(row.logCount);
+        Actions d(row.logCount);
         d.draw(row.first);
         d.draw(row.second);
         d.undo();
@@ -117,7 +117,7 @@ TEST(UndoWhole, LeavesAGroupAloneOfWhichRecordsWereOverwritten)
 TEST(UndoWhole, LeavesAGroupAloneThatIsLargerThanTheLog)
 {
     for (const std::int32_t objects : {40001, 40002, 52000}) {
-        Draughtsman d(300);
+        Actions d(300);
         d.draw(objects);
         const UndoLog before = d.desk.s.log;
         d.undo();
@@ -137,7 +137,7 @@ TEST(UndoWhole, LeavesAGroupAloneThatIsLargerThanTheLog)
 
 TEST(UndoWhole, DoesNotFindGroupsThatLieWhollyAboveTheCount)
 {
-    Draughtsman d(39000);
+    Actions d(39000);
     d.draw(400);
     d.draw(600); // up to the wrap exactly
     d.draw(5);
@@ -152,7 +152,7 @@ TEST(UndoWhole, DoesNotFindGroupsThatLieWhollyAboveTheCount)
 TEST(UndoWhole, RedoFindsWhatWasUndoneAlsoWhenTheLogHasWrappedMeanwhile)
 {
     for (const std::int32_t spare : {0, 1, 2, 3, 4, 5, 9}) {
-        Draughtsman d(39980 - spare);
+        Actions d(39980 - spare);
         for (int i = 0; i < 10; ++i) d.draw(1);
         for (int i = 0; i < 10; ++i) d.undo();
         const std::int32_t undone = 10 - d.shown(1, 10);
@@ -164,7 +164,7 @@ TEST(UndoWhole, RedoFindsWhatWasUndoneAlsoWhenTheLogHasWrappedMeanwhile)
 
 TEST(UndoWhole, RedoBringsASmallGroupBackBehindALargeOne)
 {
-    Draughtsman d;
+    Actions d;
     d.draw(35000);
     d.draw(1);
     d.erase(100, 2);
@@ -179,7 +179,7 @@ TEST(UndoWhole, RedoBringsASmallGroupBackBehindALargeOne)
 
 TEST(UndoWhole, RedoAfterSoMuchNewWorkThatItsRecordsAreGoneLeavesThemAlone)
 {
-    Draughtsman d;
+    Actions d;
     d.draw(30);
     d.undo();
     d.draw(39990);
@@ -192,7 +192,7 @@ TEST(UndoWhole, RedoAfterSoMuchNewWorkThatItsRecordsAreGoneLeavesThemAlone)
 
 TEST(UndoWhole, TakesWhatAStoppedActionLeftAsAnActionOfItsOwn)
 {
-    Draughtsman d;
+    Actions d;
     d.draw(2);
     addPoint(d.desk.s);
     commitInGroup(d.desk.s); // and nothing ends the group
@@ -207,7 +207,7 @@ TEST(UndoWhole, TakesWhatAStoppedActionLeftAsAnActionOfItsOwn)
 
 TEST(UndoWhole, OfTheDrawingThatIsOpenNowKnowsNothingOfTheOneBefore)
 {
-    Draughtsman d;
+    Actions d;
     d.draw(40010);
     clearRecords(d.desk.s.log);
     d.desk.s.store.entCount = 1;

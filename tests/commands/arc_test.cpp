@@ -9,8 +9,6 @@ namespace {
 
 using namespace fake;
 
-constexpr double startsAt[] = {0, 20, 45, 90, 110, 135, 180, 200, 225, 270, 290, 315, 340};
-
 // Its place is within what 32 bits hold of the clicks, magnified by as much as a flat arc magnifies it.
 double slackOf(Point centre, double r, double sweepDegrees)
 {
@@ -23,11 +21,11 @@ TEST(ArcThree, RunsCounterClockwiseFromOneEndToTheOtherByWayOfTheSecondPointHowe
     Desk desk;
     for (const Point centre :
          {Point{1000, 1000}, Point{0, 0}, Point{100000, 100000}, Point{100000, -100000}}) {
-        for (const double from : startsAt) {
+        for (const double from : startDegrees) {
             for (const double sweep : {40.0, 90.0, 180.0, 270.0, 340.0}) {
                 for (const bool clockwise : {false, true}) {
                     start(desk, "Command5"_c,
-                          clockwise ? Ortho::on : Ortho::off); // neither makes a difference
+                          clockwise ? OrthoToggle::on : OrthoToggle::off); // neither makes a difference
                     const Point low = onCircle(centre, 400, from);
                     const Point high = onCircle(centre, 400, from + sweep);
                     clickAt(desk, clockwise ? high : low);
@@ -128,7 +126,7 @@ TEST(ArcThree, PromptsForThreePointsAndEndsReadyForTheNext)
 TEST(ArcThree, BandsALineToThePointerAndThenALineAndTheArc)
 {
     Desk desk;
-    start(desk, "Command5"_c, Ortho::on);
+    start(desk, "Command5"_c, OrthoToggle::on);
     desk.click(1400, 1000);
     desk.ops();
     desk.move(1282, 718); // ortho doesn't apply
@@ -169,7 +167,7 @@ TEST(ArcThree, IsWholeForRandomClicksAndItsBandShowsTheSame)
     for (int i = 0; i < 4000; ++i) {
         const float at = i % 3 == 0 ? 100000.0F : 0.0F;
         const auto next = [&] { return Point{at + place(random), at + place(random)}; };
-        start(desk, "Command5"_c, i % 2 == 0 ? Ortho::on : Ortho::off);
+        start(desk, "Command5"_c, i % 2 == 0 ? OrthoToggle::on : OrthoToggle::off);
         const Point first = next();
         clickAt(desk, first);
         clickAt(desk, next());

@@ -9,12 +9,6 @@ namespace {
 
 using namespace fake;
 
-constexpr double quarter = 1.5707963;
-constexpr double half = 3.1415927;
-constexpr double threeQuarters = 4.712389;
-
-constexpr double startsAt[] = {0, 20, 45, 90, 110, 135, 180, 200, 225, 270, 290, 315, 340};
-
 // From the radius point at a direction over so many degrees, counter-clockwise if above 0, in eight moves.
 void travel(Desk& desk, Point centre, double fromDegrees, double overDegrees)
 {
@@ -26,7 +20,7 @@ TEST(ArcTwo, RunsTheWayThatThePointerWentAndIsStoredCounterClockwise)
     Desk desk;
     for (const Point centre :
          {Point{1000, 1000}, Point{0, 0}, Point{100000, 100000}, Point{-100000, 100000}}) {
-        for (const double from : startsAt) {
+        for (const double from : startDegrees) {
             for (const double over :
                  {40.0, 90.0, 180.0, 270.0, 340.0, -40.0, -90.0, -180.0, -270.0, -340.0}) {
                 start(desk, "Command4"_c);
@@ -169,7 +163,7 @@ TEST(ArcTwo, KeepsItsAnglesWhileThePointerRestsOnTheCentre)
 TEST(ArcTwo, IsConfinedAboutItsCentreUnderOrthoOnMoveAndClick)
 {
     Desk desk;
-    start(desk, "Command4"_c, Ortho::on);
+    start(desk, "Command4"_c, OrthoToggle::on);
     desk.click(1000, 1000);
     desk.click(1400, 1010);
     EXPECT_FLOAT_EQ(desk.s.ptB.y, 1000);
@@ -185,7 +179,7 @@ TEST(ArcTwo, IsConfinedAboutItsCentreUnderOrthoOnMoveAndClick)
 
 TEST(ArcTwo, TakesATypedRadius)
 {
-    for (const Ortho ortho : {Ortho::on, Ortho::off}) {
+    for (const OrthoToggle ortho : {OrthoToggle::on, OrthoToggle::off}) {
         for (const Point centre : {Point{1000, 1000}, Point{100000, 100000}}) {
             Desk desk;
             start(desk, "Command4"_c, ortho);
@@ -210,7 +204,7 @@ TEST(ArcTwo, TakesATypedEndAndWindsByTheDirectionOfTheTypedPoint)
     };
     const Row rows[] = {{"1", quarter}, {"-1", threeQuarters}}; // a negative one lies opposite
     for (const Row& row : rows) {
-        for (const Ortho ortho : {Ortho::on, Ortho::off}) {
+        for (const OrthoToggle ortho : {OrthoToggle::on, OrthoToggle::off}) {
             Desk desk;
             desk.drawLine(100, 100, 200,
                           100); // an empty drawing takes no distance below a thousandth of an inch
@@ -235,7 +229,7 @@ TEST(ArcTwo, TakesATypedEndAndWindsByTheDirectionOfTheTypedPoint)
 TEST(ArcTwo, TypedWithoutAMoveHasNoSweep)
 {
     Desk desk;
-    start(desk, "Command4"_c, Ortho::on);
+    start(desk, "Command4"_c, OrthoToggle::on);
     desk.click(1000, 1000);
     desk.move(1400, 1000);
     desk.type("24");
@@ -303,7 +297,7 @@ TEST(ArcTwo, IsWholeForRandomTravelsAndItsBandShowsTheSame)
     for (int i = 0; i < 3000; ++i) {
         const Point centre = i % 3 == 0 ? Point{101000, 101000} : Point{2000, 1500};
         const auto next = [&] { return Point{centre.x + place(random), centre.y + place(random)}; };
-        start(desk, "Command4"_c, i % 2 == 0 ? Ortho::on : Ortho::off);
+        start(desk, "Command4"_c, i % 2 == 0 ? OrthoToggle::on : OrthoToggle::off);
         clickAt(desk, centre);
         clickAt(desk, next());
         const double begin = desk.s.arcAngleOne;

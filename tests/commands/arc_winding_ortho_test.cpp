@@ -27,7 +27,7 @@ TEST(ArcTwo, WindsByTheTurnFromAxisToAxisWhateverTheMovesAlongThem)
         const int to = from == 0 || (from < 3 && dice.chance()) ? from + 1 : from - 1; // not over angle 0
         const Point centre = dice.pointWithin({0, 0}, i % 2 == 0 ? 2000 : 200000);
         setOrthoAngle(desk, turned);
-        start(desk, "Command4"_c, Ortho::on);
+        start(desk, "Command4"_c, OrthoToggle::on);
         const auto nearAxis = [&](int axis) {
             return onCircle(centre, dice.between(100, 900), turned + 90 * axis + dice.between(-40, 40));
         };
@@ -60,7 +60,7 @@ TEST(ArcTwo, OfATurnThatTheFirstMoveCancelsIsSeen)
         const Point centre = dice.pointWithin({0, 0}, 3000);
         Desk desk;
         setOrthoAngle(desk, turned);
-        start(desk, "Command4"_c, Ortho::on);
+        start(desk, "Command4"_c, OrthoToggle::on);
         desk.s.arcLastAngle = dice.between(0, 6.28);
         const auto nearAxis = [&](int axis) {
             return onCircle(centre, dice.between(100, 900), turned + 90 * axis + dice.between(-40, 40));
@@ -85,7 +85,7 @@ TEST(ArcTwo, DoesNotTurnAlongAnAxisAtAngleZero)
         Desk desk;
         setOrthoAngle(desk, turned);
         for (const Point centre : {Point{1000, 1000}, Point{10, 3000}, Point{-700, 20}}) {
-            start(desk, "Command4"_c, Ortho::on);
+            start(desk, "Command4"_c, OrthoToggle::on);
             clickAt(desk, centre);
             clickAt(desk, onCircle(centre, 400, 5));
             desk.s.arcLastAngle = desk.s.arcAngleOne;

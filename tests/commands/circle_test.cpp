@@ -37,7 +37,7 @@ TEST(CircleTwo, StoresTheCentreAndTheDistanceOfTheSecondPointWithOrthoOnAndOff)
     Desk desk;
     std::int32_t count = 1;
     for (const Clicks& row : twoClicks) {
-        for (const Ortho ortho : {Ortho::off, Ortho::on}) {
+        for (const OrthoToggle ortho : {OrthoToggle::off, OrthoToggle::on}) {
             start(desk, "Command2"_c, ortho);
             EXPECT_EQ(desk.s.promptText, "(Enter center of circle:)") << row.what;
             clickAt(desk, row.a);
@@ -72,7 +72,7 @@ TEST(CircleTwo, HasItsSpokeOnAnAxisAndThePointersDistanceUnderOrtho)
     };
     Desk desk;
     for (const Row& row : rows) {
-        start(desk, "Command2"_c, Ortho::on);
+        start(desk, "Command2"_c, OrthoToggle::on);
         desk.click(1000, 1000);
         desk.ops();
         moveTo(desk, row.pointer);
@@ -94,7 +94,7 @@ TEST(CircleTwo, TakesATypedRadius)
     desk.drawLine(100, 100, 200, 100); // an empty drawing takes no distance below a thousandth of an inch
     for (const Point centre : {Point{1000, 1000}, Point{100000, -100000}}) {
         for (const Row& row : rows) {
-            for (const Ortho ortho : {Ortho::off, Ortho::on}) {
+            for (const OrthoToggle ortho : {OrthoToggle::off, OrthoToggle::on}) {
                 start(desk, "Command2"_c, ortho);
                 clickAt(desk, centre);
                 desk.move(centre.x - 300, centre.y - 400);
@@ -114,14 +114,14 @@ TEST(CircleTwo, TakesATypedRadius)
 TEST(CircleTwo, LaysATypedRadiusTowardsThePointerOrOnTheAxisOfOrtho)
 {
     Desk desk;
-    start(desk, "Command2"_c, Ortho::off);
+    start(desk, "Command2"_c, OrthoToggle::off);
     desk.click(1000, 1000);
     desk.move(700, 600);
     desk.type("25"); // 300 units
     desk.enter();
     EXPECT_NEAR(desk.s.pickLast.x, 1000 - 180, 0.001);
     EXPECT_NEAR(desk.s.pickLast.y, 1000 - 240, 0.001);
-    start(desk, "Command2"_c, Ortho::on);
+    start(desk, "Command2"_c, OrthoToggle::on);
     desk.click(1000, 1000);
     desk.move(700, 600);
     desk.type("25");
@@ -136,7 +136,7 @@ TEST(CircleTwo, ShowsInItsBandTheCircleThatTheClickThenStores)
     std::uniform_real_distribution<float> place(100, 1000);
     Desk desk;
     for (int i = 0; i < 500; ++i) {
-        start(desk, "Command2"_c, i % 2 == 0 ? Ortho::on : Ortho::off);
+        start(desk, "Command2"_c, i % 2 == 0 ? OrthoToggle::on : OrthoToggle::off);
         desk.click(1500 + place(random), 1000 + place(random));
         const Point p{1500 + place(random), 1000 + place(random)};
         desk.ops();
@@ -199,7 +199,7 @@ TEST(CircleThree, PassesThroughThreePointsWhoseFirstAngleIsNotObtuse)
         for (const Point a :
              {Point{1000, 1000}, Point{0, 0}, Point{100000, 100000}, Point{-100000, 100000}}) {
             for (const bool exchanged : {false, true}) {
-                for (const Ortho ortho : {Ortho::off, Ortho::on}) {
+                for (const OrthoToggle ortho : {OrthoToggle::off, OrthoToggle::on}) {
                     start(desk, "Command3"_c, ortho);
                     const Point b{a.x + row.b.x, a.y + row.b.y};
                     const Point c{a.x + row.c.x, a.y + row.c.y};
@@ -319,7 +319,7 @@ TEST(CircleThree, TakesPointsOnALineThatAreNotEvenlySpacedWithoutAFault)
 TEST(CircleThree, BandsALineToThePointerAndThenTheCircleAndALine)
 {
     Desk desk;
-    start(desk, "Command3"_c, Ortho::on);
+    start(desk, "Command3"_c, OrthoToggle::on);
     desk.click(1000, 1000);
     desk.ops();
     desk.move(1311, 877); // ortho doesn't apply
@@ -362,7 +362,7 @@ TEST(CircleThree, PassesThroughItsFirstTwoPointsForRandomClicksAndItsBandShowsTh
     for (int i = 0; i < 3000; ++i) {
         const float at = i % 3 == 0 ? 100000.0F : 0.0F;
         const auto next = [&] { return Point{at + place(random), at + place(random)}; };
-        start(desk, "Command3"_c, i % 2 == 0 ? Ortho::on : Ortho::off);
+        start(desk, "Command3"_c, i % 2 == 0 ? OrthoToggle::on : OrthoToggle::off);
         const Point a = next();
         const Point b = next();
         const Point c = next();

@@ -188,7 +188,7 @@ TEST(Curve, IsSmoothAtEachJunctionAndReachesEachPoint)
     int fromStart = 0;
     for (int round = 0; round < 600; ++round) {
         const Point at = round % 3 == 0 ? Point{100000, -100000} : Point{2000, 1500};
-        start(desk, "Command6"_c, round % 2 == 0 ? Ortho::on : Ortho::off);
+        start(desk, "Command6"_c, round % 2 == 0 ? OrthoToggle::on : OrthoToggle::off);
         Point junction = at;
         const auto next = [&] { return Point{junction.x + place(random), junction.y + place(random)}; };
         clickAt(desk, junction);
@@ -231,7 +231,7 @@ TEST(Curve, IsSmoothAtEachJunctionAndReachesEachPoint)
 TEST(Curve, BandsALineThenALineAndTheArcThenTheArcAlone)
 {
     Desk desk;
-    start(desk, "Command6"_c, Ortho::on);
+    start(desk, "Command6"_c, OrthoToggle::on);
     desk.click(1000, 1000);
     desk.ops();
     desk.move(1282, 718); // ortho doesn't apply

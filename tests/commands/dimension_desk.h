@@ -4,6 +4,8 @@
 
 #include "function_desk.h"
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 
 namespace mirtane::fake {

@@ -9,10 +9,6 @@ namespace {
 
 using namespace fake;
 
-constexpr double quarter = 1.5707963;
-constexpr double half = 3.1415927;
-constexpr double threeQuarters = 4.712389;
-
 struct Axes {
     const char* what;
     Point b, d; // about the first click: the end of the first axis, and the pointer at the last click
@@ -40,7 +36,7 @@ TEST(Ellipse, StoresItsFirstAxisEndItsCentreAndTheRatio)
     for (const Axes& row : axes) {
         for (const Point a :
              {Point{1000, 1000}, Point{0, 0}, Point{100000, 100000}, Point{-100000, 100000}}) {
-            start(desk, "Command7"_c, Ortho::off);
+            start(desk, "Command7"_c, OrthoToggle::off);
             clickAt(desk, a);
             const Point b{a.x + row.b.x, a.y + row.b.y};
             clickAt(desk, b);
@@ -69,7 +65,7 @@ TEST(Ellipse, HasItsFirstAxisOnAnAxisOfOrthoAtThePointersDistance)
     };
     for (const Row& row : rows) {
         Desk desk;
-        start(desk, "Command7"_c, Ortho::on);
+        start(desk, "Command7"_c, OrthoToggle::on);
         desk.click(1000, 1000);
         clickAt(desk, row.pointer);
         const Point centre{(1000 + row.b.x) / 2, (1000 + row.b.y) / 2};
@@ -83,7 +79,7 @@ TEST(Ellipse, HasItsFirstAxisOnAnAxisOfOrthoAtThePointersDistance)
 
 TEST(Ellipse, TakesTypedLengthsForBothAxes)
 {
-    for (const Ortho ortho : {Ortho::on, Ortho::off}) {
+    for (const OrthoToggle ortho : {OrthoToggle::on, OrthoToggle::off}) {
         for (const Point a : {Point{1000, 1000}, Point{100000, 100000}}) {
             Desk desk;
             start(desk, "Command7"_c, ortho);
@@ -142,7 +138,7 @@ TEST(Ellipse, BorrowsOrthoAtTheDirectionOfItsFirstAxis)
     };
     for (const Row& row : rows) {
         Desk desk;
-        start(desk, "Command7"_c, Ortho::off);
+        start(desk, "Command7"_c, OrthoToggle::off);
         desk.click(1000, 1000);
         desk.click(1000 + row.b.x, 1000 + row.b.y);
         EXPECT_EQ(desk.s.orthoAngle, row.angle) << row.what;
@@ -161,7 +157,7 @@ TEST(Ellipse, ConfinesItsSecondAxisToTheFirstWhateverTheUsersOrtho)
     int standing = 0;
     for (int i = 0; i < 2000; ++i) {
         const Point a = i % 3 == 0 ? Point{101000, 101000} : Point{2000, 1500};
-        start(desk, "Command7"_c, i % 2 == 0 ? Ortho::on : Ortho::off);
+        start(desk, "Command7"_c, i % 2 == 0 ? OrthoToggle::on : OrthoToggle::off);
         clickAt(desk, a);
         clickAt(desk, {a.x + place(random), a.y + place(random)});
         const Point c = desk.s.ptC;
@@ -220,7 +216,7 @@ TEST(Ellipse, GivesOrthoBackHoweverItEnds)
         {"left for Polygon", [](Desk& d) { d.press("Command9"_c); }},
     };
     for (const Row& row : rows) {
-        for (const Ortho ortho : {Ortho::on, Ortho::off}) {
+        for (const OrthoToggle ortho : {OrthoToggle::on, OrthoToggle::off}) {
             Desk desk;
             setOrthoAngle(desk, "30");
             const double users = desk.s.orthoAngleSaved;
@@ -233,7 +229,8 @@ TEST(Ellipse, GivesOrthoBackHoweverItEnds)
             row.end(desk);
             EXPECT_EQ(desk.s.stepNo, 0) << row.how;
             EXPECT_EQ(desk.s.orthoAngle, users) << row.how;
-            EXPECT_EQ(desk.caption("freecurs"_c), ortho == Ortho::on ? "Ortho/On" : "Ortho/Off") << row.how;
+            EXPECT_EQ(desk.caption("freecurs"_c), ortho == OrthoToggle::on ? "Ortho/On" : "Ortho/Off")
+                << row.how;
         }
     }
 }

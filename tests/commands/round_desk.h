@@ -12,12 +12,19 @@
 
 namespace mirtane::fake {
 
-enum class Ortho { on, off };
+// Turns, radians, as the ortho angle has them.
+inline constexpr double quarter = 1.5707963;
+inline constexpr double half = 3.1415927;
+inline constexpr double threeQuarters = 4.712389;
+
+inline constexpr double startDegrees[] = {0, 20, 45, 90, 110, 135, 180, 200, 225, 270, 290, 315, 340};
+
+enum class OrthoToggle { on, off };
 
 // Sets the toggle and starts the function over.
-inline void start(Desk& desk, ControlId function, Ortho ortho = Ortho::off)
+inline void start(Desk& desk, ControlId function, OrthoToggle ortho = OrthoToggle::off)
 {
-    const std::string_view wanted = ortho == Ortho::on ? "Ortho/On" : "Ortho/Off";
+    const std::string_view wanted = ortho == OrthoToggle::on ? "Ortho/On" : "Ortho/Off";
     if (desk.caption("freecurs"_c) != wanted) desk.press("freecurs"_c);
     desk.press(function);
 }

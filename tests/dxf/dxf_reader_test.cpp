@@ -10,7 +10,7 @@ namespace {
 
 using namespace samples;
 
-const std::string entities = lines({"ENTITIES", "  0"});
+const std::string inEntities = lines({"ENTITIES", "  0"});
 
 std::string layerTable(std::initializer_list<std::string_view> names)
 {
@@ -22,7 +22,8 @@ std::string layerTable(std::initializer_list<std::string_view> names)
 
 TEST(DxfReader, LineComesInWorldUnits)
 {
-    Opened o(entities + lines({"LINE", "  8", "0", " 10", "1", " 20", "2", " 11", "3", " 21", "-4", "  0"}));
+    Opened o(inEntities +
+             lines({"LINE", "  8", "0", " 10", "1", " 20", "2", " 11", "3", " 21", "-4", "  0"}));
     ASSERT_EQ(o.count(), 2);
     const EntityRecord r = o.at(1);
     EXPECT_EQ(r.kind, Kind::line);
@@ -154,7 +155,8 @@ TEST(DxfReader, WhatIsNoDxfGivesAnEmptyDrawing)
 
 TEST(DxfReader, CircleRunsOnBehindItsTwoCharacterLine)
 {
-    Opened o(entities + circle("1", "2", "3") + line("5", "6", "7", "8") + line("0", "0", "1", "1") + tail());
+    Opened o(inEntities + circle("1", "2", "3") + line("5", "6", "7", "8") + line("0", "0", "1", "1") +
+             tail());
     ASSERT_EQ(o.count(), 3);
     EXPECT_EQ(o.at(1).kind, Kind::circle);
     EXPECT_EQ(o.at(1).p1, (Point{60, -72})); // the line's start has taken the place of the centre
@@ -191,7 +193,7 @@ TEST(DxfReader, FileOfOurOwnComesBack)
 
 TEST(DxfReader, EveryLineEndIsTaken)
 {
-    const std::string file = entities + line("1", "2", "3", "4") + line("5", "6", "7", "8") + tail();
+    const std::string file = inEntities + line("1", "2", "3", "4") + line("5", "6", "7", "8") + tail();
     for (const std::string_view end : {"\r\n", "\n", "\r"}) {
         std::string text;
         LineScanner scanner(file);
@@ -223,7 +225,7 @@ TEST(DxfReader, RecordThatTheFileEndsInIsKeptIfSomethingWasRead)
 TEST(DxfReader, LayerRows)
 {
     Opened o(
-        layerTable({"walls", "doors", "walls"}) + entities +
+        layerTable({"walls", "doors", "walls"}) + inEntities +
         lines({"LINE", "  8", "doors", "  0", "LINE", "  8", "walls", "  0", "LINE", "  8", "none", "  0"}));
     const LayerTable& table = o.s().layerTable;
     ASSERT_EQ(table.layerCount, 3);
@@ -237,7 +239,7 @@ TEST(DxfReader, LayerRows)
 
 TEST(DxfReader, NoLayerRowsLeaveTheWorkingLayer)
 {
-    Opened o(entities + lines({"LAYER", "  2", "x", "LAYER", "  2", "y"}));
+    Opened o(inEntities + lines({"LAYER", "  2", "x", "LAYER", "  2", "y"}));
     EXPECT_EQ(o.s().layerTable.layerCount, 0);
     EXPECT_EQ(o.s().workLayer, 1);
     o.s().workLayer = 5;
@@ -257,7 +259,7 @@ TEST(DxfReader, LayersBeyondTheTableAreCountedAndLost)
 {
     std::string file = lines({"LAYER"});
     for (int i = 0; i < 1005; ++i) file += lines({"LAYER", "  2", std::to_string(i)});
-    Opened o(file + entities + lines({"LINE", "  8", "999", "  0", "LINE", "  8", "1003", "  0"}));
+    Opened o(file + inEntities + lines({"LINE", "  8", "999", "  0", "LINE", "  8", "1003", "  0"}));
     EXPECT_EQ(o.s().layerTable.layerCount, 1005);
     EXPECT_EQ(o.at(1).layer, 999);
     EXPECT_EQ(o.at(2).layer, 1005);
@@ -284,7 +286,7 @@ TEST(DxfReader, AnInsertAtTheEndGivesItsColorToo)
 
 TEST(DxfReader, LayerNamesBecomeRecordsAndTheDrawingIsSaved)
 {
-    Opened o(layerTable({"walls", "t\xFCren"}) + entities + lines({"LINE", "  0"}));
+    Opened o(layerTable({"walls", "t\xFCren"}) + inEntities + lines({"LINE", "  0"}));
     EXPECT_EQ(o.count(), 2);
     finishDxf(o.s());
     ASSERT_EQ(o.count(), 4);
@@ -317,7 +319,7 @@ TEST(DxfReader, TheSessionsOwnStateStays)
     o.s().drawingName = "house.mtd";
     o.s().saveFollowUp = 4;
     o.s().dimStyle = 3;
-    o.read(entities + lines({"LINE", "  0"}));
+    o.read(inEntities + lines({"LINE", "  0"}));
     EXPECT_EQ(o.s().wholeViewFlag, 1);
     EXPECT_EQ(o.s().drawingName, "house.mtd");
     EXPECT_EQ(o.s().saveFollowUp, 4);

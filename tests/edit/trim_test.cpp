@@ -34,7 +34,7 @@ EntityRecord trimmed(const EntityRecord& object, const EntityRecord& boundary, P
     return desk.made();
 }
 
-struct LineRow {
+struct TrimmedLineRow {
     const char* what;
     EntityRecord boundary;
     Point click;
@@ -51,7 +51,7 @@ TEST(Trim, LineToEachKindOfBoundaryKeepsThePickedSide)
     const EntityRecord circle = circleAt({50, 0}, 20);
     const EntityRecord arc = arcAt({50, 0}, 20, 45, 135);
     const EntityRecord beyondCircle = circleAt({150, 0}, 20);
-    const LineRow rows[] = {
+    const TrimmedLineRow rows[] = {
         {"line, picked before it", upright, {40, 5}, 20, 0, 40},
         {"line, picked behind it", upright, {40, 5}, 70, 40, 100},
         {"line that ends before the object", aside, {40, 50}, 20, 0, 40},
@@ -68,7 +68,7 @@ TEST(Trim, LineToEachKindOfBoundaryKeepsThePickedSide)
         {"arc, on the right, picked behind", arc, {60, -17.3F}, 90, 70, 100},
         {"arc, on the left", arc, {40, -17.3F}, 20, 0, 30},
     };
-    for (const LineRow& row : rows) {
+    for (const TrimmedLineRow& row : rows) {
         const EntityRecord made = trimmed(lineFrom({0, 0}, {100, 0}, {row.pick, 0}), row.boundary, row.click);
         fake::expectLine(made, {row.from, 0}, {row.to, 0}, row.what);
         fake::expectLooks(made, row.what);

@@ -28,7 +28,7 @@ using Clock = std::chrono::steady_clock;
 using fake::contentOf;
 using std::chrono::microseconds;
 
-constexpr unsigned seed = 20040;
+constexpr unsigned saveSeed = 20040;
 constexpr std::chrono::seconds timeForEach{5};
 
 Bytes drawingOf(int lines)
@@ -95,7 +95,7 @@ struct KilledSaves : testing::Test {
     QTemporaryDir folder;
     Bytes few = drawingOf(2);
     Bytes many = drawingOf(3000);
-    std::mt19937 random{seed};
+    std::mt19937 random{saveSeed};
     int kills = 0;
     int foundFew = 0;
     int foundMany = 0;

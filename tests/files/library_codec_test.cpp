@@ -29,7 +29,7 @@ HatchRow hatchSample()
     return r;
 }
 
-const Bytes hatchBytes = {
+const Bytes hatchRowBytes = {
     0x00, 0x00, 0x80, 0x3F, 0x00, 0x00, 0x00, 0xC0, //  0 hx1 hy1
     0x00, 0x00, 0x00, 0x3F, 0x00, 0x00, 0xC8, 0x42, //  8 hx2 hy2
     0x00, 0x00, 0x40, 0x40, 0x00, 0x00, 0x80, 0x40, // 16 hx3 hy3
@@ -95,13 +95,13 @@ template <class Row> void expectEveryShortenedRowRefused(bool (*read)(ByteReader
 
 TEST(LibraryRowCodec, ARowIsWrittenFieldByField)
 {
-    EXPECT_EQ(written(writeHatchRow, hatchSample()), hatchBytes);
+    EXPECT_EQ(written(writeHatchRow, hatchSample()), hatchRowBytes);
     EXPECT_EQ(written(writeMultipleLine, lineSample()), lineBytes);
 }
 
 TEST(LibraryRowCodec, TheSameBytesAreReadBack)
 {
-    EXPECT_EQ(readBack(readHatchRow, hatchBytes), hatchSample());
+    EXPECT_EQ(readBack(readHatchRow, hatchRowBytes), hatchSample());
     EXPECT_EQ(readBack(readMultipleLine, lineBytes), lineSample());
 }
 
@@ -115,7 +115,7 @@ TEST(LibraryRowCodec, RowsWithoutANameHaveTheirFixedBytes)
 
 TEST(LibraryRowCodec, EveryShortenedRowIsRefused)
 {
-    expectEveryShortenedRowRefused(readHatchRow, hatchBytes);
+    expectEveryShortenedRowRefused(readHatchRow, hatchRowBytes);
     expectEveryShortenedRowRefused(readMultipleLine, lineBytes);
 }
 

@@ -11,8 +11,8 @@ namespace {
 using fake::LibraryDesk;
 
 // "Create Hatch" with a name typed, waiting for the first corner.
-struct CreateDesk : LibraryDesk {
-    explicit CreateDesk(const char* name = "Brick") : LibraryDesk("Create Hatch")
+struct CreateHatchDesk : LibraryDesk {
+    explicit CreateHatchDesk(const char* name = "Brick") : LibraryDesk("Create Hatch")
     {
         typeIn(name);
         EXPECT_EQ(s.stepNo, 1);
@@ -28,7 +28,7 @@ struct CreateDesk : LibraryDesk {
 
 TEST(CreateHatch, TakesLinesRelativeToTheFirstCorner)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     EntityRecord line = fake::line({105, 215}, {125, 215});
     line.color = 0x00FF00;
     line.style = 3;
@@ -57,7 +57,7 @@ TEST(CreateHatch, KeepsTheDirectionOfALine)
         {"lower left", {0, 20}, 3.92699086},
     };
     for (const Row& row : rows) {
-        CreateDesk desk;
+        CreateHatchDesk desk;
         desk.add(fake::line({10, 10}, row.to));
         desk.tile();
         EXPECT_NEAR(desk.row(0).hatchA1, row.direction, 1e-8) << row.what;
@@ -66,7 +66,7 @@ TEST(CreateHatch, KeepsTheDirectionOfALine)
 
 TEST(CreateHatch, TakesCirclesArcsAndPoints)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.add(fake::circle({110, 210}, 5));
     desk.add(fake::filled(Kind::arc));
     desk.add(fake::filled(Kind::point));
@@ -101,20 +101,20 @@ TEST(CreateHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
                         {5000, "The table is full: 1,200 pieces are missing"},
                         {801, "The table is full: 1,001 pieces are missing"}};
     for (const Row& row : rows) {
-        CreateDesk desk;
+        CreateHatchDesk desk;
         for (int i = 0; i < 1200; ++i) desk.add(fake::line({105, 215}, {125, 215}));
         desk.add(fake::filled(Kind::text));
         desk.s.hatchLibrary.count = row.count;
         desk.tile();
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.count;
     }
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.add(fake::line({105, 216}, {125, 216}));
     desk.s.hatchLibrary.count = 999;
     desk.tile();
     EXPECT_EQ(desk.text("entry"_c), "The table is full: 1 piece is missing");
-    CreateDesk fits;
+    CreateHatchDesk fits;
     fits.add(fake::line({105, 215}, {125, 215}));
     fits.s.hatchLibrary.count = 999;
     fits.tile();
@@ -123,7 +123,7 @@ TEST(CreateHatch, SaysHowManyPiecesTheTableHadNoRoomFor)
 
 TEST(CreateHatch, PassesOverOtherKindsAndWhatIsNotSelected)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     for (const Kind kind : {Kind::ellipse, Kind::text, Kind::linearDimension, Kind::radialDimension,
                             Kind::leader, Kind::angularDimension, Kind{11}, Kind{25}})
         desk.add(fake::filled(kind));
@@ -136,7 +136,7 @@ TEST(CreateHatch, PassesOverOtherKindsAndWhatIsNotSelected)
 
 TEST(CreateHatch, KeepsTheSignsOfTheTile)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.click(130, 220);
     desk.click(100, 200);
@@ -147,7 +147,7 @@ TEST(CreateHatch, KeepsTheSignsOfTheTile)
 
 TEST(CreateHatch, AcceptsATileWithoutSize)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.click(100, 200);
     desk.click(100, 200);
@@ -158,7 +158,7 @@ TEST(CreateHatch, AcceptsATileWithoutSize)
 
 TEST(CreateHatch, TheFirstCornerDoesNotMoveTheFirstPoint)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.s.pickFirst = {7, 8};
     desk.click(100, 200);
     EXPECT_EQ(desk.s.pickFirst, (Point{7, 8}));
@@ -167,7 +167,7 @@ TEST(CreateHatch, TheFirstCornerDoesNotMoveTheFirstPoint)
 
 TEST(CreateHatch, EndsWithTheNamesInTheListAndNoneChosen)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.s.baseFunc = desk.s.lastFunc = "Window Select";
     desk.s.hatchLibrary.add(fake::hatchLine("Tile", {0, 0}, {1, 1}, 10, 10));
     desk.add(fake::line({105, 215}, {125, 215}));
@@ -183,7 +183,7 @@ TEST(CreateHatch, EndsWithTheNamesInTheListAndNoneChosen)
 
 TEST(CreateHatch, RemovedRowsKeepTheirPlaces)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.s.hatchLibrary.add(fake::hatchLine("??????", {0, 0}, {1, 1}, 10, 10));
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.tile();
@@ -194,7 +194,7 @@ TEST(CreateHatch, RemovedRowsKeepTheirPlaces)
 
 TEST(CreateHatch, RowsPastTheTableAreDroppedAndCounted)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     desk.s.hatchLibrary.count = 999;
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.add(fake::line({105, 216}, {125, 216}));
@@ -206,7 +206,7 @@ TEST(CreateHatch, RowsPastTheTableAreDroppedAndCounted)
 
 TEST(CreateHatch, RemovedRowsCountTowardTheEndOfTheTable)
 {
-    CreateDesk desk;
+    CreateHatchDesk desk;
     for (int i = 0; i < 999; ++i) desk.s.hatchLibrary.add(fake::hatchLine("Old", {0, 0}, {1, 1}, 10, 10));
     removeName(desk.s, Library::hatches, "Old");
     desk.add(fake::line({105, 215}, {125, 215}));
@@ -229,7 +229,7 @@ TEST(CreateHatch, RemovedRowsCountTowardTheEndOfTheTable)
 
 TEST(CreateHatch, WithoutANameMakesNoRows)
 {
-    CreateDesk desk("??????");
+    CreateHatchDesk desk("??????");
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.tile();
     EXPECT_EQ(desk.count(), 0);

@@ -13,7 +13,7 @@ using fake::legsThrough;
 
 using Corners = std::vector<Point>;
 
-const Corners square = {{0, 0}, {10, 0}, {10, 10}, {0, 10}};
+const Corners squareCorners = {{0, 0}, {10, 0}, {10, 10}, {0, 10}};
 const Corners diamond = {{0, 10}, {10, 0}, {20, 10}, {10, 20}};
 const Corners comb = {{0, 0}, {30, 0}, {30, 10}, {20, 10}, {20, 4}, {10, 4}, {10, 10}, {0, 10}};
 const Corners bowTie = {{0, 0}, {10, 10}, {10, 0}, {0, 10}};
@@ -37,11 +37,11 @@ TEST(ScanLines, SpansLieBetweenPairsOfCrossings)
         Spans spans;
     };
     const Row rows[] = {
-        {"through a square", square, 5, {{0, 10}}},
-        {"beside it, left", square, -1, {}},
-        {"beside it, right", square, 11, {}},
-        {"along its left side, which is added whole besides", square, 0, {{0, 10}, {0, 10}}},
-        {"along its right side, which is no crossing", square, 10, {{0, 10}}},
+        {"through a squareCorners", squareCorners, 5, {{0, 10}}},
+        {"beside it, left", squareCorners, -1, {}},
+        {"beside it, right", squareCorners, 11, {}},
+        {"along its left side, which is added whole besides", squareCorners, 0, {{0, 10}, {0, 10}}},
+        {"along its right side, which is no crossing", squareCorners, 10, {{0, 10}}},
         {"through a corner at the left", diamond, 0, {{10, 10}}},
         {"through corners above and below", diamond, 10, {{0, 20}}},
         {"through a corner at the right", diamond, 20, {}},
@@ -64,14 +64,14 @@ TEST(ScanLines, InsideIsAnOddNumberOfSidesBelow)
         bool inside;
     };
     const Row rows[] = {
-        {"in a square", square, {5, 5}, true},
-        {"above it", square, {5, -5}, false},
-        {"below it", square, {5, 15}, false},
-        {"left of it", square, {-5, 5}, false},
-        {"on its top side", square, {5, 0}, true},
-        {"on its bottom side", square, {5, 10}, false},
-        {"on its left side", square, {0, 5}, true},
-        {"on its right side", square, {10, 5}, false},
+        {"in a squareCorners", squareCorners, {5, 5}, true},
+        {"above it", squareCorners, {5, -5}, false},
+        {"below it", squareCorners, {5, 15}, false},
+        {"left of it", squareCorners, {-5, 5}, false},
+        {"on its top side", squareCorners, {5, 0}, true},
+        {"on its bottom side", squareCorners, {5, 10}, false},
+        {"on its left side", squareCorners, {0, 5}, true},
+        {"on its right side", squareCorners, {10, 5}, false},
         {"in a comb's gap", comb, {15, 7}, false},
         {"in a comb's back", comb, {15, 2}, true},
         {"level with a corner", diamond, {5, 10}, true},

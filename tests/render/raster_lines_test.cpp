@@ -12,7 +12,7 @@ namespace {
 
 using namespace probe;
 
-constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double endless = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 Pixels lined(int width, int height, double x1, double y1, double x2, double y2, std::int16_t style = 0,
@@ -120,9 +120,9 @@ TEST(RasterLine, WhatLiesOutsideDrawsNothing)
 TEST(RasterLine, AnyCoordinateIsHarmless)
 {
     const double values[] = {
-        0,        25.5,     -25.5,     1e5,        -1e5,        2147483648.0, -2147483649.0,
-        1e19,     -1e19,    3.4e38,    -3.4e38,    1e300,       -1e300,       1.7e308,
-        -1.7e308, infinite, -infinite, notANumber, 268435456.0, -268435456.0, 5e-324};
+        0,        25.5,    -25.5,    1e5,        -1e5,        2147483648.0, -2147483649.0,
+        1e19,     -1e19,   3.4e38,   -3.4e38,    1e300,       -1e300,       1.7e308,
+        -1.7e308, endless, -endless, notANumber, 268435456.0, -268435456.0, 5e-324};
     Raster image(40, 30);
     for (const double a : values) {
         for (const double b : values) {
@@ -134,7 +134,7 @@ TEST(RasterLine, AnyCoordinateIsHarmless)
             }
         }
     }
-    for (const double bad : {infinite, -infinite, notANumber}) {
+    for (const double bad : {endless, -endless, notANumber}) {
         EXPECT_TRUE(lined(20, 20, bad, 5, 10, 10).empty()) << bad;
         EXPECT_TRUE(lined(20, 20, 5, bad, 10, 10).empty()) << bad;
         EXPECT_TRUE(lined(20, 20, 5, 5, bad, 10).empty()) << bad;

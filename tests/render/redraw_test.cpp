@@ -95,7 +95,7 @@ TEST_F(Redraw, LeavesOutTheSelectionWhileItFollowsThePointer)
     EXPECT_EQ(fake::marks(painted()).size(), 2U);
 }
 
-struct CullRow {
+struct CulledRow {
     const char* what;
     Kind kind;
     Point p1, p2;
@@ -105,7 +105,7 @@ struct CullRow {
 
 TEST_F(Redraw, SkipsWhatLiesWhollyBeyondOneSideAndCountsTheEdgeAsInside)
 {
-    const CullRow rows[] = {
+    const CulledRow rows[] = {
         {"a line on the left edge", Kind::line, {-5, 10}, {0, 10}, 0, true},
         {"a line on the right edge", Kind::line, {1000, 10}, {1200, 10}, 0, true},
         {"a line on the top edge", Kind::line, {5, -10}, {5, 0}, 0, true},
@@ -124,7 +124,7 @@ TEST_F(Redraw, SkipsWhatLiesWhollyBeyondOneSideAndCountsTheEdgeAsInside)
         {"a point outside is painted all the same", Kind::point, {-50, -50}, {}, 0, true},
         {"an ellipse beyond", Kind::ellipse, {-20, 100}, {-50, 100}, 0, false},
     };
-    for (const CullRow& row : rows) {
+    for (const CulledRow& row : rows) {
         s.store.entCount = 1;
         add(row.kind, row.p1, row.p2, row.rad);
         EXPECT_EQ(!fake::marks(painted()).empty(), row.painted) << row.what;

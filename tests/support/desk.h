@@ -10,6 +10,13 @@
 namespace mirtane::fake {
 
 inline constexpr const char* home = "/home/user";
+inline const std::string houseFile = "/home/user/house.mtd"; // where saving as "house" goes
+inline constexpr ControlId list = "List1"_c;
+inline const std::vector<std::string> editRows = {
+    "Break", "Trim",   "Stretch", "Copy", "Mirror Copy", "Radial Copy", "Concentric Copy", "Move", "Rotate",
+    "Scale", "Change", "Fillet",  "",     "Delete"};
+inline constexpr ControlId filterBoxes[] = {"frmfilter.Text1"_c, "frmfilter.Text2"_c, "frmfilter.Text3"_c,
+                                            "frmfilter.Text4"_c};
 
 class Desk : public DrawingDesk {
   public:
