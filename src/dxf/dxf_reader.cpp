@@ -21,7 +21,9 @@ void clearSlots(EntityStore& store)
     std::fill(store.style.begin() + header, store.style.end(), std::int16_t{0});
     std::fill(store.color.begin() + header, store.color.end(), unreadColor);
     std::fill(store.layer.begin() + header, store.layer.end(), std::int16_t{0});
-    std::fill(store.dxfTag.begin() + header, store.dxfTag.end(), noName);
+    const std::string tagOfHeader = store.dxfTag[0];
+    store.dxfTag.setAll(noName);
+    store.dxfTag[0] = tagOfHeader;
     store.entCount = 1;
 }
 

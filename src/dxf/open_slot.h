@@ -42,7 +42,7 @@ class OpenSlot {
     }
 
   private:
-    template <class Field> Field& field(std::vector<Field>& array, Field& spare)
+    template <class Column, class Field> Field& field(Column& array, Field& spare)
     {
         return EntityStore::holds(store_.entCount) ? array[EntityStore::at(store_.entCount)] : spare;
     }

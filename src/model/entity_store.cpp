@@ -60,8 +60,8 @@ void EntityStore::setRecord(std::int32_t slot, const EntityRecord& r)
     layer[i] = r.layer;
     style[i] = r.style;
     kind[i] = r.kind;
-    t1[i] = r.t1;
-    t2[i] = r.t2;
+    t1.set(i, r.t1);
+    t2.set(i, r.t2);
 }
 
 void EntityStore::setStat(std::int32_t slot, Stat to)
@@ -89,7 +89,7 @@ std::int32_t countWithStat(const EntityStore& store, Stat stat)
 
 void forgetOwners(EntityStore& store)
 {
-    for (std::string& owner : store.ownerName) owner = noName;
+    store.ownerName.setAll(noName);
 }
 
 } // namespace mirtane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/text_column.h"
 #include "tables/entity_record.h"
 
 #include <vector>
@@ -45,9 +46,9 @@ struct EntityStore {
     std::vector<std::int32_t> color;
     std::vector<std::int16_t> layer, style;
     std::vector<Kind> kind;
-    std::vector<std::string> t1, t2;
+    TextColumn t1, t2;
     std::vector<Stat> stat;
-    std::vector<std::string> ownerName, dxfTag; // in memory only
+    TextColumn ownerName, dxfTag; // in memory only
 };
 
 // Every object with stat from gets stat to. Gives how many there were.
