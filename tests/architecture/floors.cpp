@@ -19,7 +19,7 @@ struct Floor {
 // A folder uses itself and the folders of lower floors. Numbers are written and read as text under the fault
 // rule, so text/ may look into geometry/, and not the other way;
 // the toolkit's side keeps its settings on the disk, which knows no toolkit.
-constexpr std::array<Floor, 19> floors{{
+constexpr std::array<Floor, 20> floors{{
     {"geometry", 0, ""},
     {"text", 0, "geometry"},
     {"tables", 1, ""},
@@ -28,6 +28,7 @@ constexpr std::array<Floor, 19> floors{{
     {"snap", 4, ""},
     {"files", 4, ""},
     {"dxf", 4, ""},
+    {"exchange", 4, ""},
     {"print", 4, ""},
     {"commands", 5, ""},
     {"edit", 6, ""},

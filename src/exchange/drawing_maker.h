@@ -1,0 +1,86 @@
+#pragma once
+
+// Turns records of a DXF file into objects of ours. It keeps what is being drawn - where the block under way
+// stands, and what its objects look like - and takes what the records draw: in the drawing, in the file's
+// units, y up. What comes out is placed, scaled and narrowed in one place, made_drawing.cpp.
+
+#include "exchange/dxf_list.h"
+#include "exchange/ellipse_pieces.h"
+#include "exchange/look.h"
+#include "exchange/made.h"
+#include "exchange/transform.h"
+
+#include <span>
+
+namespace mirtane {
+
+class Looks;
+
+class DrawingMaker {
+  public:
+    DrawingMaker(const DxfList& list, double tolerance);
+    ~DrawingMaker();
+
+    const DxfList& list() const { return list_; }
+    // How far a curve may be from what it is drawn by.
+    double tolerance() const { return tolerance_; }
+
+    // A point of a record, and a way, that are given in space, as seen in the drawing.
+    Vec flat(Vec3 point) const;
+    Vec flatWay(Vec3 way) const;
+    // Where the plane of a record lies in the drawing that gives its points in its own plane: of its
+    // extrusion (210), at its elevation (38, or the z of group 10).
+    Transform2 plane(const DxfRecord& record) const;
+    Transform2 plane(Vec3 extrusion, double elevation) const;
+
+    // The look of the record under way. A part of another colour changes it and puts it back.
+    Look look;
+    // The pen for the numbers of a colour in the file, with 0 and 256 resolved for the record under way.
+    std::int32_t penOf(int colorNumber) const;
+
+    // All in the drawing's coordinates. What is not finite is left out.
+    void line(Vec a, Vec b);
+    void polyline(std::span<const Vec> points, bool closed);
+    void arc(const EllipseArc& arc); // whole or part, circle or ellipse
+    void piece(const Piece& piece);
+    void pieces(std::span<const Piece> pieces);
+    void point(Vec p);
+    // baseline is where the text begins, ends or has its middle, as justification says; along is the way it
+    // is written, up a letter's height square to the line, of any length. See MadeText in made.h.
+    void text(const MadeText& text, Vec baseline, Vec along, Vec up);
+    // A dimension or a leader of our own: points and sizes as in made.h. Its look is added.
+    void add(Made made);
+
+    // Draws what a block holds; at is where its points go, before where the record under way stands. Its base
+    // point is taken off. False for a block that is not there, is under way already, or is too deep.
+    bool block(std::string_view name, const Transform3& at);
+    // One record as it stands, by the row of its type.
+    void record(const DxfRecord& record);
+
+    // Counts a record, or a part of one, that is not drawn: "SPLINE", and, in a few words, why if the type is
+    // drawn as a rule.
+    void leftOut(std::string_view type, std::string_view why = {});
+
+    // A style's face ("Arial") by the name of the style.
+    std::string faceOf(std::string_view style) const;
+
+    // Lines without an end: cut to the drawing's size once that is known.
+    void endless(Vec from, Vec way, bool bothWays);
+
+    MadeDrawing finish();
+
+  private:
+    struct Frame;
+    void draw(std::span<const DxfRecord> records);
+    bool hasRoom();
+
+    const DxfList& list_;
+    double tolerance_;
+    std::unique_ptr<Looks> looks_;
+    Transform3 place_; // of the block under way
+    std::vector<std::string_view> underWay_;
+    std::int64_t steps_ = 0;
+    MadeDrawing made_;
+};
+
+} // namespace mirtane
