@@ -23,11 +23,13 @@ const char* const helpText =
     "      --paper P   paper of a .pdf or .svg: a0 to a6, letter, legal or tabloid;\n"
     "                  a4 by default\n"
     "      --layer N   only what is on layer N\n"
-    "      --tolerant  take DXF files that other programs wrote\n"
+    "      --as-window take DXF files as Open DXF in the window does, which leaves out\n"
+    "                  most of what other programs write\n"
     "  -h, --help      print this and exit\n"
     "  --              what follows is no option\n"
     "\n"
-    "Exit status: 0 all files were converted, 1 some were not, 2 wrong usage.\n";
+    "Exit status: 0 all files were converted, 1 some were not, 2 wrong usage, 3 all\n"
+    "were, and of some of them a part was left out.\n";
 
 namespace {
 
@@ -150,8 +152,8 @@ const OptionRow* optionWithValue(const std::string& word)
 
 void takeFlag(Given& given, const std::string& word)
 {
-    if (word == "--tolerant")
-        given.wishes.tolerant = true;
+    if (word == "--as-window")
+        given.wishes.asWindow = true;
     else if (word == "--help" || word == "-h")
         given.help = true;
     else

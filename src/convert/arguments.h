@@ -24,7 +24,7 @@ struct Wishes {
     Size size{1200, 800};                        // of a picture, pixels
     QPageSize::PageSizeId paper = QPageSize::A4; // of a page
     std::optional<std::int16_t> layer;           // that layer alone
-    bool tolerant = false;                       // DXF files of other programs
+    bool asWindow = false;                       // DXF files by the letter, as the menus take them
 };
 
 struct Arguments {

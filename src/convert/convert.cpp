@@ -3,12 +3,12 @@
 #include "app/files/open_drawing.h"
 #include "app/shell.h"
 #include "convert/exports.h"
-#include "dxf/tolerant.h"
 #include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/surface.h"
 #include "render/view.h"
 #include "tables/kinds.h"
+#include "text/numbers.h"
 
 #include <memory>
 #include <new>
@@ -48,25 +48,47 @@ struct Desk {
     App app{*session, surface, ports, scratch};
 };
 
-Bytes made(const Bytes& foreign)
+// What a reading in full has to say of itself.
+void tell(const FullReport& report, Outcome& outcome)
 {
-    // Bytes of a file seen as its characters.
-    const std::string dxf = tolerantDxf({reinterpret_cast<const char*>(foreign.data()), foreign.size()});
-    return {dxf.begin(), dxf.end()};
+    outcome.leftOut = !report.isWhole();
+    std::string left = sentenceOfLeftOut(report);
+    if (!report.isDxf) left = "no DXF file";
+    if (report.isDxf && report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
+    const std::string came = sentenceOfWhatCame(report);
+    if (!left.empty()) outcome.remarks.push_back(left + (came.empty() ? "" : "; " + came + " came"));
+    if (const std::string moved = sentenceOfMove(report); !moved.empty()) outcome.remarks.push_back(moved);
 }
 
-std::optional<std::string> open(App& app, const Job& job, bool tolerant)
+void open(App& app, const Job& job, const Wishes& wishes, Outcome& outcome)
 {
     const std::optional<Format> format = formatOf(job.in);
-    if (format != Format::mtd && format != Format::dxf) return "no .mtd or .dxf file";
+    if (format != Format::mtd && format != Format::dxf) {
+        outcome.fault = "no .mtd or .dxf file";
+        return;
+    }
     const std::optional<Bytes> file = app.ports.disk.read(job.in);
-    if (!file) return "can't be read";
+    if (!file) {
+        outcome.fault = "can't be read";
+        return;
+    }
     forgetOwners(app.s.store);
     if (format == Format::mtd)
         openDrawing(app, *file);
+    else if (wishes.asWindow)
+        openDxf(app, *file);
     else
-        openDxf(app, tolerant ? made(*file) : *file);
-    return std::nullopt;
+        tell(openDxfInFull(app, *file), outcome);
+}
+
+// A drawing does not keep what is hidden: who opens it would see it.
+void leaveOutHidden(EntityStore& store, Outcome& outcome)
+{
+    const std::int32_t hidden = changeStat(store, Stat::off, Stat::out);
+    if (hidden == 0) return;
+    outcome.leftOut = true;
+    outcome.remarks.push_back(withThousands(hidden) + (hidden == 1 ? " object" : " objects") +
+                              " on hidden layers left out");
 }
 
 void hideOtherLayers(EntityStore& store, std::int16_t layer)
@@ -87,36 +109,42 @@ bool showsAnything(const EntityStore& store)
 std::string nothingThere(const Job& job, const Wishes& wishes)
 {
     if (wishes.layer) return "no objects on layer " + std::to_string(*wishes.layer);
-    if (formatOf(job.in) == Format::dxf && !wishes.tolerant)
-        return "no objects in it (a DXF file of another program may need --tolerant)";
+    if (formatOf(job.in) == Format::dxf && wishes.asWindow)
+        return "no objects in it (a DXF file of another program needs to be read without --as-window)";
     return "no objects in it";
 }
 
-std::optional<std::string> convertOn(Desk& desk, const Job& job, const Wishes& wishes)
+void convertOn(Desk& desk, const Job& job, const Wishes& wishes, Outcome& outcome)
 {
-    if (const auto fault = open(desk.app, job, wishes.tolerant)) return fault;
+    open(desk.app, job, wishes, outcome);
+    if (outcome.fault) return;
     EntityStore& store = desk.session->store;
     if (wishes.layer) {
         hideOtherLayers(store, *wishes.layer);
         zoomAll(*desk.session, desk.surface);
+    } else if (wishes.format == Format::mtd && formatOf(job.in) == Format::dxf) {
+        leaveOutHidden(store, outcome);
     }
-    if (!showsAnything(store)) return nothingThere(job, wishes);
-    if (const auto fault = exportTo(job.out, wishes, desk.app, desk.surface)) return fault;
-    if (store.entCount > EntityStore::slotCount)
-        return "more than 60,000 objects: the rest of them is lost in " + job.out;
-    return std::nullopt;
+    if (!showsAnything(store))
+        outcome.fault = nothingThere(job, wishes);
+    else
+        outcome.fault = exportTo(job.out, wishes, desk.app, desk.surface);
+    if (!outcome.fault && store.entCount > EntityStore::slotCount)
+        outcome.fault = "more than 60,000 objects: the rest of them is lost in " + job.out;
 }
 
 } // namespace
 
-std::optional<std::string> convert(const Job& job, const Wishes& wishes)
+Outcome convert(const Job& job, const Wishes& wishes)
 {
+    Outcome outcome;
     try {
         Desk desk(wishes.format == Format::png ? wishes.size : unseen);
-        return convertOn(desk, job, wishes);
+        convertOn(desk, job, wishes, outcome);
     } catch (const std::bad_alloc&) {
-        return "not enough memory";
+        outcome.fault = "not enough memory";
     }
+    return outcome;
 }
 
 } // namespace mirtane::convert

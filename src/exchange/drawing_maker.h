@@ -6,20 +6,24 @@
 
 #include "exchange/dxf_list.h"
 #include "exchange/ellipse_pieces.h"
-#include "exchange/look.h"
+#include "exchange/looks.h"
 #include "exchange/made.h"
 #include "exchange/transform.h"
 
+#include <memory>
+#include <optional>
 #include <span>
 
 namespace mirtane {
 
-class Looks;
+class DrawingMaker;
+
+using TakeRecord = void (*)(const DxfRecord& record, DrawingMaker& maker);
 
 class DrawingMaker {
   public:
-    DrawingMaker(const DxfList& list, double tolerance);
-    ~DrawingMaker();
+    // takerOf gives what draws the records of a type, or null.
+    DrawingMaker(const DxfList& list, double tolerance, TakeRecord (*takerOf)(std::string_view type));
 
     const DxfList& list() const { return list_; }
     // How far a curve may be from what it is drawn by.
@@ -36,7 +40,7 @@ class DrawingMaker {
     // The look of the record under way. A part of another colour changes it and puts it back.
     Look look;
     // The pen for the numbers of a colour in the file, with 0 and 256 resolved for the record under way.
-    std::int32_t penOf(int colorNumber) const;
+    std::int32_t penOf(int colorNumber);
 
     // All in the drawing's coordinates. What is not finite is left out.
     void line(Vec a, Vec b);
@@ -54,6 +58,8 @@ class DrawingMaker {
     // Draws what a block holds; at is where its points go, before where the record under way stands. Its base
     // point is taken off. False for a block that is not there, is under way already, or is too deep.
     bool block(std::string_view name, const Transform3& at);
+    // The attributes of an insert, which stand where they say, moved by so much for one of many.
+    void attributes(const DxfRecord& insert, Vec3 moved);
     // One record as it stands, by the row of its type.
     void record(const DxfRecord& record);
 
@@ -70,15 +76,27 @@ class DrawingMaker {
     MadeDrawing finish();
 
   private:
-    struct Frame;
-    void draw(std::span<const DxfRecord> records);
-    bool hasRoom();
+    struct Endless {
+        Vec from, way;
+        bool bothWays = false;
+        Look look;
+    };
+
+    bool takesStep();
+    void drawBlock(const DxfBlock& block, const Transform3& at);
+    void circular(const EllipseArc& arc);
+    void cutEndless();
+    void leaveOutUnusedLayers();
 
     const DxfList& list_;
     double tolerance_;
-    std::unique_ptr<Looks> looks_;
-    Transform3 place_; // of the block under way
+    TakeRecord (*takerOf_)(std::string_view type);
+    Looks looks_;
+    Transform3 place_;                // of the block under way
+    std::optional<Inherited> insert_; // whose block that is
+    const DxfRecord* record_ = nullptr;
     std::vector<std::string_view> underWay_;
+    std::vector<Endless> endless_;
     std::int64_t steps_ = 0;
     MadeDrawing made_;
 };

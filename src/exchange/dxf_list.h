@@ -4,6 +4,7 @@
 // yet.
 
 #include "exchange/code_pages.h"
+#include "exchange/dxf_groups.h"
 #include "exchange/vec.h"
 
 #include <map>
@@ -14,22 +15,6 @@
 #include <vector>
 
 namespace mirtane {
-
-struct DxfGroup {
-    int code = 0;
-    std::string_view value; // as it stands in the file, in the file's code page
-};
-
-using DxfGroups = std::span<const DxfGroup>;
-
-std::string_view trimmed(std::string_view text);
-
-// The number that a value is; fallback for none, and for one that is not finite.
-double dxfNumber(std::string_view value, double fallback = 0);
-int dxfWhole(std::string_view value, int fallback = 0);
-
-// The first group of a code, or null.
-const DxfGroup* findGroup(DxfGroups groups, int code);
 
 // One record: its type as the file has it ("LWPOLYLINE") and its groups, and for a POLYLINE its VERTEX
 // records, for an INSERT its ATTRIB records. Where a code stands more than once, number(), point() and so on
@@ -71,6 +56,8 @@ struct DxfList {
     ByName<DxfRecord> objects; // by handle, of the section of that name
     bool isDxf = false;        // a section or a record was found
     bool isCut = false;        // no end was found
+    // Written by our own Save DXF, which has numbers for the colours, heights and points of texts of its own.
+    bool isOurs = false;
 
     TextCoding coding;
 

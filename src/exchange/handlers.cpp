@@ -7,6 +7,11 @@
 namespace mirtane {
 namespace {
 
+struct RecordHandler {
+    std::string_view type;
+    TakeRecord take;
+};
+
 constexpr RecordHandler handlers[] = {
     {"3DFACE", takeFace},
     {"ARC", takeArc},
@@ -25,11 +30,11 @@ constexpr RecordHandler handlers[] = {
 
 } // namespace
 
-const RecordHandler* handlerOf(std::string_view type)
+TakeRecord handlerOf(std::string_view type)
 {
     const auto* const row = std::ranges::find_if(
         handlers, [type](const RecordHandler& one) { return isSameName(one.type, type); });
-    return row == std::end(handlers) ? nullptr : row;
+    return row == std::end(handlers) ? nullptr : row->take;
 }
 
 } // namespace mirtane

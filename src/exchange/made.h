@@ -33,8 +33,8 @@ struct Made {
     double size = 0;        // of a text; the arrow's, and so the text's, of a dimension
     double rotation = 0;    // of its text, degrees
     std::int16_t arrow = 1; // of a dimension: 1 closed, 2 open, 3 slash
-    MadeText text;
-    Look look;
+    MadeText text{};
+    Look look{};
 };
 
 struct MadeLayer {

@@ -8,7 +8,7 @@ namespace mirtane {
 
 // Of a plane onto the drawing: a point p goes to p.x * x + p.y * y + origin.
 struct Transform2 {
-    Vec x{1, 0}, y{0, 1}, origin;
+    Vec x{1, 0}, y{0, 1}, origin{};
 
     constexpr Vec way(Vec v) const { return v.x * x + v.y * y; }
     constexpr Vec operator()(Vec p) const { return way(p) + origin; }
@@ -25,7 +25,7 @@ constexpr Transform2 then(const Transform2& first, const Transform2& second)
 
 // The same of space.
 struct Transform3 {
-    Vec3 x{1, 0, 0}, y{0, 1, 0}, z{0, 0, 1}, origin;
+    Vec3 x{1, 0, 0}, y{0, 1, 0}, z{0, 0, 1}, origin{};
 
     constexpr Vec3 way(Vec3 v) const { return v.x * x + v.y * y + v.z * z; }
     constexpr Vec3 operator()(Vec3 p) const { return way(p) + origin; }

@@ -41,15 +41,17 @@ class Progress {
 int convertAll(const Arguments& arguments)
 {
     const Progress progress(arguments.jobs.size());
+    constexpr int partLeftOut = 3;
     int status = 0;
     for (std::size_t i = 0; i < arguments.jobs.size(); ++i) {
         const Job& job = arguments.jobs[i];
         progress.begin(i + 1, job.named);
-        const auto fault = convert(job, arguments.wishes);
+        const Outcome outcome = convert(job, arguments.wishes);
         progress.end();
-        if (!fault) continue;
-        complain(job.named + ": " + *fault);
-        status = 1;
+        for (const std::string& remark : outcome.remarks) complain(job.named + ": " + remark);
+        if (outcome.fault) complain(job.named + ": " + *outcome.fault);
+        if (outcome.leftOut && status == 0) status = partLeftOut;
+        if (outcome.fault) status = 1;
     }
     return status;
 }

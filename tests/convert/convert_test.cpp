@@ -201,20 +201,20 @@ const char* const foreignDxf = "0\nSECTION\n2\nENTITIES\n"
                                "0\nLINE\n8\nwalls\n10\n1.5\n20\n-2\n11\n3\n21\n4\n"
                                "0\nENDSEC\n0\nEOF\n";
 
-TEST_F(Convert, ForeignDxfComesInWhenItIsTolerated)
+TEST_F(Convert, DxfOfAnotherProgramComesIn)
 {
     p.write("foreign.dxf", foreignDxf);
-    expectDone("--tolerant foreign.dxf -o in.mtd");
+    expectDone("foreign.dxf -o in.mtd");
     const auto objects = p.objectsOf("in.mtd");
     ASSERT_EQ(objects.size(), 1U);
     EXPECT_EQ(objects[0].p1, (Point{18, 24}));
     EXPECT_EQ(objects[0].p2, (Point{36, -48}));
 }
 
-TEST_F(Convert, ForeignDxfOtherwiseHasNothingToConvert)
+TEST_F(Convert, DxfOfAnotherProgramByTheLetterHasNothingToConvert)
 {
     p.write("foreign.dxf", foreignDxf);
-    expectRefused("foreign.dxf -o in.mtd", 1, "foreign.dxf: ", "--tolerant");
+    expectRefused("--as-window foreign.dxf -o in.mtd", 1, "foreign.dxf: ", "--as-window");
     EXPECT_FALSE(p.exists("in.mtd"));
 }
 
@@ -268,7 +268,10 @@ TEST_F(Convert, ObjectsPastTheTableAreToldOf)
     std::string dxf = "  0\nSECTION\n  2\nENTITIES\n";
     for (int i = 0; i <= 60000; ++i) dxf += "  0\nLINE\n  8\n0\n 10\n1\n 20\n1\n 11\n2\n 21\n5\n";
     p.write("big.dxf", dxf + "  0\nENDSEC\n  0\nEOF\n");
-    expectRefused("big.dxf -o big.mtd", 1, "big.dxf: ", "60,000 objects");
+    expectRefused("big.dxf -o big.mtd", 3,
+                  "big.dxf: ", "2 objects found no room"); // a layer's name has its own
+    EXPECT_EQ(p.objectsOf("big.mtd").size(), 59999U);
+    expectRefused("--as-window big.dxf -o big.mtd", 1, "big.dxf: ", "60,000 objects");
     EXPECT_EQ(p.objectsOf("big.mtd").size(), 60000U);
 }
 
@@ -308,7 +311,7 @@ TEST_F(Convert, HelpNamesEveryOption)
     const fake::Converted got = p.run("--help");
     EXPECT_EQ(got.status, 0);
     EXPECT_EQ(got.err, "");
-    for (const char* option : {"-o ", "--to ", "--size ", "--paper ", "--layer ", "--tolerant ", "--help "})
+    for (const char* option : {"-o ", "--to ", "--size ", "--paper ", "--layer ", "--as-window ", "--help "})
         EXPECT_THAT(got.out, HasSubstr(option));
 }
 
@@ -317,7 +320,7 @@ TEST_F(Convert, ManualPageNamesEveryOption)
     std::ifstream file(std::string(MIRTANE_SOURCE_DIR) + "/docs/mirtane-convert.1");
     const std::string page{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     for (const char* option : {"\\-o", "\\-\\-to", "\\-\\-size", "\\-\\-paper", "\\-\\-layer",
-                               "\\-\\-tolerant", "\\-\\-help", "EXIT STATUS"})
+                               "\\-\\-as\\-window", "\\-\\-help", "EXIT STATUS"})
         EXPECT_THAT(page, HasSubstr(option));
 }
 

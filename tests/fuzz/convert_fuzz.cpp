@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t way = size % std::size(formats);
     wishes.format = formats[way];
     wishes.size = {150, 100};
-    wishes.tolerant = size / std::size(formats) % 2 == 0;
+    wishes.asWindow = size / std::size(formats) % 2 == 0;
     mirtane::convert::convert({in, in, outs[way]}, wishes);
     return 0;
 }

@@ -1,9 +1,7 @@
-// A DXF file, as it is or as the rewriter for files of other programs makes it: opened, shown, written and
-// opened again.
+// A DXF file, taken by the letter: opened, shown, written and opened again.
 
 #include "dxf/dxf_reader.h"
 #include "dxf/dxf_writer.h"
-#include "dxf/tolerant.h"
 #include "fuzz_session.h"
 
 #include <cmath>
@@ -43,10 +41,8 @@ void open(Session& s, std::string_view file)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string file(data, data + size);
-    const bool rewritten =
-        size % 2 == 1; // one way a file, as reading empties the whole table, which takes time
     Session& s = freshSession();
-    open(s, rewritten ? tolerantDxf(file) : file);
+    open(s, file);
     show(s);
     showOnPage(s);
     changeStat(s.store, Stat::on, Stat::sel);

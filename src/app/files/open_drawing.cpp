@@ -2,6 +2,7 @@
 
 #include "app/menus/attribute_controls.h"
 #include "dxf/dxf_reader.h"
+#include "dxf/scanner.h"
 #include "files/drawing_file.h"
 #include "geometry/fault.h"
 #include "model/insertion.h"
@@ -37,6 +38,20 @@ void showTakenLayers(Session& s)
     showLayers(s);
 }
 
+void showTakenDxf(App& app)
+{
+    Session& s = app.s;
+    s.stepNo = 0;
+    redrawAll(s,
+              app.pic1); // an empty drawing has nothing to zoom to, and the old one must go from the screen
+    zoomAll(s, app.pic1);
+    showTakenAttributes(app);
+    showTakenLayers(s);
+    finishDxf(s);
+    updateGauge(s);
+    s.controls.focus = ids::drawing;
+}
+
 } // namespace
 
 std::int32_t openDrawing(App& app, const Bytes& file)
@@ -63,16 +78,21 @@ std::int32_t openDxf(App& app, const Bytes& file)
     forgetOwners(s.store);
     readDxf(s, file, textWidthOn(app.pic1));
     const std::int32_t leftOut = std::max(0, s.store.entCount - EntityStore::slotCount);
-    s.stepNo = 0;
-    redrawAll(s,
-              app.pic1); // an empty drawing has nothing to zoom to, and the old one must go from the screen
-    zoomAll(s, app.pic1);
-    showTakenAttributes(app);
-    showTakenLayers(s);
-    finishDxf(s);
-    updateGauge(s);
-    s.controls.focus = ids::drawing;
+    showTakenDxf(app);
     return leftOut;
+}
+
+FullReport openDxfInFull(App& app, const Bytes& file, UnitsIfNone units)
+{
+    Session& s = app.s;
+    s.notices.settleOfDrawing();
+    forgetOwners(s.store);
+    const TextWidthOf widthOf = textWidthOn(app.pic1);
+    const FullReading reading = readInFull(textOf(file), units);
+    const TakenReading taken = takeReading(s, reading, widthOf);
+    setTextAnchors(s.store, widthOf);
+    showTakenDxf(app);
+    return reportOf(reading, taken);
 }
 
 void tellLeftOut(Notices& notices, const std::string& file, std::int32_t leftOut, const std::string& name)

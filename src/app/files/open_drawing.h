@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app.h"
+#include "exchange/report.h"
 #include "files/disk.h"
 
 namespace mirtane {
@@ -12,6 +13,9 @@ std::int32_t openDrawing(App& app, const Bytes& file);
 // Replaces the drawing by the objects of a DXF file and shows them all.
 // Gives the same.
 std::int32_t openDxf(App& app, const Bytes& file);
+
+// Replaces the drawing by all that a DXF file of any program holds, and shows it.
+FullReport openDxfInFull(App& app, const Bytes& file, UnitsIfNone units = {});
 
 // Says in the strip that so many objects of a file found no place, and, if it is given one, the name that the
 // drawing has in place of the file's.

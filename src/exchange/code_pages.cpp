@@ -1,0 +1,133 @@
+// exchange/code_pages.cpp: bytes of a DXF file as characters. What can't be known is a question mark, never a
+// wrong letter.
+
+#include "exchange/code_pages.h"
+
+#include "exchange/code_page_tables.h"
+#include "text/utf8.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+namespace mirtane {
+namespace {
+
+constexpr std::string_view firstInUtf8 = "AC1021";
+constexpr int windowsWestern = 1252;
+
+// The digits of a name in one number: "ANSI_1250" is 1250, "ISO8859_2" 88592.
+int numberIn(std::string_view name)
+{
+    constexpr int mostDigits = 100000;
+    int number = 0;
+    for (const char c : name) {
+        if (c >= '0' && c <= '9' && number < mostDigits) number = number * 10 + (c - '0');
+    }
+    return number;
+}
+
+bool isDoubleByte(int number)
+{
+    constexpr int pages[] = {932, 936, 949, 950, 1361, 5601, 2312, 5};
+    return std::ranges::find(pages, number) != std::end(pages);
+}
+
+const char16_t* upperHalfOf(int number)
+{
+    for (const CodePageTable& table : codePageTables()) {
+        if (table.number == number) return table.upperHalf.data();
+    }
+    return nullptr;
+}
+
+bool isWellFormed(std::string_view text)
+{
+    while (!text.empty()) {
+        const Utf8Step step = firstCharacter(text);
+        if (!step.wellFormed) return false;
+        text.remove_prefix(step.size);
+    }
+    return true;
+}
+
+struct Escape {
+    std::string character;
+    std::size_t size = 0;
+};
+
+bool isHex(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+    });
+}
+
+// \U+00E9 is a character; \M+182A0 two bytes in one of the pages that need two.
+std::optional<Escape> escapeAt(std::string_view text)
+{
+    constexpr std::size_t unicodeSize = 7;
+    constexpr std::size_t bytesSize = 8;
+    if (text.size() < unicodeSize || text[0] != '\\' || text[2] != '+') return {};
+    const bool isUnicode = text[1] == 'U' || text[1] == 'u';
+    const bool isBytes = text[1] == 'M' || text[1] == 'm';
+    if (isBytes && text.size() >= bytesSize && isHex(text.substr(3, 5))) return Escape{"?", bytesSize};
+    if (!isUnicode || !isHex(text.substr(3, 4))) return {};
+    std::uint32_t code = 0;
+    std::from_chars(text.data() + 3, text.data() + unicodeSize, code, 16);
+    return Escape{code < ' ' ? std::string() : encodeUtf8(code), unicodeSize};
+}
+
+} // namespace
+
+TextCoding::TextCoding(std::string_view codePage, std::string_view release)
+    : isUtf8_(release >= firstInUtf8 && release.starts_with("AC")), isGuess_(codePage.empty())
+{
+    const int number = numberIn(codePage);
+    const bool isMac = codePage.starts_with("mac") || codePage.starts_with("MAC");
+    isDouble_ = isDoubleByte(number) || codePage == "johab" || codePage == "JOHAB";
+    upperHalf_ = isDouble_ ? nullptr : upperHalfOf(isMac ? 10000 : number);
+}
+
+void TextCoding::append(std::string& out, std::string_view bytes) const
+{
+    static const char16_t* const western = upperHalfOf(windowsWestern);
+    const char16_t* const page = upperHalf_ != nullptr ? upperHalf_ : western;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]); // char may be signed
+        if (byte < 0x80) {
+            out += bytes[i];
+        } else if (isDouble_) {
+            out += '?';
+            ++i; // its second byte may look like any other
+        } else {
+            const char16_t code = page[byte - 0x80];
+            out += code == 0 ? "?" : encodeUtf8(code);
+        }
+    }
+}
+
+std::string TextCoding::utf8(std::string_view bytes) const
+{
+    std::string plain;
+    const bool isPlain = std::ranges::all_of(bytes, [](char c) { return c >= 0; });
+    if (isPlain || ((isUtf8_ || isGuess_) && isWellFormed(bytes)))
+        plain = bytes;
+    else
+        append(plain, bytes);
+    std::string out;
+    std::string_view rest = plain;
+    for (std::size_t at = rest.find('\\'); at != rest.npos; at = rest.find('\\', at)) {
+        const auto escape = escapeAt(rest.substr(at));
+        if (!escape) {
+            ++at;
+            continue;
+        }
+        out.append(rest.substr(0, at)).append(escape->character);
+        rest.remove_prefix(at + escape->size);
+        at = 0;
+    }
+    return out.append(rest);
+}
+
+} // namespace mirtane

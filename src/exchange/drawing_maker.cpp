@@ -1,0 +1,250 @@
+#include "exchange/drawing_maker.h"
+
+#include "exchange/bounds.h"
+#include "exchange/faces.h"
+#include "exchange/upright_text.h"
+#include "geometry/fault.h"
+#include "model/entity_store.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+constexpr std::int64_t mostSteps = 1'000'000; // records drawn, those of a block each time that it is inserted
+constexpr std::size_t deepest = 32;           // blocks within blocks
+constexpr std::size_t mostObjects = EntityStore::slotCount - 1;
+
+bool isFinite(const Made& made)
+{
+    constexpr double farthest = 1e30; // what a coordinate holds in any unit
+    const auto near = [](Vec p) { return std::abs(p.x) < farthest && std::abs(p.y) < farthest; };
+    return std::ranges::all_of(made.p, near) && made.radius < farthest && made.size < farthest &&
+           std::isfinite(made.from + made.to + made.ratio + made.rotation + made.radius + made.size);
+}
+
+// A value that lasts until the end of a block of code, which puts the old one back.
+template <class Value> class Lent {
+  public:
+    Lent(Value& target, Value value) : target_(target), kept_(std::exchange(target, std::move(value))) {}
+    ~Lent() { target_ = std::move(kept_); }
+    Lent(const Lent&) = delete;
+    Lent& operator=(const Lent&) = delete;
+
+  private:
+    Value& target_;
+    Value kept_;
+};
+
+} // namespace
+
+DrawingMaker::DrawingMaker(const DxfList& list, double tolerance,
+                           TakeRecord (*takerOf)(std::string_view type))
+    : list_(list), tolerance_(tolerance), takerOf_(takerOf), looks_(list)
+{
+}
+
+Vec DrawingMaker::flat(Vec3 point) const
+{
+    const Vec3 p = place_(point);
+    return {p.x, p.y};
+}
+
+Vec DrawingMaker::flatWay(Vec3 way) const
+{
+    const Vec3 w = place_.way(way);
+    return {w.x, w.y};
+}
+
+Transform2 DrawingMaker::plane(const DxfRecord& record) const
+{
+    constexpr int elevation = 38;
+    return plane(record.point(210, {0, 0, 1}), record.number(elevation, record.number(30)));
+}
+
+Transform2 DrawingMaker::plane(Vec3 extrusion, double elevation) const
+{
+    return seenFromAbove(then(planeOfNormal(extrusion), place_), elevation);
+}
+
+std::int32_t DrawingMaker::penOf(int colorNumber)
+{
+    return record_ == nullptr ? look.color : looks_.penOf(colorNumber, *record_, insert_);
+}
+
+void DrawingMaker::add(Made made)
+{
+    if (!isFinite(made)) return leftOut(record_ == nullptr ? "" : record_->type, "no place to be found");
+    if (made_.objects.size() >= mostObjects) {
+        ++made_.withoutRoom;
+        return;
+    }
+    made.look = look;
+    made_.objects.push_back(std::move(made));
+}
+
+void DrawingMaker::line(Vec a, Vec b)
+{
+    add({.kind = Kind::line, .p = {a, b}});
+}
+
+void DrawingMaker::polyline(std::span<const Vec> points, bool closed)
+{
+    for (std::size_t i = 1; i < points.size(); ++i) line(points[i - 1], points[i]);
+    if (closed && points.size() > 2) line(points.back(), points.front());
+}
+
+void DrawingMaker::point(Vec p)
+{
+    add({.kind = Kind::point, .p = {p}});
+}
+
+void DrawingMaker::arc(const EllipseArc& arc)
+{
+    if (arc.isCircular()) return circular(arc);
+    if (!arc.isWhole()) return pieces(piecesOf(arc, tolerance_));
+    constexpr double flattest = 1e-6; // seen from its edge
+    const PrincipalAxes axes = principalAxes(arc);
+    if (axes.ratio < flattest) return line(arc.centre - axes.major, arc.centre + axes.major);
+    add({.kind = Kind::ellipse, .p = {arc.centre + axes.major, arc.centre}, .ratio = axes.ratio});
+}
+
+// The ends of an arc with so small a part of a turn could not be told from its centre in 32 bits.
+void DrawingMaker::circular(const EllipseArc& arc)
+{
+    constexpr double leastTurn = 0.001;
+    const double radius = length(arc.u);
+    if (arc.isWhole()) return add({.kind = Kind::circle, .p = {arc.centre}, .radius = radius});
+    if (arc.to - arc.from < leastTurn) return line(arc.at(arc.from), arc.at(arc.to));
+    const double start = directionOf(arc.u);
+    const bool mirrored = cross(arc.u, arc.v) < 0;
+    const double from = mirrored ? start - arc.to : start + arc.from;
+    const double to = mirrored ? start - arc.from : start + arc.to;
+    add({.kind = Kind::arc, .p = {arc.centre}, .radius = radius, .from = from, .to = to});
+}
+
+void DrawingMaker::piece(const Piece& piece)
+{
+    constexpr double leastBulge = 1e-9;
+    if (std::abs(piece.bulge) < leastBulge || piece.from == piece.to) return line(piece.from, piece.to);
+    circular(arcOfBulge(piece.from, piece.to, piece.bulge));
+}
+
+void DrawingMaker::pieces(std::span<const Piece> pieces)
+{
+    for (const Piece& one : pieces) piece(one);
+}
+
+void DrawingMaker::text(const MadeText& text, Vec baseline, Vec along, Vec up)
+{
+    if (trimmed(text.words).empty()) return;
+    add(uprightText(text, baseline, along, up));
+}
+
+void DrawingMaker::endless(Vec from, Vec way, bool bothWays)
+{
+    endless_.push_back({from, way, bothWays, look});
+}
+
+bool DrawingMaker::block(std::string_view name, const Transform3& at)
+{
+    const auto found = list_.blocks.find(name);
+    if (found == list_.blocks.end() || underWay_.size() >= deepest || !takesStep()) return false;
+    const auto isIt = [name](std::string_view one) { return isSameName(one, name); };
+    if (std::ranges::any_of(underWay_, isIt)) return false;
+    drawBlock(found->second, at);
+    return true;
+}
+
+void DrawingMaker::drawBlock(const DxfBlock& block, const Transform3& at)
+{
+    const Lent inserted(insert_, record_ == nullptr ? insert_ : looks_.passedOn(*record_, insert_));
+    const Lent placed(place_, then(then(moved(-1 * block.base), at), place_));
+    underWay_.push_back(block.name);
+    for (const DxfRecord& one : block.records) record(one);
+    underWay_.pop_back();
+}
+
+void DrawingMaker::attributes(const DxfRecord& insert, Vec3 moved)
+{
+    if (insert.parts.empty()) return;
+    const Lent inserted(insert_, std::optional(looks_.passedOn(insert, insert_)));
+    const Lent placed(place_, then(mirtane::moved(moved), place_));
+    for (const DxfRecord& one : insert.parts) record(one);
+}
+
+bool DrawingMaker::takesStep()
+{
+    return ++steps_ <= mostSteps;
+}
+
+void DrawingMaker::record(const DxfRecord& record)
+{
+    constexpr int invisible = 60;
+    if (!takesStep()) return leftOut(record.type, "too many");
+    if (record.whole(invisible) == 1) return leftOut(record.type, "invisible");
+    const TakeRecord take = takerOf_(record.type);
+    if (take == nullptr) return leftOut(record.type);
+    const Lent lookKept(look, looks_.of(record, insert_));
+    const Lent recordKept(record_, &record);
+    take(record, *this);
+}
+
+void DrawingMaker::leftOut(std::string_view type, std::string_view why)
+{
+    constexpr std::size_t mostReasons = 1000; // a file may name its types as it likes
+    if (made_.leftOut.size() >= mostReasons) type = "OTHER";
+    ++made_.leftOut[{list_.text(type), std::string(why)}];
+}
+
+std::string DrawingMaker::faceOf(std::string_view style) const
+{
+    const auto row = list_.styles.find(style);
+    return row == list_.styles.end() ? std::string() : faceOfStyle(list_, row->second);
+}
+
+// They don't add to the size of the drawing themselves.
+void DrawingMaker::cutEndless()
+{
+    constexpr double times = 10;
+    Bounds bounds = boundsOf(made_.objects);
+    for (const Endless& one : endless_) bounds.feed(one.from);
+    const double reach = times * (bounds.size() > 0 ? bounds.size() : 1);
+    for (const Endless& one : endless_) {
+        look = one.look;
+        const Vec far = quotient(reach, length(one.way)) * one.way;
+        line(one.bothWays ? one.from - far : one.from, one.from + far);
+    }
+}
+
+// Layers that every file has to have, whatever is drawn on them.
+void DrawingMaker::leaveOutUnusedLayers()
+{
+    std::vector<bool> used(made_.layers.size());
+    for (const Made& one : made_.objects) used[static_cast<std::size_t>(one.look.layer)] = true; // a row
+    std::vector<std::int16_t> numbers;
+    std::vector<MadeLayer> kept;
+    for (std::size_t i = 0; i < used.size(); ++i) {
+        const std::string& name = made_.layers[i].name;
+        const bool mayGo = name == "0" || isSameName(name, "DEFPOINTS");
+        numbers.push_back(static_cast<std::int16_t>(kept.size())); // at most 1,000 of them
+        if (used[i] || !mayGo) kept.push_back(made_.layers[i]);
+    }
+    if (kept.empty()) return;
+    for (Made& one : made_.objects)
+        one.look.layer = numbers[static_cast<std::size_t>(one.look.layer)]; // as above
+    made_.workLayer = std::min(numbers[static_cast<std::size_t>(made_.workLayer)],
+                               static_cast<std::int16_t>(kept.size() - 1));
+    made_.layers = std::move(kept);
+}
+
+MadeDrawing DrawingMaker::finish()
+{
+    cutEndless();
+    made_.workLayer = looks_.workLayer();
+    made_.layers = looks_.layers();
+    leaveOutUnusedLayers();
+    return std::move(made_);
+}
+
+} // namespace mirtane

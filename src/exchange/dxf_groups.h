@@ -1,0 +1,26 @@
+#pragma once
+
+// The pairs that a DXF file is made up of, and what their values can be read as.
+
+#include <span>
+#include <string_view>
+
+namespace mirtane {
+
+struct DxfGroup {
+    int code = 0;
+    std::string_view value; // as it stands in the file, in the file's code page
+};
+
+using DxfGroups = std::span<const DxfGroup>;
+
+std::string_view trimmed(std::string_view text);
+
+// The number that a value is; fallback for none, and for one that is not finite.
+double dxfNumber(std::string_view value, double fallback = 0);
+int dxfWhole(std::string_view value, int fallback = 0);
+
+// The first group of a code, or null.
+const DxfGroup* findGroup(DxfGroups groups, int code);
+
+} // namespace mirtane

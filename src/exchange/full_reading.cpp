@@ -1,0 +1,136 @@
+#include "exchange/full_reading.h"
+
+#include "exchange/handlers.h"
+#include "geometry/fault.h"
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+constexpr double worldPerInch = 12;
+
+struct UnitRow {
+    int number;
+    double inches;
+};
+
+// By the number that $INSUNITS has.
+constexpr UnitRow units[] = {
+    {1, 1},
+    {2, 12},
+    {3, 63360},
+    {4, 1 / 25.4},
+    {5, 1 / 2.54},
+    {6, 1 / 0.0254},
+    {7, 1000 / 0.0254},
+    {8, 1e-6},
+    {9, 1e-3},
+    {10, 36},
+    {11, 1e-10 / 0.0254},
+    {12, 1e-9 / 0.0254},
+    {13, 1e-6 / 0.0254},
+    {14, 0.1 / 0.0254},
+    {15, 10 / 0.0254},
+    {16, 100 / 0.0254},
+    {21, 12 * 1.000002}, // the surveyor's foot
+};
+
+const UnitRow* unitsOf(const DxfList& list)
+{
+    const double number = list.variable("$INSUNITS", 70, 0);
+    const auto* const row =
+        std::ranges::find_if(units, [number](const UnitRow& one) { return one.number == number; });
+    return row == std::end(units) ? nullptr : row;
+}
+
+bool isOfPaper(const DxfRecord& record)
+{
+    constexpr int space = 67;
+    return record.whole(space) == 1;
+}
+
+// What is on paper is seen only where the model has nothing.
+void drawEntities(const DxfList& list, DrawingMaker& maker)
+{
+    bool modelIsEmpty = true;
+    for (const DxfRecord& one : list.entities) {
+        if (isOfPaper(one)) continue;
+        maker.record(one);
+        modelIsEmpty = false;
+    }
+    for (const DxfRecord& one : list.entities) {
+        if (!isOfPaper(one)) continue;
+        if (modelIsEmpty)
+            maker.record(one);
+        else if (!isSameName(one.type, "VIEWPORT"))
+            maker.leftOut(one.type, "on paper");
+    }
+}
+
+// As exact as the drawing shows it, in the file's units.
+double toleranceOf(double worldPerFile)
+{
+    constexpr double hundredth = 0.01;
+    return hundredth / worldPerFile;
+}
+
+void takeLayers(LayerTable& table, const MadeDrawing& drawing)
+{
+    table.layerCount = 0;
+    for (const MadeLayer& one : drawing.layers) {
+        const std::int32_t number = table.layerCount++;
+        table.resetRow(number, drawing.workLayer);
+        Layer* const row = table.find(number);
+        if (row == nullptr) continue;
+        row->layerName = one.name;
+        if (one.hidden) row->layerShown = layer::hidden;
+    }
+}
+
+void takeObject(Session& s, const Made& made, const Placing& placing, const TextWidthOf& widthOf)
+{
+    constexpr double clippingRoom = 1.2;
+    EntityRecord r = recordOf(made, placing);
+    if (r.t2.empty()) r.t2 = s.textFont;
+    if (r.kind == Kind::text) keep(r.rad, clippingRoom * widthOf(r));
+    const std::int32_t slot = s.store.entCount++;
+    s.store.setRecord(slot, r);
+    s.store.setStat(slot, made.look.hidden ? Stat::off : Stat::on);
+    s.store.dxfTag[EntityStore::at(slot)] = noName;
+    markUsed(s.layerTable, made.look.layer);
+}
+
+} // namespace
+
+FullReading readInFull(std::string_view bytes, UnitsIfNone unitsIfNone)
+{
+    const DxfList list = dxfListOf(bytes);
+    const UnitRow* const unit = unitsOf(list);
+    FullReading reading;
+    reading.isDxf = list.isDxf;
+    reading.isCut = list.isCut;
+    reading.hasUnits = unit != nullptr || list.isOurs;
+    reading.placing.worldPerFile = worldPerInch * (unit != nullptr ? unit->inches : unitsIfNone.inches);
+    DrawingMaker maker(list, toleranceOf(reading.placing.worldPerFile), handlerOf);
+    drawEntities(list, maker);
+    reading.drawing = maker.finish();
+    reading.placing.move = moveToOrigin(boundsOf(reading.drawing.objects), reading.placing.worldPerFile);
+    return reading;
+}
+
+TakenReading takeReading(Session& s, const FullReading& reading, const TextWidthOf& widthOf)
+{
+    const MadeDrawing& drawing = reading.drawing;
+    clearRecords(s.log);
+    takeLayers(s.layerTable, drawing);
+    s.workLayer = drawing.workLayer;
+    s.store.entCount = 1;
+    const std::size_t room = EntityStore::slotCount - 1 - drawing.layers.size();
+    const std::size_t taken = std::min(drawing.objects.size(), room);
+    for (std::size_t i = 0; i < taken; ++i) takeObject(s, drawing.objects[i], reading.placing, widthOf);
+    return {taken,
+            drawing.withoutRoom + static_cast<std::int64_t>(drawing.objects.size() - taken)}; // not negative
+}
+
+} // namespace mirtane

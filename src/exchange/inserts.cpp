@@ -1,0 +1,60 @@
+// exchange/inserts.cpp: blocks in their places.
+
+#include "exchange/simple_records.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace mirtane {
+namespace {
+
+// A factor of 0 would leave nothing to be seen; files have it for those that were never set.
+double factor(const DxfRecord& record, int code)
+{
+    const double number = record.number(code, 1);
+    return number == 0 ? 1 : number;
+}
+
+Transform3 scaled(const DxfRecord& record)
+{
+    return {{factor(record, 41), 0, 0}, {0, factor(record, 42), 0}, {0, 0, factor(record, 43)}, {}};
+}
+
+struct Grid {
+    int rows, columns;
+    double down, across;
+};
+
+Grid gridOf(const DxfRecord& record)
+{
+    constexpr int most = 32767;
+    return {std::clamp(record.whole(71, 1), 1, most), std::clamp(record.whole(70, 1), 1, most),
+            record.number(45), record.number(44)};
+}
+
+// Rows and columns run in the turned directions of the insert, unscaled.
+bool drawGrid(const DxfRecord& record, DrawingMaker& maker)
+{
+    const Transform3 place =
+        then(then(turned(record.number(50) * std::numbers::pi / 180), moved(record.point(10))),
+             planeOfNormal(record.point(210, {0, 0, 1})));
+    const Grid grid = gridOf(record);
+    const Transform3 own = scaled(record);
+    for (int row = 0; row < grid.rows; ++row) {
+        for (int column = 0; column < grid.columns; ++column) {
+            const Vec3 step{column * grid.across, row * grid.down, 0};
+            maker.attributes(record, place.way(step));
+            if (!maker.block(record.name(2), then(then(own, moved(step)), place))) return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+void takeInsert(const DxfRecord& record, DrawingMaker& maker)
+{
+    if (!drawGrid(record, maker)) maker.leftOut("INSERT", "its block can't be drawn");
+}
+
+} // namespace mirtane

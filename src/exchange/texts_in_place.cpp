@@ -1,0 +1,66 @@
+// exchange/texts_in_place.cpp: single lines of text, and the attributes of blocks, which are such lines as
+// well.
+
+#include "exchange/percent_codes.h"
+#include "exchange/simple_records.h"
+
+#include <numbers>
+
+namespace mirtane {
+namespace {
+
+namespace across {
+constexpr int left = 0, centre = 1, right = 2, aligned = 3, middle = 4, fitted = 5;
+}
+
+// How far the line is below the point that the text is placed by, in heights.
+double belowPoint(int horizontal, int vertical)
+{
+    constexpr double descent = 0.2;
+    constexpr int bottom = 1, middle = 2, top = 3;
+    if (horizontal == across::middle || vertical == middle) return 0.5;
+    if (vertical == top) return 1;
+    return vertical == bottom ? -descent : 0;
+}
+
+std::int16_t justificationOf(int horizontal)
+{
+    if (horizontal == across::right) return 1;
+    return horizontal == across::centre || horizontal == across::middle ? std::int16_t{2} : std::int16_t{0};
+}
+
+void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& maker)
+{
+    constexpr double radians = std::numbers::pi / 180;
+    const int horizontal = record.whole(72);
+    const int vertical = record.whole(verticalCode);
+    const bool betweenPoints = horizontal == across::aligned || horizontal == across::fitted;
+    // Our own files have the point that is meant first, and heights of two thirds.
+    const bool ours = maker.list().isOurs;
+    const bool bySecond =
+        !ours && (horizontal != across::left || vertical != 0) && !betweenPoints && record.has(11);
+    const Transform2 plane = maker.plane(record);
+    const Vec3 point = record.point(bySecond ? 11 : 10);
+    const Vec along = wayAt(record.number(50) * radians);
+    const Vec up = (ours ? 1.5 : 1) * record.number(40, 1) * turnedLeft(along);
+    MadeText text = plainLine(maker.list().text(record, 1));
+    text.face = maker.faceOf(record.name(7));
+    text.justification = bySecond || ours ? justificationOf(horizontal) : std::int16_t{0};
+    const double below = bySecond ? belowPoint(horizontal, vertical) : 0;
+    maker.text(text, plane(Vec{point.x, point.y} - below * up), plane.way(along), plane.way(up));
+}
+
+} // namespace
+
+void takeText(const DxfRecord& record, DrawingMaker& maker)
+{
+    takeLineOfText(record, 73, maker);
+}
+
+void takeAttribute(const DxfRecord& record, DrawingMaker& maker)
+{
+    constexpr int unseen = 1;
+    if ((record.whole(70) & unseen) == 0) takeLineOfText(record, 74, maker);
+}
+
+} // namespace mirtane
