@@ -12,8 +12,8 @@ struct Piece {
     double bulge = 0;
 };
 
-// Arcs and lines that stay within tolerance of the curve, in its order, each beginning where the last one
-// ends.
+// Few tangent arcs that stay within tolerance of the curve, in its order, each beginning where the last one
+// ends. What is flat comes as lines to and fro.
 std::vector<Piece> piecesOf(const EllipseArc& arc, double tolerance);
 
 } // namespace mirtane

@@ -1,0 +1,256 @@
+// exchange/tangent_arcs.cpp: a stretch of the curve is two arcs that leave its ends in their directions and
+// touch each other; from where the last pair ends, the next goes as far as the tolerance lets it.
+
+#include "exchange/tangent_arcs.h"
+
+#include <algorithm>
+#include <numbers>
+#include <optional>
+
+namespace mirtane {
+namespace {
+
+constexpr double pi = std::numbers::pi;
+constexpr int samplesOfFormula = 6;
+constexpr int mostSteps = 1500;  // two strokes each
+constexpr int mostHalvings = 24; // of the whole range of the parameter
+constexpr int growthTries = 3;
+constexpr double margin = 0.9; // of the tolerance: between two points looked at the curve may be farther off
+
+struct Pair {
+    Stroke first, second;
+};
+
+// How far along the two directions the corners of the pair lie, equally far at either end. NaN if nowhere.
+double reachOfPair(Vec chord, Vec way0, Vec way1)
+{
+    const double both = dot(chord, way0 + way1);
+    const double apart = 2 * (1 - dot(way0, way1));
+    const double square = dot(chord, chord);
+    if (apart < 1e-12) return square / (2 * both);
+    return (std::sqrt(both * both + apart * square) - both) / apart;
+}
+
+std::optional<Pair> touchingPair(Vec from, Vec way0, Vec to, Vec way1)
+{
+    const Vec chord = to - from;
+    const double reach = reachOfPair(chord, way0, way1);
+    if (!(reach > 0) || !std::isfinite(reach)) return std::nullopt;
+    const Vec middle = 0.5 * (from + reach * way0 + to - reach * way1);
+    const Stroke second = arcLeaving(to, -way1, middle); // from its end, turned round below
+    return Pair{arcLeaving(from, way0, middle), {middle, to, second.centre, second.radius, -second.sweep}};
+}
+
+bool isOnOneCircle(const Stroke& a, const Stroke& b, double tolerance)
+{
+    return a.isArc() && b.isArc() && (a.sweep > 0) == (b.sweep > 0) &&
+           std::abs(a.radius - b.radius) <= tolerance && length(a.centre - b.centre) <= tolerance &&
+           std::abs(a.sweep + b.sweep) <= 2 * pi + 1e-9;
+}
+
+bool isOnOneLine(const Stroke& a, const Stroke& b, double tolerance)
+{
+    const Vec whole = b.to - a.from;
+    return !a.isArc() && !b.isArc() && dot(a.to - a.from, b.to - b.from) > 0 &&
+           std::abs(cross(whole, a.to - a.from)) <= tolerance * length(whole);
+}
+
+// As near as makes no visible corner.
+bool runsAlong(Vec way, Vec chord)
+{
+    constexpr double little = 1e-4;
+    const double along = dot(way, chord);
+    return along > 0 && std::abs(cross(way, chord)) <= little * along;
+}
+
+class Fitter {
+  public:
+    Fitter(const Curve& curve, double tolerance) : curve_(curve), tolerance_(tolerance) {}
+
+    bool run(); // false: too many strokes
+    std::vector<Stroke> take() { return std::move(strokes_); }
+
+  private:
+    Vec wayAt(double t, Side side, double towards) const;
+    bool fits(double from, double to);
+    bool isNear(double from, double to) const;
+    void lengthen(double from, double& step, double tooFar);
+    void add(const Stroke& stroke);
+    double last() const { return curve_.breaks.back(); }
+
+    const Curve& curve_;
+    double tolerance_;
+    Pair pair_;
+    bool isLine_ = false;
+    std::vector<Stroke> strokes_;
+};
+
+// A direction of length 1. Where the curve stands still for a moment, that of the way to a point nearby.
+Vec Fitter::wayAt(double t, Side side, double towards) const
+{
+    const CurvePoint here = curve_.at(t, side);
+    Vec way = here.way;
+    const double range = towards - t;
+    const Vec nearby = curve_.at(t + range * 1e-3, side).at - here.at;
+    if (length(way) * std::abs(range) * 1e-3 < 0.05 * length(nearby)) way = (range < 0 ? -1 : 1) * nearby;
+    const double size = length(way);
+    return size > 0 ? 1 / size * way : Vec{};
+}
+
+bool Fitter::fits(double from, double to)
+{
+    const Vec start = curve_.at(from, Side::after).at;
+    const Vec end = curve_.at(to, Side::before).at;
+    pair_ = {straightStroke(start, end), straightStroke(end, end)};
+    isLine_ = true;
+    const Vec chord = end - start;
+    const Vec way0 = wayAt(from, Side::after, to);
+    const Vec way1 = wayAt(to, Side::before, from);
+    const bool runsOn = runsAlong(way0, chord) && runsAlong(way1, chord);
+    if (runsOn && isNear(from, to)) return true;
+    const auto pair = touchingPair(start, way0, end, way1);
+    if (!pair) return false;
+    pair_ = *pair;
+    isLine_ = false;
+    return isNear(from, to);
+}
+
+bool Fitter::isNear(double from, double to) const
+{
+    const auto near = [&](double t) {
+        const Vec p = curve_.at(t, Side::after).at;
+        const double far = std::min(distanceTo(pair_.first, p), distanceTo(pair_.second, p));
+        return far <= margin * tolerance_; // and not if there is none
+    };
+    double a = from;
+    auto next = std::ranges::upper_bound(curve_.breaks, from);
+    while (a < to) {
+        const double b = next != curve_.breaks.end() ? std::min(*next++, to) : to;
+        for (int i = 1; i < samplesOfFormula; ++i) {
+            if (!near(a + (b - a) * i / samplesOfFormula)) return false;
+        }
+        if (b < to && !near(b)) return false;
+        a = b;
+    }
+    return true;
+}
+
+// A step that fits is made longer, short of one that does not.
+void Fitter::lengthen(double from, double& step, double tooFar)
+{
+    for (int i = 0; i < growthTries; ++i) {
+        const double middle = (step + tooFar) / 2;
+        (fits(from, from + middle) ? step : tooFar) = middle;
+    }
+    fits(from, from + step);
+}
+
+void Fitter::add(const Stroke& stroke)
+{
+    if (!isFinite(stroke.from) || !isFinite(stroke.to) || (stroke.from == stroke.to && !stroke.isArc()))
+        return;
+    const double same = tolerance_ / 20;
+    if (!strokes_.empty() && isOnOneCircle(strokes_.back(), stroke, same)) {
+        strokes_.back().sweep += stroke.sweep;
+        strokes_.back().to = stroke.to;
+    } else if (!strokes_.empty() && isOnOneLine(strokes_.back(), stroke, same)) {
+        strokes_.back().to = stroke.to;
+    } else {
+        strokes_.push_back(stroke);
+    }
+}
+
+bool Fitter::run()
+{
+    const double smallest = std::ldexp(last() - curve_.breaks.front(), -mostHalvings);
+    double from = curve_.breaks.front();
+    double step = last() - from;
+    int steps = 0;
+    while (from < last()) {
+        step = std::min(step, last() - from);
+        double tooFar = step;
+        while (!fits(from, from + step) && step > smallest) {
+            tooFar = step;
+            step /= 2;
+        }
+        if (step <= smallest) {
+            pair_.first =
+                straightStroke(curve_.at(from, Side::after).at, curve_.at(from + step, Side::before).at);
+            isLine_ = true;
+        } else if (step < tooFar) {
+            lengthen(from, step, tooFar);
+        }
+        add(pair_.first);
+        if (!isLine_) add(pair_.second);
+        if (++steps > mostSteps) return false;
+        const bool isEnd = from + step >= last() || from + step <= from;
+        from = isEnd ? last() : from + step;
+        step *= 2;
+    }
+    return true;
+}
+
+} // namespace
+
+std::vector<Stroke> tangentArcs(const Curve& curve, double tolerance)
+{
+    if (curve.breaks.size() < 2) return {};
+    constexpr int coarser = 8;
+    for (int i = 0; i < coarser; ++i, tolerance *= 8) {
+        Fitter fitter(curve, tolerance);
+        if (fitter.run()) return fitter.take();
+    }
+    return {};
+}
+
+Stroke arcLeaving(Vec from, Vec way, Vec to)
+{
+    const Vec chord = to - from;
+    const double across = cross(way, chord);
+    const double sweep = 2 * std::atan2(across, dot(way, chord));
+    constexpr double straight = 1e-9;
+    if (std::abs(sweep) < straight || !std::isfinite(sweep)) return straightStroke(from, to);
+    const double radius = dot(chord, chord) / (2 * across); // below 0 where the centre lies to the right
+    if (!std::isfinite(radius)) return straightStroke(from, to);
+    return {from, to, from + radius * turnedLeft(way), std::abs(radius), sweep};
+}
+
+Stroke bulgeStroke(Vec from, Vec to, double bulge)
+{
+    const Vec chord = to - from;
+    const double size = length(chord);
+    if (!(size > 0) || bulge == 0) return straightStroke(from, to);
+    const double half = 2 * std::atan(bulge); // from the way at the start to the chord
+    const Vec along = 1 / size * chord;
+    const double c = std::cos(half);
+    const double s = std::sin(half);
+    return arcLeaving(from, {along.x * c + along.y * s, along.y * c - along.x * s}, to);
+}
+
+Vec pointOn(const Stroke& stroke, double part)
+{
+    if (!stroke.isArc()) return stroke.from + part * (stroke.to - stroke.from);
+    const Vec out = stroke.from - stroke.centre;
+    const double c = std::cos(stroke.sweep * part);
+    const double s = std::sin(stroke.sweep * part);
+    return stroke.centre + Vec{out.x * c - out.y * s, out.x * s + out.y * c};
+}
+
+double distanceTo(const Stroke& stroke, Vec p)
+{
+    if (stroke.isArc()) {
+        const Vec out = p - stroke.centre;
+        const Vec start = stroke.from - stroke.centre;
+        const double sign = stroke.sweep < 0 ? -1 : 1;
+        double turn = sign * std::atan2(cross(start, out), dot(start, out));
+        if (turn < 0) turn += 2 * pi;
+        if (turn <= std::abs(stroke.sweep)) return std::abs(length(out) - stroke.radius);
+        return std::min(length(p - stroke.from), length(p - stroke.to));
+    }
+    const Vec chord = stroke.to - stroke.from;
+    const double square = dot(chord, chord);
+    const double part = square > 0 ? std::clamp(dot(p - stroke.from, chord) / square, 0.0, 1.0) : 0.0;
+    return length(p - stroke.from - part * chord);
+}
+
+} // namespace mirtane
