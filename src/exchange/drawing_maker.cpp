@@ -156,6 +156,12 @@ bool DrawingMaker::block(std::string_view name, const Transform3& at)
     return true;
 }
 
+bool DrawingMaker::picture(std::string_view name, const Transform3& at)
+{
+    const Lent asPicture(isPicture_, true);
+    return block(name, at);
+}
+
 void DrawingMaker::drawBlock(const DxfBlock& block, const Transform3& at)
 {
     const Lent inserted(insert_, record_ == nullptr ? insert_ : looks_.passedOn(*record_, insert_));
@@ -181,6 +187,7 @@ bool DrawingMaker::takesStep()
 void DrawingMaker::record(const DxfRecord& record)
 {
     constexpr int invisible = 60;
+    if (isPicture_ && isSameName(record.type, "POINT")) return;
     if (!takesStep()) return leftOut(record.type, "too many");
     if (record.whole(invisible) == 1) return leftOut(record.type, "invisible");
     const TakeRecord take = takerOf_(record.type);

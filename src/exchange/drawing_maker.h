@@ -58,6 +58,8 @@ class DrawingMaker {
     // Draws what a block holds; at is where its points go, before where the record under way stands. Its base
     // point is taken off. False for a block that is not there, is under way already, or is too deep.
     bool block(std::string_view name, const Transform3& at);
+    // The same of the block that pictures a dimension: the points that it was measured by are not drawn.
+    bool picture(std::string_view name, const Transform3& at);
     // The attributes of an insert, which stand where they say, moved by so much for one of many.
     void attributes(const DxfRecord& insert, Vec3 moved);
     // One record as it stands, by the row of its type.
@@ -97,6 +99,7 @@ class DrawingMaker {
     const DxfRecord* record_ = nullptr;
     std::vector<std::string_view> underWay_;
     std::vector<Endless> endless_;
+    bool isPicture_ = false;
     std::int64_t steps_ = 0;
     MadeDrawing made_;
 };

@@ -90,6 +90,7 @@ void Lister::takeHeader(DxfGroups groups)
 void Lister::takeRow(DxfRecord&& record)
 {
     const std::string_view name = record.name(2);
+    if (const auto handle = record.name(5); !handle.empty()) list_.namesByHandle.emplace(handle, name);
     if (isType(record, "LAYER") && !name.empty()) list_.layers.push_back(std::move(record));
     if (isType(record, "LTYPE")) list_.lineTypes.emplace(name, std::move(record));
     if (isType(record, "STYLE")) list_.styles.emplace(name, std::move(record));
@@ -186,6 +187,12 @@ std::string DxfList::text(const DxfRecord& record, int code) const
 {
     const DxfGroup* const group = findGroup(record.groups, code);
     return group == nullptr ? std::string() : text(group->value);
+}
+
+std::string_view DxfList::nameByHandle(std::string_view handle) const
+{
+    const auto row = namesByHandle.find(handle);
+    return row == namesByHandle.end() ? std::string_view() : row->second;
 }
 
 double DxfList::variable(std::string_view name, int code, double fallback) const

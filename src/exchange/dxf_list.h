@@ -53,6 +53,7 @@ struct DxfList {
     ByName<DxfRecord> lineTypes, styles, dimensionStyles;
     ByName<DxfBlock> blocks;
     std::vector<DxfRecord> entities;
+    ByName<std::string_view> namesByHandle; // of the rows of tables
     ByName<DxfRecord> objects; // by handle, of the section of that name
     bool isDxf = false;        // a section or a record was found
     bool isCut = false;        // no end was found
@@ -65,6 +66,8 @@ struct DxfList {
     std::string text(std::string_view value) const { return coding.utf8(value); }
     // The first group of code as such a text.
     std::string text(const DxfRecord& record, int code) const;
+    // The name of a style, a block and so on by its handle; empty for none.
+    std::string_view nameByHandle(std::string_view handle) const;
     double variable(std::string_view name, int code, double fallback) const;
     std::string_view variableName(std::string_view name, int code) const;
 

@@ -1,5 +1,6 @@
 #include "exchange/handlers.h"
 
+#include "exchange/curve_records.h"
 #include "exchange/simple_records.h"
 
 #include <algorithm>
@@ -14,18 +15,34 @@ struct RecordHandler {
 
 constexpr RecordHandler handlers[] = {
     {"3DFACE", takeFace},
+    {"ACAD_TABLE", takeTable},
     {"ARC", takeArc},
+    {"ARC_DIMENSION", takeDimension},
     {"ATTRIB", takeAttribute},
     {"CIRCLE", takeCircle},
+    {"DIMENSION", takeDimension},
+    {"ELLIPSE", takeEllipse},
+    {"HATCH", takeHatch},
+    {"HELIX", takeSpline},
     {"INSERT", takeInsert},
+    {"LARGE_RADIAL_DIMENSION", takeDimension},
+    {"LEADER", takeLeader},
     {"LINE", takeLine},
     {"LWPOLYLINE", takeLightPolyline},
+    {"MLEADER", takeMultileader},
+    {"MLINE", takeMultiline},
+    {"MPOLYGON", takeHatch},
+    {"MTEXT", takeParagraphs},
+    {"MULTILEADER", takeMultileader},
     {"POINT", takePoint},
     {"POLYLINE", takePolyline},
+    {"RAY", takeRay},
     {"SOLID", takeSolid},
+    {"SPLINE", takeSpline},
     {"TEXT", takeText},
     {"TRACE", takeSolid},
     {"WIPEOUT", takeWipeout},
+    {"XLINE", takeEndlessLine},
 };
 
 } // namespace

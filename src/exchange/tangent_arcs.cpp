@@ -75,7 +75,7 @@ class Fitter {
     bool fits(double from, double to);
     bool isNear(double from, double to) const;
     void lengthen(double from, double& step, double tooFar);
-    void add(const Stroke& stroke);
+    void add(const Stroke& stroke) { append(strokes_, stroke, tolerance_); }
     double last() const { return curve_.breaks.back(); }
 
     const Curve& curve_;
@@ -145,21 +145,6 @@ void Fitter::lengthen(double from, double& step, double tooFar)
     fits(from, from + step);
 }
 
-void Fitter::add(const Stroke& stroke)
-{
-    if (!isFinite(stroke.from) || !isFinite(stroke.to) || (stroke.from == stroke.to && !stroke.isArc()))
-        return;
-    const double same = tolerance_ / 20;
-    if (!strokes_.empty() && isOnOneCircle(strokes_.back(), stroke, same)) {
-        strokes_.back().sweep += stroke.sweep;
-        strokes_.back().to = stroke.to;
-    } else if (!strokes_.empty() && isOnOneLine(strokes_.back(), stroke, same)) {
-        strokes_.back().to = stroke.to;
-    } else {
-        strokes_.push_back(stroke);
-    }
-}
-
 bool Fitter::run()
 {
     const double smallest = std::ldexp(last() - curve_.breaks.front(), -mostHalvings);
@@ -201,6 +186,22 @@ std::vector<Stroke> tangentArcs(const Curve& curve, double tolerance)
         if (fitter.run()) return fitter.take();
     }
     return {};
+}
+
+void append(std::vector<Stroke>& strokes, const Stroke& stroke, double tolerance)
+{
+    if (!isFinite(stroke.from) || !isFinite(stroke.to) || (stroke.from == stroke.to && !stroke.isArc()))
+        return;
+    const double same = tolerance / 20;
+    const bool runsOn = !strokes.empty() && length(strokes.back().to - stroke.from) <= same;
+    if (runsOn && isOnOneCircle(strokes.back(), stroke, same)) {
+        strokes.back().sweep += stroke.sweep;
+        strokes.back().to = stroke.to;
+    } else if (runsOn && isOnOneLine(strokes.back(), stroke, same)) {
+        strokes.back().to = stroke.to;
+    } else {
+        strokes.push_back(stroke);
+    }
 }
 
 Stroke arcLeaving(Vec from, Vec way, Vec to)

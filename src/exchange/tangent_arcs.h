@@ -39,6 +39,10 @@ struct Curve {
 // The curve is smooth from end to end; what has a corner is given in two.
 std::vector<Stroke> tangentArcs(const Curve& curve, double tolerance);
 
+// Adds a stroke; one that runs on along the same line or circle, as far as the tolerance tells, makes the
+// last longer.
+void append(std::vector<Stroke>& strokes, const Stroke& stroke, double tolerance);
+
 // The arc from one point to another that leaves the first in a given direction; a line if it hardly bends.
 Stroke arcLeaving(Vec from, Vec way, Vec to);
 

@@ -1,0 +1,65 @@
+// exchange/mtexts.cpp: paragraphs become lines of text, each with a place of its own.
+
+#include "exchange/curve_records.h"
+#include "exchange/group_run.h"
+#include "exchange/paragraphs_drawn.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace mirtane {
+namespace {
+
+// A long text stands in several groups, the last with a code of its own.
+std::string wordsOf(const DxfRecord& record, const DxfList& list)
+{
+    std::string words;
+    for (const DxfGroup& group : record.groups) {
+        if (group.code == 3 || group.code == 1) words += list.text(group.value);
+    }
+    return words;
+}
+
+// In files of a late release, in a record within the record.
+ParagraphColumns columnsIn(DxfGroups groups)
+{
+    if (groups.empty() || DxfRecord{"", groups, {}}.whole(71) == 0) return {};
+    const DxfRecord inner{"", groups, {}};
+    constexpr int most = 100;
+    return {std::clamp(inner.whole(72), 1, most), inner.number(44), inner.number(45), numbersOf(groups, 46)};
+}
+
+// The way of the line; of an angle and a way given, the later one counts.
+Vec alongOf(const DxfRecord& record)
+{
+    constexpr double radians = std::numbers::pi / 180;
+    Vec along{1, 0};
+    for (const DxfGroup& group : record.groups) {
+        if (group.code == 50) along = wayAt(dxfNumber(group.value) * radians);
+        if (group.code == 11) {
+            const Vec3 way = record.point(11);
+            along = {way.x, way.y};
+        }
+    }
+    const double size = length(along);
+    return size > 0 && std::isfinite(size) ? 1 / size * along : Vec{1, 0};
+}
+
+} // namespace
+
+void takeParagraphs(const DxfRecord& record, DrawingMaker& maker)
+{
+    const DividedGroups parts = dividedAt(record.groups, 101, "Embedded Object");
+    const DxfRecord own{record.type, parts.before, {}};
+    ParagraphForm form;
+    form.height = own.number(40, 1);
+    form.width = own.number(41);
+    form.attachment = own.whole(71, 1);
+    form.lineSpacing = own.number(44, 1);
+    form.exactSpacing = own.whole(73, 1) == 2;
+    form.widthFactor = widthFactorOf(own.name(7), maker.list());
+    form.columns = columnsIn(parts.from);
+    drawParagraphs(wordsOf(own, maker.list()), form, {own.point(10), alongOf(own), own.name(7)}, maker);
+}
+
+} // namespace mirtane

@@ -1,0 +1,182 @@
+#include "read_in_full.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace mirtane {
+namespace {
+
+constexpr double pi = std::numbers::pi;
+
+const std::string picture = "0 BLOCK\n2 *D7\n70 1\n10 0\n20 0\n0 LINE\n8 0\n62 0\n10 1\n20 2\n11 30\n21 2\n0 "
+                            "POINT\n8 DEFPOINTS\n10 1\n20 0\n"
+                            "0 MTEXT\n8 0\n10 15\n20 3\n40 1\n71 5\n1 29\n0 ENDBLK\n";
+
+TEST(DimensionRecord, IsDrawnByItsPicture)
+{
+    for (const char* type : {"DIMENSION", "ARC_DIMENSION", "LARGE_RADIAL_DIMENSION"}) {
+        const auto drawing =
+            madeFrom(std::string("0 ") + type +
+                         "\n8 0\n62 1\n2 *D7\n10 30\n20 2\n11 15\n21 3\n70 32\n13 1\n23 0\n14 30\n24 0\n",
+                     picture);
+        ASSERT_EQ(drawing.objects.size(), 2U) << type; // and not what it was measured by
+        EXPECT_EQ(drawing.objects[0].p[1], (Vec{30, 2}));
+        EXPECT_EQ(drawing.objects[0].look.color, 0x0000FF);
+        EXPECT_EQ(drawing.objects[1].text.words, "29");
+        EXPECT_TRUE(drawing.leftOut.empty());
+    }
+}
+
+const std::string style =
+    "0 TABLE\n2 DIMSTYLE\n0 DIMSTYLE\n2 SMALL\n70 0\n40 10\n41 0.25\n140 0.3\n271 1\n0 ENDTAB\n";
+
+TEST(DimensionRecord, WithoutAPictureALinearOneIsOneOfOurs)
+{
+    struct Row {
+        const char* what;
+        std::string groups;
+        Vec from, to; // of its line
+        const char* words;
+    };
+    const Row rows[] = {
+        {"level", "70 0\n10 30\n20 12\n13 1\n23 0\n14 30\n24 5\n50 0\n", {30, 12}, {1, 12}, "29"},
+        {"upright", "70 32\n10 -8\n20 40\n13 1\n23 0\n14 30\n24 5.25\n50 90\n", {-8, 5.25}, {-8, 0}, "5.3"},
+        {"along what it measures",
+         "70 1\n10 3\n20 4\n13 4\n23 -3\n14 12\n24 3\n",
+         {7.12, 7.16},
+         {-0.88, 1.16},
+         "10"},
+        {"words of its own",
+         "70 0\n1 about <> all\n10 30\n20 12\n13 1\n23 0\n14 30\n24 5\n50 0\n",
+         {30, 12},
+         {1, 12},
+         "about 29 all"},
+        {"words alone",
+         "70 0\n1 {\\H2x;wide}\n10 30\n20 12\n13 1\n23 0\n14 30\n24 5\n50 0\n",
+         {30, 12},
+         {1, 12},
+         "wide"},
+    };
+    for (const Row& row : rows) {
+        const auto drawing = madeFrom("0 DIMENSION\n8 0\n3 SMALL\n" + row.groups, "", style);
+        ASSERT_EQ(drawing.objects.size(), 1U) << row.what;
+        const Made& made = drawing.objects[0];
+        EXPECT_EQ(made.kind, Kind::linearDimension) << row.what;
+        EXPECT_LT(length(made.p[2] - row.from), 0.01) << row.what;
+        EXPECT_LT(length(made.p[3] - row.to), 0.01) << row.what;
+        EXPECT_EQ(made.text.words, row.words) << row.what;
+        EXPECT_NEAR(made.size, 3, 1e-9) << row.what;
+    }
+}
+
+TEST(DimensionRecord, WithoutAPictureRadialAndAngularOnesAreOneOfOurs)
+{
+    const auto radius =
+        madeFrom("0 DIMENSION\n8 0\n3 SMALL\n70 4\n10 5\n20 6\n15 8\n25 10\n11 14\n21 18\n", "", style);
+    ASSERT_EQ(radius.objects.size(), 1U);
+    EXPECT_EQ(radius.objects[0].kind, Kind::radialDimension);
+    EXPECT_EQ(radius.objects[0].p[3], (Vec{8, 10}));
+    EXPECT_EQ(radius.objects[0].text.words, "R5");
+
+    const auto diameter = madeFrom("0 DIMENSION\n8 0\n3 SMALL\n70 3\n10 2\n20 2\n15 8\n25 10\n", "", style);
+    ASSERT_EQ(diameter.objects.size(), 1U);
+    EXPECT_EQ(diameter.objects[0].p[0], (Vec{5, 6}));
+    EXPECT_EQ(diameter.objects[0].text.words, "\u00D810");
+
+    struct Row {
+        const char* what;
+        std::string groups;
+        double from, turn;
+        const char* words;
+    };
+    const Row rows[] = {
+        {"three points", "70 5\n10 9\n20 9\n15 2\n25 2\n13 12\n23 2\n14 2\n24 12\n", 0, pi / 2, "90\u00B0"},
+        {"the other way round", "70 5\n10 9\n20 9\n15 2\n25 2\n13 2\n23 12\n14 12\n24 2\n", 0, pi / 2,
+         "90\u00B0"},
+        {"the other side", "70 5\n10 -5\n20 -5\n15 2\n25 2\n13 12\n23 2\n14 2\n24 12\n", pi / 2, 3 * pi / 2,
+         "270\u00B0"},
+        {"two lines", "70 2\n13 4\n23 2\n14 12\n24 2\n15 2\n25 4\n10 2\n20 12\n16 9\n26 9\n", 0, pi / 2,
+         "90\u00B0"},
+    };
+    for (const Row& row : rows) {
+        const auto drawing = madeFrom("0 DIMENSION\n8 0\n3 SMALL\n" + row.groups, "", style);
+        ASSERT_EQ(drawing.objects.size(), 1U) << row.what;
+        const Made& made = drawing.objects[0];
+        EXPECT_EQ(made.kind, Kind::angularDimension) << row.what;
+        EXPECT_LT(length(made.p[0] - Vec{2, 2}), 1e-9) << row.what;
+        EXPECT_NEAR(made.from, row.from, 1e-9) << row.what;
+        EXPECT_NEAR(made.to - made.from, row.turn, 1e-9) << row.what;
+        EXPECT_EQ(made.text.words, row.words) << row.what;
+    }
+}
+
+TEST(DimensionRecord, AnOrdinateWithoutAPictureIsLeftOut)
+{
+    const auto drawing = madeFrom("0 DIMENSION\n8 0\n2 *D9\n70 6\n10 0\n20 0\n13 5\n23 5\n14 9\n24 5\n");
+    EXPECT_TRUE(drawing.objects.empty());
+    EXPECT_EQ(drawing.leftOut.size(), 1U);
+}
+
+TEST(LeaderRecord, IsItsLineAndItsArrow)
+{
+    const std::string line = "10 0\n20 0\n30 0\n10 30\n20 40\n30 0\n10 50\n20 40\n30 0\n";
+    const auto plain = madeFrom("0 LEADER\n8 0\n3 SMALL\n71 0\n72 0\n" + line, "", style);
+    ASSERT_EQ(plain.objects.size(), 2U);
+    EXPECT_EQ(plain.objects[0].p[0], (Vec{0, 0}));
+    const auto arrow = madeFrom("0 LEADER\n8 0\n3 SMALL\n71 1\n72 0\n" + line, "", style);
+    EXPECT_EQ(arrow.objects.size(), 5U);
+    const auto atTip = [](const Made& one) { return one.p[0] == Vec{0, 0} || one.p[1] == Vec{0, 0}; };
+    EXPECT_EQ(std::ranges::count_if(arrow.objects, atTip), 2);
+    const auto small = madeFrom("0 LEADER\n8 0\n3 SMALL\n71 1\n72 0\n" + line +
+                                    "1001 ACAD\n1000 DSTYLE\n1002 {\n1070 41\n1040 30\n1002 }\n",
+                                "", style);
+    EXPECT_EQ(small.objects.size(), 2U); // too big an arrow for its first leg
+    const auto bent = madeFrom("0 LEADER\n8 0\n3 SMALL\n71 0\n72 1\n" + line, "", style);
+    EXPECT_GE(ofKind(bent, Kind::arc).size(), 2U);
+}
+
+const std::string context =
+    "0 MULTILEADER\n8 0\n100 AcDbMLeader\n300 CONTEXT_DATA{\n40 1\n10 60\n20 20\n30 0\n41 2\n140 3\n145 "
+    "1\n290 1\n304 said\\Ptwice\n"
+    "340 2B\n12 64\n22 21\n32 0\n13 1\n23 0\n33 0\n42 0\n43 0\n45 1\n170 1\n90 -1023410175\n171 1\n";
+const std::string branch = "302 LEADER{\n290 1\n291 1\n10 60\n20 20\n30 0\n11 1\n21 0\n31 0\n90 0\n40 4\n304 "
+                           "LEADER_LINE{\n10 0\n20 0\n30 0\n91 0\n305 }\n"
+                           "304 LEADER_LINE{\n10 0\n20 50\n30 0\n10 30\n20 50\n30 0\n91 1\n305 }\n303 }\n";
+const std::string behind = "301 }\n340 1C\n170 1\n91 -1056964608\n290 1\n291 1\n41 4\n42 3\n172 2\n";
+
+TEST(MultileaderRecord, IsItsLinesItsArrowsAndItsWords)
+{
+    const auto drawing = madeFrom(context + branch + behind);
+    const auto texts = ofKind(drawing, Kind::text);
+    ASSERT_EQ(texts.size(), 2U);
+    EXPECT_EQ(texts[0].text.words, "said");
+    EXPECT_EQ(texts[1].text.words, "twice");
+    EXPECT_LT(length(texts[0].p[0] - Vec{64, 21}), 1e-9);
+    EXPECT_EQ(texts[0].look.color, 0x0000FF);
+    EXPECT_EQ(ofKind(drawing, Kind::line).size(), 3U + 2U * 3U + 1U); // legs, arrows, the landing
+    const auto landing = [](const Made& one) { return one.p[0] == Vec{60, 20} && one.p[1] == Vec{64, 20}; };
+    EXPECT_EQ(std::ranges::count_if(drawing.objects, landing), 1);
+}
+
+TEST(MultileaderRecord, CutShortItTakesNoHarm)
+{
+    const std::string whole = fileOf(context + branch + behind);
+    for (std::size_t n = 0; n < whole.size(); ++n)
+        EXPECT_LE(readInFull(whole.substr(0, n)).drawing.objects.size(), 12U);
+}
+
+TEST(MultileaderRecord, ABlockInPlaceOfWordsIsFoundByItsHandle)
+{
+    const std::string tables = "0 TABLE\n2 BLOCK_RECORD\n0 BLOCK_RECORD\n5 3F\n2 Tag\n0 ENDTAB\n";
+    const std::string block = "0 BLOCK\n2 TAG\n70 0\n10 0\n20 0\n0 CIRCLE\n8 0\n10 1\n20 0\n40 5\n0 ENDBLK\n";
+    const auto drawing = madeFrom("0 MULTILEADER\n8 0\n300 CONTEXT_DATA{\n40 1\n140 3\n290 0\n296 1\n341 "
+                                  "3F\n15 70\n25 30\n35 0\n16 2\n26 2\n36 2\n46 0\n301 }\n170 1\n",
+                                  block, tables);
+    ASSERT_EQ(drawing.objects.size(), 1U);
+    EXPECT_LT(length(drawing.objects[0].p[0] - Vec{72, 30}), 1e-9);
+    EXPECT_NEAR(drawing.objects[0].radius, 10, 1e-9);
+}
+
+} // namespace
+} // namespace mirtane
