@@ -4,7 +4,9 @@
 #include "dxf_bench.h"
 #include "edit_bench.h"
 #include "hatch_bench.h"
+#include "kinds_bench.h"
 #include "measures.h"
+#include "plan_bench.h"
 #include "print_bench.h"
 #include "snap_bench.h"
 #include "table.h"
@@ -42,12 +44,14 @@ int main(int argc, char* argv[])
     using namespace mirtane::bench;
     Bench bench;
     registerMeasures(bench);
+    registerKindMeasures();
     const auto snaps = std::make_unique<SnapBench>();
     registerSnapMeasures(*snaps);
     registerEditMeasures();
     const auto dxf = std::make_unique<DxfBench>();
     registerDxfMeasures(*dxf);
     registerTextMeasures();
+    registerPlanMeasures();
     registerPrintMeasures();
     const auto hatches = std::make_unique<HatchBench>();
     registerHatchMeasures(*hatches);
@@ -55,8 +59,9 @@ int main(int argc, char* argv[])
     std::cout << "60,000 lines on 1600 x 1000 pixels; medians. This takes a quarter of a minute or more.\n"
               << std::flush;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    for (const auto rows : {comparisons(), snapComparisons(), editComparisons(), dxfComparisons(),
-                            textComparisons(), hatchComparisons(), printComparisons()}) {
+    for (const auto rows :
+         {comparisons(), kindComparisons(), snapComparisons(), editComparisons(), dxfComparisons(),
+          textComparisons(), planComparisons(), hatchComparisons(), printComparisons()}) {
         collector.print(std::cout, rows);
     }
     return 0;

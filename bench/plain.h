@@ -18,8 +18,12 @@ struct Image {
 };
 
 // Transforms each line of the table by the scale, clips it to the image and draws it there by Bresenham's
-// method.
+// method, dashed ones by the dashes of their style.
 void drawLines(const EntityStore& store, const Scale& scale, Image image);
+
+// The pixels of circles, arcs, ellipses and points by a bare loop each: a midpoint circle, and a walk of one
+// step to the pixel round the others.
+void drawShapes(const EntityStore& store, const Scale& scale, Image image);
 
 // Row by row. The part must lie in both images, which are of one size.
 void copyPart(std::span<const std::uint32_t> from, Image to, const PixelRect& part);

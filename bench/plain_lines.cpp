@@ -1,5 +1,7 @@
 #include "plain.h"
 
+#include "plain_pixels.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -37,7 +39,30 @@ bool clip(Segment& s, double right, double bottom)
     return true;
 }
 
-void bresenham(Image image, const Segment& s, std::uint32_t color)
+// Pixels on, off, on, off, by style.
+constexpr int dashes[][6] = {{1}, {18, 6}, {3, 3}, {9, 6, 3, 6}, {9, 3, 3, 3, 3, 3}};
+constexpr int dashCounts[] = {1, 2, 2, 4, 6};
+
+class Dashes {
+  public:
+    explicit Dashes(std::int16_t style) : style_(style) {}
+
+    bool on()
+    {
+        if (style_ == 0) return true;
+        const bool now = run_ % 2 == 0;
+        if (++done_ == dashes[style_][run_]) {
+            run_ = (run_ + 1) % dashCounts[style_];
+            done_ = 0;
+        }
+        return now;
+    }
+
+  private:
+    int style_, run_ = 0, done_ = 0;
+};
+
+void bresenham(Image image, const Segment& s, std::uint32_t color, Dashes pen)
 {
     int x = static_cast<int>(s.x1); // within the image, as it was clipped; so the others
     int y = static_cast<int>(s.y1);
@@ -49,7 +74,7 @@ void bresenham(Image image, const Segment& s, std::uint32_t color)
     const int stepY = y < lastY ? 1 : -1;
     int error = dx + dy;
     for (;;) {
-        image.pixels[static_cast<std::size_t>(y * image.width + x)] = color; // neither is negative
+        if (pen.on()) image.pixels[static_cast<std::size_t>(y * image.width + x)] = color; // not negative
         if (x == lastX && y == lastY) return;
         const int twice = 2 * error;
         if (twice >= dy) {
@@ -61,12 +86,6 @@ void bresenham(Image image, const Segment& s, std::uint32_t color)
             y += stepY;
         }
     }
-}
-
-std::uint32_t argb(std::int32_t color)
-{
-    const auto bgr = static_cast<std::uint32_t>(color); // bits, not a number
-    return 0xFF000000U | (bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF);
 }
 
 } // namespace
@@ -82,7 +101,7 @@ void drawLines(const EntityStore& store, const Scale& scale, Image image)
         const Point b = store.p2[i];
         Segment s{(a.x - scale.left) * perUnitX, (a.y - scale.top) * perUnitY, (b.x - scale.left) * perUnitX,
                   (b.y - scale.top) * perUnitY};
-        if (clip(s, right, bottom)) bresenham(image, s, argb(store.color[i]));
+        if (clip(s, right, bottom)) bresenham(image, s, argb(store.color[i]), Dashes(store.style[i]));
     }
 }
 

@@ -4,25 +4,11 @@
 
 #include <cmath>
 #include <numbers>
-#include <random>
 
 namespace mirtane::bench {
 namespace {
 
 constexpr std::int32_t colors[] = {0xFFFFFF, 0x0000FF, 0x00FF00, 0xFFFF00, 0x00FFFF};
-
-// Even between two bounds. The distributions of the library differ from one library to the next.
-class Dice {
-  public:
-    double between(double low, double high)
-    {
-        const auto thrown = static_cast<double>(engine_()); // of 32 bits: exact
-        return low + (high - low) * thrown / 4294967296.0;
-    }
-
-  private:
-    std::mt19937 engine_{1993};
-};
 
 } // namespace
 

@@ -16,9 +16,11 @@ std::string number(double value, int places)
     return text;
 }
 
-std::string aimText(double aim)
+std::string aimText(const Comparison& c)
 {
-    return aim > 0 ? "<= " + number(aim, 1) : "";
+    const std::string ratio = c.aim > 0 ? "<= " + number(c.aim, 1) : "";
+    if (c.within == 0) return ratio;
+    return ratio + (ratio.empty() ? "<= " : ", ") + number(c.within, 0) + " ms";
 }
 
 struct Line {
@@ -70,7 +72,7 @@ void Collector::print(std::ostream& out, std::span<const Comparison> comparisons
         const double ours = median(c.what);
         const double plain = median(c.plain);
         put(out, {c.what, number(ours, 3), c.plain, number(plain, 3),
-                  number(ours / plain, ours < plain / 10 ? 4 : 2), aimText(c.aim)});
+                  number(ours / plain, ours < plain / 10 ? 4 : 2), aimText(c)});
     }
 }
 
