@@ -5,6 +5,9 @@
 
 namespace mirtane {
 
+struct View;
+struct Chords;
+
 // The world window of a surface: world units, y down.
 struct Scale {
     float left = 0, top = 0, width = 0, height = 0;
@@ -42,6 +45,9 @@ class Canvas {
     virtual void arc(float cx, float cy, float r, double a1,
                      double a2) = 0;          // counter-clockwise from a1 to a2
     virtual void point(float x, float y) = 0; // one pixel
+    // An ellipse that has been cut into chords, drawn of fewer where it is so small that its pixels can't
+    // tell. False if it was not drawn: then it is lines, one by one.
+    virtual bool smallEllipse(const View&, const Chords&) { return false; }
 
     virtual Scale getScale() const = 0;
     virtual void setScale(const Scale& scale) = 0;

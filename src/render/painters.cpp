@@ -100,7 +100,8 @@ void paintEllipse(Canvas& pic1, const View& view, Point axisEnd, Point centre, f
     const double uy = quotient(centre.y - axisEnd.y, r);
     if (!std::isfinite(ux * uy * ratio)) return;
     const std::int32_t count = chordCount(2 * r * halfTurn, viewHeight(pic1) / 6, leastCircleChords);
-    drawChords(pic1, view, {centre, axisEnd, r, 0, fullTurn, count, ux, uy, ratio});
+    const Chords chords{centre, axisEnd, r, 0, fullTurn, count, ux, uy, ratio};
+    if (!pic1.smallEllipse(view, chords)) drawChords(pic1, view, chords);
 }
 
 void paintLineSegment(Canvas& pic1, const View& view, Point a, Point b)

@@ -18,6 +18,11 @@ struct PixelRect {
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
+// A place in an image, x to the right and y down; the pixel is the floor of it.
+struct PixelPoint {
+    double x = 0, y = 0;
+};
+
 // How a line is drawn: 0xFFRRGGBB, a pen style of canvas.h, and the device pixels to one pixel of its dashes.
 struct Stroke {
     std::uint32_t color = 0xFFFFFFFF;
@@ -62,6 +67,10 @@ class Raster {
     // The pixels of that circle from angle a1 counter-clockwise to a2, radians; a2 below a1 passes through
     // angle 0. Equal angles give one pixel, a full turn or what rounds to it the whole circle.
     void arc(double cx, double cy, double r, double a1, double a2, const Stroke& stroke);
+
+    // The ellipse whose half axes end at u and v from its centre, of as few chords as look round; dashes
+    // begin anew with each. False, and nothing drawn, if it takes more than a few dozen.
+    bool smallEllipse(PixelPoint centre, PixelPoint u, PixelPoint v, const Stroke& stroke);
 
   private:
     std::size_t index(int x, int y) const;

@@ -27,6 +27,8 @@ struct Ring {
 
     std::int64_t side() const { return 2 * half + 1; }
     std::int64_t length() const { return 4 * side(); }
+    // The pixels of the ring are no further from its centre than that, level and upright.
+    std::int64_t reach() const { return std::max(out(0), half); }
     // How far the ring lies out at so many rows from the middle of a side.
     std::int64_t out(std::int64_t offset) const
     {
@@ -55,11 +57,25 @@ std::optional<Ring> ringOf(double cx, double cy, double r)
                 static_cast<std::int64_t>(std::sqrt(square / 2) + 0.5)}; // below 2^40
 }
 
+bool isWhollyIn(const Raster& image, const Ring& ring)
+{
+    const std::int64_t reach = ring.reach();
+    return ring.cx >= reach && ring.cx < image.width() - reach && ring.cy >= reach &&
+           ring.cy < image.height() - reach;
+}
+
+// From 0 to a turn.
+double withinATurn(double angle)
+{
+    if (angle >= 0 && angle < turn) return angle; // nearly all are, and the remainder is slow
+    const double a = std::fmod(angle, turn);
+    return a < 0 ? a + turn : a;
+}
+
 // The place at an angle; angles at a side's end go to the nearest of its pixels.
 std::int64_t placeAt(const Ring& ring, double angle)
 {
-    double a = std::fmod(angle + turn / 8, turn);
-    if (a < 0) a += turn;
+    const double a = withinATurn(angle + turn / 8);
     const auto side = std::min(static_cast<std::int64_t>(a / (turn / 4)), std::int64_t{3}); // 0 to 3
     const double fromMiddle = a - turn / 8 - static_cast<double>(side) * (turn / 4);
     const double rows = std::sqrt(ring.square) * std::sin(fromMiddle);
@@ -71,7 +87,7 @@ std::int64_t placeAt(const Ring& ring, double angle)
 class RingPencil {
   public:
     RingPencil(Raster& image, const Ring& ring, const Stroke& stroke)
-        : image_(image), ring_(ring), stroke_(stroke)
+        : image_(image), ring_(ring), stroke_(stroke), whole_(isWhollyIn(image, ring))
     {
     }
 
@@ -96,6 +112,7 @@ class RingPencil {
     {
         const bool upright = side % 2 == 0;
         const std::int64_t sign = side == 0 || side == 3 ? 1 : -1;
+        if (whole_) return drawSeen(side, sign, row, count, done);
         std::int64_t low = upright ? ring_.cy - image_.height() + 1 : -ring_.cx;
         std::int64_t high = upright ? ring_.cy : image_.width() - 1 - ring_.cx;
         if (sign < 0) low = -std::exchange(high, -low);
@@ -103,6 +120,25 @@ class RingPencil {
         const std::int64_t last = std::min(row + count - 1, high + ring_.half);
         forDashes(stroke_, done + first - row, done + last - row, [&](std::int64_t step, std::int64_t run) {
             for (std::int64_t t = step - done + row; run > 0; ++t, --run) plot(side, sign * (t - ring_.half));
+        });
+    }
+
+    // A part of a side all of whose pixels lie in the image.
+    void drawSeen(std::int64_t side, std::int64_t sign, std::int64_t row, std::int64_t count,
+                  std::int64_t done)
+    {
+        const std::int64_t width = image_.width();
+        std::uint32_t* const centre = image_.pixels().data() + ring_.cy * width + ring_.cx;
+        const bool upright = side % 2 == 0;
+        const std::int64_t along = upright ? -width : 1;
+        const std::int64_t outward = (upright ? 1 : width) * sign;
+        const Ring ring = ring_; // of our own: no pixel that is written can be a part of it
+        const std::uint32_t color = stroke_.color;
+        forDashes(stroke_, done, done + count - 1, [=](std::int64_t step, std::int64_t run) {
+            std::int64_t offset = sign * (step - done + row - ring.half);
+            for (; run > 0; --run, offset += sign) {
+                centre[offset * along + ring.out(offset) * outward] = color;
+            }
         });
     }
 
@@ -119,6 +155,7 @@ class RingPencil {
     Raster& image_;
     const Ring& ring_;
     const Stroke& stroke_;
+    bool whole_;
 };
 
 // A solid circle wholly in the image: one root gives eight pixels.
@@ -137,10 +174,7 @@ void Raster::circle(double cx, double cy, double r, const Stroke& stroke)
 {
     const std::optional<Ring> ring = ringOf(cx, cy, r);
     if (!ring) return;
-    const std::int64_t reach = std::max(ring->out(0), ring->half);
-    const bool whole =
-        ring->cx >= reach && ring->cx < width_ - reach && ring->cy >= reach && ring->cy < height_ - reach;
-    if (whole && (stroke.style < 1 || stroke.style > 4)) {
+    if (isWhollyIn(*this, *ring) && (stroke.style < 1 || stroke.style > 4)) {
         drawWhole(pixels_.data() + ring->cy * width_ + ring->cx, width_, *ring, stroke.color);
         return;
     }

@@ -4,6 +4,8 @@
 
 #include "render/raster_canvas.h"
 
+#include "render/chords.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -105,7 +107,7 @@ void RasterCanvas::circle(float cx, float cy, float r)
 {
     const PixelPoint centre = pixelAt({cx, cy});
     const double radius = r * perUnitX_;
-    touchRing(centre, radius);
+    touchRing(centre, radius, radius);
     image_.circle(centre.x, centre.y, radius, stroke_);
 }
 
@@ -113,7 +115,7 @@ void RasterCanvas::arc(float cx, float cy, float r, double a1, double a2)
 {
     const PixelPoint centre = pixelAt({cx, cy});
     const double radius = r * perUnitX_;
-    touchRing(centre, radius);
+    touchRing(centre, radius, radius);
     image_.arc(centre.x, centre.y, radius, a1, a2, stroke_);
 }
 
@@ -122,6 +124,17 @@ void RasterCanvas::point(float x, float y)
     const PixelPoint at = pixelAt({x, y});
     touch(at.x, at.y, at.x, at.y);
     image_.point(at.x, at.y, stroke_.color);
+}
+
+bool RasterCanvas::smallEllipse(const View&, const Chords& c)
+{
+    const PixelPoint centre = pixelAt(c.centre);
+    const double across = c.r * c.ratio;
+    const PixelPoint u{c.r * c.ux * perUnitX_, -c.r * c.uy * perUnitY_};
+    const PixelPoint v{-across * c.uy * perUnitX_, -across * c.ux * perUnitY_};
+    if (!image_.smallEllipse(centre, u, v, stroke_)) return false;
+    touchRing(centre, std::abs(u.x) + std::abs(v.x), std::abs(u.y) + std::abs(v.y));
+    return true;
 }
 
 void RasterCanvas::setScale(const Scale& scale)
@@ -175,10 +188,11 @@ void RasterCanvas::touch(double x0, double y0, double x1, double y1)
                   within(std::max(x0, x1) + 1, width), within(std::max(y0, y1) + 1, height)});
 }
 
-void RasterCanvas::touchRing(PixelPoint centre, double r)
+void RasterCanvas::touchRing(PixelPoint centre, double reachX, double reachY)
 {
-    const double reach = r + 2; // the centre goes to the middle of its pixel, the ring to the nearest pixels
-    touch(centre.x - reach, centre.y - reach, centre.x + reach, centre.y + reach);
+    constexpr double room = 2; // the centre goes to the middle of its pixel, the ring to the nearest pixels
+    touch(centre.x - reachX - room, centre.y - reachY - room, centre.x + reachX + room,
+          centre.y + reachY + room);
 }
 
 void RasterCanvas::fold()

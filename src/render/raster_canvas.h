@@ -8,11 +8,6 @@
 
 namespace mirtane {
 
-// A place in an image, x to the right and y down; the pixel is the floor of it.
-struct PixelPoint {
-    double x = 0, y = 0;
-};
-
 // A surface on an image of its own pixels. All but text is drawn here; who derives from it writes the text
 // into image() and says what it touched. Clearing, drawing and going back to the clean picture allocate
 // nothing.
@@ -47,6 +42,7 @@ class RasterCanvas : public Canvas {
     void circle(float cx, float cy, float r) override;
     void arc(float cx, float cy, float r, double a1, double a2) override;
     void point(float x, float y) override;
+    bool smallEllipse(const View& view, const Chords& chords) override;
 
     Scale getScale() const override { return scale_; }
     void setScale(const Scale& scale) override;
@@ -70,7 +66,7 @@ class RasterCanvas : public Canvas {
   private:
     void setRatio(double ratio);
     void touchAll() { fresh_ = image_.bounds(); }
-    void touchRing(PixelPoint centre, double r);
+    void touchRing(PixelPoint centre, double reachX, double reachY);
     void fold();
 
     Raster image_;

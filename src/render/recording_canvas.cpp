@@ -3,8 +3,11 @@
 
 #include "render/recording_canvas.h"
 
+#include "render/chords.h"
+
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace mirtane {
 
@@ -192,6 +195,15 @@ void RecordingCanvas::point(float x, float y)
 {
     note(rowOf("point"), x, y);
     if (inner_) inner_->point(x, y);
+}
+
+bool RecordingCanvas::smallEllipse(const View& view, const Chords& chords)
+{
+    if (!inner_ || !inner_->smallEllipse(view, chords)) return false;
+    Canvas* const inner = std::exchange(inner_, nullptr); // it has drawn what is only written down here
+    drawChords(*this, view, chords);
+    inner_ = inner;
+    return true;
 }
 
 Scale RecordingCanvas::getScale() const

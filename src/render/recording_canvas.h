@@ -56,6 +56,8 @@ class RecordingCanvas : public Canvas {
     void circle(float cx, float cy, float r) override;
     void arc(float cx, float cy, float r, double a1, double a2) override;
     void point(float x, float y) override;
+    // Written down as the lines that it stands for.
+    bool smallEllipse(const View& view, const Chords& chords) override;
 
     Scale getScale() const override;
     void setScale(const Scale& scale) override;

@@ -1,5 +1,5 @@
+#include "plain_canvas.h"
 #include "raster_probe.h"
-#include "render/raster_canvas.h"
 
 #include <gtest/gtest.h>
 
@@ -14,26 +14,8 @@ namespace {
 using probe::inked;
 using probe::paper;
 using probe::Pixels;
-
-// A surface without text.
-class PlainCanvas : public RasterCanvas {
-  public:
-    using RasterCanvas::image;
-    using RasterCanvas::RasterCanvas;
-    using RasterCanvas::touch;
-
-    void setFontName(std::string_view) override {}
-    void setFontSize(float) override {}
-    void setUnderline(bool) override {}
-    float textWidth(std::string_view) const override { return 0; }
-    void text(float, float, int, std::string_view) override {}
-};
-
-std::vector<std::uint32_t> pixelsOf(const RasterCanvas& canvas)
-{
-    const auto pixels = canvas.picture().pixels();
-    return {pixels.begin(), pixels.end()};
-}
+using probe::pixelsOf;
+using probe::PlainCanvas;
 
 void drawSomething(Canvas& canvas, unsigned seed)
 {
