@@ -4,11 +4,13 @@
 #include "exchange/code_pages.h"
 
 #include "exchange/code_page_tables.h"
+#include "text/code_page.h"
 #include "text/utf8.h"
 
 #include <algorithm>
 #include <charconv>
 #include <optional>
+#include <utility>
 
 namespace mirtane {
 namespace {
@@ -78,6 +80,27 @@ std::optional<Escape> escapeAt(std::string_view text)
     return Escape{code < ' ' ? std::string() : encodeUtf8(code), unicodeSize};
 }
 
+struct Stand {
+    std::string_view sign, likeIt;
+};
+
+// Signs that drawings of ours can't keep, by those that look like them.
+constexpr Stand stands[] = {
+    {"\u2205", "Ø"}, {"\u2300", "Ø"}, {"\u03BC", "µ"},  {"\u2212", "-"}, {"\u2010", "-"},
+    {"\u2011", "-"}, {"\u2032", "'"}, {"\u2033", "\""}, {"\u2044", "/"}, {"\u2009", " "},
+};
+
+std::string withLikeSigns(std::string text)
+{
+    if (isSameInCodePage(text)) return text;
+    for (const Stand& one : stands) {
+        for (std::size_t at = text.find(one.sign); at != text.npos;
+             at = text.find(one.sign, at + one.likeIt.size()))
+            text.replace(at, one.sign.size(), one.likeIt);
+    }
+    return text;
+}
+
 } // namespace
 
 TextCoding::TextCoding(std::string_view codePage, std::string_view release)
@@ -127,7 +150,7 @@ std::string TextCoding::utf8(std::string_view bytes) const
         rest.remove_prefix(at + escape->size);
         at = 0;
     }
-    return out.append(rest);
+    return withLikeSigns(std::move(out.append(rest)));
 }
 
 } // namespace mirtane

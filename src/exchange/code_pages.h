@@ -12,7 +12,8 @@ class TextCoding {
     // codePage as $DWGCODEPAGE names it ("ANSI_1250", "dos850"); release as $ACADVER does ("AC1015").
     TextCoding(std::string_view codePage, std::string_view release);
 
-    // A character that can't be had becomes "?".
+    // A character that can't be had becomes "?". Diameter signs and the like become those that our drawings
+    // can keep.
     std::string utf8(std::string_view bytes) const;
 
   private:

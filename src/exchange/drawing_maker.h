@@ -60,6 +60,7 @@ class DrawingMaker {
     bool block(std::string_view name, const Transform3& at);
     // The same of the block that pictures a dimension: the points that it was measured by are not drawn.
     bool picture(std::string_view name, const Transform3& at);
+    bool isInBlock() const { return !underWay_.empty(); }
     // The attributes of an insert, which stand where they say, moved by so much for one of many.
     void attributes(const DxfRecord& insert, Vec3 moved);
     // One record as it stands, by the row of its type.

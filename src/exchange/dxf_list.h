@@ -54,9 +54,9 @@ struct DxfList {
     ByName<DxfBlock> blocks;
     std::vector<DxfRecord> entities;
     ByName<std::string_view> namesByHandle; // of the rows of tables
-    ByName<DxfRecord> objects; // by handle, of the section of that name
-    bool isDxf = false;        // a section or a record was found
-    bool isCut = false;        // no end was found
+    ByName<DxfRecord> objects;              // by handle, of the section of that name
+    bool isDxf = false;                     // a section or a record was found
+    bool isCut = false;                     // no end was found
     // Written by our own Save DXF, which has numbers for the colours, heights and points of texts of its own.
     bool isOurs = false;
 

@@ -1,6 +1,7 @@
 #include "exchange/full_reading.h"
 
 #include "exchange/handlers.h"
+#include "geometry/angle.h"
 #include "geometry/fault.h"
 
 #include <algorithm>
@@ -88,12 +89,24 @@ void takeLayers(LayerTable& table, const MadeDrawing& drawing)
     }
 }
 
+// A text that was turned round is held by its middle, which is where it was in any face.
+void holdByMiddle(EntityRecord& r, double width)
+{
+    constexpr float right = 1, centre = 2;
+    if (r.p2.y == centre) return;
+    const double half = (r.p2.y == right ? -width : width) / 2;
+    r.p1 = polarPoint(r.p1, half, r.a1 * radiansPerDegree);
+    r.p2.y = centre;
+}
+
 void takeObject(Session& s, const Made& made, const Placing& placing, const TextWidthOf& widthOf)
 {
     constexpr double clippingRoom = 1.2;
     EntityRecord r = recordOf(made, placing);
     if (r.t2.empty()) r.t2 = s.textFont;
-    if (r.kind == Kind::text) keep(r.rad, clippingRoom * widthOf(r));
+    const double width = r.kind == Kind::text ? widthOf(r) : 0;
+    if (r.kind == Kind::text) keep(r.rad, clippingRoom * width);
+    if (made.turnedRound) holdByMiddle(r, width);
     const std::int32_t slot = s.store.entCount++;
     s.store.setRecord(slot, r);
     s.store.setStat(slot, made.look.hidden ? Stat::off : Stat::on);

@@ -18,6 +18,7 @@ constexpr RecordHandler handlers[] = {
     {"ACAD_TABLE", takeTable},
     {"ARC", takeArc},
     {"ARC_DIMENSION", takeDimension},
+    {"ATTDEF", takeAttributeDefinition},
     {"ATTRIB", takeAttribute},
     {"CIRCLE", takeCircle},
     {"DIMENSION", takeDimension},
@@ -29,6 +30,7 @@ constexpr RecordHandler handlers[] = {
     {"LEADER", takeLeader},
     {"LINE", takeLine},
     {"LWPOLYLINE", takeLightPolyline},
+    {"MESH", takeMeshOfFaces},
     {"MLEADER", takeMultileader},
     {"MLINE", takeMultiline},
     {"MPOLYGON", takeHatch},
@@ -41,6 +43,7 @@ constexpr RecordHandler handlers[] = {
     {"SPLINE", takeSpline},
     {"TEXT", takeText},
     {"TRACE", takeSolid},
+    {"VIEWPORT", takeNothing},
     {"WIPEOUT", takeWipeout},
     {"XLINE", takeEndlessLine},
 };

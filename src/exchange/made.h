@@ -29,10 +29,11 @@ struct Made {
     double radius = 0; // of a circle, an arc, an angular dimension
     double from = 0;   // ends of an arc or of an angular dimension, radians, counter-clockwise
     double to = 0;
-    double ratio = 1;       // of an ellipse
-    double size = 0;        // of a text; the arrow's, and so the text's, of a dimension
-    double rotation = 0;    // of its text, degrees
-    std::int16_t arrow = 1; // of a dimension: 1 closed, 2 open, 3 slash
+    double ratio = 1;         // of an ellipse
+    double size = 0;          // of a text; the arrow's, and so the text's, of a dimension
+    double rotation = 0;      // of its text, degrees
+    bool turnedRound = false; // a text written the other way, so that it can be read where it was mirrored
+    std::int16_t arrow = 1;   // of a dimension: 1 closed, 2 open, 3 slash
     MadeText text{};
     Look look{};
 };

@@ -63,6 +63,8 @@ void takeFace(const DxfRecord& record, DrawingMaker& maker)
     }
 }
 
+void takeNothing(const DxfRecord&, DrawingMaker&) {}
+
 // Its outline in parts of a picture of one unit: x from -0.5 to the right, y from -0.5 down.
 void takeWipeout(const DxfRecord& record, DrawingMaker& maker)
 {

@@ -57,6 +57,14 @@ void takeText(const DxfRecord& record, DrawingMaker& maker)
     takeLineOfText(record, 73, maker);
 }
 
+// It stands for the attributes of the inserts, but for one that is the same in all of them.
+void takeAttributeDefinition(const DxfRecord& record, DrawingMaker& maker)
+{
+    constexpr int constant = 2;
+    if ((record.whole(70) & constant) != 0) return takeAttribute(record, maker);
+    if (!maker.isInBlock()) maker.leftOut(record.type);
+}
+
 void takeAttribute(const DxfRecord& record, DrawingMaker& maker)
 {
     constexpr int unseen = 1;

@@ -30,10 +30,10 @@ Made uprightText(const MadeText& text, Vec baseline, Vec along, Vec up)
     made.p[0] = baseline;
     if (height < 0 && !readsToTheRight(way)) { // the other way along the same line
         way = -way;
+        made.turnedRound = true;
         made.text.justification = swapped(text.justification);
     }
-    if (height > 0 || way != quotient(1, length(along)) * along)
-        made.p[0] = baseline + made.size * turnedLeft(way);
+    if (height > 0 || made.turnedRound) made.p[0] = baseline + made.size * turnedLeft(way);
     const double rotation = directionOf(way) * degrees;
     made.rotation = rotation < 0 ? rotation + 360 : rotation;
     return made;

@@ -1,0 +1,250 @@
+#include "dxf/dxf_writer.h"
+#include "dxf/scanner.h"
+#include "dxf_text.h"
+#include "records.h"
+
+#include <cmath>
+#include <memory>
+#include <random>
+
+namespace mirtane {
+namespace {
+
+using namespace fake;
+
+std::string units(const std::string& number)
+{
+    return section("HEADER", dxf({{9, "$INSUNITS"}, {70, number}}));
+}
+
+std::string lineOf(const std::string& x1, const std::string& y1, const std::string& x2, const std::string& y2)
+{
+    return dxf({{0, "LINE"}, {8, "0"}, {10, x1}, {20, y1}, {11, x2}, {21, y2}});
+}
+
+TEST(Units, AreThoseThatTheFileNames)
+{
+    struct Row {
+        const char* number;
+        double inches;
+        bool named;
+    };
+    const Row rows[] = {{"0", 1, false},       {"1", 1, true},           {"2", 12, true},
+                        {"4", 1 / 25.4, true}, {"5", 1 / 2.54, true},    {"6", 1000 / 25.4, true},
+                        {"10", 36, true},      {"14", 100 / 25.4, true}, {"99", 1, false},
+                        {"-4", 1, false},      {"nonsense", 1, false}};
+    for (const Row& row : rows) {
+        const FullReading r = readOf(units(row.number) + entities(lineOf("1", "2", "-3", "5")));
+        EXPECT_THAT(objectsOf(r).at(0).p2, StandsAt(-3 * row.inches, 5 * row.inches)) << row.number;
+        EXPECT_EQ(r.hasUnits, row.named) << row.number;
+    }
+    const FullReading asked = readInFull(entities(lineOf("0", "0", "254", "0")), {.inches = 1 / 25.4});
+    EXPECT_THAT(objectsOf(asked).at(0).p2, StandsAt(10, 0));
+}
+
+TEST(FarDrawings, AreMovedToWhereTheyCanBeHeldExactly)
+{
+    const FullReading r =
+        readOf(units("6") + entities(lineOf("531000.123", "182000.456", "531020.5", "182010") +
+                                     dxf({{0, "CIRCLE"}, {10, "531007.25"}, {20, "182003.125"}, {40, "1"}})));
+    EXPECT_EQ(sentenceOfMove(reportOf(r, {})), "moved by -531000, -182000");
+    const auto objects = objectsOf(r);
+    const double scale = 1000 / 25.4;
+    EXPECT_THAT(objects[0].p1, StandsAt(0.123 * scale, 0.456 * scale));
+    EXPECT_THAT(objects[1].p1, StandsAt(7.25 * scale, 3.125 * scale));
+}
+
+TEST(FarDrawings, OthersStayWhereTheyAre)
+{
+    const std::string files[] = {
+        entities(lineOf("5000", "-3000", "5100", "-2900")),         // far, and held well
+        entities(lineOf("0", "0", "90000", "70000")),               // large: moving it would not help
+        entities(lineOf("-900000", "-900000", "900000", "900000")), // likewise, about the origin
+        entities(""),
+    };
+    for (const std::string& file : files) EXPECT_EQ(sentenceOfMove(reportOf(readOf(file), {})), "") << file;
+}
+
+TEST(FarDrawings, OnePointFarOffIsMoved)
+{
+    const FullReading r = readOf(entities(dxf({{0, "POINT"}, {10, "4000000.5"}, {20, "-8000000.25"}})));
+    const Vec moved = r.placing.move;
+    EXPECT_NEAR(moved.x, -4000000.5, 1);
+    EXPECT_NEAR(moved.y, 8000000.25, 1);
+}
+
+TEST(PaperSpace, ComesOnlyWhereTheModelIsEmpty)
+{
+    const std::string paper = dxf({{0, "LINE"}, {67, "1"}, {11, "4"}}) + dxf({{0, "VIEWPORT"}, {67, "1"}});
+    EXPECT_EQ(objectsOf(entities(paper)).size(), 1U);
+    const FullReading both = readOf(entities(paper + lineOf("0", "0", "1", "1")));
+    EXPECT_EQ(both.drawing.objects.size(), 1U);
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(both, {1, 0})), "1 line (on paper) left out");
+}
+
+TEST(Report, CountsWhatCameAndWhatDidNot)
+{
+    const std::string left =
+        dxf({{0, "IMAGE"}}) + dxf({{0, "IMAGE"}}) + dxf({{0, "3DSOLID"}}) + dxf({{0, "WIDGET"}});
+    const FullReading r = readOf(entities(left + lineOf("0", "0", "1", "1") + lineOf("0", "0", "2", "1") +
+                                          dxf({{0, "CIRCLE"}, {40, "1"}})));
+    const FullReport report = reportOf(r, {3, 0});
+    EXPECT_EQ(sentenceOfWhatCame(report), "1 circle, 2 lines");
+    EXPECT_EQ(sentenceOfLeftOut(report), "1 solid body, 2 images, 1 widget left out");
+    EXPECT_FALSE(report.isWhole());
+    EXPECT_TRUE(reportOf(readOf(entities(lineOf("0", "0", "1", "1"))), {1, 0}).isWhole());
+}
+
+TEST(Report, FileWithoutItsEndIsNotWhole)
+{
+    const FullReading r = readInFull(entities(lineOf("0", "0", "1", "1")));
+    EXPECT_TRUE(r.isCut);
+    EXPECT_EQ(r.drawing.objects.size(), 1U);
+    EXPECT_FALSE(reportOf(r, {1, 0}).isWhole());
+    EXPECT_FALSE(readInFull("What a day.\nHow nice.\n").isDxf);
+}
+
+float sixPerLetter(const EntityRecord& r)
+{
+    return 6 * static_cast<float>(r.t1.size()); // a few letters
+}
+
+struct Taken {
+    explicit Taken(const FullReading& reading) { taken = takeReading(*s, reading, sixPerLetter); }
+    std::unique_ptr<Session> s = std::make_unique<Session>();
+    TakenReading taken;
+};
+
+TEST(TakenReading, HiddenLayersAreHiddenAndTheOthersUsed)
+{
+    const std::string tables = section("TABLES", dxf({{0, "LAYER"},
+                                                      {2, "seen"},
+                                                      {62, "1"},
+                                                      {0, "LAYER"},
+                                                      {2, "dark"},
+                                                      {62, "-2"},
+                                                      {0, "LAYER"},
+                                                      {2, "bare"}}));
+    const Taken t(
+        readOf(tables + entities(dxf({{0, "POINT"}, {8, "dark"}}) + dxf({{0, "POINT"}, {8, "seen"}}))));
+    EXPECT_EQ(t.s->layerTable.rows(),
+              (std::vector<std::string>{"Yes:Wk :seen", "Yes:Off:dark", "No :On :bare"}));
+    EXPECT_EQ(t.s->store.stat[1], Stat::off);
+    EXPECT_EQ(t.s->store.stat[2], Stat::on);
+    EXPECT_EQ(t.s->workLayer, 0);
+}
+
+TEST(TakenReading, TextsHaveTheirWidthAndAFace)
+{
+    const Taken t(readOf(entities(dxf({{0, "TEXT"}, {10, "1"}, {40, "1"}, {1, "Words"}}))));
+    EXPECT_FLOAT_EQ(t.s->store.rad[1], 36);
+    EXPECT_EQ(t.s->store.t2[1], "Garamond");
+}
+
+// Its words go from 10 inches to the left of the point, 30 units wide.
+TEST(TakenReading, MirroredTextIsHeldByItsMiddle)
+{
+    const std::string words = dxf({{0, "TEXT"}, {10, "10"}, {20, "20"}, {40, "2"}, {1, "Words"}});
+    const Taken t(
+        readOf(section("BLOCKS", block("B", words)) + entities(dxf({{0, "INSERT"}, {2, "B"}, {41, "-1"}}))));
+    EXPECT_THAT(t.s->store.p1[1], StandsAt(-10 - 15.0 / 12, 22));
+    EXPECT_EQ(t.s->store.p2[1].y, 2);
+}
+
+TEST(TakenReading, PastTheTablesEndObjectsAreCounted)
+{
+    std::string many;
+    for (int i = 0; i < 60'005; ++i) many += lineOf("0", "0", "1", "1");
+    const Taken t(readOf(section("TABLES", dxf({{0, "LAYER"}, {2, "A"}})) + entities(many)));
+    EXPECT_EQ(t.taken.objects, 59'998U); // two layers have a name to keep
+    EXPECT_EQ(t.taken.withoutRoom, 7);
+    EXPECT_EQ(t.s->store.entCount, 59'999);
+}
+
+// What Save DXF writes has its own numbers of colours, and texts of two thirds of their height.
+TEST(OurOwnFiles, ComeBackAsTheyWere)
+{
+    EntityRecord circle = fake::ofLooks(fake::circle({-50, 70}, 33), 0x0080FF, 0);
+    EntityRecord line = fake::ofLooks(fake::line({12, 24}, {-36, 500}), 0x00FFFF, 0);
+    line.style = 3;
+    EntityRecord text = fake::ofLooks(fake::text({120, 340}, "Words"), 0x0000FF, 0);
+    text.p2 = {36, 2};
+    text.a1 = 30;
+    const auto session = std::make_unique<Session>();
+    Session& s = *session;
+    for (const EntityRecord& r : {circle, line, circle, text}) {
+        s.store.setStat(s.store.entCount, Stat::sel);
+        s.store.setRecord(s.store.entCount++, r);
+    }
+    DxfScratch scratch;
+    const DxfFile file = dxfFile(s.store, scratch);
+    const FullReading r = readInFull(textOf(file.bytes));
+    const auto objects = objectsOf(r);
+    ASSERT_EQ(objects.size(), 4U);
+    EXPECT_TRUE(r.hasUnits);
+    EXPECT_EQ(objects[0].kind, Kind::circle);
+    EXPECT_EQ(objects[0].color, circle.color);
+    EXPECT_FLOAT_EQ(objects[0].rad, 33);
+    EXPECT_EQ(objects[1].color, line.color);
+    EXPECT_EQ(objects[1].style, 3);
+    EXPECT_EQ(objects[3].color, text.color);
+    EXPECT_NEAR(objects[3].p1.x, 120, 1e-3);
+    EXPECT_NEAR(objects[3].p1.y, 340, 1e-3);
+    EXPECT_FLOAT_EQ(objects[3].p2.x, 36);
+    EXPECT_EQ(objects[3].p2.y, 2);
+}
+
+bool isWellFormed(const FullReading& reading)
+{
+    for (const EntityRecord& r : objectsOf(reading)) {
+        const bool finite =
+            std::isfinite(r.p1.x + r.p1.y + r.p2.x + r.p2.y + r.p3.x + r.p3.y + r.p4.x + r.p4.y) &&
+            std::isfinite(r.rad) && std::isfinite(r.a1) && std::isfinite(r.a2);
+        if (!finite || !isDrawnKind(r.kind) || r.layer < 0 || r.layer > 999) return false;
+    }
+    return true;
+}
+
+const std::string sample =
+    section("TABLES",
+            dxf({{0, "LAYER"}, {2, "A"}, {62, "1"}, {0, "LTYPE"}, {2, "L"}, {49, "1"}, {49, "-1"}})) +
+    section("BLOCKS", block("B", lineOf("0", "0", "1", "1") + dxf({{0, "CIRCLE"}, {40, "1"}}))) +
+    entities(
+        dxf({{0, "INSERT"}, {2, "B"}, {41, "2"}, {50, "30"}, {70, "3"}, {44, "2"}}) +
+        dxf({{0, "LWPOLYLINE"}, {70, "1"}, {10, "0"}, {20, "0"}, {42, "1"}, {10, "4"}, {20, "3"}}) +
+        dxf({{0, "TEXT"}, {10, "1"}, {40, "2"}, {1, "Words"}, {72, "1"}, {11, "4"}, {21, "5"}}) +
+        dxf({{0, "ARC"}, {40, "2"}, {50, "10"}, {51, "200"}, {210, "0.3"}, {220, "0.2"}, {230, "0.9"}})) +
+    fileEnd;
+
+TEST(DamagedFiles, CutAtEveryLengthAreTaken)
+{
+    ASSERT_TRUE(isWellFormed(readInFull(sample)));
+    for (std::size_t n = 0; n < sample.size(); ++n) {
+        const std::vector<char> cut(sample.begin(),
+                                    sample.begin() + static_cast<std::ptrdiff_t>(n)); // in sample
+        ASSERT_TRUE(isWellFormed(readInFull({cut.data(), cut.size()}))) << n;
+    }
+}
+
+TEST(DamagedFiles, PairsAtRandomAreTaken)
+{
+    const int codes[] = {0,  1,  2,  6,  8,  10, 11, 20, 21, 30, 38,  40,  41,  42,
+                         44, 50, 51, 60, 62, 67, 70, 71, 72, 73, 210, 220, 230, 420};
+    const char* const words[] = {
+        "LINE",   "ARC", "CIRCLE", "INSERT",      "POLYLINE", "VERTEX", "SEQEND",     "TEXT",  "ATTRIB",
+        "B",      "A",   "0",      "1",           "-1",       "1e300",  "-1e38",      "nan",   "inf",
+        "1e-300", "64",  "16",     "99999999999", "0.5",      "360",    "LWPOLYLINE", "3DFACE"};
+    std::mt19937 random(11);
+    for (int round = 0; round < 300; ++round) {
+        std::string content;
+        for (int i = 0; i < 200; ++i) {
+            const int code = random() % 4 == 0 ? 0 : codes[random() % std::size(codes)];
+            content += dxf({{code, words[random() % std::size(words)]}});
+        }
+        const std::string file = section("BLOCKS", block("B", content)) + entities(content);
+        ASSERT_TRUE(isWellFormed(readOf(file))) << file;
+    }
+}
+
+} // namespace
+} // namespace mirtane
