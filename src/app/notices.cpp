@@ -1,5 +1,6 @@
 #include "app/notices.h"
 
+#include "app/files/dxf_flows.h"
 #include "app/files/file_dialog.h"
 #include "app/files/unsaved_work.h"
 
@@ -30,6 +31,9 @@ constexpr OfferRow offerRows[] = {
     {Offer::throwWorkAway, throwLeftWorkAway},
     {Offer::saveAndOpenAgain, saveAndOpenAgain},
     {Offer::goOn, goOn},
+    {Offer::readAll, readAllOfDxf},
+    {Offer::takeAsMillimetres, takeDxfAsMillimetres},
+    {Offer::takeAsMetres, takeDxfAsMetres},
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "app/files/open_drawing.h"
 #include "app/shell.h"
 #include "convert/exports.h"
+#include "dxf/scanner.h"
 #include "platform/posix/disk.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/surface.h"
@@ -78,7 +79,7 @@ void open(App& app, const Job& job, const Wishes& wishes, Outcome& outcome)
     else if (wishes.asWindow)
         openDxf(app, *file);
     else
-        tell(openDxfInFull(app, *file), outcome);
+        tell(takeDxfInFull(app, readInFull(textOf(*file))), outcome);
 }
 
 // A drawing does not keep what is hidden: who opens it would see it.

@@ -32,8 +32,9 @@ bool Notices::tells(Matter matter) const
 
 void Notices::settleOfDrawing()
 {
-    for (const Matter matter : {Matter::leftOut, Matter::tableFull, Matter::fileChanged,
-                                Matter::openElsewhere, Matter::fileInTheWay}) {
+    for (const Matter matter :
+         {Matter::leftOut, Matter::tableFull, Matter::fileChanged, Matter::openElsewhere,
+          Matter::fileInTheWay, Matter::notRead, Matter::moved, Matter::noUnits}) {
         settle(matter);
     }
 }

@@ -12,16 +12,27 @@
 namespace mirtane {
 
 enum class Matter : std::uint8_t {
-    fileInTheWay, // of what is to be saved
-    workLeft,     // by a program that is no longer alive
-    workNotKept,  // as the disk takes nothing
-    leftOut,      // of a file, for want of room
-    tableFull,    // an edit was refused
-    fileChanged,  // by someone else, since it was opened or saved here
-    openElsewhere // the drawing, in another program of ours
+    fileInTheWay,  // of what is to be saved
+    workLeft,      // by a program that is no longer alive
+    workNotKept,   // as the disk takes nothing
+    leftOut,       // of a file, for want of room
+    tableFull,     // an edit was refused
+    fileChanged,   // by someone else, since it was opened or saved here
+    openElsewhere, // the drawing, in another program of ours
+    notRead,       // of a DXF file that was opened by the letter
+    moved,         // a drawing from far away
+    noUnits        // in a DXF file
 };
 
-enum class Offer : std::uint8_t { restoreWork, throwWorkAway, saveAndOpenAgain, goOn };
+enum class Offer : std::uint8_t {
+    restoreWork,
+    throwWorkAway,
+    saveAndOpenAgain,
+    goOn,
+    readAll,
+    takeAsMillimetres,
+    takeAsMetres
+};
 
 struct NoticeButton {
     std::string_view caption;

@@ -157,6 +157,13 @@ struct FolderPair {
     std::string last;
 };
 
+// A DXF file as it was opened, in case it is to be taken in another way.
+struct OpenedDxf {
+    std::vector<std::uint8_t> file;
+    std::string name, folder;
+    WorkMark mark; // of the drawing that it gave
+};
+
 struct FileState {
     std::int32_t savedCount = 1; // entCount at the last load or save
     std::int16_t saveFollowUp = follow::nothing;
@@ -172,6 +179,7 @@ struct FileState {
     WorkMark keptMark;                   // the work as it was last kept, in case the program dies
     std::vector<std::string> leftWork;   // what other runs left, by name; the last one is on offer
     std::string dxfName = "untitled.dxf";
+    std::optional<OpenedDxf> openedDxf;
     std::string proposedName;          // by the file dialog
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;

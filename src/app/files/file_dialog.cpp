@@ -1,5 +1,6 @@
 #include "app/files/file_dialog.h"
 
+#include "app/files/dxf_flows.h"
 #include "app/files/file_flows.h"
 #include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
@@ -293,6 +294,9 @@ void confirmFileDialog(App& app, ControlId)
 void openDrawingAt(App& app, const std::string& path)
 {
     Session& s = app.s;
+    if (sameButForCase(path.substr(path.size() - std::min<std::size_t>(path.size(), 4)), ".dxf") &&
+        openDxfInFull(app, path))
+        return;
     const std::string folder = parentOf(path);
     std::string name = path.substr(path.rfind('/') + 1);
     if (name.find('.') == std::string::npos) name += ".mtd";

@@ -22,8 +22,8 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name);
 std::string folderThatExists(App& app, const FolderPair& folders);
 
 // Opens the drawing at an absolute path as if it had been chosen in "Open Drawing"; the dialog stays up with
-// the name where that fails. A name with no "." gets ".mtd"; one with another extension is that of no
-// drawing.
+// the name where that fails. A DXF file is read in full. A name with no "." gets ".mtd"; one with another
+// extension is that of no drawing.
 void openDrawingAt(App& app, const std::string& path);
 
 // "Save Changes": asks what to do with unsaved work before what followUp names.

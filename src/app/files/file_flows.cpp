@@ -1,13 +1,14 @@
 #include "app/files/file_flows.h"
 
 #include "app/drawing/endings.h"
+#include "app/files/drawing_of_file.h"
+#include "app/files/dxf_flows.h"
 #include "app/files/library_flows.h"
 #include "app/files/open_drawing.h"
 #include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/menus/attribute_controls.h"
 #include "commands/prompt.h"
-#include "dxf/dxf_names.h"
 #include "dxf/dxf_writer.h"
 #include "files/drawing_file.h"
 #include "model/insertion.h"
@@ -32,24 +33,6 @@ void takeFile(App& app, const FileChoice& choice, const std::optional<FileStamp>
     s.drawingFolder = choice.folder;
     watchOwnFile(app, stamp);
     takeAsSaved(app);
-}
-
-// The drawing has no file yet, but the folder of the one that it came from.
-void takeFolder(App& app, const FileChoice& choice, const std::string& name)
-{
-    FileState& s = app.s;
-    s.drawingName = name;
-    s.drawingFile.clear();
-    s.drawingFolder = choice.folder;
-    watchOwnFile(app);
-    takeAsSaved(app);
-}
-
-// The drawing is a part of the file's, which must not be replaced by it.
-void takePartOfFile(App& app, const FileChoice& choice, std::int32_t leftOut)
-{
-    takeFolder(app, choice, "untitled.mtd");
-    tellLeftOut(app.s.notices, choice.name, leftOut, app.s.drawingName);
 }
 
 bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
@@ -94,7 +77,7 @@ bool openDrawingFile(App& app, const FileChoice& choice)
     } else {
         const std::int32_t leftOut = openDrawing(app, *file);
         if (leftOut > 0)
-            takePartOfFile(app, choice, leftOut);
+            takePartOfFile(app, choice.folder, choice.name, leftOut);
         else
             takeFile(app, choice, stamp);
     }
@@ -117,18 +100,9 @@ bool saveDxfFile(App& app, const FileChoice& choice)
 
 bool openDxfFile(App& app, const FileChoice& choice)
 {
-    Session& s = app.s;
     const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
     if (!file) return false;
-    endWhatIsBegun(s, app.pic1);
-    s.dxfName = choice.name;
-    const std::int32_t leftOut = openDxf(app, *file);
-    if (leftOut > 0)
-        takePartOfFile(app, choice, leftOut);
-    else
-        takeFolder(app, choice,
-                   drawingNameOf(choice.name)); // what is there under that name is another drawing
-    setPrompt(s, app.pic1);
+    openDxfByTheLetter(app, *file, choice.folder, choice.name);
     return true;
 }
 

@@ -2,7 +2,6 @@
 
 #include "app/menus/attribute_controls.h"
 #include "dxf/dxf_reader.h"
-#include "dxf/scanner.h"
 #include "files/drawing_file.h"
 #include "geometry/fault.h"
 #include "model/insertion.h"
@@ -58,6 +57,7 @@ std::int32_t openDrawing(App& app, const Bytes& file)
 {
     Session& s = app.s;
     s.notices.settleOfDrawing();
+    s.openedDxf.reset();
     const std::int32_t leftOut = replaceDrawing(s, file);
     fitView(s, app.pic1);
     showTakenAttributes(app);
@@ -75,6 +75,7 @@ std::int32_t openDxf(App& app, const Bytes& file)
 {
     Session& s = app.s;
     s.notices.settleOfDrawing();
+    s.openedDxf.reset();
     forgetOwners(s.store);
     readDxf(s, file, textWidthOn(app.pic1));
     const std::int32_t leftOut = std::max(0, s.store.entCount - EntityStore::slotCount);
@@ -82,13 +83,13 @@ std::int32_t openDxf(App& app, const Bytes& file)
     return leftOut;
 }
 
-FullReport openDxfInFull(App& app, const Bytes& file, UnitsIfNone units)
+FullReport takeDxfInFull(App& app, const FullReading& reading)
 {
     Session& s = app.s;
     s.notices.settleOfDrawing();
+    s.openedDxf.reset();
     forgetOwners(s.store);
     const TextWidthOf widthOf = textWidthOn(app.pic1);
-    const FullReading reading = readInFull(textOf(file), units);
     const TakenReading taken = takeReading(s, reading, widthOf);
     setTextAnchors(s.store, widthOf);
     showTakenDxf(app);

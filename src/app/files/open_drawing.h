@@ -14,8 +14,8 @@ std::int32_t openDrawing(App& app, const Bytes& file);
 // Gives the same.
 std::int32_t openDxf(App& app, const Bytes& file);
 
-// Replaces the drawing by all that a DXF file of any program holds, and shows it.
-FullReport openDxfInFull(App& app, const Bytes& file, UnitsIfNone units = {});
+// Replaces the drawing by what a DXF file of any program gave, and shows it.
+FullReport takeDxfInFull(App& app, const FullReading& reading);
 
 // Says in the strip that so many objects of a file found no place, and, if it is given one, the name that the
 // drawing has in place of the file's.

@@ -1,0 +1,27 @@
+#pragma once
+
+// What a reading in full gives beyond the drawing that stands open.
+
+#include "exchange/full_reading.h"
+
+#include <array>
+#include <string>
+
+namespace mirtane {
+
+// How many objects of each sort that a user tells apart are not in the drawing, in the order in which they
+// are named.
+struct NotRead {
+    std::array<std::int64_t, 8> counts{};
+
+    bool isNothing() const;
+};
+
+// An object is in the drawing if one of its kind stands at the same place of the file; a text, if its words
+// are there. Pens, layers and units do not count. Hidden objects of the reading do.
+NotRead notRead(const FullReading& reading, const EntityStore& store);
+
+// "This file holds 14 circles, 1 arc that were not read."
+std::string sentenceOf(const NotRead& missing);
+
+} // namespace mirtane

@@ -1,0 +1,153 @@
+#include "desk.h"
+
+#include "app/files/dxf_flows.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::Desk;
+
+Bytes bytesOf(const std::string& text)
+{
+    return {text.begin(), text.end()};
+}
+
+std::string withUnits(const std::string& entities, const std::string& units = "1")
+{
+    return "0\nSECTION\n2\nHEADER\n9\n$INSUNITS\n70\n" + units + "\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" +
+           entities + "0\nENDSEC\n0\nEOF\n";
+}
+
+// Two circles and a line, none of which the letter takes, as its codes are not padded.
+const std::string shapes = "0\nCIRCLE\n8\nA\n10\n5\n20\n5\n40\n2\n0\nCIRCLE\n8\nA\n10\n9\n20\n5\n40\n2\n"
+                           "0\nLINE\n8\nB\n10\n1\n20\n2\n11\n7\n21\n8\n";
+
+struct DxfInFull : testing::Test {
+    DxfInFull()
+    {
+        desk.disk.files["/home/user/plan.dxf"] = bytesOf(withUnits(shapes));
+        desk.disk.files["/home/user/bare.dxf"] = bytesOf(withUnits(shapes, "0"));
+        desk.disk.files["/home/user/far.dxf"] =
+            bytesOf(withUnits("0\nLINE\n10\n531000\n20\n-182000\n11\n531020\n21\n-181990\n0\nIMAGE\n8\n0\n"));
+        desk.disk.files["/home/user/words.dxf"] = bytesOf("Dear Sir,\nno drawing.\n");
+    }
+
+    void open(const std::string& name)
+    {
+        desk.press("dd2"_c);
+        desk.name(name);
+        desk.enter();
+        ASSERT_FALSE(desk.visible("frmfile"_c));
+    }
+    void startWith(const std::string& name) { desk.shell.openDrawing("/home/user/" + name); }
+    std::string said() { return desk.caption("notice"_c); }
+    std::int32_t objects() const
+    {
+        std::int32_t count = 0;
+        for (std::int32_t i = 1; i < desk.s.store.end(); ++i)
+            count += isDrawnKind(desk.s.store.kind[EntityStore::at(i)]) ? 1 : 0;
+        return count;
+    }
+
+    Desk desk;
+};
+
+TEST_F(DxfInFull, WhatTheLetterLeavesOutIsOffered)
+{
+    open("plan");
+    EXPECT_EQ(objects(), 0);
+    EXPECT_EQ(said(), "This file holds 2 circles, 1 line that were not read.");
+    EXPECT_EQ(desk.caption("notice.Command1"_c), "Read all");
+    EXPECT_FALSE(desk.visible("notice.Command2"_c));
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(objects(), 3);
+    EXPECT_EQ(desk.slot(1).p1, (Point{60, -60}));
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(desk.s.drawingName, "plan.mtd");
+    EXPECT_EQ(desk.s.dxfName, "plan.dxf");
+    EXPECT_EQ(desk.s.savedCount, desk.s.store.entCount);
+}
+
+TEST_F(DxfInFull, WhatWasDrawnMeanwhileIsNotLostToTheButton)
+{
+    open("plan");
+    desk.drawLine(100, 100, 400, 100);
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(objects(), 1);
+    EXPECT_EQ(said(), "The drawing was changed since plan.dxf was opened: it stays as it is.");
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(objects(), 1);
+}
+
+TEST_F(DxfInFull, NothingIsOfferedForWhatCameWhole)
+{
+    const std::string padded =
+        "  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n  8\n0\n 10\n1\n 20\n2\n 11\n7\n 21\n8\n"
+        "  0\nENDSEC\n  0\nEOF\n";
+    desk.disk.files["/home/user/own.dxf"] = bytesOf(padded);
+    open("own");
+    EXPECT_EQ(objects(), 1);
+    EXPECT_EQ(said(), "");
+}
+
+TEST_F(DxfInFull, FileNamedAtTheStartIsReadWholeAtOnce)
+{
+    startWith("plan.dxf");
+    EXPECT_FALSE(desk.visible("frmfile"_c));
+    EXPECT_EQ(objects(), 3);
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(desk.s.drawingName, "plan.mtd");
+    EXPECT_EQ(desk.s.drawingFolder, "/home/user");
+}
+
+TEST_F(DxfInFull, UnitsThatTheFileLacksAreAskedFor)
+{
+    startWith("bare.dxf");
+    EXPECT_EQ(said(), "bare.dxf has no units: taken as inches.");
+    EXPECT_EQ(desk.caption("notice.Command1"_c), "Millimetres");
+    EXPECT_EQ(desk.caption("notice.Command2"_c), "Metres");
+    EXPECT_FLOAT_EQ(desk.slot(1).rad, 24);
+    desk.press("notice.Command2"_c);
+    EXPECT_FLOAT_EQ(desk.slot(1).rad, 24 / 0.0254F);
+    EXPECT_EQ(said(), "");
+    startWith("bare.dxf");
+    desk.press("notice.Command1"_c);
+    EXPECT_FLOAT_EQ(desk.slot(1).rad, 24 / 25.4F);
+    EXPECT_EQ(objects(), 3);
+}
+
+TEST_F(DxfInFull, SaysWhatWasLeftOutAndThatItWasMoved)
+{
+    startWith("far.dxf");
+    EXPECT_EQ(said(), "far.dxf: moved by -531000, 182000.");
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(said(), "far.dxf: 1 image left out.");
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(said(), "");
+}
+
+TEST_F(DxfInFull, WhatIsNoDxfFileLeavesTheDrawingAsItIs)
+{
+    desk.drawLine(100, 100, 400, 100);
+    Ports ports{desk.disk, desk.folders, desk.settings, {}, nullptr, nullptr};
+    DxfScratch scratch;
+    App app{desk.s, desk.pic1, ports, scratch};
+    EXPECT_FALSE(openDxfInFull(app, "/home/user/words.dxf"));
+    EXPECT_FALSE(openDxfInFull(app, "/home/user/nowhere.dxf"));
+    EXPECT_EQ(objects(), 1);
+}
+
+TEST_F(DxfInFull, NothingIsSaidOfItInAnotherDrawing)
+{
+    open("plan");
+    ASSERT_NE(said(), "");
+    open("words");
+    EXPECT_EQ(said(), "");
+}
+
+} // namespace
+} // namespace mirtane
