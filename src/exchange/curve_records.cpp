@@ -4,9 +4,9 @@
 #include "exchange/curve_records.h"
 
 #include "exchange/arrows.h"
+#include "exchange/curve_strokes.h"
 #include "exchange/group_run.h"
 #include "exchange/spline.h"
-#include "exchange/strokes_drawn.h"
 
 #include <numbers>
 
@@ -55,7 +55,7 @@ void takeSpline(const DxfRecord& record, DrawingMaker& maker)
         curves = curvesThrough(flatPoints(pointsOf(groups, 11), maker), ends);
     }
     if (curves.empty()) return maker.leftOut(record.type, "not whole");
-    drawStrokes(strokesOf(curves, maker.tolerance()), maker);
+    maker.strokes(strokesOf(curves, maker.tolerance()));
 }
 
 void takeRay(const DxfRecord& record, DrawingMaker& maker)

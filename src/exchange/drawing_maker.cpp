@@ -1,6 +1,7 @@
 #include "exchange/drawing_maker.h"
 
 #include "exchange/bounds.h"
+#include "exchange/curve_strokes.h"
 #include "exchange/faces.h"
 #include "exchange/upright_text.h"
 #include "geometry/fault.h"
@@ -13,6 +14,11 @@ namespace {
 
 constexpr std::int64_t mostSteps = 1'000'000; // records drawn, those of a block each time that it is inserted
 constexpr std::size_t deepest = 32;           // blocks within blocks
+constexpr std::size_t roomForPatterns =
+    58'000; // the rest of the table is for names of layers, and for whoever draws on
+constexpr std::size_t mostPatternLines =
+    400'000; // of all hatches, before it is known which of them have room
+constexpr std::string_view noRoom = "no room for its lines, its outline alone";
 constexpr std::size_t mostObjects = EntityStore::slotCount - 1;
 
 bool isFinite(const Made& made)
@@ -135,6 +141,16 @@ void DrawingMaker::pieces(std::span<const Piece> pieces)
     for (const Piece& one : pieces) piece(one);
 }
 
+void DrawingMaker::strokes(std::span<const Stroke> strokes)
+{
+    for (const Stroke& one : strokes) {
+        if (one.isArc())
+            arc(arcOf(one));
+        else
+            line(one.from, one.to);
+    }
+}
+
 void DrawingMaker::text(const MadeText& text, Vec baseline, Vec along, Vec up)
 {
     if (trimmed(text.words).empty()) return;
@@ -224,6 +240,45 @@ void DrawingMaker::cutEndless()
     }
 }
 
+void DrawingMaker::pattern(Pattern pattern)
+{
+    pattern.look = look;
+    patternLines_ += pattern.lines.size();
+    if (patternLines_ > mostPatternLines) {
+        leftOut("HATCH", noRoom);
+        pattern.hasOutline = true;
+        pattern.lines = {};
+    }
+    patterns_.push_back(std::move(pattern));
+}
+
+// Those of few lines first, so that most of them come whole.
+void DrawingMaker::drawPatterns()
+{
+    std::ranges::stable_sort(patterns_, {}, [](const Pattern& one) { return one.lines.size(); });
+    std::size_t outlines = 0;
+    for (const Pattern& one : patterns_) outlines += one.outline.size();
+    for (const Pattern& one : patterns_) {
+        look = one.look;
+        const bool fits = made_.objects.size() + one.lines.size() + outlines <= roomForPatterns;
+        if (fits) drawLines(one.lines);
+        if (!fits) leftOut("HATCH", noRoom);
+        if (!fits || one.hasOutline) strokes(one.outline);
+        outlines -= one.outline.size();
+    }
+    patterns_.clear();
+}
+
+void DrawingMaker::drawLines(std::span<const PatternLine> lines)
+{
+    for (const PatternLine& one : lines) {
+        if (one.from == one.to)
+            point(one.from);
+        else
+            line(one.from, one.to);
+    }
+}
+
 // Layers that every file has to have, whatever is drawn on them.
 void DrawingMaker::leaveOutUnusedLayers()
 {
@@ -247,6 +302,7 @@ void DrawingMaker::leaveOutUnusedLayers()
 
 MadeDrawing DrawingMaker::finish()
 {
+    drawPatterns();
     cutEndless();
     made_.workLayer = looks_.workLayer();
     made_.layers = looks_.layers();

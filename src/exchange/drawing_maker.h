@@ -6,8 +6,10 @@
 
 #include "exchange/dxf_list.h"
 #include "exchange/ellipse_pieces.h"
+#include "exchange/hatch_lines.h"
 #include "exchange/looks.h"
 #include "exchange/made.h"
+#include "exchange/tangent_arcs.h"
 #include "exchange/transform.h"
 
 #include <memory>
@@ -19,6 +21,14 @@ namespace mirtane {
 class DrawingMaker;
 
 using TakeRecord = void (*)(const DxfRecord& record, DrawingMaker& maker);
+
+// Dots and lines, and the outline that stands for them; both are drawn where the outline is seen.
+struct Pattern {
+    std::vector<PatternLine> lines;
+    std::vector<Stroke> outline;
+    bool hasOutline = false;
+    Look look{};
+};
 
 class DrawingMaker {
   public:
@@ -48,6 +58,7 @@ class DrawingMaker {
     void arc(const EllipseArc& arc); // whole or part, circle or ellipse
     void piece(const Piece& piece);
     void pieces(std::span<const Piece> pieces);
+    void strokes(std::span<const Stroke> strokes);
     void point(Vec p);
     // baseline is where the text begins, ends or has its middle, as justification says; along is the way it
     // is written, up a letter's height square to the line, of any length. See MadeText in made.h.
@@ -73,6 +84,10 @@ class DrawingMaker {
     // A style's face ("Arial") by the name of the style.
     std::string faceOf(std::string_view style) const;
 
+    // The lines of a hatch, which come after all else: where there is no room for them, its outline alone
+    // does.
+    void pattern(Pattern pattern);
+
     // Lines without an end: cut to the drawing's size once that is known.
     void endless(Vec from, Vec way, bool bothWays);
 
@@ -89,6 +104,8 @@ class DrawingMaker {
     void drawBlock(const DxfBlock& block, const Transform3& at);
     void circular(const EllipseArc& arc);
     void cutEndless();
+    void drawPatterns();
+    void drawLines(std::span<const PatternLine> lines);
     void leaveOutUnusedLayers();
 
     const DxfList& list_;
@@ -100,6 +117,8 @@ class DrawingMaker {
     const DxfRecord* record_ = nullptr;
     std::vector<std::string_view> underWay_;
     std::vector<Endless> endless_;
+    std::vector<Pattern> patterns_;
+    std::size_t patternLines_ = 0;
     bool isPicture_ = false;
     std::int64_t steps_ = 0;
     MadeDrawing made_;

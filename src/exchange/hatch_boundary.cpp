@@ -3,8 +3,8 @@
 
 #include "exchange/hatch_boundary.h"
 
+#include "exchange/curve_strokes.h"
 #include "exchange/spline.h"
-#include "exchange/strokes_drawn.h"
 
 #include <algorithm>
 #include <utility>
@@ -155,24 +155,62 @@ void reverse(Strokes& strokes)
     }
 }
 
-// Each edge turned so that it goes on from the last, and the first so that the second does.
-Strokes chained(const std::vector<Readings>& readings)
+// Whether the way from a loop's end to its start is no longer than that to the next edge.
+bool isClosed(const Strokes& loop, const Strokes& next)
+{
+    return length(loop.back().to - loop.front().from) <= nearest(loop.back().to, next);
+}
+
+// The edges of a path that are not yet part of a loop.
+class EdgesLeft {
+  public:
+    explicit EdgesLeft(std::vector<Strokes> edges) : edges_(std::move(edges)) { passTaken(); }
+
+    bool isEmpty() const { return first_ == edges_.size(); }
+    // That which begins or ends nearest to p; of equals the first.
+    Strokes& nearestTo(Vec p);
+    Strokes& first() { return edges_[first_]; }
+    // It is taken by leaving it empty.
+    void passTaken()
+    {
+        while (!isEmpty() && edges_[first_].empty()) ++first_;
+    }
+
+  private:
+    std::vector<Strokes> edges_;
+    std::size_t first_ = 0;
+};
+
+Strokes& EdgesLeft::nearestTo(Vec p)
+{
+    constexpr std::size_t mostCompared = 2000; // the edges of long paths follow one another, as they should
+    const std::size_t end = std::min(edges_.size(), first_ + mostCompared);
+    std::size_t best = first_;
+    for (std::size_t i = first_ + 1; i < end; ++i) {
+        if (!edges_[i].empty() && nearest(p, edges_[i]) < nearest(p, edges_[best])) best = i;
+    }
+    return edges_[best];
+}
+
+// Edges stand in any order and direction: each is followed by the one that begins or ends nearest, until the
+// way back to the start is shorter. What is left then is a loop of its own.
+std::vector<Strokes> loopsOf(const std::vector<Readings>& readings)
 {
     std::vector<Strokes> edges;
-    for (std::size_t i = 0; i < readings.size(); ++i) {
-        if (Strokes edge = chosen(readings, i); !edge.empty()) edges.push_back(std::move(edge));
+    for (std::size_t i = 0; i < readings.size(); ++i) edges.push_back(chosen(readings, i));
+    EdgesLeft left(std::move(edges));
+    std::vector<Strokes> loops;
+    for (; !left.isEmpty(); left.passTaken()) {
+        Strokes edge = loops.empty() ? std::exchange(left.first(), {})
+                                     : std::exchange(left.nearestTo(loops.back().back().to), {});
+        const bool isNew = loops.empty() || isClosed(loops.back(), edge);
+        if (isNew) loops.emplace_back();
+        Strokes& loop = loops.back();
+        if (!isNew && length(loop.back().to - edge.back().to) < length(loop.back().to - edge.front().from))
+            reverse(edge);
+        loop.insert(loop.end(), edge.begin(), edge.end());
     }
-    Strokes chain;
-    for (std::size_t i = 0; i < edges.size(); ++i) {
-        Strokes& edge = edges[i];
-        const Strokes& next = edges[std::min(i + 1, edges.size() - 1)];
-        const bool turns = chain.empty() ? nearest(edge.front().from, next) < nearest(edge.back().to, next)
-                                         : length(chain.back().to - edge.back().to) <
-                                               length(chain.back().to - edge.front().from);
-        if (turns) reverse(edge);
-        chain.insert(chain.end(), edge.begin(), edge.end());
-    }
-    return chain;
+    return loops;
 }
 
 Strokes polylinePath(GroupRun& groups, const Transform2& plane, double tolerance)
@@ -200,13 +238,13 @@ Strokes polylinePath(GroupRun& groups, const Transform2& plane, double tolerance
     return strokes;
 }
 
-Strokes edgePath(GroupRun& groups, const Transform2& plane, double tolerance)
+std::vector<Strokes> edgePath(GroupRun& groups, const Transform2& plane, double tolerance)
 {
     const std::size_t count = groups.count(93);
     std::vector<Readings> edges;
     for (std::size_t i = 0; i < count && groups.isAt(72); ++i)
         edges.push_back(takeEdge(groups, plane, tolerance));
-    return chained(edges);
+    return loopsOf(edges);
 }
 
 } // namespace
@@ -217,13 +255,16 @@ std::vector<HatchPath> takePaths(GroupRun& groups, const Transform2& plane, doub
     if (!groups.find(91)) return paths;
     const std::size_t count = groups.count(91);
     for (std::size_t i = 0; i < count && groups.isAt(92); ++i) {
-        HatchPath path;
-        path.flags = groups.whole(92);
-        const bool isPolyline = (path.flags & hatch_path::polyline) != 0;
-        path.strokes =
-            isPolyline ? polylinePath(groups, plane, tolerance) : edgePath(groups, plane, tolerance);
+        constexpr int polyline = 2;
+        const int flags = groups.whole(92);
+        const bool isPolyline = (flags & polyline) != 0;
+        const std::vector<Strokes> loops = isPolyline
+                                               ? std::vector<Strokes>{polylinePath(groups, plane, tolerance)}
+                                               : edgePath(groups, plane, tolerance);
         while (groups.isAt(97) || groups.isAt(330)) groups.next(); // what it was made of
-        if (!path.strokes.empty()) paths.push_back(std::move(path));
+        for (const Strokes& loop : loops) {
+            if (!loop.empty()) paths.push_back({loop});
+        }
     }
     return paths;
 }
@@ -236,7 +277,7 @@ Loop loopOf(const HatchPath& path, double tolerance)
     };
     for (const Stroke& stroke : path.strokes) {
         constexpr double fewest = 2, most = 200;
-        const double step = stroke.isArc() ? std::sqrt(8 * tolerance / stroke.radius) : 1;
+        const double step = stroke.isArc() ? std::min(0.06, std::sqrt(8 * tolerance / stroke.radius)) : 1;
         const double chords =
             stroke.isArc() ? std::clamp(std::ceil(std::abs(stroke.sweep) / step), fewest, most) : 1;
         for (double i = 0; i < chords; ++i) add(pointOn(stroke, i / chords));

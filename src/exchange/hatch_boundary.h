@@ -9,13 +9,8 @@ namespace mirtane {
 
 // One loop of a hatch, as seen in the drawing.
 struct HatchPath {
-    int flags = 0;
     std::vector<Stroke> strokes; // each from where the last one ends, or nearly so
 };
-
-namespace hatch_path {
-inline constexpr int external = 1, polyline = 2, outermost = 16;
-}
 
 // The paths of a hatch, which begin with their count; groups stands behind the last of them afterwards.
 std::vector<HatchPath> takePaths(GroupRun& groups, const Transform2& plane, double tolerance);

@@ -2,8 +2,8 @@
 // outline, and one that would be too many lines its outline alone.
 
 #include "exchange/curve_records.h"
+#include "exchange/curve_strokes.h"
 #include "exchange/hatch_boundary.h"
-#include "exchange/strokes_drawn.h"
 
 #include <algorithm>
 #include <numbers>
@@ -12,7 +12,7 @@
 namespace mirtane {
 namespace {
 
-constexpr std::size_t mostLines = 6000;
+constexpr std::size_t mostLines = 8000;
 constexpr double radians = std::numbers::pi / 180;
 
 namespace islands {
@@ -76,19 +76,12 @@ PatternRow fillRow(const std::vector<Loop>& loops, double tolerance)
     return {low, way, apart * turnedLeft(way), {}};
 }
 
-void drawOutline(const std::vector<HatchPath>& paths, DrawingMaker& maker)
+std::vector<Stroke> outlineOf(const std::vector<HatchPath>& paths)
 {
-    for (const HatchPath& path : paths) drawStrokes(path.strokes, maker);
-}
-
-void drawLines(const std::vector<PatternLine>& lines, DrawingMaker& maker)
-{
-    for (const PatternLine& line : lines) {
-        if (line.from == line.to)
-            maker.point(line.from);
-        else
-            maker.line(line.from, line.to);
-    }
+    std::vector<Stroke> outline;
+    for (const HatchPath& path : paths)
+        outline.insert(outline.end(), path.strokes.begin(), path.strokes.end());
+    return outline;
 }
 
 } // namespace
@@ -99,15 +92,16 @@ void takeHatch(const DxfRecord& record, DrawingMaker& maker)
     const bool isSolid = record.whole(70) != 0;
     GroupRun groups(record.groups);
     const std::vector<HatchPath> paths = takePaths(groups, plane, maker.tolerance());
-    if (paths.empty()) return maker.leftOut(record.type, "without an edge");
+    if (paths.empty()) return; // nothing of it was ever seen
     const int style = groups.find(75) ? groups.whole(75) : 0;
     const std::vector<Loop> loops = loopsThatCount(paths, style, maker.tolerance());
     const std::vector<PatternRow> rows =
         isSolid ? std::vector{fillRow(loops, maker.tolerance())} : takeRows(groups, plane);
-    const auto lines = patternLines(loops, rows, mostLines);
-    if (lines) drawLines(*lines, maker);
-    if (isSolid || rows.empty() || !lines) drawOutline(paths, maker);
+    auto lines = patternLines(loops, rows, mostLines);
+    const bool isOutlined = isSolid || rows.empty() || !lines;
+    if (rows.empty()) maker.leftOut(record.type, "without its pattern, its outline alone");
     if (!lines) maker.leftOut(record.type, "too dense, its outline alone");
+    maker.pattern({lines ? std::move(*lines) : std::vector<PatternLine>(), outlineOf(paths), isOutlined});
 }
 
 } // namespace mirtane

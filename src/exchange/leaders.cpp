@@ -3,10 +3,10 @@
 
 #include "exchange/arrows.h"
 #include "exchange/curve_records.h"
+#include "exchange/curve_strokes.h"
 #include "exchange/dimension_variables.h"
 #include "exchange/group_run.h"
 #include "exchange/spline.h"
-#include "exchange/strokes_drawn.h"
 
 namespace mirtane {
 
@@ -21,7 +21,7 @@ void takeLeader(const DxfRecord& record, DrawingMaker& maker)
     std::vector<Vec3> line = pointsOf(record.groups, 10);
     if (record.whole(71, 1) != 0) drawArrow(line, {variables.arrow, variables.leaderArrow}, maker);
     if (record.whole(72) == bent)
-        drawStrokes(strokesOf(curvesThrough(flatPoints(line, maker), {}), maker.tolerance()), maker);
+        maker.strokes(strokesOf(curvesThrough(flatPoints(line, maker), {}), maker.tolerance()));
     else
         maker.polyline(flatPoints(line, maker), false);
     maker.look = own;

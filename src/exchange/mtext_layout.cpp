@@ -91,7 +91,8 @@ void Breaker::addWord(std::string_view word, const LetterForm& form)
         width += widthOf(firstCharacter(sign).code);
     }
     const double factor = form.height * form.widthFactor;
-    const bool isTooWide = form_.width > 0 && width_ + (width - blank) * factor > form_.width;
+    const bool isBlank = width == blank;
+    const bool isTooWide = form_.width > 0 && !isBlank && width_ + (width - blank) * factor > form_.width;
     if (isTooWide && !line_.words.empty()) endLine(Break::line, form);
     if (line_.words.empty()) line_.form = form;
     line_.words += word;

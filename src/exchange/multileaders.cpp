@@ -3,10 +3,10 @@
 
 #include "exchange/arrows.h"
 #include "exchange/curve_records.h"
+#include "exchange/curve_strokes.h"
 #include "exchange/group_run.h"
 #include "exchange/paragraphs_drawn.h"
 #include "exchange/spline.h"
-#include "exchange/strokes_drawn.h"
 
 #include <algorithm>
 #include <numbers>
@@ -95,7 +95,7 @@ void drawLine(std::vector<Vec3> points, const Lines& lines, DrawingMaker& maker)
     drawArrow(points, lines.arrow, maker);
     const std::vector<Vec> line = flatPoints(points, maker);
     if (lines.isBent && line.size() > 2)
-        drawStrokes(strokesOf(curvesThrough(line, {}), maker.tolerance()), maker);
+        maker.strokes(strokesOf(curvesThrough(line, {}), maker.tolerance()));
     else
         maker.polyline(line, false);
 }

@@ -23,7 +23,7 @@ struct PassingEnds {
     bool isClosed = false;
 };
 
-// The curve through all points that bends the least, in their order; equal neighbours count as one.
+// The curve through all points in their order; equal neighbours count as one.
 std::vector<Curve> curvesThrough(std::vector<Vec> points, const PassingEnds& ends);
 
 } // namespace mirtane

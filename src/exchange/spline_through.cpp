@@ -53,14 +53,40 @@ void solve(Through& t, std::vector<Row> rows)
     }
 }
 
-// A free end does not bend.
+Vec unit(Vec v)
+{
+    const double size = length(v);
+    return size > 0 && std::isfinite(size) ? 1 / size * v : Vec{};
+}
+
+// The direction at the first of some points as its chord and the next tell, with two more put before them on
+// a parabola: the less the curve turns behind than before, the more the chord itself counts.
+Vec estimatedWay(Vec chord, Vec next)
+{
+    const Vec before = 2 * chord - next;
+    const double turnBefore = std::abs(cross(2 * before - chord, before));
+    const double turns = turnBefore + std::abs(cross(chord, next));
+    const double part = turns > 0 ? turnBefore / turns : 1;
+    return unit((1 - part) * before + part * chord);
+}
+
+// The way at the point at an end, from the two next to it.
+Vec wayAtEnd(Vec end, Vec next, Vec third)
+{
+    return estimatedWay(next - end, third - next);
+}
+
+// An end that nothing is said of goes as its neighbours tell.
 void findWays(Through& t, const PassingEnds& ends)
 {
-    const std::size_t last = t.points.size() - 1;
+    const std::vector<Vec>& p = t.points;
+    const std::size_t last = p.size() - 1;
+    const Vec first = last > 1 ? wayAtEnd(p[0], p[1], p[2]) : unit(p[1] - p[0]);
+    const Vec final = last > 1 ? -wayAtEnd(p[last], p[last - 1], p[last - 2]) : first;
     std::vector<Row> rows;
-    rows.push_back(length(ends.start) > 0 ? Row{0, 1, 0, ends.start} : Row{0, 2, 1, 3 * t.slope(0)});
+    rows.push_back({0, 1, 0, length(ends.start) > 0 ? ends.start : first});
     for (std::size_t i = 1; i < last; ++i) rows.push_back(rowOf(t, i));
-    rows.push_back(length(ends.end) > 0 ? Row{0, 1, 0, ends.end} : Row{1, 2, 0, 3 * t.slope(last - 1)});
+    rows.push_back({0, 1, 0, length(ends.end) > 0 ? ends.end : final});
     solve(t, std::move(rows));
 }
 
@@ -98,12 +124,6 @@ Through solvedRound(const std::vector<Vec>& points)
     cut(round.at);
     cut(round.ways);
     return round;
-}
-
-Vec unit(Vec v)
-{
-    const double size = length(v);
-    return size > 0 && std::isfinite(size) ? 1 / size * v : Vec{};
 }
 
 } // namespace

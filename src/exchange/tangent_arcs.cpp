@@ -175,11 +175,29 @@ bool Fitter::run()
     return true;
 }
 
+// The larger side of the box about some of its points.
+double sizeOf(const Curve& curve)
+{
+    constexpr int looks = 32;
+    const double from = curve.breaks.front();
+    const double range = curve.breaks.back() - from;
+    Vec low = curve.at(from, Side::after).at;
+    Vec high = low;
+    for (int i = 1; i <= looks; ++i) {
+        const Vec p = curve.at(from + range * i / looks, Side::before).at;
+        low = {std::min(low.x, p.x), std::min(low.y, p.y)};
+        high = {std::max(high.x, p.x), std::max(high.y, p.y)};
+    }
+    return std::max(high.x - low.x, high.y - low.y);
+}
+
 } // namespace
 
 std::vector<Stroke> tangentArcs(const Curve& curve, double tolerance)
 {
     if (curve.breaks.size() < 2) return {};
+    constexpr double part = 1.0 / 4000;
+    if (const double size = sizeOf(curve); size > 0) tolerance = std::min(tolerance, part * size);
     constexpr int coarser = 8;
     for (int i = 0; i < coarser; ++i, tolerance *= 8) {
         Fitter fitter(curve, tolerance);

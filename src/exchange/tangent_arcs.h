@@ -35,8 +35,9 @@ struct Curve {
     std::vector<double> breaks;
 };
 
-// The strokes stray from the curve by no more than the tolerance, unless that would take thousands of them.
-// The curve is smooth from end to end; what has a corner is given in two.
+// The strokes stray from the curve by no more than the tolerance, and no more than a small part of its own
+// size, so that a small drawing is as true as a large one, unless that would take thousands of them. The
+// curve is smooth from end to end; what has a corner is given in two.
 std::vector<Stroke> tangentArcs(const Curve& curve, double tolerance);
 
 // Adds a stroke; one that runs on along the same line or circle, as far as the tolerance tells, makes the

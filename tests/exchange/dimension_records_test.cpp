@@ -41,11 +41,11 @@ TEST(DimensionRecord, WithoutAPictureALinearOneIsOneOfOurs)
     };
     const Row rows[] = {
         {"level", "70 0\n10 30\n20 12\n13 1\n23 0\n14 30\n24 5\n50 0\n", {30, 12}, {1, 12}, "29"},
-        {"upright", "70 32\n10 -8\n20 40\n13 1\n23 0\n14 30\n24 5.25\n50 90\n", {-8, 5.25}, {-8, 0}, "5.3"},
+        {"upright", "70 32\n10 -8\n20 40\n13 1\n23 0\n14 30\n24 5.27\n50 90\n", {-8, 5.27}, {-8, 0}, "5.3"},
         {"along what it measures",
          "70 1\n10 3\n20 4\n13 4\n23 -3\n14 12\n24 3\n",
-         {7.12, 7.16},
-         {-0.88, 1.16},
+         {8.28, 7.96},
+         {0.28, 1.96},
          "10"},
         {"words of its own",
          "70 0\n1 about <> all\n10 30\n20 12\n13 1\n23 0\n14 30\n24 5\n50 0\n",

@@ -48,6 +48,17 @@ TEST(Hatch, ItsLinesAreCutToItsLoopsAndItsStyleSaysWhichCount)
          "20\n20 20\n11 10\n"
          "21 20\n72 1\n10 10\n20 20\n11 10\n21 10\n97 0\n",
          0, 100},
+        {"edges in any order",
+         "91 1\n92 1\n93 4\n72 1\n10 10\n20 10\n11 20\n21 10\n72 1\n10 20\n20 20\n11 10\n21 20\n72 1\n10 "
+         "20\n20 10\n11 20\n"
+         "21 20\n72 1\n10 10\n20 20\n11 10\n21 10\n97 0\n",
+         0, 100},
+        {"two loops in one path",
+         "91 1\n92 1\n93 6\n72 1\n10 0\n20 0\n11 10\n21 0\n72 1\n10 60\n20 0\n11 70\n21 0\n72 1\n10 10\n20 "
+         "0\n11 0\n"
+         "21 10\n72 1\n10 70\n20 0\n11 60\n21 10\n72 1\n10 0\n20 0\n11 0\n21 10\n72 1\n10 60\n20 0\n11 "
+         "60\n21 10\n",
+         0, 100},
         {"a half circle clockwise",
          "91 1\n92 1\n93 2\n72 2\n10 15\n20 15\n40 8\n50 0\n51 180\n73 0\n72 1\n10 7\n20 15\n11 23\n21 "
          "15\n97 0\n",
@@ -110,6 +121,33 @@ TEST(Hatch, TooDenseAPatternGivesWayToTheOutlineAndIsSaid)
                                   level(1e-6) + "98 0\n");
     EXPECT_EQ(drawing.objects.size(), 4U);
     EXPECT_EQ(drawing.leftOut.size(), 1U);
+}
+
+TEST(Hatch, OneWithoutAPatternIsItsOutlineAndSaid_OneWithoutPathsIsNothing)
+{
+    const auto bare = madeFrom(begin + "70 0\n71 0\n91 1\n" + square + "75 0\n76 1\n78 0\n");
+    EXPECT_EQ(bare.objects.size(), 4U);
+    EXPECT_EQ(bare.leftOut.size(), 1U);
+    const auto nothing = madeFrom(begin + "70 1\n71 0\n91 0\n75 1\n76 1\n98 0\n");
+    EXPECT_TRUE(nothing.objects.empty());
+    EXPECT_TRUE(nothing.leftOut.empty());
+}
+
+// Those of few lines have room before those of many, and lines and circles before any.
+TEST(Hatch, WhereTheTableEndsTheOutlineStandsForTheLines)
+{
+    const std::string path = "71 0\n91 1\n" + square + "75 0\n76 1\n52 0\n41 1\n77 0\n";
+    std::string hatches;
+    for (int i = 0; i < 12; ++i) hatches += begin + "70 0\n" + path + level(0.002);
+    const auto drawing =
+        madeFrom(hatches + begin + "70 0\n" + path + level(1) + "0 CIRCLE\n8 0\n10 3\n20 3\n40 1\n");
+    EXPECT_LE(drawing.objects.size(), 58'000U);
+    EXPECT_GT(drawing.objects.size(), 50'000U);
+    EXPECT_EQ(drawing.withoutRoom, 0);
+    EXPECT_EQ(drawing.objects[0].kind, Kind::circle);
+    EXPECT_NEAR(lengthOfAll({drawing.objects.begin() + 1, drawing.objects.begin() + 11}), 100, 1e-6);
+    ASSERT_EQ(drawing.leftOut.size(), 1U);
+    EXPECT_EQ(drawing.leftOut.begin()->second, 1);
 }
 
 TEST(Hatch, CutShortItTakesNoHarm)

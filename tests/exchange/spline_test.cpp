@@ -170,6 +170,37 @@ TEST(SplineThrough, PassesThroughItsPointsAndBendsOn)
     }
 }
 
+// As if two more points before the first lay on a parabola through the next ones.
+TEST(SplineThrough, AnEndThatNothingIsSaidOfGoesAsItsNeighboursTell)
+{
+    struct Row {
+        const char* what;
+        std::vector<Vec> points;
+        Vec start, end;
+    };
+    const Row rows[] = {
+        {"three", {{0, 0}, {5, 5}, {10, 0}}, {1, 2}, {1, -2}},
+        {"four", {{10, 10}, {60, 80}, {110, 20}, {160, 90}}, {50, 135}, {50, 135}},
+        {"five", {{0, 0}, {10, 4}, {12, 9}, {3, 20}, {-5, 6}}, {4, 1}, {-12.661, -44.7355}},
+        {"two", {{2, 3}, {5, -1}}, {3, -4}, {3, -4}},
+        {"on a line", {{0, 0}, {2, 1}, {6, 3}}, {2, 1}, {2, 1}},
+    };
+    for (const Row& row : rows) {
+        for (const double angle : {0.0, 1.3}) {
+            std::vector<Vec> points;
+            for (const Vec p : row.points) points.push_back(placed(3 * p, angle, {-800, 45}));
+            const auto curves = curvesThrough(points, {});
+            ASSERT_EQ(curves.size(), 1U) << row.what;
+            const auto turned = [&](Vec v) { return directionOf(placed(v, angle, {})); };
+            const Curve& curve = curves[0];
+            EXPECT_NEAR(directionOf(curve.at(curve.breaks.front(), Side::after).way), turned(row.start), 1e-5)
+                << row.what;
+            EXPECT_NEAR(directionOf(curve.at(curve.breaks.back(), Side::before).way), turned(row.end), 1e-5)
+                << row.what;
+        }
+    }
+}
+
 TEST(SplineThrough, PointsOfACircleComeCloseToIt)
 {
     std::vector<Vec> points;

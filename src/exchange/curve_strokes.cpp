@@ -1,4 +1,4 @@
-#include "exchange/strokes_drawn.h"
+#include "exchange/curve_strokes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,16 +13,6 @@ EllipseArc arcOf(const Stroke& stroke)
     const double turn = std::abs(stroke.sweep);
     return {stroke.centre, out, (stroke.sweep < 0 ? -1 : 1) * turnedLeft(out), 0,
             turn > whole - little ? whole : turn};
-}
-
-void drawStrokes(std::span<const Stroke> strokes, DrawingMaker& maker)
-{
-    for (const Stroke& stroke : strokes) {
-        if (stroke.isArc())
-            maker.arc(arcOf(stroke));
-        else
-            maker.line(stroke.from, stroke.to);
-    }
 }
 
 std::vector<Stroke> strokesOf(std::span<const Curve> curves, double tolerance)

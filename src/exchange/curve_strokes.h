@@ -1,12 +1,15 @@
 #pragma once
 
-#include "exchange/drawing_maker.h"
+#include "exchange/ellipse_pieces.h"
 #include "exchange/tangent_arcs.h"
+
+#include <span>
+#include <vector>
 
 namespace mirtane {
 
-EllipseArc arcOf(const Stroke& stroke); // which is one
-void drawStrokes(std::span<const Stroke> strokes, DrawingMaker& maker);
+// Of a stroke that is one.
+EllipseArc arcOf(const Stroke& stroke);
 
 // Of all curves, one after the other.
 std::vector<Stroke> strokesOf(std::span<const Curve> curves, double tolerance);
