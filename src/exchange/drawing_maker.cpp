@@ -213,6 +213,13 @@ void DrawingMaker::record(const DxfRecord& record)
     take(record, *this);
 }
 
+void DrawingMaker::own(const DxfRecord& record, Made made)
+{
+    if (!takesStep()) return leftOut(record.type, "too many");
+    const Lent lookKept(look, looks_.of(record, insert_));
+    add(std::move(made));
+}
+
 void DrawingMaker::leftOut(std::string_view type, std::string_view why)
 {
     constexpr std::size_t mostReasons = 1000; // a file may name its types as it likes
@@ -288,7 +295,7 @@ void DrawingMaker::leaveOutUnusedLayers()
     std::vector<MadeLayer> kept;
     for (std::size_t i = 0; i < used.size(); ++i) {
         const std::string& name = made_.layers[i].name;
-        const bool mayGo = name == "0" || isSameName(name, "DEFPOINTS");
+        const bool mayGo = !made_.layers[i].isOwn && (name == "0" || isSameName(name, "DEFPOINTS"));
         numbers.push_back(static_cast<std::int16_t>(kept.size())); // at most 1,000 of them
         if (used[i] || !mayGo) kept.push_back(made_.layers[i]);
     }

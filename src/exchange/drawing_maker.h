@@ -77,6 +77,9 @@ class DrawingMaker {
     // One record as it stands, by the row of its type.
     void record(const DxfRecord& record);
 
+    // The record stands for an object that is known already.
+    void own(const DxfRecord& record, Made made);
+
     // Counts a record, or a part of one, that is not drawn: "SPLINE", and, in a few words, why if the type is
     // drawn as a rule.
     void leftOut(std::string_view type, std::string_view why = {});

@@ -1,6 +1,7 @@
 #include "exchange/full_reading.h"
 
 #include "exchange/handlers.h"
+#include "exchange/own_data.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
 
@@ -51,14 +52,29 @@ bool isOfPaper(const DxfRecord& record)
     return record.whole(space) == 1;
 }
 
+// Draws the first of the records, and gives how many that took.
+std::size_t drawFirst(std::span<const DxfRecord> records, const DxfList& list, DrawingMaker& maker)
+{
+    constexpr int invisible = 60;
+    const DxfRecord& first = records.front();
+    const std::optional<OwnObject> own = first.has(invisible) ? std::nullopt : ownObject(records, list);
+    if (!own) {
+        maker.record(first);
+        return 1;
+    }
+    maker.own(first, own->made);
+    return own->records;
+}
+
 // What is on paper is seen only where the model has nothing.
 void drawEntities(const DxfList& list, DrawingMaker& maker)
 {
     bool modelIsEmpty = true;
-    for (const DxfRecord& one : list.entities) {
-        if (isOfPaper(one)) continue;
-        maker.record(one);
-        modelIsEmpty = false;
+    const std::span<const DxfRecord> all = list.entities;
+    for (std::size_t i = 0; i < all.size();) {
+        const bool isShown = !isOfPaper(all[i]);
+        i += isShown ? drawFirst(all.subspan(i), list, maker) : 1;
+        if (isShown) modelIsEmpty = false;
     }
     for (const DxfRecord& one : list.entities) {
         if (!isOfPaper(one)) continue;

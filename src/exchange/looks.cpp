@@ -1,5 +1,6 @@
 #include "exchange/looks.h"
 
+#include "exchange/own_data.h"
 #include "model/layers.h"
 #include "tables/pens.h"
 
@@ -44,7 +45,10 @@ void Looks::addRow(const DxfRecord& layer)
     row.style = styleOf(layer.name(6));
     row.off = color < 0;
     row.frozen = (layer.whole(70) & frozen) != 0;
+    const std::size_t before = made_.size();
     addRow(layer.name(2), row);
+    const std::optional<std::string> own = ownLayerName(layer, list_);
+    if (own && made_.size() > before) made_.back() = {*own, made_.back().hidden, true};
 }
 
 // Those for which there is no room go with the last one.

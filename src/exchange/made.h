@@ -41,6 +41,7 @@ struct Made {
 struct MadeLayer {
     std::string name; // UTF-8
     bool hidden = false;
+    bool isOwn = false; // a layer of a drawing of ours, which stays though nothing is on it
 };
 
 // What was left out, and why ("" for a type that is never drawn), how often.

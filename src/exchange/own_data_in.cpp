@@ -1,0 +1,170 @@
+// exchange/own_data_in.cpp: what own_data.cpp wrote, read again.
+
+#include "exchange/own_data.h"
+
+#include "exchange/own_data_codes.h"
+#include "exchange/words_out.h"
+#include "geometry/fault.h"
+#include "tables/kinds.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace mirtane {
+namespace {
+
+// Takes the data of a record one by one. What is not there, or something else, makes all of it bad.
+class Reader {
+  public:
+    Reader(const DxfRecord& record, const DxfList& list) : list_(list)
+    {
+        const auto named = [](const DxfGroup& group) {
+            return group.code == data::application && trimmed(group.value) == applicationName;
+        };
+        const auto first = std::ranges::find_if(record.groups, named);
+        good_ = first != record.groups.end();
+        if (!good_) return;
+        const auto behind = [](const DxfGroup& group) { return group.code == data::application; };
+        rest_ = {std::next(first), std::find_if(std::next(first), record.groups.end(), behind)};
+    }
+
+    bool good() const { return good_; }
+
+    int whole() { return dxfWhole(next(data::whole)); }
+    double number() { return dxfNumber(next(data::number)); }
+    Vec point()
+    {
+        const double x = number();
+        return {x, number()};
+    }
+    std::string words()
+    {
+        std::string all;
+        next(data::brace);
+        while (!rest_.empty() && rest_.front().code == data::words) all += list_.text(next(data::words));
+        next(data::brace);
+        return all;
+    }
+
+  private:
+    std::string_view next(int code)
+    {
+        good_ = good_ && !rest_.empty() && rest_.front().code == code;
+        if (!good_) return {};
+        const std::string_view value = rest_.front().value;
+        rest_ = rest_.subspan(1);
+        return value;
+    }
+
+    const DxfList& list_;
+    DxfGroups rest_;
+    bool good_ = false;
+};
+
+// Other programs write numbers with more digits or fewer.
+bool isAsKept(const DxfGroup& group, double value)
+{
+    constexpr double allowance = 1e-8;
+    return std::abs(dxfNumber(group.value) - value) <= allowance * std::max(1.0, std::abs(value));
+}
+
+// The groups of a record by their codes, those of one code in the order of the record.
+class GroupsInOrder {
+  public:
+    explicit GroupsInOrder(DxfGroups groups) : groups_(groups) {}
+
+    // The next one of the code, or null.
+    const DxfGroup* next(int code)
+    {
+        std::size_t& at = begun_[code];
+        while (at < groups_.size() && groups_[at].code != code) ++at;
+        return at < groups_.size() ? &groups_[at++] : nullptr;
+    }
+
+  private:
+    DxfGroups groups_;
+    std::map<int, std::size_t> begun_;
+};
+
+// The kind that is named, if all the groups stand as they were written.
+std::optional<int> unchangedKind(Reader& in, const DxfRecord& record)
+{
+    const int kind = in.whole();
+    bool same = true;
+    GroupsInOrder groups(record.groups);
+    for (int left = in.whole(); left > 0 && in.good(); --left) {
+        const DxfGroup* const group = groups.next(in.whole());
+        const double value = in.number();
+        same = same && group != nullptr && isAsKept(*group, value);
+    }
+    if (!in.good() || !same) return std::nullopt;
+    return kind;
+}
+
+Made objectIn(Reader& in)
+{
+    Made made;
+    for (Vec& p : made.p) p = in.point();
+    for (double* const value :
+         {&made.radius, &made.from, &made.to, &made.ratio, &made.size, &made.rotation}) {
+        *value = in.number();
+    }
+    keep(made.arrow, in.whole());
+    keep(made.text.justification, in.whole());
+    made.text.underlined = in.whole() == 1;
+    made.text.face = in.words();
+    made.text.words = in.words();
+    return made;
+}
+
+// The words that a record shows, in one piece or several, are those that were written.
+bool showsWords(const DxfRecord& record, const std::string& written, const DxfList& list)
+{
+    std::string shown;
+    for (const DxfGroup& group : record.groups) {
+        if (group.code == 1 || (group.code == 3 && record.type == "MTEXT")) shown += group.value;
+    }
+    return list.text(shown) == list.text(written);
+}
+
+bool isPart(const DxfRecord& record, const Made& leader, const DxfList& list)
+{
+    Reader in(record, list);
+    return in.good() && unchangedKind(in, record) == partOfAnother &&
+           showsWords(record, dxfParagraph(leader.text.words), list);
+}
+
+} // namespace
+
+std::optional<std::string> ownLayerName(const DxfRecord& record, const DxfList& list)
+{
+    Reader in(record, list);
+    std::string name = in.words();
+    const bool same = in.words() == list.text(record, 2);
+    if (!in.good() || !same) return std::nullopt;
+    return name;
+}
+
+std::optional<OwnObject> ownObject(std::span<const DxfRecord> records, const DxfList& list)
+{
+    const DxfRecord& record = records.front();
+    Reader in(record, list);
+    if (!in.good()) return std::nullopt;
+    const std::optional<int> kind = unchangedKind(in, record);
+    Made made = objectIn(in);
+    if (!kind || !in.good()) return std::nullopt;
+    std::int16_t number = 0;
+    keep(number, *kind);
+    made.kind = static_cast<Kind>(number); // any number is a kind, though none that is drawn
+    if (made.kind == Kind::ellipse) return OwnObject{made};
+    if (made.kind == Kind::leader && !isAnnotated(made)) return OwnObject{made};
+    if (made.kind == Kind::leader) {
+        if (records.size() < 2 || !isPart(records[1], made, list)) return std::nullopt;
+        return OwnObject{made, 2};
+    }
+    if (!hasWords(made.kind) || !showsWords(record, wordsShown(made), list)) return std::nullopt;
+    return OwnObject{made};
+}
+
+} // namespace mirtane

@@ -1,0 +1,30 @@
+#pragma once
+
+// Words as a DXF file holds them: letters beyond ASCII as "\U+XXXX", and nothing in them that a reader would
+// take for a sign of its own.
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mirtane {
+
+// Of a text of one line.
+std::string dxfLineOfText(std::string_view utf8);
+// Of a paragraph.
+std::string dxfParagraph(std::string_view utf8);
+// Of what no one reads as a text: in pieces, since a file bounds how long one may be.
+std::vector<std::string> dxfPieces(std::string_view utf8);
+
+// The names of a table: each with no sign that a name may not have, and none like another, in letters small
+// or large.
+class DxfNames {
+  public:
+    std::string add(std::string_view utf8);
+
+  private:
+    std::set<std::string> taken_;
+};
+
+} // namespace mirtane
