@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QThread>
 
 #include <algorithm>
 #include <charconv>
@@ -12,19 +13,26 @@ namespace mirtane::convert {
 
 const char* const helpText =
     "Usage: mirtane-convert [OPTION]... IN... -o OUT\n"
-    "Converts drawings (.mtd) and DXF files (.dxf) into .mtd, .dxf, .png, .svg or .pdf.\n"
+    "   or: mirtane-convert --compare OLD NEW -o PICTURE.png\n"
+    "Converts drawings (.mtd) and DXF files (.dxf) into .mtd, .dxf, .png, .svg, .pdf or\n"
+    ".txt.\n"
     "\n"
     "  -o OUT          the file to write; its extension is the format. In its name %\n"
     "                  stands for the name of the input without its extension, and %%\n"
     "                  for a percent sign: \"-o plots/%.pdf\" takes any number of inputs.\n"
     "                  OUT may also be a folder, together with --to\n"
-    "      --to FORMAT mtd, dxf, png, svg or pdf, whatever the extension of OUT\n"
+    "      --to FORMAT mtd, dxf, png, svg, pdf or txt, whatever the extension of OUT;\n"
+    "                  with \"--to txt -o -\" the lines of one drawing go to standard output\n"
+    "      --compare   draws what went from OLD in red, what came in NEW in green, and\n"
+    "                  the rest in grey\n"
+    "  -j N            N files at a time, 0 as many as the machine has cores; a table of\n"
+    "                  them all at the end\n"
     "      --size WxH  pixels of a .png, 1200x800 by default\n"
     "      --paper P   paper of a .pdf or .svg: a0 to a6, letter, legal or tabloid;\n"
     "                  a4 by default\n"
     "      --layer N   only what is on layer N\n"
     "      --as-window take DXF files as Open DXF in the window does, which leaves out\n"
-    "                  most of what other programs write\n"
+    "                  most of what other programs write, and write them as Save DXF\n"
     "  -h, --help      print this and exit\n"
     "  --              what follows is no option\n"
     "\n"
@@ -38,11 +46,8 @@ struct FormatRow {
     Format format;
 };
 
-constexpr FormatRow formats[] = {{"mtd", Format::mtd},
-                                 {"dxf", Format::dxf},
-                                 {"png", Format::png},
-                                 {"svg", Format::svg},
-                                 {"pdf", Format::pdf}};
+constexpr FormatRow formats[] = {{"mtd", Format::mtd}, {"dxf", Format::dxf}, {"png", Format::png},
+                                 {"svg", Format::svg}, {"pdf", Format::pdf}, {"txt", Format::txt}};
 
 struct PaperRow {
     std::string_view name;
@@ -62,6 +67,8 @@ struct Given {
     std::vector<std::string> inputs;
     std::string out;
     bool help = false;
+    bool compare = false;
+    std::optional<int> workers; // 0 for as many as there are cores
 };
 
 std::string lowered(std::string text)
@@ -132,6 +139,13 @@ void takeLayer(Given& given, const std::string& value)
     given.wishes.layer = static_cast<std::int16_t>(*number); // within the limit just tested
 }
 
+void takeWorkers(Given& given, const std::string& value)
+{
+    constexpr int most = 1024;
+    given.workers = wholeNumber(value, 0, most);
+    if (!given.workers) throw WrongUsage{"no number of workers: " + value};
+}
+
 struct OptionRow {
     std::string_view name;
     void (*take)(Given& given, const std::string& value);
@@ -139,7 +153,7 @@ struct OptionRow {
 
 constexpr OptionRow optionsWithValue[] = {
     {"-o", takeOut},        {"--to", takeFormat},   {"--size", takeSize},
-    {"--paper", takePaper}, {"--layer", takeLayer},
+    {"--paper", takePaper}, {"--layer", takeLayer}, {"-j", takeWorkers},
 };
 
 const OptionRow* optionWithValue(const std::string& word)
@@ -154,6 +168,8 @@ void takeFlag(Given& given, const std::string& word)
 {
     if (word == "--as-window")
         given.wishes.asWindow = true;
+    else if (word == "--compare")
+        given.compare = true;
     else if (word == "--help" || word == "-h")
         given.help = true;
     else
@@ -241,7 +257,24 @@ Format formatWished(const Given& given)
     if (given.to) return *given.to;
     if (isFolder(given.out)) throw WrongUsage{given.out + " is a folder: --to must name the format"};
     if (const auto format = formatOf(given.out)) return *format;
-    throw WrongUsage{"no .mtd, .dxf, .png, .svg or .pdf: " + given.out};
+    throw WrongUsage{"no .mtd, .dxf, .png, .svg, .pdf or .txt: " + given.out};
+}
+
+// Two files into one picture.
+void refuseComparison(const Given& given, Format format)
+{
+    if (given.inputs.size() != 2) throw WrongUsage{"--compare takes two files"};
+    if (format != Format::png) throw WrongUsage{"--compare makes a .png"};
+    for (const std::string& input : given.inputs) {
+        if (identityOf(input) == identityOf(given.out))
+            throw WrongUsage{"would be written over, as an input: " + given.out};
+    }
+}
+
+void refuseStandardOutput(const Given& given, Format format)
+{
+    if (format != Format::txt || given.inputs.size() != 1 || given.workers)
+        throw WrongUsage{"only one drawing as txt goes to standard output"};
 }
 
 // One file must not be lost to another, so all outputs differ, and none of them is an input.
@@ -253,6 +286,12 @@ void refuseCollisions(const std::vector<Job>& jobs)
         if (taken.insert(identityOf(job.out)).second) continue;
         throw WrongUsage{"would be written over, as an input or by another one: " + job.out};
     }
+}
+
+int workersFor(int wished)
+{
+    constexpr int least = 1;
+    return wished > 0 ? wished : std::max(QThread::idealThreadCount(), least);
 }
 
 } // namespace
@@ -272,11 +311,16 @@ Arguments argumentsOf(const std::vector<std::string>& words)
     if (given.out.empty()) throw WrongUsage{"no -o OUT"};
     arguments.wishes = given.wishes;
     arguments.wishes.format = formatWished(given);
+    arguments.compare = given.compare;
+    if (given.workers) arguments.workers = workersFor(*given.workers);
+    const bool toStandardOutput = given.out == standardOutput;
+    if (given.compare) refuseComparison(given, arguments.wishes.format);
+    if (toStandardOutput) refuseStandardOutput(given, arguments.wishes.format);
     for (const std::string& input : given.inputs) {
         const std::string out = outputOf(given, input, arguments.wishes.format);
-        arguments.jobs.push_back({input, absolute(input), absolute(out)});
+        arguments.jobs.push_back({input, absolute(input), toStandardOutput ? out : absolute(out)});
     }
-    refuseCollisions(arguments.jobs);
+    if (!given.compare && !toStandardOutput) refuseCollisions(arguments.jobs);
     return arguments;
 }
 

@@ -12,7 +12,10 @@
 
 namespace mirtane::convert {
 
-enum class Format { mtd, dxf, png, svg, pdf };
+enum class Format { mtd, dxf, png, svg, pdf, txt };
+
+// Stands for standard output in the place of a file.
+inline constexpr const char* standardOutput = "-";
 
 // One file and what becomes of it: absolute paths, UTF-8. named is the input as the user wrote it.
 struct Job {
@@ -31,6 +34,8 @@ struct Arguments {
     bool help = false; // then nothing else is set
     Wishes wishes;
     std::vector<Job> jobs; // at least one; no output is an input or the output of another job
+    bool compare = false;  // the first with the second, into a picture that is the output of both
+    int workers = 0;       // so many files at a time; 0 without a table at the end
 };
 
 // A command line that can't be followed, in a few words.

@@ -1,9 +1,13 @@
 #include "convert/exports.h"
 
 #include "dxf/dxf_writer.h"
+#include "exchange/dxf_drawing.h"
 #include "files/drawing_file.h"
+#include "files/drawing_text.h"
 #include "platform/qt/page_painter.h"
 #include "print/page.h"
+#include "render/view.h"
+#include "text/numbers.h"
 
 #include <QBuffer>
 #include <QSvgGenerator>
@@ -11,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <iostream>
 
 namespace mirtane::convert {
 namespace {
@@ -38,7 +43,27 @@ Fault writeMtd(App& app, const std::string& out, const Wishes& wishes)
     return put(app, out, drawingBytes(app.s, wishes.layer ? SaveWhat::selected : SaveWhat::drawing));
 }
 
-Fault writeDxf(App& app, const std::string& out, const Wishes&)
+Fault put(App& app, const std::string& out, const std::string& bytes)
+{
+    return put(app, out, Bytes(bytes.begin(), bytes.end()));
+}
+
+// For other programs.
+Fault writeDxf(App& app, const std::string& out, const Wishes& wishes, Outcome& outcome)
+{
+    const DxfDrawing file =
+        dxfDrawing({app.s.store, app.s.layerTable, app.s, wishes.layer, textWidthOn(app.pic1)});
+    if (file.leftOut > 0) {
+        outcome.leftOut = true;
+        outcome.remarks.push_back(withThousands(file.leftOut) +
+                                  (file.leftOut == 1 ? " object that shows" : " objects that show") +
+                                  " nothing left out");
+    }
+    return put(app, out, file.bytes);
+}
+
+// As Save DXF does.
+Fault writePlainDxf(App& app, const std::string& out)
 {
     const DxfFile file = dxfFile(app.s.store, app.dxfScratch);
     if (const Fault fault = put(app, out, file.bytes)) return fault;
@@ -141,7 +166,39 @@ Fault writeSvg(App& app, const std::string& out, const Wishes& wishes)
     return put(app, out, bytes);
 }
 
-Fault writePng(App& app, const std::string& out, const Surface& surface)
+// To "-", on standard output.
+Fault writeText(App& app, const std::string& out, const Wishes& wishes)
+{
+    const std::string text = drawingText(app.s, wishes.layer);
+    if (out != standardOutput) return put(app, out, text);
+    std::cout << text << std::flush;
+    if (std::cout) return std::nullopt;
+    return "can't be written to standard output";
+}
+
+Fault writeSelected(App& app, const std::string& out, const Wishes& wishes, Outcome& outcome)
+{
+    changeStat(app.s.store, Stat::on, Stat::sel);
+    switch (wishes.format) { // no default: a new format is a warning here
+    case Format::mtd:
+        return writeMtd(app, out, wishes);
+    case Format::dxf:
+        return wishes.asWindow ? writePlainDxf(app, out) : writeDxf(app, out, wishes, outcome);
+    case Format::svg:
+        return writeSvg(app, out, wishes);
+    case Format::pdf:
+        return writePdf(app, out, wishes);
+    case Format::txt:
+        return writeText(app, out, wishes);
+    case Format::png:
+        break; // no selection shows in it
+    }
+    return "can't be written: " + out;
+}
+
+} // namespace
+
+Fault writePicture(App& app, const std::string& out, const Surface& surface)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -149,25 +206,11 @@ Fault writePng(App& app, const std::string& out, const Surface& surface)
     return put(app, out, bytes);
 }
 
-} // namespace
-
-Fault exportTo(const std::string& out, const Wishes& wishes, App& app, const Surface& surface)
+void exportTo(const std::string& out, const Wishes& wishes, App& app, const Surface& surface,
+              Outcome& outcome)
 {
-    if (wishes.format == Format::png) return writePng(app, out, surface);
-    changeStat(app.s.store, Stat::on, Stat::sel);
-    switch (wishes.format) { // no default: a new format is a warning here
-    case Format::mtd:
-        return writeMtd(app, out, wishes);
-    case Format::dxf:
-        return writeDxf(app, out, wishes);
-    case Format::svg:
-        return writeSvg(app, out, wishes);
-    case Format::pdf:
-        return writePdf(app, out, wishes);
-    case Format::png:
-        break; // above
-    }
-    return "can't be written: " + out;
+    outcome.fault = wishes.format == Format::png ? writePicture(app, out, surface)
+                                                 : writeSelected(app, out, wishes, outcome);
 }
 
 } // namespace mirtane::convert

@@ -89,7 +89,7 @@ TEST_F(Convert, DrawingStaysTheSameDrawing)
 
 TEST_F(Convert, DxfHoldsDrawingUnitsGrowingUpward)
 {
-    expectDone("house.mtd -o house.dxf");
+    expectDone("--as-window house.mtd -o house.dxf");
     const std::string dxf = p.content("house.dxf");
     EXPECT_THAT(dxf, StartsWith("  0\r\nSECTION\r\n  2\r\nHEADER\r\n"));
     EXPECT_THAT(dxf, testing::EndsWith("ENDSEC\r\n  0\r\nEOF\r\n"));
@@ -258,7 +258,7 @@ TEST_F(Convert, DimensionThatDxfCannotHoldEndsTheFileAndIsToldOf)
     odd.style = 9;
     odd.t1 = "R4";
     p.writeDrawing("odd.mtd", {header(), line({0, 0}, {120, 24}, 1), odd});
-    expectRefused("odd.mtd -o odd.dxf", 1, "odd.mtd: ", "arrow style");
+    expectRefused("--as-window odd.mtd -o odd.dxf", 1, "odd.mtd: ", "arrow style");
     EXPECT_THAT(p.content("odd.dxf"), HasSubstr("\r\n 11\r\n10\r\n"));
     EXPECT_THAT(p.content("odd.dxf"), Not(HasSubstr("EOF")));
 }
@@ -311,7 +311,8 @@ TEST_F(Convert, HelpNamesEveryOption)
     const fake::Converted got = p.run("--help");
     EXPECT_EQ(got.status, 0);
     EXPECT_EQ(got.err, "");
-    for (const char* option : {"-o ", "--to ", "--size ", "--paper ", "--layer ", "--as-window ", "--help "})
+    for (const char* option :
+         {"-o ", "--to ", "--size ", "--paper ", "--layer ", "--as-window ", "--compare ", "-j ", "--help "})
         EXPECT_THAT(got.out, HasSubstr(option));
 }
 
@@ -320,7 +321,7 @@ TEST_F(Convert, ManualPageNamesEveryOption)
     std::ifstream file(std::string(MIRTANE_SOURCE_DIR) + "/docs/mirtane-convert.1");
     const std::string page{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     for (const char* option : {"\\-o", "\\-\\-to", "\\-\\-size", "\\-\\-paper", "\\-\\-layer",
-                               "\\-\\-as\\-window", "\\-\\-help", "EXIT STATUS"})
+                               "\\-\\-as\\-window", "\\-\\-compare", "\\-j", "\\-\\-help", "EXIT STATUS"})
         EXPECT_THAT(page, HasSubstr(option));
 }
 

@@ -28,7 +28,7 @@ has_all_files() {
     done
     has "$prefix" share/mirtane/{mirtanehelp.txt,samples/libraries.mtd,samples/first-drawing.play} \
         share/mirtane/libraries/{basin.mta,brick.mth,wall-4.mtm} share/doc/mirtane/copyright \
-        share/applications/mirtane.desktop share/mime/packages/mirtane.xml \
+        share/applications/mirtane.desktop share/thumbnailers/mirtane.thumbnailer share/mime/packages/mirtane.xml \
         share/metainfo/org.mirtane.Mirtane.metainfo.xml share/icons/hicolor/scalable/apps/mirtane.svg
     for size in 16 22 24 32 48 64 128 256 512; do
         icon_is "$prefix" $size apps/mirtane
@@ -89,11 +89,25 @@ opens_library() {
     until_true title_has "Place Associate"
 }
 
+# makes_thumbnails PREFIX: as a file manager does by the entry, of the size it asks for.
+makes_thumbnails() {
+    local entry=$1/share/thumbnailers/mirtane.thumbnailer line size
+    for size in 128 512; do
+        line=$(sed -n 's/^Exec=//p' "$entry")
+        line=${line//%s/$size}
+        line=${line//%i/$1/share/mirtane/samples/libraries.mtd}
+        PATH=$1/bin:$PATH sh -c "${line//%o/$OUT_DIR/thumbnail-$size.png}" || fail "no thumbnail: $line"
+        seen=$(convert "$OUT_DIR/thumbnail-$size.png" -format "%wx%h %[fx:mean>0.005]" info:)
+        [ "$seen" = "${size}x$size 1" ] || fail "the thumbnail looks wrong: $seen"
+    done
+}
+
 # runs_from PREFIX: all three programs, with what they find there.
 runs_from() {
     open_display
     "$1/bin/mirtane-convert" "$1/share/mirtane/samples/libraries.mtd" -o "$OUT_DIR/sheet.png"
     [ -s "$OUT_DIR/sheet.png" ] || fail "mirtane-convert has written nothing"
+    makes_thumbnails "$1"
     mkdir "$OUT_DIR/played"
     (cd "$OUT_DIR/played" && "$1/bin/mirtane-play" --home . "$1/share/mirtane/samples/first-drawing.play")
     ls "$OUT_DIR/played"/*.mtd >/dev/null || fail "mirtane-play has saved no drawing"

@@ -1,0 +1,44 @@
+#include "convert/desk.h"
+
+#include "app/files/open_drawing.h"
+#include "dxf/scanner.h"
+
+namespace mirtane::convert {
+namespace {
+
+// What a reading in full has to say of itself.
+void tell(const FullReport& report, Outcome& outcome)
+{
+    outcome.leftOut = !report.isWhole();
+    std::string left = sentenceOfLeftOut(report);
+    if (!report.isDxf) left = "no DXF file";
+    if (report.isDxf && report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
+    const std::string came = sentenceOfWhatCame(report);
+    if (!left.empty()) outcome.remarks.push_back(left + (came.empty() ? "" : "; " + came + " came"));
+    if (const std::string moved = sentenceOfMove(report); !moved.empty()) outcome.remarks.push_back(moved);
+}
+
+} // namespace
+
+void open(App& app, const Job& job, bool asWindow, Outcome& outcome)
+{
+    const std::optional<Format> format = formatOf(job.in);
+    if (format != Format::mtd && format != Format::dxf) {
+        outcome.fault = "no .mtd or .dxf file";
+        return;
+    }
+    const std::optional<Bytes> file = app.ports.disk.read(job.in);
+    if (!file) {
+        outcome.fault = "can't be read";
+        return;
+    }
+    forgetOwners(app.s.store);
+    if (format == Format::mtd)
+        openDrawing(app, *file);
+    else if (asWindow)
+        openDxf(app, *file);
+    else
+        tell(takeDxfInFull(app, readInFull(textOf(*file))), outcome);
+}
+
+} // namespace mirtane::convert
