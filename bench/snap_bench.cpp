@@ -1,5 +1,6 @@
 #include "snap_bench.h"
 
+#include "app/drawing/click_point.h"
 #include "sample.h"
 #include "snap/pick.h"
 #include "snap/snap.h"
@@ -78,6 +79,18 @@ void snap(State& state, SnapBench& b, Drawing drawing, const char* code)
     }
 }
 
+// What a move of the pointer costs beside its rubber band while a snap is on, with the snap that looks twice.
+void mark(State& state, SnapBench& b, Drawing drawing)
+{
+    Session& s = b.sessions[drawing];
+    prepareClick(s, 0);
+    s.stepNo = 1;
+    s.controls["snapbox"_c].text = "si";
+    int step = 0;
+    for (auto _ : state) DoNotOptimize(aimOfClick(s, b.pic1, clickAt(step++)));
+    s.controls["snapbox"_c].text.clear();
+}
+
 void pick(State& state, SnapBench& b, Drawing drawing)
 {
     Session& s = b.sessions[drawing];
@@ -147,6 +160,7 @@ constexpr SnapRow snapRows[] = {
     {"sm", {"Snap Midpoint, lines", "Snap Midpoint, all kinds"}},
 };
 
+constexpr const char* markNames[] = {"mark of a snap, lines", "mark of a snap, all kinds"};
 constexpr const char* pickNames[] = {"pick, lines", "pick, all kinds"};
 constexpr const char* windowNames[] = {"window, lines", "window, all kinds"};
 constexpr const char* filteredNames[] = {"window filtered, lines", "window filtered, all kinds"};
@@ -171,6 +185,7 @@ void registerSnapMeasures(SnapBench& bench)
     };
     for (const Drawing d : {lines, allKinds}) {
         for (const SnapRow& row : snapRows) add(row.names[d], snap, d, row.code);
+        add(markNames[d], mark, d);
         add(pickNames[d], pick, d);
         add(windowNames[d], window, d, false);
         add(filteredNames[d], window, d, true);
@@ -184,7 +199,7 @@ std::span<const Comparison> snapComparisons()
         std::vector<Comparison> all;
         for (const Drawing d : {lines, allKinds}) {
             for (const SnapRow& row : snapRows) all.push_back({row.names[d], passNames[d], aim});
-            for (const auto& names : {pickNames, windowNames, filteredNames})
+            for (const auto& names : {markNames, pickNames, windowNames, filteredNames})
                 all.push_back({names[d], passNames[d], aim});
         }
         return all;

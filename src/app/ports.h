@@ -56,12 +56,14 @@ struct Ports {
     Folders& folders;
     SettingsStore& settings;
     std::string programFolder;
-    Printer* printer = nullptr; // not owned; null where nothing can be printed
-    Fonts* fonts = nullptr;     // not owned; null where there are none
-    std::string ownFolder = {}; // where the user's files go at first; the program's folder if empty
-    WorkKeeper* work = nullptr; // not owned; null where nothing is kept
-    Clock* clock = nullptr;     // not owned; null where no time is told
-    OpenMarks* marks = nullptr; // not owned; null where other programs are not told
+    Printer* printer = nullptr;     // not owned; null where nothing can be printed
+    Fonts* fonts = nullptr;         // not owned; null where there are none
+    std::string ownFolder = {};     // where the user's files go at first; the program's folder if empty
+    WorkKeeper* work = nullptr;     // not owned; null where nothing is kept
+    Clock* clock = nullptr;         // not owned; null where no time is told
+    OpenMarks* marks = nullptr;     // not owned; null where other programs are not told
+    std::string homeFolder = {};    // "~" in a path; the program's folder if empty
+    std::string libraryFolder = {}; // where the libraries that come with the program stand; empty if nowhere
 };
 
 } // namespace mirtane

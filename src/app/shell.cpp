@@ -3,31 +3,27 @@
 #include "app/shell.h"
 
 #include "app/actions.h"
-#include "app/dialogs/filter_dialog.h"
-#include "app/dialogs/print_dialog.h"
 #include "app/drawing/canvas_input.h"
+#include "app/drawing/click_point.h"
 #include "app/files/file_dialog.h"
+#include "app/files/file_lists.h"
 #include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
-#include "app/menus/attribute_controls.h"
-#include "app/menus/file_menus.h"
-#include "app/menus/layer_menus.h"
-#include "app/menus/list_modes.h"
-#include "app/menus/text_menus.h"
+#include "app/marks.h"
+#include "app/routing.h"
 #include "app/start_stop.h"
-#include "app/typing/fields.h"
 #include "app/typing/keys.h"
-#include "app/typing/typed_entry.h"
+#include "app/typing/reading.h"
 #include "commands/kept_letters.h"
 #include "commands/live_text.h"
+#include "geometry/fault.h"
 #include "render/redraw.h"
 #include "render/view.h"
 #include "snap/snap.h"
-#include "tables/list_modes.h"
-#include "text/measure.h"
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace mirtane {
 namespace {
@@ -51,99 +47,17 @@ bool canBeUsed(const Controls& controls, ControlId id)
     return isSeen(controls, id) && controls[id].enabled && !isBehindForm(controls, id);
 }
 
-bool hasRow(const Control& list, int row)
+// The pointer stays where it is on the screen, whatever moves beneath it.
+void movePointerWithView(Aiming& s, const Scale& before, const Scale& after)
 {
-    return row >= 0 && row < std::ssize(list.rows);
-}
-
-struct ListRow {
-    ControlId list;
-    void (*chosen)(App& app, int row);
-};
-
-// Rows that do their work at a click.
-constexpr ListRow listRows[] = {
-    {ids::selectionList, listRowClicked}, {ids::filterLayerList, chooseFilterLayer},
-    {ids::fileList, chooseFile},          {ids::folderList, chooseFolder},
-    {ids::driveList, chooseDrive},
-};
-
-void rowChosen(App& app, ControlId list, int row)
-{
-    for (const ListRow& candidate : listRows) {
-        if (candidate.list == list) candidate.chosen(app, row);
-    }
-}
-
-bool listsFonts(const Controls& controls)
-{
-    const std::string& mode = controls[ids::listMode].caption;
-    return mode == list_mode::selectFont || mode == list_mode::changeSelectedFont;
-}
-
-void listEnter(App& app, ControlId list)
-{
-    if (list == ids::selectionList && listsFonts(app.s.controls)) return fontEntered(app);
-    if (list == ids::fileList) return confirmFileDialog(app, list);
-    const int row = app.s.controls[list].row;
-    if (hasRow(app.s.controls[list], row)) rowChosen(app, list, row);
-}
-
-std::string inNumberStyle(const Attributes& s, float length)
-{
-    return formatMeasure({length, {numStyleOf(s.numStyle), s.dimTol, s.numComma == 1}});
-}
-
-// Fields and the box of the layers forget what was half typed.
-void leave(Session& s, ControlId id)
-{
-    fieldLeft(s, id);
-    if (id == ids::layerCombo) showWorkingLayer(s);
-}
-
-void keyToControl(App& app, ControlId id, char32_t code)
-{
-    Session& s = app.s;
-    if (id == ids::drawing) return canvasKeyPress(s, app.pic1, code);
-    if (id == ids::entry) return entryKeyPress(s, app.pic1, code);
-    if (id == ids::fileName) return fileNameKeyPress(app, code);
-    if (id == ids::printScale) return printScaleKeyPress(app, code);
-    if (isNumericField(id)) return fieldKeyPress(app, id, code);
-    if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
-    if (id == ids::layerCombo) return layerNameKeyPress(app, code);
-    const bool pressed = code == enterKey || code == U' ';
-    if (isClickable(id) && pressed) {
-        if (const Action action = actionOf(id)) action(app, id);
-    }
-}
-
-bool isTextBox(ControlId id)
-{
-    const ControlKind kind = id.row().kind;
-    return kind == ControlKind::field || kind == ControlKind::display || kind == ControlKind::combo;
-}
-
-struct FormRow {
-    ControlId form;
-    void (*close)(App& app, ControlId form) = nullptr;
-};
-
-constexpr FormRow formRows[] = {
-    {ids::mainForm, [](App& app, ControlId) { leaveProgram(app); }},
-    {ids::fileForm, [](App& app, ControlId) { closeFileDialog(app); }},
-    {ids::filterForm, cancelFilter},
-    {ids::printForm, cancelPrint},
-};
-
-// A form closes as by its Cancel; one that has none only goes.
-void closeFormOf(App& app, ControlId form)
-{
-    const auto* const row = std::ranges::find(formRows, form, &FormRow::form);
-    if (row != std::end(formRows)) return row->close(app, form);
-    Controls& controls = app.s.controls;
-    const bool hadFocus = formOf(controls.focus) == form;
-    controls[form].visible = false;
-    if (hadFocus) controls.focus = ids::drawing;
+    const auto edges = [](const Scale& scale) {
+        return std::tie(scale.left, scale.top, scale.width, scale.height);
+    };
+    if (!s.pointer || edges(before) == edges(after)) return;
+    Point at = *s.pointer;
+    keep(at.x, after.left + quotient(at.x - before.left, before.width) * after.width);
+    keep(at.y, after.top + quotient(at.y - before.top, before.height) * after.height);
+    s.pointer = at;
 }
 
 } // namespace
@@ -164,8 +78,11 @@ template <class Act> void Shell::event(Act act)
 {
     if (ended()) return;
     const ControlId before = s_.controls.focus;
+    const Scale shown = pic1_.getScale();
     App app{s_, pic1_, ports_, dxfScratch_};
+    pointerCame_ = false;
     act(app);
+    if (!pointerCame_) movePointerWithView(s_, shown, pic1_.getScale());
     settle(before);
 }
 
@@ -182,24 +99,57 @@ void Shell::openDrawing(const std::string& path)
 void Shell::mouseDown(int button, Point at)
 {
     giveFocus(ids::drawing); // a field that is left so forgets what was half typed
-    eventOf(ids::drawing, [&](App&) { canvasMouseDown(s_, pic1_, button, at); });
+    eventOf(ids::drawing, [&](App&) {
+        s_.refusedKey = 0;
+        takePointer(at);
+        canvasMouseDown(s_, pic1_, button, at);
+    });
+}
+
+void Shell::takePointer(Point at)
+{
+    s_.pointer = at;
+    s_.pointerIsOver = true;
+    pointerCame_ = true;
+}
+
+void Shell::follow(Point at)
+{
+    takePointer(at);
+    canvasMouseMove(s_, pic1_, at);
 }
 
 void Shell::mouseMove(Point at)
 {
-    eventOf(ids::drawing, [&](App&) {
-        canvasMouseMove(s_, pic1_, at);
-        s_.controls[ids::pointerLine].caption = inNumberStyle(s_, at.x) + "  " + inNumberStyle(s_, at.y);
-    });
+    eventOf(ids::drawing, [&](App&) { follow(at); });
+}
+
+void Shell::pointerLeft()
+{
+    event([&](App&) { s_.pointerIsOver = false; });
 }
 
 void Shell::wheel(double steps, Point at)
 {
     constexpr double factorOfOneStep = 1.25;
+    zoom(std::pow(factorOfOneStep, steps), at);
+}
+
+void Shell::zoom(double factor, Point at)
+{
     eventOf(ids::drawing, [&](App&) {
-        zoomAbout(s_, pic1_, at, std::pow(factorOfOneStep, steps));
+        zoomAbout(s_, pic1_, at, factor);
         repaintTextPreview(s_, pic1_);
-        canvasMouseMove(s_, pic1_, at); // the rubber band, if there is one, goes on at the new scale
+        follow(at); // the rubber band, if there is one, goes on at the new scale
+    });
+}
+
+void Shell::drag(Point from, Point to)
+{
+    eventOf(ids::drawing, [&](App&) {
+        panBy(s_, pic1_, from.x - to.x, from.y - to.y);
+        repaintTextPreview(s_, pic1_);
+        follow(from); // which lies under the pointer now
     });
 }
 
@@ -227,7 +177,16 @@ void Shell::redraw()
 void Shell::keyPress(char32_t code)
 {
     const ControlId focused = s_.controls.focus;
-    eventOf(focused, [&](App& app) { keyToControl(app, focused, code); });
+    eventOf(focused, [&](App& app) {
+        const bool startsAnew = code == enterKey;
+        if (startsAnew) s_.refusedKey = 0;
+        const bool ofNumber = takesNumber(s_);
+        const Control before = s_.controls[focused];
+        keyToControl(app, focused, code);
+        const bool dropped = s_.controls.focus == focused && s_.controls[focused] == before;
+        if (ofNumber && dropped && code >= U' ') s_.refusedKey = code;
+        if (code == backspaceKey && s_.controls[focused].text.empty()) s_.refusedKey = 0;
+    });
 }
 
 void Shell::type(std::u32string_view characters)
@@ -241,9 +200,29 @@ void Shell::type(std::u32string_view characters)
     if (refused != 0) refusesLetter(s_.controls, refused);
 }
 
+void Shell::choose(ControlId entry)
+{
+    keyUp(0);
+    click(entry);
+}
+
+void Shell::shortcut(const Shortcut& keys)
+{
+    keyUp(0);
+    if (keys.onDrawing && !(s_.controls.focus == ids::drawing)) return;
+    if (keys.deed == Deed::press) return click(keys.control);
+    eventOf(ids::drawing, [&](App& app) { doDeed(app, keys.deed); });
+}
+
+void Shell::dropFile(const std::string& path)
+{
+    eventOf(ids::drawing, [&](App& app) { openDroppedFile(app, path); });
+}
+
 void Shell::click(ControlId id)
 {
     eventOf(id, [&](App& app) {
+        s_.refusedKey = 0;
         if (isTextBox(id)) {
             s_.controls.focus = id;
             setCaret(s_.controls[id], s_.controls[id].caret); // what was selected is so no more
@@ -256,7 +235,10 @@ void Shell::clickRow(ControlId list, int row)
 {
     moveToRow(list, row);
     if (!hasRow(s_.controls[list], row)) return;
-    eventOf(list, [&](App& app) { rowChosen(app, list, row); });
+    eventOf(list, [&](App& app) {
+        s_.refusedKey = 0;
+        rowChosen(app, list, row);
+    });
 }
 
 void Shell::moveToRow(ControlId list, int row)
@@ -288,6 +270,16 @@ void Shell::closeForm(ControlId form)
     eventOf(form, [&](App& app) { closeFormOf(app, form); });
 }
 
+bool Shell::previewFile(Canvas& picture)
+{
+    const std::string& path = s_.controls[ids::filePicture].text;
+    if (path.empty()) return false;
+    const auto stamp = ports_.disk.stamp(path);
+    if (!stamp || !FilePreview::isSmall(stamp->size)) return false;
+    const auto file = ports_.disk.read(path);
+    return file && preview_.draw(path, *file, picture);
+}
+
 bool Shell::takesInput(ControlId id) const
 {
     return canBeUsed(s_.controls, id);
@@ -308,6 +300,11 @@ void Shell::settle(ControlId focusBefore)
     if (!s_.ended && !isSeen(s_.controls, s_.controls.focus)) s_.controls.focus = ids::drawing;
     if (s_.controls.focus != focusBefore) leave(s_, focusBefore);
     showArmedSnap(s_);
+    showMarks(s_);
+    showPointer(s_);
+    showReading(s_);
+    const bool aims = s_.pointerIsOver && s_.pointer && !s_.ended && takesInput(ids::drawing);
+    s_.snapMark = aims ? aimOfClick(s_, pic1_, *s_.pointer) : std::nullopt;
 }
 
 } // namespace mirtane

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/files/file_preview.h"
 #include "app/ports.h"
 #include "dxf/scratch.h"
 #include "model/session.h"
 #include "render/canvas.h"
+#include "tables/shortcuts.h"
 
 #include <string_view>
 
@@ -28,8 +30,14 @@ class Shell {
     // On pic1. Buttons: 1 left, 2 right, 4 middle. Points are world coordinates.
     void mouseDown(int button, Point at);
     void mouseMove(Point at);
+    // The pointer has left the drawing.
+    void pointerLeft();
     // Zooms about a point; steps above 0 zoom in.
     void wheel(double steps, Point at);
+    // The same by a factor, above 1 in.
+    void zoom(double factor, Point at);
+    // A hand moves the drawing so that what was at one point of the picture comes to lie at another.
+    void drag(Point from, Point to);
     // Key codes: 16 Shift, 17 Ctrl, 37 left, 38 up, 39 right, 40 down.
     void keyDown(int code);
     void keyUp(int code);
@@ -50,6 +58,11 @@ class Shell {
     // An arrow key moved to the row of a list.
     void moveToRow(ControlId list, int row);
     void doubleClickRow(ControlId list, int row);
+    // An entry of the menus, by the pointer or its keys: a key that was held for a snap was held for this.
+    void choose(ControlId entry);
+    void shortcut(const Shortcut& keys);
+    // A file dropped on the window, by its absolute path: opens as it would from the menus.
+    void dropFile(const std::string& path);
     // The control got the focus; the one that had it gets its lost-focus event.
     void giveFocus(ControlId id);
     // The close button of a form's frame.
@@ -58,6 +71,10 @@ class Shell {
     // Nobody has touched the program for a moment, or it is about to be ended from outside: work that is not
     // saved is kept.
     void rest();
+
+    // Draws on a surface of its own what the file holds that is lit in the file dialog; false where that is
+    // left out.
+    bool previewFile(Canvas& picture);
 
     // Whether an event of the control would do anything.
     bool takesInput(ControlId id) const;
@@ -70,6 +87,9 @@ class Shell {
     template <class Act> void event(Act act);
     template <class Act> void eventOf(ControlId id, Act act);
 
+    void takePointer(Point at);
+    // The pointer is there: what follows it does.
+    void follow(Point at);
     // After each event: the lost-focus event of the control that had the focus before, and the prompt line.
     void settle(ControlId focusBefore);
 
@@ -77,6 +97,8 @@ class Shell {
     Canvas& pic1_;
     Ports ports_;
     DxfScratch dxfScratch_;
+    FilePreview preview_;
+    bool pointerCame_ = false; // with the event
 };
 
 } // namespace mirtane

@@ -13,14 +13,16 @@ namespace mirtane {
 namespace {
 
 // The program's folder stays the working folder, and so a row of the drives, even where files begin
-// elsewhere.
-void setFolders(FileState& s, const std::string& programFolder, const std::string& ownFolder)
+// elsewhere: the user's with the user's, the libraries where those stand that come with the program.
+void setFolders(FileState& s, const Ports& ports)
 {
-    s.programFolder = programFolder;
+    s.programFolder = ports.programFolder;
     for (FolderPair* pair : {&s.drawings, &s.associates, &s.hatches, &s.multipleLines, &s.dxf}) {
-        pair->working = programFolder;
-        pair->last = ownFolder.empty() ? programFolder : ownFolder;
+        pair->working = ports.programFolder;
+        pair->last = ports.ownFolder.empty() ? ports.programFolder : ports.ownFolder;
     }
+    if (!ports.folders.exists(ports.libraryFolder)) return;
+    for (FolderPair* pair : {&s.associates, &s.hatches, &s.multipleLines}) pair->last = ports.libraryFolder;
 }
 
 void newLayers(Session& s)
@@ -39,7 +41,7 @@ constexpr ControlId laterForms[] = {ids::fileForm, ids::filterForm, ids::editsFo
 void startProgram(App& app)
 {
     Session& s = app.s;
-    setFolders(s, app.ports.programFolder, app.ports.ownFolder);
+    setFolders(s, app.ports);
     newLayers(s);
     if (const Printer* printer = app.ports.printer) {
         s.pageWidth = printer->pageWidth();

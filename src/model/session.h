@@ -10,6 +10,7 @@
 #include "model/layers.h"
 #include "model/library_tables.h"
 #include "model/notices.h"
+#include "model/snap_mark.h"
 #include "model/undo_log.h"
 
 #include <array>
@@ -98,6 +99,11 @@ struct BoundaryLeg {
     Point from, to;
 };
 
+// A leg under way, from where it begins to the pointer or the click.
+struct Leg {
+    Point from, to;
+};
+
 struct CanvasInput {
     std::int16_t snapKey = 0;     // 1 Shift held, 2 Ctrl held
     std::int16_t orthoSector = 1; // 1 to 4, as the last move chose it
@@ -121,6 +127,15 @@ struct CanvasInput {
     std::array<BoundaryLeg, 100> boundary;
 };
 
+// What is shown over the picture and beside it while the pointer and the keys are at work.
+struct Aiming {
+    std::optional<Point> pointer;     // where it was last on the drawing, world units
+    bool pointerIsOver = false;       // it still is
+    std::optional<Leg> band;          // that the rubber band on the picture was drawn along
+    std::optional<SnapMark> snapMark; // where a click would land
+    char32_t refusedKey = 0;          // that was not taken into the number being typed, 0 none
+};
+
 // The visible world rectangle: a copy of the surface's scale, for culling.
 struct View {
     float viewLeft = 0, viewTop = 0, viewRight = 0, viewBottom = 0;
@@ -139,6 +154,7 @@ inline constexpr std::int16_t openDrawing = 3;
 inline constexpr std::int16_t openDxf = 4;
 inline constexpr std::int16_t restoreWork = 5;
 inline constexpr std::int16_t openAgain = 6;
+inline constexpr std::int16_t openDropped = 7;
 } // namespace follow
 
 // How far the work on a drawing has come (model/work_mark.h).
@@ -181,6 +197,7 @@ struct FileState {
     std::string dxfName = "untitled.dxf";
     std::optional<OpenedDxf> openedDxf;
     std::string proposedName;          // by the file dialog
+    std::string droppedFile;           // full path of what was dropped on the window and waits to be opened
     std::string filePattern = "*.mtd"; // of the file dialog
     FolderPair drawings, associates, hatches, multipleLines, dxf;
     std::string programFolder;
@@ -233,6 +250,7 @@ struct Session : Attributes,
                  FunctionState,
                  ScratchPoints,
                  CanvasInput,
+                 Aiming,
                  View,
                  FileState,
                  FilterValues,

@@ -6,6 +6,7 @@
 #include "text/utf8.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace mirtane::play {
 namespace {
@@ -186,6 +187,15 @@ void closeCommand(Stage& stage, Words&)
     stage.shell.closeForm(ids::mainForm);
 }
 
+// A file that is not there by that name is looked for in the program's folder, as the dialog would.
+void dropCommand(Stage& stage, Words& words)
+{
+    const std::filesystem::path file = words.text();
+    const std::filesystem::path beside = stage.shell.session().programFolder / file;
+    const bool isHere = file.is_absolute() || std::filesystem::exists(file);
+    stage.shell.dropFile(std::filesystem::absolute(isHere ? file : beside).lexically_normal().string());
+}
+
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1); // of words: the line ends in a text
 
 struct CommandRow {
@@ -200,7 +210,7 @@ constexpr CommandRow commandRows[] = {
     {"type", typeCommand, anyNumber}, {"enter", enterCommand, 0},     {"backspace", backspaceCommand, 0},
     {"put", putCommand, anyNumber},   {"press", pressCommand, 1},     {"focus", focusCommand, 1},
     {"pick", pickCommand, anyNumber}, {"scale", scaleCommand, 4},     {"resize", resizeCommand, 2},
-    {"close", closeCommand, 0},       {"idle", idleCommand, 0},
+    {"close", closeCommand, 0},       {"idle", idleCommand, 0},       {"drop", dropCommand, anyNumber},
 };
 
 void runCommand(Stage& stage, std::string_view line)

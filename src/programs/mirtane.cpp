@@ -97,7 +97,7 @@ int main(int argc, char* argv[])
     const Places places = placesOf(QCoreApplication::applicationDirPath());
     Shell shell(session, surface,
                 {disk, folders, settings, places.program, printer.get(), &fonts, places.ownFiles, &keeper,
-                 &clock, &marks});
+                 &clock, &marks, QDir::homePath().toStdString(), places.program + "/libraries"});
     shell.start();
     keepWork = [&] {
         shell.rest();

@@ -139,7 +139,8 @@ int run(const Options& options)
     pic1.record(options.isTyped() || content->find("ops") != std::string::npos);
     RecordingPrinter printer;
     QtFonts fonts;
-    Shell shell(*session, pic1, {disk, folders, settings, home, &printer, &fonts, {}, &work, &clock, &marks});
+    Shell shell(*session, pic1,
+                {disk, folders, settings, home, &printer, &fonts, {}, &work, &clock, &marks, home});
     shell.start();
     play::Stage stage{shell, surface, pic1, printer};
     std::istringstream script(*content);

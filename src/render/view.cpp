@@ -86,9 +86,15 @@ void zoomAbout(Session& s, Canvas& pic1, Point fixed, double factor)
 
 void pan(Session& s, Canvas& pic1, double widths, double heights)
 {
+    const Scale scale = pic1.getScale();
+    panBy(s, pic1, widths * scale.width, heights * scale.height);
+}
+
+void panBy(Session& s, Canvas& pic1, double dx, double dy)
+{
     Scale scale = pic1.getScale();
-    keep(scale.left, scale.left + widths * scale.width);
-    keep(scale.top, scale.top + heights * scale.height);
+    keep(scale.left, scale.left + dx);
+    keep(scale.top, scale.top + dy);
     show(s, pic1, scale);
 }
 

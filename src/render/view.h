@@ -27,6 +27,8 @@ void zoomAbout(Session& s, Canvas& pic1, Point fixed, double factor);
 
 // Moves the window by parts of its width and height.
 void pan(Session& s, Canvas& pic1, double widths, double heights);
+// The same by world units.
+void panBy(Session& s, Canvas& pic1, double dx, double dy);
 
 // Zoom Window: started by its button, finished by the second corner, cancelled by a right click. It changes
 // neither the function nor its step.

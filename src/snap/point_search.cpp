@@ -12,40 +12,41 @@ class Scan {
   public:
     Scan(Point from, float limit) : from_(from), least_(limit), leastSquared_(squareOf(limit)) {}
 
-    Point best() const { return best_; }
+    std::optional<ObjectPoint> best() const { return best_; }
 
-    void offer(Point p)
+    void offer(Point p, std::int32_t slot = -1)
     {
         const double dx = p.x - from_.x;
         const double dy = p.y - from_.y;
         if (!(dx * dx + dy * dy < leastSquared_)) return;
         const float d = reach(from_, p);
         if (!(d < least_)) return;
-        best_ = p;
+        best_ = {p, slot};
         least_ = d;
         leastSquared_ = squareOf(d);
     }
 
     void offerObject(const EntityStore& store, std::size_t i)
     {
+        const auto slot = static_cast<std::int32_t>(i); // below the table's end
         switch (store.kind[i]) {
         case Kind::line:
         case Kind::text: // its second pair is its size and justification, and is offered as it stands
-            offer(store.p1[i]);
-            return offer(store.p2[i]);
+            offer(store.p1[i], slot);
+            return offer(store.p2[i], slot);
         case Kind::circle:
         case Kind::point:
-            return offer(store.p1[i]);
+            return offer(store.p1[i], slot);
         case Kind::arc:
-            offer(store.p1[i]);
-            offer(store.p2[i]);
-            return offer(store.p3[i]);
+            offer(store.p1[i], slot);
+            offer(store.p2[i], slot);
+            return offer(store.p3[i], slot);
         case Kind::ellipse:
             return offerEllipse(store, i);
         case Kind::leader:
-            offer(store.p5[i]);
-            offer(store.p1[i]);
-            return offer(store.p2[i]);
+            offer(store.p5[i], slot);
+            offer(store.p1[i], slot);
+            return offer(store.p2[i], slot);
         case Kind::linearDimension:
         case Kind::radialDimension:
         case Kind::angularDimension:
@@ -58,18 +59,19 @@ class Scan {
 
     void offerEllipse(const EntityStore& store, std::size_t i)
     {
-        for (const Point p : axisEnds({store.p1[i], store.p2[i], store.p3[i].x})) offer(p);
+        const auto slot = static_cast<std::int32_t>(i); // below the table's end
+        for (const Point p : axisEnds({store.p1[i], store.p2[i], store.p3[i].x})) offer(p, slot);
     }
 
     Point from_;
     float least_;
     double leastSquared_; // what is not below it is not below least_ either
-    Point best_;
+    std::optional<ObjectPoint> best_;
 };
 
 } // namespace
 
-Point nearestObjectPoint(const Session& s, float limit)
+std::optional<ObjectPoint> nearestObjectPoint(const Session& s, float limit)
 {
     Scan scan(s.mousePos, limit);
     const auto end = EntityStore::at(s.store.end());

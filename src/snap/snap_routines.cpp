@@ -15,6 +15,8 @@
 namespace mirtane {
 namespace {
 
+constexpr std::int32_t aLeg = -1; // of the boundary under way
+
 constexpr KindSet anyWithAPoint = lineCircleArc | inKind(Kind::ellipse) | inKind(Kind::point);
 
 ObjectHit searchObject(const EntityStore& store, const ObjectSearch& search)
@@ -68,7 +70,7 @@ Point middleOfObject(const EntityStore& store, std::size_t i)
 }
 
 // Midpoints of the boundary under way, for where one of them is as near as the object or nearer.
-void offerLegMiddles(const Session& s, Point& best, float& least, bool& found)
+void offerLegMiddles(const Session& s, Point& best, float& least, FoundSlot& found)
 {
     if (functionRow(s.curFunc).snaps.ownLegs != OwnLegs::endsAndMiddles) return;
     for (std::size_t i = 0; i < boundaryLegs(s); ++i) {
@@ -77,7 +79,7 @@ void offerLegMiddles(const Session& s, Point& best, float& least, bool& found)
         if (!(d <= least)) continue;
         best = middle;
         least = d;
-        found = true;
+        found = aLeg;
     }
 }
 
@@ -149,26 +151,30 @@ Point perpendicularToCircle(const ScratchPoints& s, Point centre, double radius,
 
 } // namespace
 
-void snapPoint(Session& s, const Canvas& pic1)
+FoundSlot snapPoint(Session& s, const Canvas& pic1)
 {
-    writeOnLeg(s, nearestObjectPoint(s, pic1.getScale().width));
+    const auto found = nearestObjectPoint(s, pic1.getScale().width);
+    writeOnLeg(s, found ? found->at : Point{});
+    return found ? FoundSlot(found->slot) : std::nullopt;
 }
 
-void snapObject(Session& s, const Canvas& pic1)
+FoundSlot snapObject(Session& s, const Canvas& pic1)
 {
     const ObjectHit hit = findObject(s, searchRadius(pic1), anyWithAPoint, ArcReach::wholeCircle);
-    if (!hit.found()) return;
+    if (!hit.found()) return std::nullopt;
     const auto leg = legKeptByObject(s);
     const auto result = leg ? meetingWithLeg(s.store, hit.slot, hit.at, *leg) : hit.at;
-    if (result) writeSnapped(s, *result);
+    if (!result) return std::nullopt;
+    writeSnapped(s, *result);
+    return hit.slot;
 }
 
-void snapIntersection(Session& s, const Canvas& pic1)
+FoundSlot snapIntersection(Session& s, const Canvas& pic1)
 {
     const float radius = searchRadius(pic1);
     s.snapSecondIndex = -1;
     const ObjectHit first = findObject(s, radius, lineCircleArc, ArcReach::sweep);
-    if (!first.found()) return;
+    if (!first.found()) return std::nullopt;
     const ObjectHit second = searchObject(s.store, {.from = s.mousePos,
                                                     .radius = radius,
                                                     .kinds = lineCircleArc,
@@ -176,47 +182,54 @@ void snapIntersection(Session& s, const Canvas& pic1)
                                                     .passOver = first.slot});
     s.snapSecondIndex = second.slot;
     s.snapRadius = second.distance;
-    if (!second.found()) return;
-    if (const auto p = meetingOfObjects(s.store, first.slot, second.slot, s.mousePos)) writeSnapped(s, *p);
+    if (!second.found()) return std::nullopt;
+    const auto p = meetingOfObjects(s.store, first.slot, second.slot, s.mousePos);
+    if (!p) return std::nullopt;
+    writeSnapped(s, *p);
+    return first.slot;
 }
 
-void snapPercentage(Session& s, const Canvas& pic1)
+FoundSlot snapPercentage(Session& s, const Canvas& pic1)
 {
     const ObjectHit hit = findObject(s, searchRadius(pic1), lineCircleArc, ArcReach::sweep);
-    if (!hit.found()) return;
+    if (!hit.found()) return std::nullopt;
     writeSnapped(s, shareOfObject(s.store, EntityStore::at(hit.slot), s.snapPercentage, s.mousePos));
+    return hit.slot;
 }
 
-void snapMidpoint(Session& s, const Canvas& pic1)
+FoundSlot snapMidpoint(Session& s, const Canvas& pic1)
 {
     const float limit = pic1.getScale().width;
     const ObjectHit hit = findObject(s, limit, lineCircleArc, ArcReach::wholeCircle);
-    bool found = hit.found();
+    FoundSlot found = hit.found() ? FoundSlot(hit.slot) : std::nullopt;
     float least = hit.distance;
     Point best = found ? middleOfObject(s.store, EntityStore::at(hit.slot)) : Point{};
     offerLegMiddles(s, best, least, found);
     if (found) writeOnLeg(s, best);
+    return found;
 }
 
-void snapPerpendicular(Session& s, const Canvas& pic1)
+FoundSlot snapPerpendicular(Session& s, const Canvas& pic1)
 {
-    if (s.stepNo != 2 || !functionRow(s.curFunc).snaps.fromFirstClick) return;
+    if (s.stepNo != 2 || !functionRow(s.curFunc).snaps.fromFirstClick) return std::nullopt;
     const ObjectHit hit = findObject(s, searchRadius(pic1), lineCircleArc, ArcReach::wholeCircle);
-    if (!hit.found()) return;
+    if (!hit.found()) return std::nullopt;
     const std::size_t i = EntityStore::at(hit.slot);
     const Point p1 = s.store.p1[i];
     s.pickLast = s.store.kind[i] == Kind::line ? footOfPerpendicular(s.pickFirst, p1, s.store.p2[i], p1)
                                                : perpendicularToCircle(s, p1, s.store.rad[i], hit.at);
+    return hit.slot;
 }
 
-void snapTangent(Session& s, const Canvas& pic1)
+FoundSlot snapTangent(Session& s, const Canvas& pic1)
 {
-    if (s.stepNo < 2 || !functionRow(s.curFunc).snaps.fromFirstClick) return;
+    if (s.stepNo < 2 || !functionRow(s.curFunc).snaps.fromFirstClick) return std::nullopt;
     const ObjectHit hit = findObject(s, searchRadius(pic1), circleOrArc, ArcReach::wholeCircle);
-    if (!hit.found()) return;
+    if (!hit.found()) return std::nullopt;
     const std::size_t i = EntityStore::at(hit.slot);
     const auto points = tangentPoints(s.pickFirst, s.store.p1[i], s.store.rad[i]);
     s.pickLast = isNearer(s.mousePos, points[1], points[0]) ? points[1] : points[0];
+    return hit.slot;
 }
 
 } // namespace mirtane

@@ -10,11 +10,6 @@
 
 namespace mirtane {
 
-// A leg under way, from the click before to the one that is snapped.
-struct Leg {
-    Point from, to;
-};
-
 bool drawsConstructionLine(const FunctionState& s);
 
 // The leg that Snap Point and Snap Midpoint keep to: they give the foot of their point on it. None while

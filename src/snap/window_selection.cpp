@@ -69,19 +69,29 @@ bool passes(const FilterValues& f, const EntityStore& store, std::size_t i)
     return f.filterStyle == any || store.style[i] == f.filterStyle;
 }
 
+template <class IsMeant> void mark(Session& s, bool filtered, IsMeant isMeant)
+{
+    EntityStore& store = s.store;
+    const auto end = EntityStore::at(store.end());
+    for (std::size_t i = 1; i < end; ++i) {
+        if (store.stat[i] != Stat::on) continue;
+        if (filtered && !passes(s, store, i)) continue;
+        if (isMeant(i)) store.stat[i] = Stat::sel;
+    }
+}
+
 } // namespace
 
 void selectInWindow(Session& s, bool filtered)
 {
     sortWindowCorners(s);
     const Window window{s.window1, s.window2};
-    EntityStore& store = s.store;
-    const auto end = EntityStore::at(store.end());
-    for (std::size_t i = 1; i < end; ++i) {
-        if (store.stat[i] != Stat::on) continue;
-        if (filtered && !passes(s, store, i)) continue;
-        if (liesIn(window, store, i)) store.stat[i] = Stat::sel;
-    }
+    mark(s, filtered, [&](std::size_t i) { return liesIn(window, s.store, i); });
+}
+
+void selectAll(Session& s, bool filtered)
+{
+    mark(s, filtered, [&](std::size_t i) { return isDrawnKind(s.store.kind[i]); });
 }
 
 } // namespace mirtane

@@ -10,4 +10,7 @@ namespace mirtane {
 // caller redraws.
 void selectInWindow(Session& s, bool filtered);
 
+// The same without a window.
+void selectAll(Session& s, bool filtered);
+
 } // namespace mirtane

@@ -100,6 +100,8 @@ enum Id : std::uint16_t {
     snapPercentageLabel,
     textLabel,
     promptLine,
+    readingLine,
+    countLine,
     pointerLine,
     notice,
     noticeFirst,
@@ -196,8 +198,10 @@ enum Id : std::uint16_t {
     helpMenu,
     displayHelp,
     fileNameLabel,
+    fileFault,
     fileName,
     fileList,
+    filePicture,
     folderList,
     driveList,
     folderLabel,
@@ -357,8 +361,11 @@ inline constexpr ControlRow controlTable[] = {
     {ids::snapPercentageLabel, "Label13", ControlKind::label, "", "Snap %", "", ""},
     {ids::textLabel, "Label17", ControlKind::label, "", "Text", "", ""},
 
-    // The line under the drawing: the prompt again, since a title bar is easily overlooked, and the pointer.
+    // The line under the drawing: the prompt again, since a title bar is easily overlooked, how what is being typed
+    // will be taken, how much is selected, and the pointer.
     {ids::promptLine, "promptlab", ControlKind::label, "", "", "", ""},
+    {ids::readingLine, "readlab", ControlKind::label, "", "", "", ""},
+    {ids::countLine, "countlab", ControlKind::label, "", "", "", ""},
     {ids::pointerLine, "pointerlab", ControlKind::label, "", "", "", ""},
     {ids::notice, "notice", ControlKind::strip, "", "", "", ""},
     {ids::noticeFirst, "notice.Command1", ControlKind::button, "", "", "", ""},
@@ -457,8 +464,10 @@ inline constexpr ControlRow controlTable[] = {
     {ids::displayHelp, "hlp3", ControlKind::entry, "hlp1", "Display Help", "", ""},
 
     {ids::fileNameLabel, "frmfile.Label1", ControlKind::label, "", "File Name", "", ""},
+    {ids::fileFault, "frmfile.Label5", ControlKind::label, "", "", "", ""}, // what went wrong
     {ids::fileName, "frmfile.Text1", ControlKind::field, "", "", "", ""},
     {ids::fileList, "frmfile.File1", ControlKind::list, "", "", "", ""},
+    {ids::filePicture, "frmfile.Picture1", ControlKind::picture, "", "", "", ""}, // of the file whose path is in text
     {ids::folderList, "frmfile.Dir1", ControlKind::list, "", "", "", ""},
     {ids::driveList, "frmfile.Drive1", ControlKind::list, "", "", "", ""},
     {ids::folderLabel, "frmfile.Label3", ControlKind::label, "", "", "", ""}, // the folder shown

@@ -97,14 +97,6 @@ TEST(FileNames, AreComparedCaseAsStored)
     EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
 }
 
-TEST(FileNames, DoNotLeadToAnotherFolder)
-{
-    Desk desk;
-    desk.saveAs("../evil");
-    EXPECT_TRUE(desk.disk.files.empty());
-    EXPECT_FALSE(desk.shell.ended());
-}
-
 // Folders
 
 TEST(FileFolders, ShownIsTheLastPathThenTheWorkingOneThenTheProgramsOwn)

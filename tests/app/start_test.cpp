@@ -82,7 +82,9 @@ TEST(Start, ChecksTheMenusOfTheDefaults)
         findControl(row.name, id);
         if (desk.s.controls[id].checked) checked += std::string(row.name) + " ";
     }
-    EXPECT_EQ(checked, "num1 ang1 dim5 dtol3 tk7 ls3 ");
+    // The running function and ortho in the tool strip, the pen among the line widths, and the choices of the
+    // menus.
+    EXPECT_EQ(checked, "Command1 freecurs num1 ang1 dim5 dtol3 tk7 lw10 ls3 ");
 }
 
 TEST(Start, SetsAllFoldersToThatOfTheProgram)

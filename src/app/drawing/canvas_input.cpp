@@ -1,6 +1,7 @@
 #include "app/drawing/canvas_input.h"
 
 #include "app/dialogs/filter_dialog.h"
+#include "app/drawing/click_point.h"
 #include "app/drawing/construction_line.h"
 #include "app/drawing/dispatch.h"
 #include "app/drawing/endings.h"
@@ -11,6 +12,7 @@
 #include "geometry/angle.h"
 #include "geometry/ortho.h"
 #include "model/insertion.h"
+#include "model/rehearsal.h"
 #include "model/room.h"
 #include "render/redraw.h"
 #include "render/view.h"
@@ -23,11 +25,6 @@ namespace {
 
 constexpr int leftButton = 1;
 constexpr int rightButton = 2;
-
-bool takesWindow(const Session& s)
-{
-    return zoomWindowIsOn(s.controls) || isWindowFunction(s.curFunc);
-}
 
 void takeWindowCorner(Session& s, Canvas& pic1, Point at)
 {
@@ -45,19 +42,6 @@ void takeWindowCorner(Session& s, Canvas& pic1, Point at)
     } else {
         showPromptOfStep(s, 1); // the corners of a window are no steps
     }
-}
-
-void storeClick(Session& s, Point at)
-{
-    if (s.stepNo == 1) s.pickFirst = at;
-    if (s.stepNo > 1) s.pickLast = at;
-    s.mousePos = at;
-}
-
-void confineClick(Session& s, const FunctionRow& row)
-{
-    if (s.stepNo < 2 || !orthoIsOn(s.controls) || !applies(row.orthoOnClick, s.stepNo)) return;
-    confinePickLast(s, distance(s.pickFirst, s.pickLast));
 }
 
 void confineMove(Session& s, const FunctionRow& row)
@@ -88,22 +72,12 @@ void passNumberToEntry(Session& s, char32_t code)
     if (isPartOfNumber(code)) passToEntry(s, code);
 }
 
-// The click is a point of its own: neither ortho nor the first point of an earlier function has a say in it.
-bool takesSnapAsItIs(const Session& s, const FunctionRow& row)
-{
-    return row.orthoOnClick == Ortho::unlessSnapped && snapIsOn(s);
-}
-
 void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Point at)
 {
-    if (button == leftButton) countStep(s);
-    storeClick(s, at);
+    storeClick(s, button, at);
     if (row.clicks == Clicks::pickObjects) return pickClick(s, pic1);
-    s.pointWasSnapped = false;
-    const bool isSnapped = takesSnapAsItIs(s, row); // asked before the snap is disarmed
-    if (!isSnapped) confineClick(s, row);
-    holdSnap(s, pic1);
-    oneShotSnap(s, pic1);
+    const bool isSnapped = takesSnapAsItIs(s, row);
+    landClick(s, pic1, row);
     s.controls[ids::snapLabel].caption.clear();
     const bool cancels = row.samePointCancels && !isSnapped;
     if (cancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
@@ -120,14 +94,10 @@ void endSelection(Session& s, Canvas& pic1)
 
 } // namespace
 
-void confinePickLast(Session& s, double d)
-{
-    s.pickLast = pointOnAxis(s.pickFirst, d, s.orthoSector, s.orthoAngle, s.pickLast);
-}
-
 void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at)
 {
     setText(s.controls[ids::entry], "");
+    s.band.reset();
     closeChangeDialog(s); // else what it was to change would be the filter of the next window
     s.controls[ids::filterForm].visible = false;
     if (button == rightButton) return cancel(s, pic1, at);
@@ -173,6 +143,7 @@ void cancel(Session& s, Canvas& pic1, Point at)
 
 void canvasMouseMove(Session& s, Canvas& pic1, Point at)
 {
+    s.band.reset();
     if (takesWindow(s)) {
         if (s.windowStep == 0) return;
         s.window2 = at;
@@ -181,11 +152,24 @@ void canvasMouseMove(Session& s, Canvas& pic1, Point at)
     }
     const FunctionRow* row = findFunction(s.curFunc);
     if (row == nullptr) return;
-    if (row->clicks == Clicks::layConstructionLine) return constructionMove(s, pic1, at);
-    if (s.stepNo == 0) return;
-    s.pickLast = at;
-    confineMove(s, *row);
-    callBand(s, pic1);
+    if (row->clicks == Clicks::layConstructionLine) {
+        constructionMove(s, pic1, at);
+    } else if (s.stepNo == 0) {
+        return;
+    } else {
+        s.pickLast = at;
+        confineMove(s, *row);
+        callBand(s, pic1);
+    }
+    s.band = legOfBand(s);
+}
+
+void showBandAt(Session& s, Canvas& pic1, Point at)
+{
+    const Rehearsal rehearsal(s);
+    const std::vector<MultipleLine> sets = s.multipleLinesLibrary.rows; // a band leaves its legs there
+    canvasMouseMove(s, pic1, at);
+    s.multipleLinesLibrary.rows = sets;
 }
 
 void canvasKeyDown(Session& s, Canvas& pic1, int code)

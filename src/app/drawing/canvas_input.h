@@ -15,7 +15,8 @@ void canvasKeyPress(Session& s, Canvas& pic1, char32_t code);
 // A right click, or a click on the last point: ends the action and returns to baseFunc.
 void cancel(Session& s, Canvas& pic1, Point at);
 
-// pickLast turned onto the axis of the last move's sector, at the distance d (world units) from pickFirst.
-void confinePickLast(Session& s, double d);
+// The rubber band as the pointer would show it at a point where it has not moved to: it changes the picture
+// and what is shown beside it, and nothing else.
+void showBandAt(Session& s, Canvas& pic1, Point at);
 
 } // namespace mirtane

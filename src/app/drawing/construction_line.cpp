@@ -73,6 +73,7 @@ void nextLeg(CanvasInput& s)
 void toggleConstructionLine(App& app, ControlId blank)
 {
     Session& s = app.s;
+    s.band.reset();
     if (s.controls[blank].caption == "Blank/Off") {
         turnOn(s, app.pic1);
     } else {
@@ -81,17 +82,21 @@ void toggleConstructionLine(App& app, ControlId blank)
     s.controls.focus = ids::drawing;
 }
 
-void constructionClick(Session& s, Canvas& pic1, Point at)
+std::optional<SnapHit> placeConstructionClick(Session& s, const Canvas& pic1, Point at)
 {
     ++s.blankStep;
     s.mousePos = at;
     const bool begins = s.blankStep == 1;
     (begins ? s.blankStart : s.blankEnd) = at;
     if (!begins) confineLeg(s);
-    holdSnap(s, pic1);
-    oneShotSnap(s, pic1);
+    return snapClick(s, pic1);
+}
+
+void constructionClick(Session& s, Canvas& pic1, Point at)
+{
+    placeConstructionClick(s, pic1, at);
     disarmSnap(s.controls);
-    if (!begins) nextLeg(s);
+    if (s.blankStep > 1) nextLeg(s);
 }
 
 void constructionMove(Session& s, Canvas& pic1, Point at)

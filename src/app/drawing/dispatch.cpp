@@ -34,45 +34,81 @@
 namespace mirtane {
 namespace {
 
+std::optional<Leg> fromFirst(const Session& s)
+{
+    return Leg{s.pickFirst, s.pickLast};
+}
+
+std::optional<Leg> throughPoints(const Session& s)
+{
+    return Leg{s.stepNo == 1 ? s.ptA : s.ptB, s.pickLast};
+}
+
+// Its later arcs begin where the one before has ended.
+std::optional<Leg> alongCurve(const Session& s)
+{
+    return s.stepNo <= 2 ? throughPoints(s) : Leg{s.ptA, s.pickLast};
+}
+
+std::optional<Leg> ofRadius(const Session& s)
+{
+    return s.stepNo == 1 ? fromFirst(s) : Leg{s.ptA, s.ptC};
+}
+
+std::optional<Leg> ofLeader(const Session& s)
+{
+    return s.stepNo >= 2 ? std::optional(Leg{s.ptA, s.pickLast}) : std::nullopt;
+}
+
+std::optional<Leg> ofStretch(const Session& s)
+{
+    return s.stepNo == 3 ? fromFirst(s) : std::nullopt;
+}
+
+std::optional<Leg> ofConstructionLine(const Session& s)
+{
+    return s.blankStep >= 1 ? std::optional(Leg{s.blankStart, s.blankEnd}) : std::nullopt;
+}
+
 constexpr DispatchRow rows[] = {
-    {"Line", lineStep, lineBand},
-    {"2pt. Circle", circleTwoStep, circleTwoBand},
-    {"3pt. Circle", circleThreeStep, circleThreeBand},
-    {"2pt. Arc", arcTwoStep, arcTwoBand},
-    {"3pt. Arc", arcThreeStep, arcThreeBand},
-    {"Curve", curveStep, curveBand},
-    {"Ellipse", ellipseStep, ellipseBand},
+    {"Line", lineStep, lineBand, fromFirst},
+    {"2pt. Circle", circleTwoStep, circleTwoBand, fromFirst},
+    {"3pt. Circle", circleThreeStep, circleThreeBand, throughPoints},
+    {"2pt. Arc", arcTwoStep, arcTwoBand, ofRadius},
+    {"3pt. Arc", arcThreeStep, arcThreeBand, throughPoints},
+    {"Curve", curveStep, curveBand, alongCurve},
+    {"Ellipse", ellipseStep, ellipseBand, fromFirst},
     {"Point", pointStep, nullptr},
-    {"Polygon", polygonStep, polygonBand},
-    {"Ortho Angle Match", orthoAngleMatchStep, matchBand},
-    {"Text Rotation Match", textRotationMatchStep, matchBand},
-    {"Copy", editCopy, drawSelectionGhost},
-    {"Move", editMove, drawSelectionGhost},
-    {"Mirror Copy", editMirror, mirrorBand},
+    {"Polygon", polygonStep, polygonBand, fromFirst},
+    {"Ortho Angle Match", orthoAngleMatchStep, matchBand, fromFirst},
+    {"Text Rotation Match", textRotationMatchStep, matchBand, fromFirst},
+    {"Copy", editCopy, drawSelectionGhost, fromFirst},
+    {"Move", editMove, drawSelectionGhost, fromFirst},
+    {"Mirror Copy", editMirror, mirrorBand, fromFirst},
     {"Rotate", editRotate, nullptr},
     {"Scale", editScale, nullptr},
     {"Radial Copy", editRadialCopy, nullptr},
-    {"Multiple Lines", multipleLinesStep, multipleLinesBand},
+    {"Multiple Lines", multipleLinesStep, multipleLinesBand, fromFirst, true},
     {"Create Multiple Lines", createMultipleLinesStep, nullptr},
-    {"Place Hatch", placeHatchStep, boundaryBand},
+    {"Place Hatch", placeHatchStep, boundaryBand, fromFirst},
     {"Create Hatch", createHatchStep, nullptr},
     {"Place Associate", placeAssociateStep, placeAssociateBand},
     {"Create Associate", createAssociateStep, nullptr},
-    {"Measure Area", measureAreaStep, boundaryBand},
+    {"Measure Area", measureAreaStep, boundaryBand, fromFirst},
     {"Place Text", placeTextStep, placeTextBand},
     {"Text Edit", textEditStep, nullptr},
-    {"Measure Distance", measureDistanceStep, lineBand},
+    {"Measure Distance", measureDistanceStep, lineBand, fromFirst},
     {"Ortho Dimension", linearDimensionStep, linearDimensionBand},
     {"Radial Dimension", radialDimensionStep, radialDimensionBand},
     {"Angular Dimension", angularDimensionStep, angularDimensionBand},
-    {"Leader", leaderStep, leaderBand},
+    {"Leader", leaderStep, leaderBand, ofLeader},
     {"Move Dimension Text", editMoveDimText, drawDimTextGhost},
     {"Break", editBreak, nullptr},
     {"Trim", editTrim, nullptr},
     {"Fillet", editFillet, nullptr},
-    {"Stretch", editStretch, stretchBand},
+    {"Stretch", editStretch, stretchBand, ofStretch},
     // These have no routine for a click.
-    {"Blank Line", nullptr, nullptr},
+    {"Blank Line", nullptr, nullptr, ofConstructionLine},
     {"Concentric Copy", nullptr, nullptr}, // takes a typed distance
     {"Hatch Scale", nullptr, nullptr},     // takes a typed number
     {"Text Size", nullptr, nullptr},
@@ -99,6 +135,7 @@ const DispatchRow* dispatchOf(std::string_view name)
 void callStep(Session& s, Canvas& pic1)
 {
     const DispatchRow* row = dispatchOf(s.curFunc);
+    s.band.reset();
     if (s.stepNo == 1) s.lastWay = {}; // a first point has no leg behind it
     if (row != nullptr && row->step != nullptr) row->step(s, pic1);
 }
@@ -107,6 +144,12 @@ void callBand(Session& s, Canvas& pic1)
 {
     const DispatchRow* row = dispatchOf(s.curFunc);
     if (row != nullptr && row->band != nullptr) row->band(s, pic1);
+}
+
+std::optional<Leg> legOfBand(const Session& s)
+{
+    const DispatchRow* row = dispatchOf(s.curFunc);
+    return row == nullptr || row->leg == nullptr ? std::nullopt : row->leg(s);
 }
 
 } // namespace mirtane

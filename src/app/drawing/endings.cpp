@@ -11,17 +11,6 @@
 namespace mirtane {
 namespace {
 
-// A construction line only suspends it.
-const std::string& runningFunction(const Session& s)
-{
-    return drawsConstructionLine(s) ? s.blankSavedFunc : s.curFunc;
-}
-
-bool textIsInEdit(const Session& s)
-{
-    return functionRow(runningFunction(s)).editsText && s.stepNo > 0;
-}
-
 bool isUnderWay(const Session& s)
 {
     return s.stepNo > 0 || s.windowStep > 0 || s.textLength > 0 || s.curFunc != s.baseFunc;
@@ -59,6 +48,7 @@ void endWhatIsBegun(Session& s, Canvas& pic1)
 
 void forgetWhatIsBegun(Session& s)
 {
+    s.band.reset();
     s.stepNo = 0;
     s.windowStep = 0;
     s.blankStep = 0;
@@ -89,6 +79,16 @@ void beginWindowAnew(Session& s)
     if (s.windowStep == 0 || !isWindowFunction(s.curFunc) || zoomWindowIsOn(s.controls)) return;
     s.windowStep = 0;
     showPromptOfStep(s, 0);
+}
+
+const std::string& runningFunction(const Session& s)
+{
+    return drawsConstructionLine(s) ? s.blankSavedFunc : s.curFunc;
+}
+
+bool textIsInEdit(const Session& s)
+{
+    return functionRow(runningFunction(s)).editsText && s.stepNo > 0;
 }
 
 bool hasSelection(const Session& s)

@@ -27,6 +27,12 @@ void showWhatIsHidden(Session& s, Canvas& pic1);
 // A window of the selection that has its first corner begins anew, and the prompt says so.
 void beginWindowAnew(Session& s);
 
+// curFunc, or the function that a construction line suspends.
+const std::string& runningFunction(const Session& s);
+
+// Whether a text is under edit, which is marked as what is selected is.
+bool textIsInEdit(const Session& s);
+
 // Whether something is selected. A text under edit is marked too, but by its function.
 bool hasSelection(const Session& s);
 

@@ -1,5 +1,6 @@
 #include "app/drawing/selection.h"
 
+#include "app/drawing/endings.h"
 #include "app/drawing/starters.h"
 #include "commands/prompt.h"
 #include "render/redraw.h"
@@ -71,6 +72,14 @@ void selectByWindow(Session& s, Canvas& pic1)
     selectInWindow(s, functionRow(s.curFunc).clicks == Clicks::takeFilteredWindow);
     redrawAll(s, pic1);
     showPromptOfStep(s, 0);
+}
+
+void selectAllObjects(Session& s, Canvas& pic1)
+{
+    if (!isSelectionFunction(s.curFunc)) return;
+    beginWindowAnew(s);
+    selectAll(s, functionRow(s.curFunc).clicks == Clicks::takeFilteredWindow);
+    redrawAll(s, pic1);
 }
 
 } // namespace mirtane

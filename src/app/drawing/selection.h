@@ -21,4 +21,8 @@ void pickClick(Session& s, Canvas& pic1);
 // The second corner of a selection window.
 void selectByWindow(Session& s, Canvas& pic1);
 
+// In a function that selects: marks all objects that are shown, as a window round all of them would. In
+// others nothing.
+void selectAllObjects(Session& s, Canvas& pic1);
+
 } // namespace mirtane

@@ -2,6 +2,9 @@
 
 #include "app/files/dxf_flows.h"
 #include "app/files/file_flows.h"
+#include "app/files/file_lists.h"
+#include "app/files/file_names.h"
+#include "app/files/library_rows.h"
 #include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
 #include "app/start_stop.h"
@@ -13,92 +16,6 @@
 namespace mirtane {
 namespace {
 
-struct PatternRow {
-    std::string_view pattern;
-    std::string_view extension;
-    std::string_view typeLine;
-    FolderPair FileState::*folders;
-};
-
-constexpr PatternRow patternRows[] = {
-    {"*.mtd", ".mtd", "Mirtane Drawing    *.mtd", &FileState::drawings},
-    {"*.dxf", ".dxf", "DXF Format    *.dxf", &FileState::dxf},
-    {"*.mta", ".mta", "Mirtane Associate    *.mta", &FileState::associates},
-    {"*.mth", ".mth", "Mirtane Hatch    *.mth", &FileState::hatches},
-    {"*.mtm", ".mtm", "Multiple Lines    *.mtm", &FileState::multipleLines},
-};
-
-const PatternRow& patternOf(const FileState& s)
-{
-    const auto* const found = std::ranges::find(patternRows, s.filePattern, &PatternRow::pattern);
-    return found == std::end(patternRows) ? patternRows[0] : *found;
-}
-
-std::string& folderShown(Controls& controls)
-{
-    return controls[ids::folderList].text;
-}
-
-// All after the first "." is dropped and the pattern's extension added; nothing of a name without a base.
-std::string normalisedName(const Session& s)
-{
-    const std::string& typed = s.controls[ids::fileName].text;
-    const std::string base = typed.substr(0, typed.find('.'));
-    return base.empty() ? base : base + std::string(patternOf(s).extension);
-}
-
-const std::vector<std::string>& namesListed(const Controls& controls)
-{
-    return controls[ids::fileList].rows;
-}
-
-// A file of the list, or the name that the dialog proposed, is meant as it stands, were there three points in
-// it: else another file would be opened, or written over.
-std::string chosenName(const Session& s)
-{
-    const std::string& typed = s.controls[ids::fileName].text;
-    const auto& names = namesListed(s.controls);
-    const bool isListed = std::ranges::find(names, typed) != names.end();
-    const bool isMeant = (isListed || typed == s.proposedName) && !typed.starts_with('.');
-    return isMeant ? typed : normalisedName(s);
-}
-
-bool sameButForCase(std::string_view a, std::string_view b)
-{
-    const auto lower = [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-    }; // a letter
-    return std::ranges::equal(a, b, {}, lower, lower);
-}
-
-// The list shows extensions in either case, so a file is opened by the name that it has on the disk.
-std::string nameInList(const Session& s, const std::string& name)
-{
-    const std::vector<std::string>& names = namesListed(s.controls);
-    if (std::ranges::find(names, name) != names.end()) return name;
-    const std::size_t base = name.size() - patternOf(s).extension.size();
-    const auto found = std::ranges::find_if(names, [&](const std::string& row) {
-        return row.starts_with(name.substr(0, base)) && sameButForCase(row, name);
-    });
-    return found == names.end() ? name : *found;
-}
-
-bool isSaving(const Controls& controls)
-{
-    const std::string& caption = controls[ids::fileConfirm].caption;
-    return caption == "Save" || caption == "Overwrite?";
-}
-
-// The one overwrite warning: the button says so while the name is that of a file in the list.
-void showWhetherItOverwrites(Session& s)
-{
-    s.notices.settle(Matter::fileInTheWay);
-    if (!isSaving(s.controls)) return;
-    const std::vector<std::string>& names = namesListed(s.controls);
-    const bool present = std::ranges::find(names, chosenName(s)) != names.end();
-    s.controls[ids::fileConfirm].caption = present ? "Overwrite?" : "Save";
-}
-
 FileChoice choiceOf(const Session& s, const std::string& name)
 {
     return {s.controls[ids::folderList].text, name, s.controls[ids::fileForm].caption, s.filePattern};
@@ -109,45 +26,6 @@ bool proposesOwnFile(const Session& s)
 {
     const FileChoice choice = choiceOf(s, chosenName(s));
     return savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile;
-}
-
-// The drive that the folder shown lies on is the longest that leads to it.
-int driveOf(const std::vector<std::string>& drives, const std::string& folder)
-{
-    int found = -1;
-    std::size_t longest = 0;
-    for (std::size_t i = 0; i < drives.size(); ++i) {
-        if (!folder.starts_with(drives[i]) || drives[i].size() < longest) continue;
-        longest = drives[i].size();
-        found = static_cast<int>(i); // a machine has few drives
-    }
-    return found;
-}
-
-// The folder is a copy, since it may be one of the rows that are replaced here.
-void showFolder(App& app, std::string folder)
-{
-    Session& s = app.s;
-    Control& files = s.controls[ids::fileList];
-    Control& folders = s.controls[ids::folderList];
-    Control& drives = s.controls[ids::driveList];
-    folders.text = folder;
-    s.controls[ids::folderLabel].caption = folder;
-    folders.rows = app.ports.folders.subfolders(folder);
-    if (folder != "/") folders.rows.insert(folders.rows.begin(), "..");
-    folders.row = -1;
-    files.rows = app.ports.folders.files(folder, std::string(patternOf(s).extension));
-    files.row = -1;
-    drives.rows = app.ports.folders.drives();
-    const std::string& working = (s.*patternOf(s).folders).working;
-    if (std::ranges::find(drives.rows, working) == drives.rows.end()) drives.rows.push_back(working);
-    drives.row = driveOf(drives.rows, folder);
-}
-
-std::string parentOf(const std::string& folder)
-{
-    const auto slash = folder.rfind('/');
-    return slash == 0 || slash == std::string::npos ? "/" : folder.substr(0, slash);
 }
 
 } // namespace
@@ -168,10 +46,15 @@ void showWhatItWouldReplace(App& app)
 {
     Session& s = app.s;
     const bool ownFile = proposesOwnFile(s);
-    if (!ownFile) showWhetherItOverwrites(s);
+    if (!ownFile) showWhetherItOverwrites(app);
     const bool own = ownFile || (savesWholeDrawing(choiceOf(s, chosenName(s))) && ownFileIsGone(app));
     if (isSaving(s.controls) && own && warnOfOwnFile(app))
         s.controls[ids::fileConfirm].caption = "Overwrite?";
+}
+
+const std::string& ownFolder(const App& app)
+{
+    return app.ports.ownFolder.empty() ? app.s.programFolder : app.ports.ownFolder;
 }
 
 // The drawing itself is saved where it is from, wherever parts of it or others went meanwhile.
@@ -182,7 +65,9 @@ std::string firstFolder(App& app, const FileFlow& flow)
     const bool savesIt = flow.button == "Save" && savesWholeDrawing(choice);
     if (savesIt && !s.drawingFolder.empty() && app.ports.folders.exists(s.drawingFolder))
         return s.drawingFolder;
-    return folderThatExists(app, s.*patternOf(s).folders);
+    const std::string folder = folderThatExists(app, s.*patternOf(s).folders);
+    const bool isOthers = flow.button == "Save" && folder == app.ports.libraryFolder; // nobody writes there
+    return isOthers ? ownFolder(app) : folder;
 }
 
 } // namespace
@@ -196,6 +81,7 @@ void openFileDialog(App& app, const FileFlow& flow, const std::string& name)
     s.controls[ids::fileConfirm].caption = flow.button;
     s.controls[ids::fileDismiss].caption = "Close";
     s.controls[ids::fileRemark].caption.clear();
+    s.controls[ids::fileFault].caption.clear();
     setText(s.controls[ids::fileType], std::string(pattern.typeLine));
     setSelectedText(s.controls[ids::fileName], name);
     s.proposedName = name;
@@ -232,6 +118,7 @@ void carryOutFollowUp(App& app)
     hideDialog(app.s);
     if (followUp == follow::nothing) return setPrompt(app.s, app.pic1);
     if (followUp == follow::openAgain) return openDrawingAgain(app);
+    if (followUp == follow::openDropped) return openFileAt(app, app.s.droppedFile);
     clearDrawing(app);
     if (followUp == follow::openDrawing) openFileDialog(app, {"Open Drawing", "Open", "*.mtd"}, "");
     if (followUp == follow::openDxf) openFileDialog(app, {"Open DXF", "Open", "*.dxf"}, "");
@@ -270,42 +157,139 @@ bool isToBeToldFirst(App& app, const FileChoice& choice)
     return (drawing || !saidByButton) && warnOfFileInTheWay(app, pathOf(choice), choice.name, saidByButton);
 }
 
+std::string whyNotOpened(App& app, const FileChoice& choice)
+{
+    if (!app.ports.disk.isTaken(pathOf(choice))) return "There is no file " + choice.name;
+    const LibraryRow* const row = rowWith(&LibraryRow::pattern, choice.pattern);
+    const std::string base = choice.name.substr(0, choice.name.find('.'));
+    if (row != nullptr && hasName(app.s, row->library, base)) return "Name already exists!";
+    return choice.name + " can't be read";
+}
+
+void tellFault(App& app, std::string what)
+{
+    app.s.controls[ids::fileFault].caption = std::move(what);
+}
+
+// The name of a folder is no name of a file, unless one is to be saved beside it.
+bool isFolder(App& app, const TypedPath& path)
+{
+    const bool opens = !isSaving(app.s.controls) && !standsThere(app, meantFile(app));
+    return opens && app.ports.folders.exists(path.folder + (path.folder == "/" ? "" : "/") + path.name);
+}
+
+// The folder is split off and shown; what is left is the name. False where there is no such folder.
+bool takePath(App& app, TypedPath path)
+{
+    if (!path.name.empty() && isFolder(app, path))
+        path = {path.folder + (path.folder == "/" ? "" : "/") + path.name, ""};
+    if (!app.ports.folders.exists(path.folder)) {
+        if (isSaving(app.s.controls)) tellNotSaved(app, app.s.filePattern);
+        tellFault(app, "There is no folder " + path.folder);
+        return false;
+    }
+    setText(app.s.controls[ids::fileName], path.name);
+    showFolder(app, path.folder);
+    showWhetherItOverwrites(app);
+    return true;
+}
+
+void confirmOpen(App& app, const FileChoice& choice)
+{
+    if (openFile(app, choice)) return hideDialog(app.s);
+    tellFault(app, whyNotOpened(app, choice));
+}
+
+void confirmSave(App& app, const FileChoice& choice)
+{
+    Session& s = app.s;
+    if (isToBeToldFirst(app, choice)) {
+        s.controls[ids::fileConfirm].caption = "Overwrite?";
+    } else if (!saveFile(app, choice)) {
+        tellFault(app, s.controls[ids::entry].text);
+    } else if (savesWholeDrawing(choice)) {
+        carryOutFollowUp(app);
+    } else {
+        hideDialog(s);
+    }
+}
+
 } // namespace
 
 void confirmFileDialog(App& app, ControlId)
 {
     Session& s = app.s;
+    s.controls[ids::fileFault].caption.clear();
+    const std::string before = s.controls[ids::fileConfirm].caption;
+    normalisePath(app);
+    const auto path = typedPath(app);
+    if (path && !takePath(app, *path)) return;
+    const std::string& now = s.controls[ids::fileConfirm].caption;
+    if (now != before && now == "Overwrite?") return; // nobody has seen yet that a file stands there
     std::string name = chosenName(s);
     if (name.empty()) return;
     if (!isSaving(s.controls)) name = nameInList(s, name);
     setText(s.controls[ids::fileName], name);
     (s.*patternOf(s).folders).last = folderShown(s.controls);
     const FileChoice choice = choiceOf(s, name);
-    if (!isSaving(s.controls)) {
-        if (openFile(app, choice)) hideDialog(s);
-    } else if (isToBeToldFirst(app, choice)) {
-        s.controls[ids::fileConfirm].caption = "Overwrite?";
-    } else if (saveFile(app, choice)) {
-        if (savesWholeDrawing(choice)) return carryOutFollowUp(app);
-        hideDialog(s);
-    }
+    if (isSaving(s.controls)) return confirmSave(app, choice);
+    confirmOpen(app, choice);
 }
+
+namespace {
+
+// The dialog as if the file had been chosen in it, which it was not by a name that no such file has.
+void openIn(App& app, const FileFlow& flow, const TypedPath& file)
+{
+    Session& s = app.s;
+    s.filePattern = flow.pattern;
+    if (app.ports.folders.exists(file.folder)) (s.*patternOf(s).folders).last = file.folder;
+    openFileDialog(app, flow, file.name);
+    const PatternRow* const pattern = patternOfFile(file.name);
+    if (pattern == nullptr || pattern->pattern != flow.pattern)
+        return tellFault(app, file.name + " can't be read");
+    confirmOpen(app, {file.folder, file.name, std::string(flow.caption), std::string(flow.pattern)});
+}
+
+TypedPath splitPath(const std::string& path)
+{
+    return {parentOf(path), path.substr(path.rfind('/') + 1)};
+}
+
+// One that can't be read in full is opened as the dialog would, which says what is wrong with it.
+bool isDxf(const std::string& path)
+{
+    const PatternRow* const pattern = patternOfFile(path);
+    return pattern != nullptr && pattern->pattern == "*.dxf";
+}
+
+} // namespace
 
 void openDrawingAt(App& app, const std::string& path)
 {
-    Session& s = app.s;
-    if (sameButForCase(path.substr(path.size() - std::min<std::size_t>(path.size(), 4)), ".dxf") &&
-        openDxfInFull(app, path))
-        return;
-    const std::string folder = parentOf(path);
-    std::string name = path.substr(path.rfind('/') + 1);
-    if (name.find('.') == std::string::npos) name += ".mtd";
-    if (app.ports.folders.exists(folder)) s.drawings.last = folder;
-    const FileFlow flow{"Open Drawing", "Open", "*.mtd"};
-    openFileDialog(app, flow, name);
-    const bool isDrawing = name.size() > 4 && sameButForCase(name.substr(name.size() - 4), ".mtd");
-    const FileChoice choice{folder, name, std::string(flow.caption), std::string(flow.pattern)};
-    if (isDrawing && openFile(app, choice)) hideDialog(s);
+    if (isDxf(path) && openDxfInFull(app, path)) return;
+    TypedPath file = splitPath(path);
+    if (file.name.find('.') == std::string::npos) file.name += ".mtd";
+    openIn(app, {"Open Drawing", "Open", "*.mtd"}, file);
+}
+
+void openFileAt(App& app, const std::string& path)
+{
+    if (isDxf(path) && openDxfInFull(app, path)) return;
+    const TypedPath file = splitPath(path);
+    const PatternRow* const pattern = patternOfFile(file.name);
+    if (pattern == nullptr) return openIn(app, {"Open Drawing", "Open", "*.mtd"}, file);
+    openIn(app, {pattern->open, "Open", pattern->pattern}, file);
+}
+
+void openDroppedFile(App& app, const std::string& path)
+{
+    const PatternRow* const pattern = patternOfFile(path);
+    const bool replacesDrawing =
+        pattern != nullptr && (pattern->pattern == "*.mtd" || pattern->pattern == "*.dxf");
+    if (!replacesDrawing || !hasUnsavedWork(app.s)) return openFileAt(app, path);
+    app.s.droppedFile = path;
+    offerToSave(app, follow::openDropped);
 }
 
 void dismissFileDialog(App& app, ControlId)
@@ -323,34 +307,10 @@ void closeFileDialog(App& app)
 void fileNameKeyPress(App& app, char32_t code)
 {
     if (code == enterKey) return confirmFileDialog(app, ids::fileConfirm);
-    passKey(app.s.controls[ids::fileName], code);
-    showWhetherItOverwrites(app.s);
-}
-
-void chooseFile(App& app, int row)
-{
-    Session& s = app.s;
-    Control& files = s.controls[ids::fileList];
-    files.row = row;
-    setText(s.controls[ids::fileName],
-            files.rows[static_cast<std::size_t>(row)]); // the shell checks rows
-    Control& button = s.controls[ids::fileConfirm];
-    if (button.caption == "Save") button.caption = "Overwrite?";
-}
-
-void chooseFolder(App& app, int row)
-{
-    const std::string chosen = app.s.controls[ids::folderList].rows[static_cast<std::size_t>(row)]; // checked
-    const std::string shown = folderShown(app.s.controls);
-    showFolder(app, chosen == ".." ? parentOf(shown) : (shown == "/" ? "" : shown) + "/" + chosen);
-    showWhetherItOverwrites(app.s);
-}
-
-void chooseDrive(App& app, int row)
-{
-    showFolder(app,
-               app.s.controls[ids::driveList].rows[static_cast<std::size_t>(row)]); // the shell checks rows
-    showWhetherItOverwrites(app.s);
+    Control& name = app.s.controls[ids::fileName];
+    if (code == tabKey) setText(name, completedName(app));
+    passKey(name, code);
+    showWhetherItOverwrites(app);
 }
 
 } // namespace mirtane

@@ -26,6 +26,13 @@ std::string folderThatExists(App& app, const FolderPair& folders);
 // extension is that of no drawing.
 void openDrawingAt(App& app, const std::string& path);
 
+// Opens a file at an absolute path as if it had been chosen in the dialog that opens its kind, which its
+// extension tells.
+void openFileAt(App& app, const std::string& path);
+
+// The same, once it is settled what becomes of unsaved work, where the file takes the place of the drawing.
+void openDroppedFile(App& app, const std::string& path);
+
 // "Save Changes": asks what to do with unsaved work before what followUp names.
 void offerToSave(App& app, std::int16_t followUp);
 
@@ -37,8 +44,5 @@ void confirmFileDialog(App& app, ControlId);
 void dismissFileDialog(App& app, ControlId); // Command2
 void closeFileDialog(App& app);              // its frame
 void fileNameKeyPress(App& app, char32_t code);
-void chooseFile(App& app, int row);
-void chooseFolder(App& app, int row);
-void chooseDrive(App& app, int row);
 
 } // namespace mirtane

@@ -15,6 +15,8 @@
 #include "render/redraw.h"
 #include "tables/list_modes.h"
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
@@ -126,6 +128,12 @@ constexpr PatternRoutines patternRoutines[] = {
     {"*.mtm", saveLibraryFile, openLibraryFile, "File not saved!"},
 };
 
+const PatternRoutines* routinesOf(std::string_view pattern)
+{
+    const auto* const found = std::ranges::find(patternRoutines, pattern, &PatternRoutines::pattern);
+    return found == std::end(patternRoutines) ? nullptr : found;
+}
+
 } // namespace
 
 std::string pathOf(const FileChoice& choice)
@@ -138,27 +146,27 @@ bool savesWholeDrawing(const FileChoice& choice)
     return choice.pattern == "*.mtd" && whatIsSaved(choice) == SaveWhat::drawing;
 }
 
+void tellNotSaved(App& app, std::string_view pattern)
+{
+    if (const PatternRoutines* const row = routinesOf(pattern))
+        setText(app.s.controls[ids::entry], std::string(row->notSaved));
+}
+
 bool saveFile(App& app, const FileChoice& choice)
 {
-    for (const PatternRoutines& row : patternRoutines) {
-        if (row.pattern != choice.pattern) continue;
-        Control& entry = app.s.controls[ids::entry];
-        if (isPlainName(choice.name) && row.save(app, choice)) {
-            if (entry.text == row.notSaved) setText(entry, "");
-            return true;
-        }
-        setText(entry, std::string(row.notSaved));
-    }
-    return false;
+    const PatternRoutines* const row = routinesOf(choice.pattern);
+    if (row == nullptr) return false;
+    const bool saved = isPlainName(choice.name) && row->save(app, choice);
+    Control& entry = app.s.controls[ids::entry];
+    if (!saved) tellNotSaved(app, choice.pattern);
+    if (saved && entry.text == row->notSaved) setText(entry, "");
+    return saved;
 }
 
 bool openFile(App& app, const FileChoice& choice)
 {
-    for (const PatternRoutines& row : patternRoutines) {
-        if (row.pattern != choice.pattern || !isPlainName(choice.name)) continue;
-        return row.open(app, choice);
-    }
-    return false;
+    const PatternRoutines* const row = routinesOf(choice.pattern);
+    return row != nullptr && isPlainName(choice.name) && row->open(app, choice);
 }
 
 } // namespace mirtane

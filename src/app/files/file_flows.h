@@ -12,6 +12,8 @@ bool savesWholeDrawing(const FileChoice& choice);
 // Each says whether the work was done; where not, nothing has changed and the dialog stays up. A save that
 // fails says so in entry.
 bool saveFile(App& app, const FileChoice& choice);
+// Says in entry that a file of the pattern was not saved.
+void tellNotSaved(App& app, std::string_view pattern);
 bool openFile(App& app, const FileChoice& choice);
 
 } // namespace mirtane

@@ -2,6 +2,7 @@
 
 #include "app/dialogs/filter_dialog.h"
 #include "app/drawing/dispatch.h"
+#include "app/drawing/endings.h"
 #include "app/drawing/starters.h"
 #include "edit/change.h"
 #include "tables/functions.h"
@@ -58,6 +59,12 @@ void startEditFromButton(App& app, ControlId button)
     app.s.controls[ids::editsForm].visible = false;
     app.s.controls.focus = ids::drawing;
     startEdit(app, std::string(button.row().caption));
+}
+
+void deleteFromKey(App& app)
+{
+    if (textIsInEdit(app.s)) return;
+    startEditFromButton(app, ids::editDelete);
 }
 
 void deselectFromButton(App& app, ControlId)

@@ -13,4 +13,8 @@ void startEditFromButton(App& app, ControlId button);
 void deselectFromButton(App& app, ControlId);
 void closeEditsForm(App& app, ControlId);
 
+// The key that deletes, on the drawing: as "Delete" of the Edits form. A text that is being edited is not
+// what is selected.
+void deleteFromKey(App& app);
+
 } // namespace mirtane

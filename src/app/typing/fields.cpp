@@ -34,23 +34,30 @@ struct FieldRow {
     bool (*takes)(double& value); // may bring the value into range
     void (*store)(Session& s, double value);
     double (*shown)(const Session& s);
+    std::string_view unit;
+    std::string_view bounds; // of what it takes
 };
+
+constexpr std::string_view degree = "\xC2\xB0";
+constexpr std::string_view belowTurn = "below 360";
+constexpr std::string_view percentBounds = "above 0, up to 100";
 
 // hatrot and assrot hold radians like angle; textrot holds degrees.
 constexpr FieldRow fieldRows[] = {
     {ids::orthoAngle, isAngle, storeOrthoAngle,
-     [](const Session& s) { return s.orthoAngleSaved * degreesPerRadian; }},
+     [](const Session& s) { return s.orthoAngleSaved * degreesPerRadian; }, degree, belowTurn},
     {ids::textRotation, isAngle, [](Session& s, double v) { s.textRotation = v; },
-     [](const Session& s) { return s.textRotation; }},
+     [](const Session& s) { return s.textRotation; }, degree, belowTurn},
     {ids::hatchRotation, isAngle, [](Session& s, double v) { s.hatchRotation = v / degreesPerRadian; },
-     [](const Session& s) { return s.hatchRotation * degreesPerRadian; }},
+     [](const Session& s) { return s.hatchRotation * degreesPerRadian; }, degree, belowTurn},
     {ids::associateRotation, isAngle,
      [](Session& s, double v) { s.associateRotation = v / degreesPerRadian; },
-     [](const Session& s) { return s.associateRotation * degreesPerRadian; }},
+     [](const Session& s) { return s.associateRotation * degreesPerRadian; }, degree, belowTurn},
     {ids::snapPercentage, isPercentage, [](Session& s, double v) { keep(s.snapPercentage, v / 100); },
      [](const Session& s) {
          return static_cast<double>(s.snapPercentage) * 100;
-     }}, // widened before the product
+     }, // widened before the product
+     "%", percentBounds},
 };
 
 const FieldRow* fieldRow(ControlId id)
@@ -59,9 +66,14 @@ const FieldRow* fieldRow(ControlId id)
     return found == std::end(fieldRows) ? nullptr : found;
 }
 
+std::string storedText(const Session& s, const FieldRow& row)
+{
+    return formatNumber(row.shown(s), NumberFormat::paddedThousandths);
+}
+
 void showValue(Session& s, const FieldRow& row)
 {
-    setText(s.controls[row.field], formatNumber(row.shown(s), NumberFormat::paddedThousandths));
+    setText(s.controls[row.field], storedText(s, row));
 }
 
 void acceptField(Session& s, const FieldRow& row)
@@ -95,6 +107,19 @@ void fieldKeyPress(App& app, ControlId id, char32_t code)
         (code >= U'0' && code <= U'9') || code == U'.' || code == U'-' || code == backspaceKey;
     if (passes) return passKey(field, code);
     if (code == enterKey && !field.text.empty()) acceptField(app.s, *row);
+}
+
+std::string fieldReading(const Session& s, ControlId id)
+{
+    const FieldRow* row = fieldRow(id);
+    if (row == nullptr) return {};
+    const std::string& typed = s.controls[id].text;
+    const std::string stored = storedText(s, *row);
+    if (typed.empty() || typed == stored || typed == withComma(stored)) return {};
+    double value = readNumber(typed);
+    if (!row->takes(value)) return "not taken: " + std::string(row->bounds);
+    const std::string number = formatNumber(value, NumberFormat::thousandths);
+    return "= " + (s.numComma == 1 ? withComma(number) : number) + std::string(row->unit);
 }
 
 void fieldLeft(Session& s, ControlId id)

@@ -12,6 +12,10 @@ bool isNumericField(ControlId id);
 // way.
 void fieldKeyPress(App& app, ControlId id, char32_t code);
 
+// How a value that is half typed in the field will be taken: "= 45.000°", or that it won't be; empty while
+// nothing is typed there.
+std::string fieldReading(const Session& s, ControlId id);
+
 // The field lost the focus: shows the stored value again, so that a half-typed one is undone.
 void fieldLeft(Session& s, ControlId id);
 

@@ -1,12 +1,13 @@
 #include "app/typing/typed_entry.h"
 
 #include "app/drawing/canvas_input.h"
+#include "app/drawing/click_point.h"
 #include "app/drawing/construction_line.h"
 #include "app/drawing/dispatch.h"
 #include "app/menus/library_menus.h"
+#include "app/typing/entry_way.h"
 #include "app/typing/keys.h"
 #include "commands/kept_letters.h"
-#include "commands/polygon.h"
 #include "commands/prompt.h"
 #include "edit/concentric.h"
 #include "geometry/fault.h"
@@ -18,13 +19,8 @@
 #include "text/numbers.h"
 #include "text/utf8.h"
 
-#include <algorithm>
-
 namespace mirtane {
 namespace {
-
-constexpr double hatchScaleAbove = 0.1;
-constexpr double hatchScaleBelow = 64;
 
 std::string takeText(Session& s)
 {
@@ -47,7 +43,7 @@ void sidesKey(Session& s, Canvas& pic1, char32_t code)
     if (isDigit(code) || code == backspaceKey) return passKey(entry, code);
     if (code != enterKey) return;
     const double sides = readNumber(entry.text);
-    if (sides > sidesAbove && sides < sidesBelow) keep(s.polygonSides, sides);
+    if (isSides(sides)) keep(s.polygonSides, sides);
     backToDrawing(s, pic1);
 }
 
@@ -58,7 +54,7 @@ void hatchScaleKey(Session& s, Canvas& pic1, char32_t code)
     if (isDigit(code) || code == U'.' || code == backspaceKey) return passKey(entry, code);
     if (code != enterKey) return;
     const double scale = readNumber(entry.text);
-    if (scale > hatchScaleAbove && scale < hatchScaleBelow) keep(s.hatchScale, scale);
+    if (isHatchScale(scale)) keep(s.hatchScale, scale);
     s.stepNo = 0;
     backToDrawing(s, pic1);
 }
@@ -96,10 +92,14 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
         layAlong(s, way, d);
     }
     countStep(s);
+    s.band.reset();
     if (row.typedDistance == TypedDistance::laysPoint) callStep(s, pic1);
     // The ends of legs are rounded: taken from them, each way would lean a little more than the one before.
     if (!ortho && s.lastWay.isAny()) s.lastWay = d < 0 ? -way : way;
     s.controls.focus = ids::drawing;
+    const DispatchRow* const dispatched = dispatchOf(s.curFunc);
+    const bool showsBand = dispatched != nullptr && dispatched->bandAtOnce && s.roomMissing == 0;
+    if (s.pointer && showsBand) showBandAt(s, pic1, *s.pointer);
 }
 
 void takeSize(Session& s, Canvas& pic1, float& size, float typed)
@@ -154,36 +154,6 @@ void distanceKey(Session& s, Canvas& pic1, const FunctionRow& row, char32_t code
     actOnDistance(s, pic1, row);
 }
 
-double heldWithinTurn(double degrees)
-{
-    return std::clamp(degrees, -360.0, 360.0);
-}
-
-// What Enter does with a number at a step of an edit function.
-struct EditNumber {
-    EntryKeys keys;
-    std::int16_t step;
-    void (*take)(Session& s, double value);
-    std::int16_t steps; // that it counts
-    bool runs;          // the function has all it needs
-};
-
-constexpr EditNumber editNumbers[] = {
-    {EntryKeys::radialCopy, 1, [](Session& s, double v) { s.editDegrees = heldWithinTurn(v); }, 1, false},
-    {EntryKeys::radialCopy, 2, [](Session& s, double v) { keep(s.radialCount, std::clamp(v, 2.0, 64.0)); }, 1,
-     true},
-    {EntryKeys::rotate, 1, [](Session& s, double v) { s.editDegrees = heldWithinTurn(v); }, 2, true},
-    {EntryKeys::scale, 1, [](Session& s, double v) { keep(s.editDX, v); }, 1, false},
-    {EntryKeys::scale, 2, [](Session& s, double v) { keep(s.editDY, v); }, 1, true},
-};
-
-const EditNumber* editNumberAt(EntryKeys keys, std::int16_t stepNo)
-{
-    const auto* const found = std::ranges::find_if(
-        editNumbers, [&](const EditNumber& row) { return row.keys == keys && row.step == stepNo; });
-    return found == std::end(editNumbers) ? nullptr : found;
-}
-
 void editNumberKey(Session& s, Canvas& pic1, const EditNumber& row, char32_t code)
 {
     constexpr char32_t firstPassing = 45; // "-", ".", "/" and the digits
@@ -191,7 +161,7 @@ void editNumberKey(Session& s, Canvas& pic1, const EditNumber& row, char32_t cod
     Control& entry = s.controls[ids::entry];
     if ((code >= firstPassing && code <= lastPassing) || code == backspaceKey) return passKey(entry, code);
     if (code != enterKey || entry.text.empty()) return;
-    row.take(s, readNumber(takeText(s)));
+    row.store(s, row.held(readNumber(takeText(s))));
     for (std::int16_t i = 0; i < row.steps; ++i) countStep(s);
     if (!row.runs) return setPrompt(s, pic1);
     s.editPending = 0;
@@ -203,15 +173,21 @@ void takeEntryKey(Session& s, Canvas& pic1, char32_t code)
 {
     const FunctionRow* row = findFunction(s.curFunc);
     if (row == nullptr) return;
-    const bool begun = row->entryKeys == EntryKeys::distanceOnceBlankLeg ? s.blankStep > 0 : s.stepNo > 0;
-    if (row->entryKeys == EntryKeys::sidesAtStart && !begun) return sidesKey(s, pic1, code);
-    if (row->entryKeys == EntryKeys::hatchScale) return hatchScaleKey(s, pic1, code);
-    if (row->entryKeys == EntryKeys::name) return nameKey(s, pic1, code);
-    if (!begun && row->entryKeys != EntryKeys::distanceAlways) return passKey(s.controls[ids::entry], code);
-    if (const EditNumber* number = editNumberAt(row->entryKeys, s.stepNo)) {
-        return editNumberKey(s, pic1, *number, code);
+    const EntryWay way = entryWay(s, *row);
+    switch (way.reads) {
+    case EntryReads::nothing:
+        return passKey(s.controls[ids::entry], code);
+    case EntryReads::sides:
+        return sidesKey(s, pic1, code);
+    case EntryReads::hatchScale:
+        return hatchScaleKey(s, pic1, code);
+    case EntryReads::name:
+        return nameKey(s, pic1, code);
+    case EntryReads::editNumber:
+        return editNumberKey(s, pic1, *way.number, code);
+    case EntryReads::distance:
+        return distanceKey(s, pic1, *row, code);
     }
-    distanceKey(s, pic1, *row, code);
 }
 
 } // namespace

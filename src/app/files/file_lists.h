@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/files/file_names.h"
+
+namespace mirtane {
+
+// The lists of the file dialog: what they show of a folder, which file is lit, and whether a save would
+// overwrite one.
+
+std::string& folderShown(Controls& controls);
+
+// The folder is a copy, since it may be one of the rows that are replaced here.
+void showFolder(App& app, std::string folder);
+
+// Whether the dialog saves, by its button.
+bool isSaving(const Controls& controls);
+
+// The file that is meant, wherever the name or the path that is typed leads, and whether there is one.
+TypedPath meantFile(App& app);
+bool standsThere(App& app, const TypedPath& file);
+
+// The one overwrite warning: the button says so while the name is that of a file that is there. The file is
+// lit in the list, and what was said of an earlier one goes.
+void showWhetherItOverwrites(App& app);
+
+// Rows of the lists.
+void chooseFile(App& app, int row);
+void chooseFolder(App& app, int row);
+void chooseDrive(App& app, int row);
+
+} // namespace mirtane
