@@ -1,10 +1,12 @@
 #include "platform/qt/window/file_form.h"
 
 #include "platform/qt/window/child.h"
+#include "platform/qt/window/file_picture.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 namespace mirtane {
 namespace {
@@ -22,6 +24,24 @@ QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
     return row;
 }
 
+// What went wrong stands beside the word over the name.
+QWidget& nameBlock(const ControlMaker& maker, QWidget& form)
+{
+    QWidget& block = childOf<QWidget>(form);
+    QGridLayout& grid = childOf<QGridLayout>(block);
+    grid.setContentsMargins(0, 0, 0, 0);
+    grid.setVerticalSpacing(3);
+    grid.setColumnStretch(1, 1);
+    QWidget& label = maker.make(ids::fileNameLabel, block);
+    label.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QWidget& fault = maker.make(ids::fileFault, block);
+    fault.setStyleSheet(QStringLiteral("color: #ffcf5c; font-size: 13px"));
+    grid.addWidget(&label, 0, 0);
+    grid.addWidget(&fault, 0, 1);
+    grid.addWidget(&maker.make(ids::fileName, block), 1, 0, 1, 2);
+    return block;
+}
+
 } // namespace
 
 void layFileForm(const ControlMaker& maker, QWidget& form)
@@ -33,8 +53,14 @@ void layFileForm(const ControlMaker& maker, QWidget& form)
     grid.setColumnStretch(0, 1);
     grid.setColumnStretch(1, 1);
     grid.setRowStretch(1, 1);
-    grid.addWidget(&maker.makeLabelled(ids::fileNameLabel, ids::fileName, form), 0, 0, 1, 2);
-    grid.addWidget(&maker.make(ids::fileList, form), 1, 0, 2, 1);
+    grid.addWidget(&nameBlock(maker, form), 0, 0, 1, 2);
+    FilePicture& picture = childOf<FilePicture>(form, maker.gate());
+    maker.views().add(ids::filePicture, picture);
+    QVBoxLayout& files = childOf<QVBoxLayout>(childOf<QWidget>(form));
+    files.setContentsMargins(0, 0, 0, 0);
+    files.addWidget(&maker.make(ids::fileList, *files.parentWidget()), 1);
+    files.addWidget(&picture);
+    grid.addWidget(files.parentWidget(), 1, 0, 2, 1);
     grid.addWidget(&maker.makeLabelled(ids::folderLabel, ids::folderList, form), 1, 1);
     QWidget& drives = maker.make(ids::driveList, form);
     drives.setFixedHeight(driveRows * drives.fontMetrics().height() + 2 * drives.fontMetrics().height());

@@ -8,6 +8,7 @@
 #include "platform/qt/window/print_form.h"
 
 #include <QCloseEvent>
+#include <QShortcut>
 
 #include <array>
 
@@ -38,6 +39,8 @@ FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
       gate_(gate), form_(form)
 {
     if (form == ids::printForm || form == ids::fileForm) setWindowModality(Qt::WindowModal);
+    auto& escape = childOf<QShortcut>(*this, QKeySequence(Qt::Key_Escape));
+    connect(&escape, &QShortcut::activated, this, &QWidget::close); // as by the frame
 }
 
 void FormWindow::show(const Control& now)

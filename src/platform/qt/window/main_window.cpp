@@ -7,12 +7,19 @@
 #include "platform/qt/window/side_panel.h"
 #include "platform/qt/window/surface_widget.h"
 #include "platform/qt/window/tool_strip.h"
+#include "platform/qt/window/typed_keys.h"
+#include "snap/snap.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QDropEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QMimeData>
+#include <QShortcut>
 #include <QTimer>
+#include <QUrl>
 
 #include <utility>
 
@@ -33,8 +40,24 @@ QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
     row.setContentsMargins(12, 5, 12, 5);
     row.setSpacing(16);
     row.addWidget(&maker.make(ids::promptLine, line), 3);
+    for (const ControlId id : {ControlId(ids::readingLine), ControlId(ids::countLine)}) {
+        QWidget& said = maker.make(id, line);
+        said.setSizePolicy(QSizePolicy::Preferred,
+                           QSizePolicy::Fixed); // as much as it needs, nothing while empty
+        said.setMinimumWidth(1);                // and it never widens the window
+        row.addWidget(&said);
+    }
     row.addWidget(&maker.make(ids::pointerLine, line), 2);
     return line;
+}
+
+// The first file of those that are dragged; empty where there is none.
+std::string droppedFile(const QDropEvent& event)
+{
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (url.isLocalFile()) return QDir::cleanPath(url.toLocalFile()).toStdString();
+    }
+    return {};
 }
 
 } // namespace
@@ -46,6 +69,8 @@ MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(
     lay(surface);
     makeForms(ControlMaker(gate_, views_), *this);
     views_.add(ids::mainForm, *this);
+    takeShortcuts();
+    setAcceptDrops(true);
     rest_.setSingleShot(true);
     rest_.setInterval(restBegins);
     rest_.callOnTimeout(this, [this] { rest(); });
@@ -68,6 +93,7 @@ void MainWindow::lay(Surface& surface)
     grid.setColumnStretch(1, 1);
     grid.setRowStretch(0, 1);
     SurfaceWidget& drawing = childOf<SurfaceWidget>(whole, gate_, ids::drawing, surface);
+    drawing_ = &drawing;
     views_.add(ids::drawing, drawing);
     grid.addWidget(&childOf<ToolStrip>(whole, gate_, views_), 0, 0);
     grid.addWidget(&drawing, 0, 1);
@@ -86,7 +112,41 @@ void MainWindow::copyControls()
     const Shell& shell = gate_.shell();
     views_.copy(shell.session().controls);
     surface_.refresh();
+    showSnapMark();
     if (shell.ended()) QApplication::exit();
+}
+
+void MainWindow::showSnapMark()
+{
+    const Session& s = gate_.shell().session();
+    const std::string_view what = s.snapMark ? nameOf(s.store, s.snapMark->hit) : std::string_view();
+    drawing_->showMark(s.snapMark,
+                       QString::fromUtf8(what.data(), static_cast<qsizetype>(what.size()))); // a short word
+}
+
+// Keys that stand in no menu.
+void MainWindow::takeShortcuts()
+{
+    for (const Shortcut& row : shortcuts) {
+        if (row.deed == Deed::press || row.onDrawing) continue;
+        auto& keys = childOf<QShortcut>(*this, keysOf(row));
+        connect(&keys, &QShortcut::activated, this,
+                [this, &row] { gate_.send([&row](Shell& shell) { shell.shortcut(row); }); });
+    }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedFile(*event).empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const std::string file = droppedFile(*event);
+    if (file.empty()) return;
+    event->acceptProposedAction();
+    activateWindow();
+    gate_.send([&file](Shell& shell) { shell.dropFile(file); });
 }
 
 // Whoever draws without a pause is not to lose all of it.

@@ -3,6 +3,7 @@
 #include "platform/qt/surface.h"
 #include "platform/qt/window/control_views.h"
 #include "platform/qt/window/event_gate.h"
+#include "platform/qt/window/surface_widget.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>
@@ -27,16 +28,21 @@ class MainWindow : public QMainWindow, public ControlView {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     void lay(Surface& surface);
     void copyControls();
+    void showSnapMark();
+    void takeShortcuts();
     void waitForRest();
     void rest();
 
     EventGate gate_;
     ControlViews views_;
     Surface& surface_;
+    SurfaceWidget* drawing_ = nullptr; // belongs to the window
     QTimer rest_;
     QElapsedTimer sinceRest_; // since the first event that no rest has followed
     std::string toOpen_;      // when the window is shown; empty if nothing is

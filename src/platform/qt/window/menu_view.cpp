@@ -1,69 +1,75 @@
 #include "platform/qt/window/menu_view.h"
 
 #include "platform/qt/window/child.h"
+#include "platform/qt/window/typed_keys.h"
 
 #include <QAction>
 #include <QMenu>
 
 #include <algorithm>
-#include <array>
 #include <map>
 
 namespace mirtane {
 namespace {
 
+// The letter that opens a menu with Alt is one of the caption's own, and underlined in it.
+QString captionWithLetter(const Control& control, ControlId id)
+{
+    QString caption = captionOf(control);
+    const auto* const row = std::find_if(std::begin(menuLetters), std::end(menuLetters),
+                                         [id](const MenuLetter& one) { return one.menu == id; });
+    if (row == std::end(menuLetters)) return caption;
+    const qsizetype at = caption.indexOf(QLatin1Char(row->letter));
+    return at < 0 ? caption : caption.insert(at, QLatin1Char('&'));
+}
+
 // An entry of a menu, or of the bar itself.
 class EntryView : public QAction, public ControlView {
   public:
-    EntryView(EventGate& gate, ControlId id, QObject* parent) : QAction(parent)
+    EntryView(EventGate& gate, ControlId id, QObject* parent) : QAction(parent), id_(id)
     {
         setCheckable(id.row().kind == ControlKind::checkedEntry);
         connect(this, &QAction::triggered, this, [this, &gate, id] {
             setChecked(checked_); // the toolkit turned it; the control alone says whether it is checked
-            gate.send([id](Shell& shell) { shell.click(id); });
+            gate.send([id](Shell& shell) { shell.choose(id); });
         });
     }
 
     void show(const Control& now) override
     {
         checked_ = now.checked;
-        setText(captionOf(now));
+        setText(captionWithLetter(now, id_));
         setChecked(now.checked);
         setEnabled(now.enabled);
         setVisible(now.visible);
     }
 
   private:
+    ControlId id_;
     bool checked_ = false;
 };
 
 class MenuView : public QMenu, public ControlView {
   public:
-    explicit MenuView(QWidget* parent) : QMenu(parent) {}
+    MenuView(ControlId id, QWidget* parent) : QMenu(parent), id_(id) {}
 
     void show(const Control& now) override
     {
-        setTitle(captionOf(now));
+        setTitle(captionWithLetter(now, id_));
         menuAction()->setEnabled(now.enabled);
         menuAction()->setVisible(now.visible);
     }
-};
 
-struct Shortcut {
-    ControlId id;
-    QKeySequence::StandardKey keys;
+  private:
+    ControlId id_;
 };
-
-constexpr std::array<Shortcut, 2> shortcuts{
-    {{ids::undo, QKeySequence::Undo}, {ids::redo, QKeySequence::Redo}}};
 
 QList<QKeySequence> shortcutsOf(ControlId id)
 {
-    const auto row =
-        std::find_if(shortcuts.begin(), shortcuts.end(), [id](const Shortcut& one) { return one.id == id; });
-    if (row == shortcuts.end()) return {};
-    QList<QKeySequence> keys = QKeySequence::keyBindings(row->keys);
-    if (row->keys == QKeySequence::Redo) keys.append(QKeySequence(Qt::CTRL | Qt::Key_Y));
+    QList<QKeySequence> keys;
+    for (const Shortcut& row : shortcuts) {
+        if (row.deed == Deed::press && row.control == id && !row.onDrawing) keys.append(keysOf(row));
+    }
     return keys;
 }
 
@@ -92,7 +98,7 @@ void fillMenuBar(QMenuBar& bar, ControlId form, EventGate& gate, ControlViews& v
             parent == menus.end() ? static_cast<QWidget*>(&bar) : parent->second; // one type for both
         if (row.separatorBefore) addSeparator(*holder);
         if (row.kind == ControlKind::menu) {
-            MenuView& menu = childOf<MenuView>(*holder);
+            MenuView& menu = childOf<MenuView>(*holder, id);
             holder->addAction(menu.menuAction());
             menus.emplace(row.name, &menu);
             views.add(id, menu);

@@ -1,13 +1,17 @@
 #include "platform/qt/window/surface_widget.h"
 
 #include "platform/qt/whole.h"
+#include "platform/qt/window/snap_mark_painter.h"
 #include "platform/qt/window/typed_keys.h"
 
+#include <QGestureEvent>
 #include <QInputMethodEvent>
 #include <QPainter>
+#include <QPointingDevice>
 
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace mirtane {
 namespace {
@@ -17,6 +21,16 @@ using namespace std::chrono_literals;
 // A size that has stayed the same for so long is one that the user has settled on.
 constexpr auto rest = 100ms;
 constexpr double wheelStep = 120; // eighths of a degree in one notch of a wheel
+
+constexpr double pixelsOfNotch = 40;   // two fingers, where only notches are told
+constexpr double sidewaysNotches = 10; // move the drawing by its width
+
+bool isTouchpad(const QWheelEvent& event)
+{
+    const QPointingDevice* const device = event.pointingDevice();
+    return event.phase() != Qt::NoScrollPhase ||
+           (device != nullptr && device->type() == QInputDevice::DeviceType::TouchPad);
+}
 
 // 0 for a button that the drawing knows nothing of.
 int numberOf(Qt::MouseButton button)
@@ -56,6 +70,7 @@ SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QW
     setCursor(Qt::CrossCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(240, 180);
+    grabGesture(Qt::PinchGesture); // two fingers on a screen
     surface_.setRefreshHook([this] { showPart(surface_.takeDirty()); });
     sizeAtRest_.setSingleShot(true);
     sizeAtRest_.setInterval(rest);
@@ -85,7 +100,23 @@ void SurfaceWidget::paintEvent(QPaintEvent*)
         sizeAtRest_.start(); // the window was taken to another screen
     QImage image = surface_.shown();
     image.setDevicePixelRatio(devicePixelRatioF());
-    QPainter(this).drawImage(QPoint(0, 0), image);
+    QPainter painter(this);
+    painter.drawImage(QPoint(0, 0), image);
+    if (mark_) paintSnapMark(painter, placeOf(mark_->at), mark_->hit.snap, markedWhat_);
+}
+
+void SurfaceWidget::showMark(const std::optional<SnapMark>& mark, QString what)
+{
+    if (mark == mark_ && what == markedWhat_) return;
+    const QRect before = markRect();
+    mark_ = mark;
+    markedWhat_ = std::move(what);
+    update(before.united(markRect()));
+}
+
+QRect SurfaceWidget::markRect() const
+{
+    return mark_ ? rectOfSnapMark(placeOf(mark_->at), markedWhat_, font()) : QRect();
 }
 
 // A part of the picture may begin within one of the widget's own units where the screen is a fine one.
@@ -120,10 +151,23 @@ Point SurfaceWidget::worldAt(QPointF at) const
     return surface_.worldAt(std::floor(at.x() * ratio), std::floor(at.y() * ratio));
 }
 
+QPointF SurfaceWidget::placeOf(Point world) const
+{
+    const double ratio = devicePixelRatioF();
+    const PixelPoint pixel = surface_.pixelAt(world);
+    return {pixel.x / ratio, pixel.y / ratio};
+}
+
+// The middle button is not yet known to click.
 void SurfaceWidget::mousePressEvent(QMouseEvent* event)
 {
     const int button = numberOf(event->button());
     if (button == 0) return;
+    if (event->button() == Qt::MiddleButton) {
+        middle_.press(event->position().x(), event->position().y());
+        grabbed_ = worldAt(event->position());
+        return;
+    }
     gate_.send([&](Shell& shell) { shell.mouseDown(button, worldAt(event->position())); });
 }
 
@@ -135,19 +179,87 @@ void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event)
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    gate_.send([&](Shell& shell) { shell.mouseMove(worldAt(event->position())); });
+    const QPointF at = event->position();
+    if (!middle_.isHeld()) {
+        gate_.send([&](Shell& shell) { shell.mouseMove(worldAt(at)); });
+    } else if (middle_.move(at.x(), at.y())) {
+        setCursor(Qt::ClosedHandCursor);
+        gate_.send([&](Shell& shell) { shell.drag(grabbed_, worldAt(at)); });
+    }
 }
 
+void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::MiddleButton || !middle_.isHeld()) return;
+    show(gate_.shell().session().controls[id_]); // the pointer as it was
+    if (!middle_.release()) return;
+    gate_.send([&](Shell& shell) { shell.mouseDown(numberOf(Qt::MiddleButton), grabbed_); });
+}
+
+void SurfaceWidget::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    gate_.send([](Shell& shell) { shell.pointerLeft(); });
+}
+
+void SurfaceWidget::drag(QPointF from, QPointF to)
+{
+    if (from != to) gate_.send([&](Shell& shell) { shell.drag(worldAt(from), worldAt(to)); });
+}
+
+// A wheel zooms, and one that is turned sideways moves the drawing by as much as an arrow key for each notch.
+// Two fingers on a pad move it as they move.
 void SurfaceWidget::wheelEvent(QWheelEvent* event)
 {
-    const double steps = event->angleDelta().y() / wheelStep;
+    const QPointF at = event->position();
+    const QPointF turned = QPointF(event->angleDelta()) / wheelStep;
+    const bool fingers = isTouchpad(*event) && !event->modifiers().testFlag(Qt::ControlModifier);
     event->accept();
-    if (steps == 0) return;
-    gate_.send([&](Shell& shell) { shell.wheel(steps, worldAt(event->position())); });
+    if (fingers) {
+        const QPointF moved = event->hasPixelDelta() ? QPointF(event->pixelDelta()) : turned * pixelsOfNotch;
+        return drag(at, at + moved);
+    }
+    if (turned.x() != 0) drag(at, at + QPointF(std::round(turned.x() * width() / sidewaysNotches), 0));
+    if (turned.y() != 0) gate_.send([&](Shell& shell) { shell.wheel(turned.y(), worldAt(at)); });
+}
+
+bool SurfaceWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::Gesture) {
+        const auto* const gestures = static_cast<QGestureEvent*>(event); // told by its type
+        const QGesture* const fingers = gestures->gesture(Qt::PinchGesture);
+        if (fingers != nullptr) pinch(*static_cast<const QPinchGesture*>(fingers)); // the same
+        return true;
+    }
+    if (event->type() == QEvent::NativeGesture) {
+        fingersOnPad(*static_cast<QNativeGestureEvent*>(event)); // told by its type
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void SurfaceWidget::pinch(const QPinchGesture& fingers)
+{
+    const QPointF at = mapFromGlobal(fingers.centerPoint());
+    drag(mapFromGlobal(fingers.lastCenterPoint()), at);
+    const double factor = fingers.scaleFactor();
+    if (factor > 0 && factor != 1) gate_.send([&](Shell& shell) { shell.zoom(factor, worldAt(at)); });
+}
+
+void SurfaceWidget::fingersOnPad(const QNativeGestureEvent& fingers)
+{
+    if (fingers.gestureType() == Qt::PanNativeGesture)
+        drag(fingers.position(), fingers.position() + fingers.delta());
+    if (fingers.gestureType() != Qt::ZoomNativeGesture || !(fingers.value() > -1)) return;
+    gate_.send([&](Shell& shell) { shell.zoom(1 + fingers.value(), worldAt(fingers.position())); });
 }
 
 void SurfaceWidget::keyPressEvent(QKeyEvent* event)
 {
+    if (const Shortcut* const shortcut = shortcutOnDrawing(*event)) {
+        gate_.send([shortcut](Shell& shell) { shell.shortcut(*shortcut); });
+        return;
+    }
     gate_.send([code = codeOf(*event)](Shell& shell) { shell.keyDown(code); });
     typeAt(gate_, id_, typedBy(*event));
 }

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "app/drawing/middle_drag.h"
 #include "platform/qt/surface.h"
 #include "platform/qt/window/control_view.h"
 #include "platform/qt/window/event_gate.h"
 
+#include <QNativeGestureEvent>
+#include <QPinchGesture>
 #include <QTimer>
+
+#include <optional>
 
 namespace mirtane {
 
@@ -19,14 +24,19 @@ class SurfaceWidget : public QWidget, public ControlView {
     SurfaceWidget& operator=(const SurfaceWidget&) = delete;
 
     void show(const Control& now) override;
+    // Where a click would land, over the picture; what it would land on has a name.
+    void showMark(const std::optional<SnapMark>& mark, QString what);
     QWidget* focusWidget() override { return this; }
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -36,6 +46,11 @@ class SurfaceWidget : public QWidget, public ControlView {
 
   private:
     Point worldAt(QPointF at) const;
+    QPointF placeOf(Point world) const;
+    QRect markRect() const;
+    void drag(QPointF from, QPointF to);
+    void pinch(const QPinchGesture& fingers);
+    void fingersOnPad(const QNativeGestureEvent& fingers);
     void showPart(const PixelRect& pixels);
     void fitSurface();
 
@@ -43,6 +58,10 @@ class SurfaceWidget : public QWidget, public ControlView {
     ControlId id_;
     Surface& surface_;
     QTimer sizeAtRest_;
+    MiddleDrag middle_;
+    Point grabbed_; // the point of the drawing that the hand holds
+    std::optional<SnapMark> mark_;
+    QString markedWhat_;
 };
 
 } // namespace mirtane

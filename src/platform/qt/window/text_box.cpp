@@ -111,7 +111,19 @@ bool TextBox::event(QEvent* event)
         event->ignore();
         return false;
     }
+    if (event->type() == QEvent::KeyPress && completes(*static_cast<QKeyEvent*>(event)))
+        return true; // the same
     return QLineEdit::event(event);
+}
+
+// Tab completes the name of a file; where there is nothing to complete it leads on.
+bool TextBox::completes(const QKeyEvent& event)
+{
+    if (id_ != ControlId(ids::fileName) || event.key() != Qt::Key_Tab || event.modifiers() != Qt::NoModifier)
+        return false;
+    const QString before = text();
+    gate_.send([](Shell& shell) { shell.keyPress(key::tab); });
+    return text() != before;
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event)

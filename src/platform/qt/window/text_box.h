@@ -27,6 +27,7 @@ class TextBox : public QLineEdit, public ControlView {
     void type(const QString& characters);
     void edit(const QKeyEvent& event);
     void deleteForward();
+    bool completes(const QKeyEvent& event);
     void showColor(std::int32_t bgr);
     void caretMoved();
 

@@ -52,6 +52,8 @@ const char* const rules = R"(
     QWidget#notice QPushButton { padding: 3px 14px; }
     QWidget#status { background: #1c1f24; border-top: 1px solid #14161a; }
     QLabel#promptlab { color: #f2f5f9; font-size: 13px; }
+    QLabel#readlab { color: #ffcf5c; font-size: 13px; }
+    QLabel#countlab { color: #f2f5f9; font-size: 13px; }
     QLabel#pointerlab { color: #9aa4b2; font-size: 13px; qproperty-alignment: 'AlignRight | AlignVCenter'; }
 
     QToolButton { background: #2e323a; border: 1px solid #383d46; border-radius: 5px; padding: 0; }

@@ -65,6 +65,23 @@ void typeAt(EventGate& gate, ControlId id, const QString& text)
     gate.send([&characters](Shell& shell) { shell.type(characters); });
 }
 
+QKeySequence keysOf(const Shortcut& shortcut)
+{
+    const QLatin1StringView keys(shortcut.keys.data(), static_cast<qsizetype>(shortcut.keys.size())); // short
+    return QKeySequence::fromString(keys, QKeySequence::PortableText);
+}
+
+const Shortcut* shortcutOnDrawing(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
+    const QKeySequence pressed(
+        QKeyCombination(held, static_cast<Qt::Key>(event.key()))); // as the toolkit names it
+    const auto* const row =
+        std::find_if(std::begin(shortcuts), std::end(shortcuts),
+                     [&](const Shortcut& one) { return one.onDrawing && keysOf(one) == pressed; });
+    return row == std::end(shortcuts) ? nullptr : row;
+}
+
 int codeOf(const QKeyEvent& event)
 {
     const auto row = std::find_if(codes.begin(), codes.end(),
