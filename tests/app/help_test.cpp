@@ -11,7 +11,7 @@ using fake::Desk;
 
 const std::string helpFile = "/home/user/mirtanehelp.txt";
 
-Bytes bytesOf(const std::string& text)
+Bytes helpBytes(const std::string& text)
 {
     return {text.begin(), text.end()};
 }
@@ -19,7 +19,7 @@ Bytes bytesOf(const std::string& text)
 TEST(Help, ShowsTheFileInTheProgramsFolder)
 {
     Desk desk;
-    desk.disk.files[helpFile] = bytesOf("First\r\nSecond\r\n");
+    desk.disk.files[helpFile] = helpBytes("First\r\nSecond\r\n");
     desk.press("hlp3"_c);
     EXPECT_TRUE(desk.visible("frmhelp"_c));
     EXPECT_EQ(desk.caption("frmhelp"_c), "Mirtane 4.00 Help");
@@ -34,7 +34,7 @@ TEST(Help, JoinsTheLinesWithCarriageReturnAndLineFeed)
         {"a", "a"},           {"\r\na\r\nb", "\r\na\r\nb"}, {"a\r\n\r\nb\nc", "a\r\n\r\nb\r\nc"}};
     for (const auto& [file, shown] : rows) {
         Desk desk;
-        desk.disk.files[helpFile] = bytesOf(file);
+        desk.disk.files[helpFile] = helpBytes(file);
         desk.press("hlp3"_c);
         EXPECT_EQ(desk.text("frmhelp.Text1"_c), shown) << file;
     }
@@ -43,7 +43,7 @@ TEST(Help, JoinsTheLinesWithCarriageReturnAndLineFeed)
 TEST(Help, IsReadInTheWesternCodePage)
 {
     Desk desk;
-    desk.disk.files[helpFile] = bytesOf("caf\xE9 \x80 \x93quoted\x94 90\xB0");
+    desk.disk.files[helpFile] = helpBytes("caf\xE9 \x80 \x93quoted\x94 90\xB0");
     desk.press("hlp3"_c);
     EXPECT_EQ(desk.text("frmhelp.Text1"_c),
               "caf\xC3\xA9 \xE2\x82\xAC \xE2\x80\x9Cquoted\xE2\x80\x9D 90\xC2\xB0");
@@ -52,7 +52,7 @@ TEST(Help, IsReadInTheWesternCodePage)
 TEST(Help, ThatIsMissingLeavesItsTextEmptyAndSaysSo)
 {
     Desk desk;
-    desk.disk.files[helpFile] = bytesOf("old");
+    desk.disk.files[helpFile] = helpBytes("old");
     desk.press("hlp3"_c);
     desk.disk.files.clear();
     desk.press("hlp3"_c);
@@ -74,7 +74,7 @@ TEST(Help, IsLookedForInTheProgramsFolderWhateverTheLastPathIs)
 {
     Desk desk({{"wkp", "/plans"}, {"wkd", "/plans"}});
     desk.folders.folders.insert("/plans");
-    desk.disk.files[helpFile] = bytesOf("manual");
+    desk.disk.files[helpFile] = helpBytes("manual");
     desk.press("fil4"_c);
     desk.press("frmfile.Command2"_c);
     desk.press("hlp3"_c);
@@ -84,7 +84,7 @@ TEST(Help, IsLookedForInTheProgramsFolderWhateverTheLastPathIs)
 TEST(Help, CannotBeEdited)
 {
     Desk desk;
-    desk.disk.files[helpFile] = bytesOf("manual");
+    desk.disk.files[helpFile] = helpBytes("manual");
     desk.press("hlp3"_c);
     desk.shell.giveFocus("frmhelp.Text1"_c);
     desk.type("xyz");

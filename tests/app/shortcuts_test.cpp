@@ -13,9 +13,7 @@
 namespace mirtane {
 namespace {
 
-using fake::Desk;
-
-constexpr int ctrlKey = 17;
+using namespace fake;
 
 const Shortcut& named(std::string_view keys)
 {

@@ -12,10 +12,7 @@
 namespace mirtane {
 namespace {
 
-using fake::Desk;
-
-constexpr int shiftKey = 16;
-constexpr int ctrlKey = 17;
+using namespace fake;
 
 struct SnapRow {
     ControlId button;

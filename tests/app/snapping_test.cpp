@@ -8,13 +8,10 @@
 namespace mirtane {
 namespace {
 
-using fake::Desk;
+using namespace fake;
 
 constexpr ControlId snapButtons[] = {"Command35"_c, "Command36"_c, "Command37"_c, "Command38"_c,
                                      "Command39"_c, "Command40"_c, "Command21"_c};
-constexpr int shiftKey = 16;
-constexpr int ctrlKey = 17;
-
 // At the start of the program an object is meant within 24 pixels of 4 units, 96 units, and the view is 4800
 // wide. Ortho is off.
 class Snapping : public testing::Test {

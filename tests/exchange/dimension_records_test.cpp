@@ -7,7 +7,7 @@
 namespace mirtane {
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 
 const std::string picture = "0 BLOCK\n2 *D7\n70 1\n10 0\n20 0\n0 LINE\n8 0\n62 0\n10 1\n20 2\n11 30\n21 2\n0 "
                             "POINT\n8 DEFPOINTS\n10 1\n20 0\n"

@@ -49,7 +49,7 @@ std::vector<std::array<double, 4>> inBox(const std::vector<PatternLine>& lines, 
     return rows;
 }
 
-struct Row {
+struct SquareRow {
     const char* what;
     std::vector<Loop> loops; // where the place is none
     Vec offset;
@@ -57,7 +57,7 @@ struct Row {
     std::vector<std::array<double, 4>> lines;
 };
 
-const Row rows[] = {
+const SquareRow rows[] = {
     {"whole lines", {box({0, 0.5}, {10, 2.5})}, {0, 1}, {}, {{0, 1, 10, 1}, {0, 2, 10, 2}}},
     {"the other way up", {box({0, 0.5}, {10, 2.5})}, {0, -1}, {}, {{0, 1, 10, 1}, {0, 2, 10, 2}}},
     {"an island",
@@ -88,7 +88,7 @@ const Row rows[] = {
 
 TEST(PatternLines, AreWhatLiesInAnOddNumberOfLoops)
 {
-    for (const Row& row : rows) {
+    for (const SquareRow& row : rows) {
         for (const Place& place : places) {
             std::vector<Loop> loops = row.loops;
             for (Loop& loop : loops) {

@@ -27,7 +27,7 @@ double lengthOfAll(const std::vector<Made>& lines)
     return all;
 }
 
-struct Row {
+struct HatchRow {
     const char* what;
     std::string paths;
     int style;
@@ -36,7 +36,7 @@ struct Row {
 
 TEST(Hatch, ItsLinesAreCutToItsLoopsAndItsStyleSaysWhichCount)
 {
-    const Row rows[] = {
+    const HatchRow rows[] = {
         {"one loop", "91 1\n" + square, 0, 100},
         {"a hole", "91 2\n" + square + hole, 0, 84},
         {"the hole first", "91 2\n" + hole + square, 0, 84},
@@ -75,7 +75,7 @@ TEST(Hatch, ItsLinesAreCutToItsLoopsAndItsStyleSaysWhichCount)
          "97 0\n72 1\n10 20\n20 10\n11 10\n21 10\n97 0\n",
          0, 33.3},
     };
-    for (const Row& row : rows) {
+    for (const HatchRow& row : rows) {
         const std::string end =
             "75 " + std::to_string(row.style) + "\n76 1\n52 0\n41 1\n77 0\n" + level(1) + "98 0\n";
         const auto drawing = madeFrom(begin + "70 0\n71 0\n" + row.paths + end);

@@ -8,7 +8,7 @@
 namespace mirtane {
 
 // A file of lines "code value", each of which becomes two.
-inline std::string pairsOf(const std::string& rows)
+inline std::string dxfOf(const std::string& rows)
 {
     std::istringstream lines(rows);
     std::string text;
@@ -25,7 +25,7 @@ inline std::string pairsOf(const std::string& rows)
 inline std::string fileOf(const std::string& entities, const std::string& blocks = "",
                           const std::string& tables = "")
 {
-    return pairsOf(
+    return dxfOf(
         "0 SECTION\n2 HEADER\n9 $ACADVER\n1 AC1024\n9 $INSUNITS\n70 1\n0 ENDSEC\n0 SECTION\n2 TABLES\n" +
         tables + "0 ENDSEC\n0 SECTION\n2 BLOCKS\n" + blocks + "0 ENDSEC\n0 SECTION\n2 ENTITIES\n" + entities +
         "0 ENDSEC\n0 EOF\n");

@@ -7,7 +7,7 @@
 namespace mirtane {
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 
 Vec placed(Vec p, double angle, Vec at)
 {

@@ -7,7 +7,7 @@
 namespace mirtane {
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 
 Curve curveOf(CurvePoint (*at)(double), double from, double to)
 {

@@ -8,12 +8,12 @@
 namespace mirtane {
 namespace {
 
-constexpr int wide = 240;
-constexpr int high = 190;
+constexpr int ringsWide = 240;
+constexpr int ringsHigh = 190;
 
 struct Picture {
-    Raster quick{wide, high};
-    Raster plain{wide, high};
+    Raster quick{ringsWide, ringsHigh};
+    Raster plain{ringsWide, ringsHigh};
 
     bool same() const { return std::ranges::equal(quick.pixels(), plain.pixels()); }
 };
@@ -27,7 +27,7 @@ Stroke anyStroke(fake::HostileNumbers& numbers)
 // Also over the edges, and as small as a pixel.
 struct Placed {
     explicit Placed(fake::HostileNumbers& numbers)
-        : x(numbers.between(-40, wide + 40)), y(numbers.between(-40, high + 40)),
+        : x(numbers.between(-40, ringsWide + 40)), y(numbers.between(-40, ringsHigh + 40)),
           r(std::exp(numbers.between(-1, 5)))
     {
     }

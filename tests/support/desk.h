@@ -12,6 +12,7 @@ namespace mirtane::fake {
 inline constexpr const char* home = "/home/user";
 inline const std::string houseFile = "/home/user/house.mtd"; // where saving as "house" goes
 inline constexpr ControlId list = "List1"_c;
+inline constexpr int shiftKey = 16; // as the drawing is told
 inline const std::vector<std::string> editRows = {
     "Break", "Trim",   "Stretch", "Copy", "Mirror Copy", "Radial Copy", "Concentric Copy", "Move", "Rotate",
     "Scale", "Change", "Fillet",  "",     "Delete"};

@@ -14,6 +14,8 @@
 
 namespace mirtane::fake {
 
+inline constexpr int ctrlKey = 17; // as the drawing is told; while it is held clicks are snapped to points
+
 class DrawingDesk {
   public:
     explicit DrawingDesk(const Scale& view = {0, 0, 4800, 3200}, Size surface = {1200, 800});

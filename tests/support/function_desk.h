@@ -15,8 +15,6 @@
 
 namespace mirtane::fake {
 
-inline constexpr int ctrlKey = 17; // as canvasKeyDown names it; while it is held clicks are snapped to points
-
 class FunctionDesk : public DrawingDesk {
   public:
     explicit FunctionDesk(std::string_view function, const Scale& view = {0, 0, 4800, 3200})
