@@ -13,9 +13,9 @@ using namespace exchanged;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::int32_t red = 0x0000FF;
-constexpr std::int32_t blue = 0xFF0000;
-constexpr std::int32_t white = 0xFFFFFF;
+constexpr std::int32_t redPen = 0x0000FF;
+constexpr std::int32_t bluePen = 0xFF0000;
+constexpr std::int32_t whitePen = 0xFFFFFF;
 
 Record onlyEntity(const EntityRecord& r)
 {
@@ -180,13 +180,13 @@ TEST(DxfDrawing, LayerHasThePenOfMostOfItsObjectsAndTheyFollowIt)
     Drawing drawing;
     drawing.layer(2).layerName = "Walls";
     drawing.layer(2).layerShown = layer::hidden;
-    for (const std::int32_t color : {red, blue, red})
+    for (const std::int32_t color : {redPen, bluePen, redPen})
         drawing.add(fake::ofLooks(fake::line({0, 0}, {12, 12}), color, 2), Stat::off);
     const auto records = drawing.records();
     const auto layers = of(records, "TABLES", "LAYER");
     ASSERT_EQ(layers.size(), 3U);
     EXPECT_EQ(layers[2].first(2), "Walls");
-    EXPECT_EQ(layers[2].first(62), "-1") << "red, and off";
+    EXPECT_EQ(layers[2].first(62), "-1") << "redPen, and off";
     EXPECT_EQ(layers[2].first(370), "25");
     const auto lines = of(records, "ENTITIES", "LINE");
     ASSERT_EQ(lines.size(), 3U) << "what is hidden is written too";
@@ -239,13 +239,14 @@ TEST(DxfDrawing, StyleIsALineTypeThatTheFileHas)
 {
     const char* const names[] = {"", "DASHED", "DOT", "DASHDOT", "DIVIDE"};
     for (std::int16_t style = 0; style < 5; ++style)
-        EXPECT_EQ(onlyEntity(fake::ofLooks(fake::circle({}, 12), white, 0, style)).first(6), names[style]);
-    EXPECT_EQ(onlyEntity(fake::ofLooks(fake::text({}, "x"), white, 0, 2)).first(6), "");
+        EXPECT_EQ(onlyEntity(fake::ofLooks(fake::circle({}, 12), whitePen, 0, style)).first(6), names[style]);
+    EXPECT_EQ(onlyEntity(fake::ofLooks(fake::text({}, "x"), whitePen, 0, 2)).first(6), "");
 }
 
 TEST(DxfDrawing, OneLayerIsAllThatIsWritten)
 {
-    Drawing drawing{fake::ofLooks(fake::line({}, {1, 1}), red, 4), fake::ofLooks(fake::point({}), red, 5)};
+    Drawing drawing{fake::ofLooks(fake::line({}, {1, 1}), redPen, 4),
+                    fake::ofLooks(fake::point({}), redPen, 5)};
     const auto entities = of(recordsOf(drawing.written(5).bytes), "ENTITIES");
     ASSERT_EQ(entities.size(), 1U);
     EXPECT_EQ(entities[0].type, "POINT");

@@ -96,12 +96,12 @@ void expectHandlesAreWhole(const std::vector<Record>& records)
         most = std::max(most, std::stoul(r.handle(), nullptr, 16));
     }
     for (const Record& r : records) {
-        for (const Pair& pair : r.pairs) {
+        for (const WrittenPair& pair : r.pairs) {
             EXPECT_TRUE(!isPointer(pair.code) || handles.contains(pair.value)) << r.type << " " << pair.code;
         }
     }
     const auto& head = records.front().pairs;
-    const auto seed = std::ranges::find(head, "$HANDSEED", &Pair::value);
+    const auto seed = std::ranges::find(head, "$HANDSEED", &WrittenPair::value);
     ASSERT_NE(seed, head.end());
     EXPECT_GT(std::stoul(std::next(seed)->value, nullptr, 16), most);
 }

@@ -1,5 +1,7 @@
 #include "exchange/hatch_lines.h"
 
+#include "stroke_checks.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,11 +10,6 @@
 
 namespace mirtane {
 namespace {
-
-Vec placed(Vec p, double angle, Vec at)
-{
-    return at + p.x * wayAt(angle) + p.y * turnedLeft(wayAt(angle));
-}
 
 Loop box(Vec low, Vec high, double angle = 0, Vec at = {})
 {

@@ -23,7 +23,7 @@ Drawing readBack(const std::string& bytes)
     return back;
 }
 
-std::vector<EntityRecord> objectsOf(const Drawing& drawing)
+std::vector<EntityRecord> drawnObjects(const Drawing& drawing)
 {
     std::vector<EntityRecord> objects;
     for (std::int32_t i = 1; i < drawing.session->store.end(); ++i)
@@ -48,8 +48,8 @@ void expectSame(const EntityRecord& was, EntityRecord back)
 
 void expectSameObjects(const Drawing& drawing)
 {
-    const std::vector<EntityRecord> was = objectsOf(drawing);
-    const std::vector<EntityRecord> back = objectsOf(readBack(drawing.written().bytes));
+    const std::vector<EntityRecord> was = drawnObjects(drawing);
+    const std::vector<EntityRecord> back = drawnObjects(readBack(drawing.written().bytes));
     ASSERT_EQ(back.size(), was.size());
     for (std::size_t i = 0; i < was.size(); ++i) expectSame(was[i], back[i]);
 }
@@ -185,11 +185,11 @@ TEST(RoundTrip, WhatWasChangedMeanwhileIsReadAsItStands)
         bytes.replace(at, from.size(), to);
     };
     replace("AcDbText\r\n 10\r\n10.0\r\n", "AcDbText\r\n 10\r\n17.0\r\n");
-    EXPECT_EQ(objectsOf(readBack(bytes)).front().p1.x, 204);
+    EXPECT_EQ(drawnObjects(readBack(bytes)).front().p1.x, 204);
     bytes = Drawing{fake::text({120, 240}, "Hall", 48)}.written().bytes;
     replace("  1\r\nHall\r\n", "  1\r\nRoom\r\n");
-    EXPECT_EQ(objectsOf(readBack(bytes)).front().t1, "Room");
-    EXPECT_EQ(objectsOf(readBack(bytes)).front().p1.x, 120);
+    EXPECT_EQ(drawnObjects(readBack(bytes)).front().t1, "Room");
+    EXPECT_EQ(drawnObjects(readBack(bytes)).front().p1.x, 120);
 }
 
 } // namespace

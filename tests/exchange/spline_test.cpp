@@ -9,11 +9,6 @@ namespace {
 
 using std::numbers::pi;
 
-Vec placed(Vec p, double angle, Vec at)
-{
-    return at + p.x * wayAt(angle) + p.y * turnedLeft(wayAt(angle));
-}
-
 // Nine points on the square about a circle.
 Spline circle(double radius, double angle, Vec at)
 {

@@ -9,6 +9,12 @@
 
 namespace mirtane {
 
+// A point of a figure that is turned and then moved.
+inline Vec placed(Vec p, double angle, Vec at)
+{
+    return at + p.x * wayAt(angle) + p.y * turnedLeft(wayAt(angle));
+}
+
 inline double distanceToAny(const std::vector<Stroke>& strokes, Vec p)
 {
     double least = std::numeric_limits<double>::infinity();

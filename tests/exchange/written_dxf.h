@@ -17,19 +17,19 @@
 
 namespace mirtane::exchanged {
 
-struct Pair {
+struct WrittenPair {
     int code = -1;
     std::string value;
 };
 
 struct Record {
     std::string section, type;
-    std::vector<Pair> pairs;
+    std::vector<WrittenPair> pairs;
 
     std::vector<std::string> all(int code) const
     {
         std::vector<std::string> values;
-        for (const Pair& pair : pairs) {
+        for (const WrittenPair& pair : pairs) {
             if (pair.code == code) values.push_back(pair.value);
         }
         return values;
@@ -50,9 +50,9 @@ struct Record {
     std::string handle() const { return type == "DIMSTYLE" ? first(105) : first(5); }
 };
 
-inline std::vector<Pair> pairsOf(const std::string& bytes)
+inline std::vector<WrittenPair> pairsOf(const std::string& bytes)
 {
-    std::vector<Pair> pairs;
+    std::vector<WrittenPair> pairs;
     std::istringstream in(bytes);
     std::string code;
     std::string value;
@@ -68,7 +68,7 @@ inline std::vector<Record> recordsOf(const std::string& bytes)
     std::vector<Record> records;
     std::string section;
     bool named = true;
-    for (const Pair& pair : pairsOf(bytes)) {
+    for (const WrittenPair& pair : pairsOf(bytes)) {
         if (pair.code == 0) records.push_back({section, pair.value, {}});
         if (pair.code == 0) named = pair.value != "SECTION";
         if (!named && pair.code == 2) section = pair.value;
