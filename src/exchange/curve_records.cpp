@@ -34,8 +34,8 @@ void takeEllipse(const DxfRecord& record, DrawingMaker& maker)
     const Vec3 normal = record.point(210, {0, 0, 1});
     const double size = length(normal);
     const Vec3 minor = record.number(40, 1) / (size > 0 ? size : 1) * cross(normal, major);
-    const double from = record.number(41);
-    double to = record.number(42, whole);
+    const double from = std::fmod(record.number(41), whole);
+    double to = record.number(42, whole) - (record.number(41) - from);
     if (to <= from) to += whole * std::ceil((from - to + 1e-12) / whole);
     if (to - from > whole) to = from + whole;
     maker.arc({maker.flat(record.point(10)), maker.flatWay(major), maker.flatWay(minor), from, to});

@@ -47,7 +47,9 @@ void addStroke(const Stroke& stroke, std::vector<Piece>& pieces)
 
 std::vector<Piece> piecesOf(const EllipseArc& arc, double tolerance)
 {
-    const bool isSound = isFinite(arc.centre) && isFinite(arc.u) && isFinite(arc.v) && arc.to > arc.from &&
+    constexpr double farthest = 1e9; // turns beyond it can't be told apart
+    const bool isSound = std::abs(arc.from) < farthest && isFinite(arc.centre) && isFinite(arc.u) &&
+                         isFinite(arc.v) && arc.to > arc.from &&
                          arc.to - arc.from <= 2 * std::numbers::pi + 1e-6;
     if (!isSound) return {};
     if (isFlat(arc, tolerance)) return linesToAndFro(arc);

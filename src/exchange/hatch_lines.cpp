@@ -54,6 +54,8 @@ bool RowCutter::findRange(std::span<const Loop> loops)
         }
     }
     if (low > high) return true;
+    constexpr double countable = 1e12; // beyond, one line more would make no difference
+    if (!(std::max(-low, high) < countable)) return false;
     first_ = std::ceil(low);
     const double count = std::floor(high) - first_ + 1;
     if (!(count <= static_cast<double>(most_))) return false;

@@ -70,7 +70,8 @@ CurvePoint Knotted::at(double t, Side side) const
 bool areFinite(const Spline& s)
 {
     const auto finite = [](double v) { return std::isfinite(v); };
-    return std::ranges::all_of(s.points, isFinite) && std::ranges::all_of(s.knots, finite);
+    const auto near = [](Vec p) { return std::abs(p.x) < farthestPoint && std::abs(p.y) < farthestPoint; };
+    return std::ranges::all_of(s.points, near) && std::ranges::all_of(s.knots, finite);
 }
 
 std::vector<double> evenKnots(std::size_t degree, std::size_t points)

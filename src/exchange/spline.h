@@ -6,6 +6,9 @@
 
 namespace mirtane {
 
+// Farther off nothing is drawn, and the squares of distances could not be had.
+inline constexpr double farthestPoint = 1e30;
+
 struct Spline {
     int degree = 3;
     std::vector<double> knots;

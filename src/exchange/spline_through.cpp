@@ -130,7 +130,8 @@ Through solvedRound(const std::vector<Vec>& points)
 
 std::vector<Curve> curvesThrough(std::vector<Vec> points, const PassingEnds& ends)
 {
-    if (!std::ranges::all_of(points, isFinite)) return {};
+    const auto near = [](Vec p) { return std::abs(p.x) < farthestPoint && std::abs(p.y) < farthestPoint; };
+    if (!std::ranges::all_of(points, near)) return {};
     points.erase(std::unique(points.begin(), points.end()), points.end());
     const bool isClosed = ends.isClosed && points.size() > 2;
     if (isClosed && points.front() == points.back()) points.pop_back();

@@ -64,6 +64,7 @@ TEST(EllipsePieces, WhatIsNoneMakesNone)
     EXPECT_TRUE(piecesOf({{0, 0}, {1, 0}, {0, 2}, 1, 1}, 0.01).empty());
     EXPECT_TRUE(piecesOf({{0, 0}, {1, 0}, {0, 2}, 0, none}, 0.01).empty());
     EXPECT_TRUE(piecesOf({{0, 0}, {1, 0}, {0, 2}, 0, 1e30}, 0.01).empty());
+    EXPECT_TRUE(piecesOf({{0, 0}, {1, 0}, {0, 2}, 3e16, 3e16 + 4}, 0.01).empty());
 }
 
 } // namespace

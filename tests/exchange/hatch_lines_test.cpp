@@ -122,6 +122,8 @@ TEST(PatternLines, SoManyThatTheyCoverTheAreaAreNone)
         {{0, 0}, {1, 0}, {0, 10}, {0.001, -0.001}},
         {{0, 0}, {1, 0}, {0, 10}, {1e-300, -1e-300}},
         {{0, 0}, {1, 0}, {0, none}, {}},
+        {{0, 1e17}, {1, 0}, {0, 1}, {}},
+        {{0, -3e18}, {1, 0}, {0, -40}, {}},
         {{none, 0}, {1, 0}, {0, 1}, {}},
     };
     for (const PatternRow& row : dense) EXPECT_FALSE(patternLines(loops, {{row}}, 5000)) << row.offset.y;

@@ -111,6 +111,14 @@ TEST(Spline, WeightsThatAreNoneAreLeftOut)
     }
 }
 
+TEST(Spline, KnotsFartherApartThanNumbersReachTakeNoHarm)
+{
+    const auto curves =
+        curvesOf({2, {-1e308, -1e308, -1e308, 1e308, 1e308, 1e308}, {{0, 0}, {5, 5}, {9, 0}}, {}});
+    ASSERT_EQ(curves.size(), 1U);
+    EXPECT_LT(tangentArcs(curves[0], 0.01).size(), 10U);
+}
+
 TEST(Spline, WhatIsNoneMakesNone)
 {
     const double none = std::numeric_limits<double>::infinity();
@@ -122,6 +130,7 @@ TEST(Spline, WhatIsNoneMakesNone)
         {1 << 30, {}, {{0, 0}, {1, 1}}, {}},
         {1, {}, {{0, none}, {1, 1}}, {}},
         {1, {0, 0, none, 1}, {{0, 0}, {1, 1}}, {}},
+        {1, {}, {{0, 1e200}, {1, 1}}, {}},
     };
     for (const Spline& row : rows) EXPECT_TRUE(curvesOf(row).empty());
 }
@@ -213,6 +222,7 @@ TEST(SplineThrough, PointsOfACircleComeCloseToIt)
 TEST(SplineThrough, OnePointOrNoneIsNoCurve)
 {
     EXPECT_TRUE(curvesThrough({}, {}).empty());
+    EXPECT_TRUE(curvesThrough({{1, 1}, {1, -1e60}}, {}).empty());
     EXPECT_TRUE(curvesThrough({{1, 1}, {1, 1}}, {{1, 0}, {1, 0}, true}).empty());
     EXPECT_TRUE(curvesThrough({{1, 1}, {1, std::numeric_limits<double>::quiet_NaN()}}, {}).empty());
 }
