@@ -3,6 +3,8 @@
 #include "exchange/curve_records.h"
 #include "exchange/group_run.h"
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
@@ -33,20 +35,73 @@ std::vector<Corner> cornersOf(const DxfRecord& record)
     return corners;
 }
 
+// What all multiple lines of a style have in common.
+struct Style {
+    int flags = 0;
+    std::vector<int> colors; // one a line, by number
+};
+
+Style styleOf(const DxfRecord& record, const DxfList& list)
+{
+    Style style;
+    const auto found = list.objects.find(record.name(340));
+    if (found == list.objects.end()) return style;
+    style.flags = found->second.whole(70);
+    for (const DxfGroup& group : found->second.groups) {
+        if (group.code == 49) style.colors.push_back(256); // as the layer, if it does not say
+        if (group.code == 62 && !style.colors.empty()) style.colors.back() = dxfWhole(group.value, 256);
+    }
+    return style;
+}
+
+Vec cornerOf(const Corner& corner, double along, const DrawingMaker& maker)
+{
+    return maker.flat(corner.at + along * corner.across);
+}
+
+void drawCap(const Corner& corner, DrawingMaker& maker)
+{
+    if (corner.along.empty()) return;
+    const auto [least, most] = std::ranges::minmax(corner.along);
+    maker.line(cornerOf(corner, least, maker), cornerOf(corner, most, maker));
+}
+
+namespace style_flag {
+constexpr int joints = 2, startCap = 16, endCap = 256;
+}
+namespace flag {
+constexpr int closed = 2, noStartCap = 4, noEndCap = 8;
+}
+
+void drawCaps(const std::vector<Corner>& corners, int flags, int styleFlags, DrawingMaker& maker)
+{
+    const bool isOpen = (flags & flag::closed) == 0;
+    const bool starts = isOpen && (styleFlags & style_flag::startCap) != 0 && (flags & flag::noStartCap) == 0;
+    const bool ends = isOpen && (styleFlags & style_flag::endCap) != 0 && (flags & flag::noEndCap) == 0;
+    if (starts) drawCap(corners.front(), maker);
+    if (ends) drawCap(corners.back(), maker);
+    if ((styleFlags & style_flag::joints) == 0) return;
+    for (std::size_t i = 1; i + 1 < corners.size(); ++i) drawCap(corners[i], maker);
+}
+
 } // namespace
 
 void takeMultiline(const DxfRecord& record, DrawingMaker& maker)
 {
-    constexpr int closed = 2;
     const auto corners = cornersOf(record);
     if (corners.size() < 2) return maker.leftOut(record.type, "not whole");
+    const Style style = styleOf(record, maker.list());
+    const int flags = record.whole(71);
+    drawCaps(corners, flags, style.flags, maker);
     std::size_t lines = corners[0].along.size();
     for (const Corner& corner : corners) lines = std::min(lines, corner.along.size());
+    const Look own = maker.look;
     for (std::size_t i = 0; i < lines; ++i) {
         std::vector<Vec> points;
-        for (const Corner& corner : corners)
-            points.push_back(maker.flat(corner.at + corner.along[i] * corner.across));
-        maker.polyline(points, (record.whole(71) & closed) != 0);
+        for (const Corner& corner : corners) points.push_back(cornerOf(corner, corner.along[i], maker));
+        if (i < style.colors.size()) maker.look.color = maker.penOf(style.colors[i]);
+        maker.polyline(points, (flags & flag::closed) != 0);
+        maker.look = own;
     }
 }
 

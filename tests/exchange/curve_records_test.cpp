@@ -118,5 +118,22 @@ TEST(Multilines, HaveTheirLinesAtTheirDistances)
     EXPECT_LT(length(drawing.objects[1].p[1] - Vec{24.4, 4.2}), 1e-9);
 }
 
+TEST(Multilines, TakePensAndCapsFromTheirStyle)
+{
+    const std::string corner =
+        "12 1\n22 0\n32 0\n13 0\n23 1\n33 0\n74 2\n41 2\n41 0\n75 0\n74 2\n41 -3\n41 0\n75 0\n";
+    const std::string line =
+        "0 MLINE\n8 0\n340 5C\n70 0\n71 1\n72 2\n73 2\n10 0\n20 0\n30 0\n11 0\n21 0\n31 0\n" + corner +
+        "11 20\n21 0\n31 0\n" + corner;
+    const std::string style = "0 ENDSEC\n0 SECTION\n2 OBJECTS\n0 MLINESTYLE\n5 5C\n2 DOUBLE\n70 16\n62 "
+                              "256\n71 2\n49 2\n62 1\n6 BYLAYER\n49 -3\n62 5\n6 BYLAYER\n";
+    const auto drawing = madeFrom(line + style);
+    ASSERT_EQ(drawing.objects.size(), 3U);
+    EXPECT_EQ(drawing.objects[0].p[0], (Vec{0, -3})); // the cap at the start
+    EXPECT_EQ(drawing.objects[0].p[1], (Vec{0, 2}));
+    EXPECT_EQ(drawing.objects[1].look.color, 0x0000FF);
+    EXPECT_EQ(drawing.objects[2].look.color, 0xFF0000);
+}
+
 } // namespace
 } // namespace mirtane
