@@ -7,8 +7,10 @@
 #include "exchange/percent_codes.h"
 #include "geometry/fault.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <numbers>
 #include <optional>
 
@@ -41,9 +43,12 @@ class DimensionPoints {
 // As many places as the style has, without noughts behind the last that counts.
 std::string numberShown(double value, int decimals)
 {
-    char shown[64];
-    std::snprintf(shown, sizeof shown, "%.*f", decimals, std::abs(value) < 1e15 ? value : 0.0);
-    std::string text = shown;
+    constexpr double readable = 1e15;
+    constexpr int mostDecimals = 8; // that a dimension style can ask for
+    std::array<char, 64> shown{};
+    const auto end = std::to_chars(shown.begin(), shown.end(), std::abs(value) < readable ? value : 0.0,
+                                   std::chars_format::fixed, std::clamp(decimals, 0, mostDecimals));
+    std::string text(shown.begin(), end.ptr);
     if (text.find('.') == std::string::npos) return text;
     text.erase(text.find_last_not_of('0') + 1);
     if (text.ends_with('.')) text.pop_back();

@@ -8,9 +8,22 @@
 #include "model/entity_store.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace mirtane {
 namespace {
+
+// From a point within a box as far along a way as the box goes; nothing along no way.
+Vec wayToEdge(Vec from, Vec way, Vec low, Vec high)
+{
+    const auto reach = [](double at, double step, double least, double most) {
+        return step == 0 ? std::numeric_limits<double>::infinity()
+                         : quotient((step > 0 ? most : least) - at, step);
+    };
+    const double times = std::min(reach(from.x, way.x, low.x, high.x), reach(from.y, way.y, low.y, high.y));
+    return std::isfinite(times) ? times * way : Vec{};
+}
 
 constexpr std::int64_t mostSteps = 1'000'000; // records drawn, those of a block each time that it is inserted
 constexpr std::size_t deepest = 32;           // blocks within blocks
@@ -234,16 +247,19 @@ std::string DrawingMaker::faceOf(std::string_view style) const
 }
 
 // They don't add to the size of the drawing themselves.
+// As far beyond the drawing as half its size: a view of all of it still shows the drawing, and not a dot on a
+// line.
 void DrawingMaker::cutEndless()
 {
-    constexpr double times = 10;
     Bounds bounds = boundsOf(made_.objects);
     for (const Endless& one : endless_) bounds.feed(one.from);
-    const double reach = times * (bounds.size() > 0 ? bounds.size() : 1);
+    const double beyond = bounds.size() > 0 ? bounds.size() / 2 : 1;
+    const Vec low = bounds.low - Vec{beyond, beyond}, high = bounds.high + Vec{beyond, beyond};
     for (const Endless& one : endless_) {
         look = one.look;
-        const Vec far = quotient(reach, length(one.way)) * one.way;
-        line(one.bothWays ? one.from - far : one.from, one.from + far);
+        const Vec far = wayToEdge(one.from, one.way, low, high);
+        const Vec back = one.bothWays ? wayToEdge(one.from, -1 * one.way, low, high) : Vec{};
+        line(one.from + back, one.from + far);
     }
 }
 

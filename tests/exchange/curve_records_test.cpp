@@ -78,17 +78,18 @@ TEST(SplineRecord, InABlockItIsDrawnAsTheInsertStretchesIt)
     EXPECT_NEAR(length(last.p[0] - Vec{130, -10}), last.radius, 1e-6);
 }
 
-TEST(EndlessLines, AreCutAtTenTimesTheDrawing)
+TEST(EndlessLines, GoAsFarBeyondTheDrawingAsHalfItsSize)
 {
     const std::string box = "0 LINE\n8 0\n10 0\n20 0\n11 30\n21 40\n";
     const auto drawing =
         madeFrom("0 XLINE\n8 0\n10 3\n20 4\n11 0.6\n21 0.8\n0 RAY\n8 0\n10 3\n20 4\n11 0\n21 -1\n" + box);
     const auto lines = ofKind(drawing, Kind::line);
     ASSERT_EQ(lines.size(), 3U);
-    EXPECT_NEAR(length(lines[1].p[1] - lines[1].p[0]), 1000, 1);
-    EXPECT_NEAR(length(lines[2].p[1] - lines[2].p[0]), 500, 1);
+    // the drawing is 30 by 40, and 50 across
+    EXPECT_NEAR(length(lines[1].p[0] - Vec{-18.75, -25}), 0, 1e-9);
+    EXPECT_NEAR(length(lines[1].p[1] - Vec{48.75, 65}), 0, 1e-9);
     EXPECT_EQ(lines[2].p[0], (Vec{3, 4}));
-    EXPECT_LT(lines[2].p[1].y, -400);
+    EXPECT_NEAR(length(lines[2].p[1] - Vec{3, -25}), 0, 1e-9);
 }
 
 TEST(Tables, AreDrawnByTheirBlock)
