@@ -35,7 +35,8 @@ void markPen(Session& s)
 int rowOf(const Control& list, std::string_view text)
 {
     const auto found = std::ranges::find(list.rows, text);
-    return found == list.rows.end() || text.empty() ? -1 : static_cast<int>(found - list.rows.begin());
+    if (found == list.rows.end() || text.empty()) return -1;
+    return static_cast<int>(found - list.rows.begin()); // a list has at most some thousand rows
 }
 
 // The name in a list of those that a function draws with.

@@ -115,7 +115,7 @@ TEST_F(Plans, WhatWentWrongIsSaidBesideTheNameUntilItIsChanged)
 {
     saveAs("/nowhere/at/all/x");
     EXPECT_EQ(fault(), "There is no folder /nowhere/at/all");
-    EXPECT_EQ(typed(), "/nowhere/at/all/x");
+    EXPECT_EQ(typed(), "/nowhere/at/all/x.mtd");
     desk.type("y");
     EXPECT_EQ(fault(), "");
     desk.disk.refusesWrites = true;

@@ -11,7 +11,8 @@ void lightFile(Session& s)
     Control& files = s.controls[ids::fileList];
     const std::string name = isSaving(s.controls) ? chosenName(s) : nameInList(s, chosenName(s));
     const auto found = std::ranges::find(files.rows, name);
-    files.row = found == files.rows.end() ? -1 : static_cast<int>(found - files.rows.begin());
+    const auto row = found - files.rows.begin();
+    files.row = found == files.rows.end() ? -1 : static_cast<int>(row); // a folder holds some thousand files
     const bool isPicture = files.row >= 0 && !isSaving(s.controls);
     s.controls[ids::filePicture].text = isPicture ? folderShown(s.controls) + "/" + name : "";
 }

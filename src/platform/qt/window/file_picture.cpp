@@ -19,7 +19,7 @@ FilePicture::FilePicture(EventGate& gate, QWidget* parent) : QWidget(parent), ga
 
 void FilePicture::show(const Control& now)
 {
-    const int across = std::max(1, parentWidget()->width() / 2);
+    const int across = std::max(1, parentWidget()->width());
     const double ratio = devicePixelRatioF();
     surface_.emplace(wholeSize(QSizeF(across, pictureHeight) * ratio).width(),
                      wholeSize(QSizeF(across, pictureHeight) * ratio).height(), ratio);
