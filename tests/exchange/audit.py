@@ -1,9 +1,10 @@
-""
-    "Says what a reader that is none of ours finds wrong in a DXF file: nothing, for a good one. " missing
-    " without it."
-    "" import sys
+"""Says what a reader that is none of ours finds wrong in a DXF file: nothing, for a good one. "missing" without it."""
+import sys
 
-try : import ezdxf from ezdxf import recover except ImportError:
+try:
+    import ezdxf
+    from ezdxf import recover
+except ImportError:
     print("missing")
     sys.exit()
 
