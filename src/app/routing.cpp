@@ -2,6 +2,7 @@
 
 #include "app/actions.h"
 #include "app/dialogs/filter_dialog.h"
+#include "app/dialogs/help.h"
 #include "app/dialogs/print_dialog.h"
 #include "app/drawing/canvas_input.h"
 #include "app/drawing/selection.h"
@@ -34,7 +35,7 @@ struct ListRow {
 constexpr ListRow listRows[] = {
     {ids::selectionList, listRowClicked}, {ids::filterLayerList, chooseFilterLayer},
     {ids::fileList, chooseFile},          {ids::folderList, chooseFolder},
-    {ids::driveList, chooseDrive},
+    {ids::driveList, chooseDrive},        {ids::helpContents, chooseChapter},
 };
 
 void listEnter(App& app, ControlId list)
@@ -90,6 +91,7 @@ void keyToControl(App& app, ControlId id, char32_t code)
     if (id == ids::entry) return entryKeyPress(s, app.pic1, code);
     if (id == ids::fileName) return fileNameKeyPress(app, code);
     if (id == ids::printScale) return printScaleKeyPress(app, code);
+    if (id == ids::helpFind) return helpFindKeyPress(app, code);
     if (isNumericField(id)) return fieldKeyPress(app, id, code);
     if (id.row().kind == ControlKind::list && code == enterKey) return listEnter(app, id);
     if (id == ids::layerCombo) return layerNameKeyPress(app, code);

@@ -30,10 +30,14 @@ const char* const helpText =
     "      --size WxH  pixels of a .png, 1200x800 by default\n"
     "      --paper P   paper of a .pdf or .svg: a0 to a6, letter, legal or tabloid;\n"
     "                  a4 by default\n"
+    "      --landscape the paper lies across\n"
+    "      --scale P:D so many units of paper for so many of the drawing: 1:50. The\n"
+    "                  largest scale that fits by default\n"
     "      --layer N   only what is on layer N\n"
     "      --as-window take DXF files as Open DXF in the window does, which leaves out\n"
     "                  most of what other programs write, and write them as Save DXF\n"
     "  -h, --help      print this and exit\n"
+    "      --version   print the version and exit\n"
     "  --              what follows is no option\n"
     "\n"
     "Exit status: 0 all files were converted, 1 some were not, 2 wrong usage, 3 all\n"
@@ -66,7 +70,7 @@ struct Given {
     std::optional<Format> to;
     std::vector<std::string> inputs;
     std::string out;
-    bool help = false;
+    bool help = false, version = false;
     bool compare = false;
     std::optional<int> workers; // 0 for as many as there are cores
 };
@@ -131,6 +135,17 @@ void takePaper(Given& given, const std::string& value)
     throw WrongUsage{"no such paper: " + value};
 }
 
+void takeScale(Given& given, const std::string& value)
+{
+    constexpr int largest = 100000;
+    const std::string_view text = value;
+    const std::size_t colon = std::min(text.find(':'), text.size());
+    const auto paper = wholeNumber(text.substr(0, colon), 1, largest);
+    const auto drawing = wholeNumber(text.substr(std::min(colon + 1, text.size())), 1, largest);
+    if (!paper || !drawing) throw WrongUsage{"no scale such as 1:50: " + value};
+    given.wishes.scale = PaperScale{*paper, *drawing};
+}
+
 void takeLayer(Given& given, const std::string& value)
 {
     constexpr int highest = 32767;
@@ -152,8 +167,8 @@ struct OptionRow {
 };
 
 constexpr OptionRow optionsWithValue[] = {
-    {"-o", takeOut},        {"--to", takeFormat},   {"--size", takeSize},
-    {"--paper", takePaper}, {"--layer", takeLayer}, {"-j", takeWorkers},
+    {"-o", takeOut},        {"--to", takeFormat}, {"--size", takeSize},   {"--paper", takePaper},
+    {"--layer", takeLayer}, {"-j", takeWorkers},  {"--scale", takeScale},
 };
 
 const OptionRow* optionWithValue(const std::string& word)
@@ -170,6 +185,10 @@ void takeFlag(Given& given, const std::string& word)
         given.wishes.asWindow = true;
     else if (word == "--compare")
         given.compare = true;
+    else if (word == "--landscape")
+        given.wishes.way = QPageLayout::Landscape;
+    else if (word == "--version")
+        given.version = true;
     else if (word == "--help" || word == "-h")
         given.help = true;
     else
@@ -180,7 +199,7 @@ Given givenIn(const std::vector<std::string>& words)
 {
     Given given;
     bool optionsEnded = false;
-    for (std::size_t i = 0; i < words.size() && !given.help; ++i) {
+    for (std::size_t i = 0; i < words.size() && !given.help && !given.version; ++i) {
         const OptionRow* row = optionsEnded ? nullptr : optionWithValue(words[i]);
         if (row) {
             if (++i == words.size()) throw WrongUsage{std::string(row->name) + " without its value"};
@@ -306,7 +325,8 @@ Arguments argumentsOf(const std::vector<std::string>& words)
     const Given given = givenIn(words);
     Arguments arguments;
     arguments.help = given.help;
-    if (given.help) return arguments;
+    arguments.version = given.version;
+    if (given.help || given.version) return arguments;
     if (given.inputs.empty()) throw WrongUsage{"no file to convert"};
     if (given.out.empty()) throw WrongUsage{"no -o OUT"};
     arguments.wishes = given.wishes;

@@ -4,6 +4,7 @@
 
 #include "render/canvas.h"
 
+#include <QPageLayout>
 #include <QPageSize>
 
 #include <optional>
@@ -22,16 +23,23 @@ struct Job {
     std::string named, in, out;
 };
 
+// So many units of paper for so many of the drawing.
+struct PaperScale {
+    int paper = 1, drawing = 1;
+};
+
 struct Wishes {
     Format format = Format::mtd;
     Size size{1200, 800};                        // of a picture, pixels
     QPageSize::PageSizeId paper = QPageSize::A4; // of a page
-    std::optional<std::int16_t> layer;           // that layer alone
-    bool asWindow = false;                       // DXF files by the letter, as the menus take them
+    QPageLayout::Orientation way = QPageLayout::Portrait;
+    std::optional<PaperScale> scale;   // the largest that fits if left out
+    std::optional<std::int16_t> layer; // that layer alone
+    bool asWindow = false;             // DXF files by the letter, as the menus take them
 };
 
 struct Arguments {
-    bool help = false; // then nothing else is set
+    bool help = false, version = false; // then nothing else is set
     Wishes wishes;
     std::vector<Job> jobs; // at least one; no output is an input or the output of another job
     bool compare = false;  // the first with the second, into a picture that is the output of both

@@ -71,18 +71,34 @@ Fault writePlainDxf(App& app, const std::string& out)
     return "a dimension has an unknown arrow style, and ends " + out;
 }
 
-void drawSelection(App& app, Printer& printer)
+std::string shownScale(double drawingUnits)
+{
+    return "1:" +
+           std::to_string(static_cast<std::int64_t>(std::ceil(drawingUnits))); // page and drawing are finite
+}
+
+// What keeps the selection from its scale on a page of that size; nothing where it fits.
+Fault setUpPage(App& app, const Printer& printer, const Wishes& wishes)
 {
     app.s.pageWidth = printer.pageWidth();
     app.s.pageHeight = printer.pageHeight();
     app.s.printFactor = 1;
-    fittedScale(app.s, app.s.store); // sets the bounds of the selection
+    const double fitted = fittedScale(app.s, app.s.store); // sets the bounds of the selection
+    if (!wishes.scale) return std::nullopt;
+    const double wished = static_cast<double>(wishes.scale->drawing) / wishes.scale->paper;
+    if (scaleTo(app.s, app.s.store, wished)) return std::nullopt;
+    return "does not fit on the paper at this scale; " + shownScale(fitted) + " does";
+}
+
+void drawSelection(App& app, Printer& printer)
+{
     drawPage(app.s.store, pageMapping(app.s, app.s.store), app.s.pageHeight, printer);
 }
 
 Fault writePdf(App& app, const std::string& out, const Wishes& wishes)
 {
-    PdfPrinter printer{QPageSize(wishes.paper)};
+    PdfPrinter printer(QPageSize(wishes.paper), wishes.way);
+    if (const Fault fault = setUpPage(app, printer, wishes)) return fault;
     if (!printer.beginPage({out, {}})) return "can't be drawn as a page";
     drawSelection(app, printer);
     if (printer.endPage()) return std::nullopt;
@@ -147,7 +163,8 @@ class SvgPrinter : public PicturePrinter {
 
 Fault writeSvg(App& app, const std::string& out, const Wishes& wishes)
 {
-    const QSizeF twips = QPageSize(wishes.paper).size(QPageSize::Point) * twipsPerPoint;
+    const QPageLayout layout(QPageSize(wishes.paper), wishes.way, {}, QPageLayout::Point);
+    const QSizeF twips = layout.fullRect().size() * twipsPerPoint;
     const QSize dots = (twips * (dotsPerInch / twipsPerInch)).toSize();
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -160,6 +177,7 @@ Fault writeSvg(App& app, const std::string& out, const Wishes& wishes)
     // A page is a few thousand twips wide.
     SvgPrinter printer(svg, static_cast<float>(twips.width()), static_cast<float>(twips.height()),
                        dotsPerInch / twipsPerInch);
+    if (const Fault fault = setUpPage(app, printer, wishes)) return fault;
     if (!printer.beginPage({})) return "can't be drawn as a page";
     drawSelection(app, printer);
     if (!printer.endPage()) return "can't be drawn as a page";

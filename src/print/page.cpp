@@ -210,6 +210,20 @@ PageMapping pageMapping(PrintState& page, const EntityStore& store)
     return {scale, page.printOriginX, page.printOriginY};
 }
 
+bool scaleTo(PrintState& page, const EntityStore& store, double drawingUnits)
+{
+    constexpr double rounding = 1.000001; // a selection that just fits is no larger than the page
+    const double wished = quotient(twipsPerInch, unitsPerInch * drawingUnits);
+    const double width = (static_cast<double>(page.printMaxX) - page.printMinX) * wished;
+    const double height = (static_cast<double>(page.printMaxY) - page.printMinY) * wished;
+    const bool fits = width <= (page.pageWidth - marginTwips) * rounding &&
+                      height <= (page.pageHeight - marginTwips) * rounding;
+    if (!fits) return false;
+    page.printFactor = 1;
+    keep(page.printFactor, quotient(wished, pageMapping(page, store).scale));
+    return true;
+}
+
 void drawPage(const EntityStore& store, const PageMapping& mapping, double pageHeight, Printer& printer)
 {
     printer.font("Garamond", 8);

@@ -21,6 +21,11 @@ struct PageMapping {
 // Also sets the bounds of the selection in page. The fit is reckoned on the page less half an inch each way.
 float fittedScale(PrintState& page, const EntityStore& store);
 
+// Sets printFactor so that so many drawing units come to the inch of paper, whatever the fit. The bounds of
+// the selection must be set. False, and nothing is set, if the selection with half an inch to spare is larger
+// than the page.
+bool scaleTo(PrintState& page, const EntityStore& store, double drawingUnits);
+
 // The mapping of the selection's bounds at printFactor. A selection without any extent keeps the scale that
 // was last used, times the factor once more. Its shape is compared with that of the whole page.
 PageMapping pageMapping(PrintState& page, const EntityStore& store);

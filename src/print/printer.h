@@ -23,8 +23,13 @@ class Printer {
     virtual float pageHeight() const = 0;
     // Whether pages become a file, for want of a printer.
     virtual bool printsToFile() const = 0;
-    // The user's choice of printer and paper. What has been read of the page stays.
-    virtual void setup() = 0;
+    // The machine's printer that pages come out of; empty where they become files.
+    virtual std::string name() const { return {}; }
+    // Where pages that become files go; empty: beside the drawing.
+    virtual std::string folder() const { return {}; }
+    // The user's choice of printer, paper and place; next is the page as it would be put out now. What has
+    // been read of the page stays. Gives what there is to say of the choice.
+    virtual std::string setup(const PageName& next) = 0;
 
     // A page begins. False if it can't be begun.
     virtual bool beginPage(const PageName& name) = 0;

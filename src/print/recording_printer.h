@@ -30,7 +30,7 @@ class RecordingPrinter : public Printer {
     float pageWidth() const override { return width_; }
     float pageHeight() const override { return height_; }
     bool printsToFile() const override { return false; }
-    void setup() override {}
+    std::string setup(const PageName&) override { return {}; }
     bool beginPage(const PageName& name) override;
     void font(std::string_view name, double points) override;
     void text(double x, double y, std::string_view utf8) override;

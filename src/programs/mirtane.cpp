@@ -21,14 +21,15 @@
 #include <QScreen>
 #include <QSocketNotifier>
 
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <string_view>
 
 namespace {
 
 using namespace mirtane;
 
-constexpr QSize firstSize(1280, 800);
 constexpr float unitsPerPixel = 4; // of the window system: a fine screen shows the same part of the world
 
 // Of any size: the window brings it to its own, at the same units to the pixel.
@@ -71,11 +72,27 @@ std::string absolutePath(const char* argument)
     return name.isEmpty() ? std::string() : QDir::cleanPath(QDir().absoluteFilePath(name)).toStdString();
 }
 
+// What is printed for the one word that is no name of a drawing; nothing for others.
+const char* answerTo(std::string_view word)
+{
+    if (word == "--version") return "Mirtane 4.00\n";
+    if (word != "--help") return nullptr;
+    return "Usage: mirtane [DRAWING]\n"
+           "Draws plans in two dimensions. With the name of a drawing (.mtd) that drawing is opened.\n"
+           "\n"
+           "  --help     print this and exit\n"
+           "  --version  print the version and exit\n"
+           "\n"
+           "The manual is in the menu Help of the window; a drawing of such a name is ./--help.\n";
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    int toolkitArguments = 1; // a name that looks like an option is the name of a drawing
+    if (const char* const answer = argc == 2 ? answerTo(argv[1]) : nullptr)
+        return std::fputs(answer, stdout) >= 0 && std::fflush(stdout) == 0 ? 0 : 1;
+    int toolkitArguments = 1; // the toolkit's own options would be names of drawings
     QApplication application(toolkitArguments, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("mirtane")); // which tells a desktop the window's icon
     QApplication::setQuitOnLastWindowClosed(false);                 // the shell says when it ends
@@ -93,7 +110,7 @@ int main(int argc, char* argv[])
     QtFonts fonts;
     Session session;
     Surface surface = firstSurface();
-    const std::unique_ptr<Printer> printer = systemPrinter();
+    const std::unique_ptr<Printer> printer = systemPrinter(settings);
     const Places places = placesOf(QCoreApplication::applicationDirPath());
     Shell shell(session, surface,
                 {disk, folders, settings, places.program, printer.get(), &fonts, places.ownFiles, &keeper,
@@ -106,7 +123,7 @@ int main(int argc, char* argv[])
     keepWorkAtTheLastMoment(application, endSignals);
 
     MainWindow window(shell, surface);
-    window.resize(firstSize);
+    window.takeFirstSize();
     if (argc > 1) window.openWhenShown(absolutePath(argv[1]));
     window.show();
     const int status = QApplication::exec();

@@ -121,8 +121,8 @@ int run(const std::vector<std::string>& words, Toolkit& toolkit)
 {
     try {
         const Arguments arguments = argumentsOf(words);
-        if (arguments.help) {
-            std::cout << helpText << std::flush;
+        if (arguments.help || arguments.version) {
+            std::cout << (arguments.help ? helpText : "mirtane-convert 4.00\n") << std::flush;
             return std::cout ? 0 : notAll;
         }
         if (arguments.workers > 0) return convertAtOnce(arguments, toolkit);

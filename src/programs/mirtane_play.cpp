@@ -150,10 +150,31 @@ int run(const Options& options)
     return status;
 }
 
+constexpr const char* helpText =
+    "Usage: mirtane-play [--size WxH] [--home DIR] [FILE]\n"
+    "Runs Mirtane without its window: reads one command a line from FILE or from standard\n"
+    "input, does what a user would have done, and answers questions.\n"
+    "\n"
+    "  --size WxH  pixels of the drawing, 1200x800 by default\n"
+    "  --home DIR  where files begin; a fresh folder, removed at the end, by default\n"
+    "  --help      print this and exit\n"
+    "  --version   print the version and exit\n";
+
+// The exit status for a word that asks of the program itself; nothing for others.
+std::optional<int> answered(const std::string& word)
+{
+    if (word != "--help" && word != "--version") return std::nullopt;
+    std::cout << (word == "--help" ? helpText : "mirtane-play 4.00\n") << std::flush;
+    return std::cout ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    if (argc == 2) {
+        if (const auto status = answered(argv[1])) return *status;
+    }
     // No window is ever opened, so none of the machine's displays is asked for.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);

@@ -94,6 +94,12 @@ struct Prompt {
     bool andOn = false; // also at every later step up to the next row's
 };
 
+// Where the manual tells of it: a chapter, and the line that heads its paragraph.
+struct InManual {
+    int chapter = 0;
+    std::string_view heading = "";
+};
+
 struct FunctionRow {
     std::string_view name;
     ControlId starter;
@@ -110,6 +116,7 @@ struct FunctionRow {
     bool samePointCancels; // a click on the last point ends the action
     std::int16_t firstStep;
     std::span<const Prompt> prompts;
+    InManual inManual = {};
 };
 
 std::span<const FunctionRow> vocabulary();

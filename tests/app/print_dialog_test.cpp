@@ -26,7 +26,14 @@ class TestPrinter : public RecordingPrinter {
     using RecordingPrinter::RecordingPrinter;
 
     bool printsToFile() const override { return toFile; }
-    void setup() override { ++setups; }
+    std::string name() const override { return called; }
+    std::string folder() const override { return place; }
+    std::string setup(const PageName& next) override
+    {
+        ++setups;
+        nextFile = next.file;
+        return said;
+    }
     bool beginPage(const PageName& name) override
     {
         ++pages;
@@ -44,7 +51,8 @@ class TestPrinter : public RecordingPrinter {
 
     bool toFile = false, refusesPages = false, refusesEnds = false;
     int pages = 0, ends = 0, setups = 0;
-    std::string lastFile, lastTitle;
+    std::string lastFile, lastTitle, nextFile;
+    std::string called, place, said;
     fake::MemoryDisk* disk = nullptr; // where pages become files
 };
 
@@ -425,6 +433,73 @@ TEST(PrintDialog, PrinterSetupLeavesThePageAsItWasAtTheStart)
     EXPECT_EQ(office.printer.setups, 1);
     EXPECT_EQ(office.s.pageWidth, 12240);
     EXPECT_EQ(office.s.pageHeight, 15840);
+}
+
+TEST(PrintDialog, PrinterSetupIsToldInTheEntry)
+{
+    Office office;
+    office.printer.toFile = true;
+    office.folders.folders.insert("/plans");
+    office.s.drawings.last = "/plans";
+    office.s.drawingName = "mill.mtd";
+    office.disk.files["/plans/mill.pdf"] = {7};
+    office.printer.said = "PDF files go to /plots";
+    office.press("prtstp"_c);
+    EXPECT_EQ(office.text("entry"_c), "PDF files go to /plots");
+    EXPECT_EQ(office.printer.nextFile, "/plans/mill-2.pdf");
+}
+
+TEST(PrintDialog, PrinterSetupIsToldAlsoWhereThereIsNothingToSetUp)
+{
+    Office office; // its printer has nothing to say
+    office.press("prtstp"_c);
+    EXPECT_EQ(office.text("entry"_c), "There is no printer to set up");
+    fake::Desk none;
+    none.press("prtstp"_c);
+    EXPECT_EQ(none.text("entry"_c), "There is no printer to set up");
+}
+
+TEST(PrintDialog, TellsWhereThePageGoes)
+{
+    struct Row {
+        const char* what;
+        bool toFile;
+        const char* printer;
+        const char* place;
+        const char* told;
+    };
+    const Row rows[] = {
+        {"a printer", false, "Laser 2", "", "Goes to the printer Laser 2"},
+        {"a printer without a name", false, "", "", ""},
+        {"a file", true, "", "", "Goes to the file /plans/mill-2.pdf"},
+        {"a file where the user wants it", true, "", "/plots", "Goes to the file /plots/mill.pdf"},
+        {"a folder that went", true, "", "/gone", "Goes to the file /plans/mill-2.pdf"},
+        {"the root", true, "", "/", "Goes to the file /mill.pdf"},
+    };
+    for (const Row& row : rows) {
+        Office office;
+        office.folders.folders.insert({"/plans", "/plots"});
+        office.s.drawings.last = "/plans";
+        office.s.drawingName = "mill.mtd";
+        office.disk.files["/plans/mill.pdf"] = {7};
+        office.printer.toFile = row.toFile;
+        office.printer.called = row.printer;
+        office.printer.place = row.place;
+        office.addLine();
+        office.ask();
+        const std::string told = office.caption("frmprintset.Label2"_c);
+        EXPECT_EQ(told, row.told) << row.what;
+        office.press(printButton);
+        EXPECT_TRUE(!row.toFile || "Goes to the file " + office.printer.lastFile == told) << row.what;
+    }
+}
+
+TEST(PrintDialog, TellsThatThereIsNoPrinter)
+{
+    Office office(0, 0);
+    office.addLine();
+    office.ask();
+    EXPECT_EQ(office.caption("frmprintset.Label2"_c), "There is no printer");
 }
 
 TEST(PrintDialog, ThePictureIsThePageThatComesOut)

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <sstream>
 
 namespace mirtane {
 namespace {
@@ -185,6 +186,57 @@ TEST_F(Convert, PdfIsAPageOfThePaper)
     EXPECT_THAT(p.content("letter.pdf"), HasSubstr("/MediaBox [0 0 612"));
 }
 
+TEST_F(Convert, PageLiesAcrossWhereThatIsWished)
+{
+    expectDone("house.mtd -o across.pdf --landscape");
+    expectDone("house.mtd -o across.svg --landscape --paper a0");
+    EXPECT_THAT(p.content("across.pdf"), HasSubstr("/MediaBox [0 0 842"));
+    EXPECT_THAT(p.content("across.svg"), HasSubstr("<svg width=\"1188"));
+    EXPECT_THAT(p.content("across.svg"), HasSubstr("height=\"841"));
+}
+
+// The points of the last line of a picture, in dots of which 600 are an inch.
+std::vector<double> lineOf(const std::string& svg)
+{
+    const std::size_t from = svg.rfind("points=\"") + 8;
+    std::vector<double> numbers;
+    std::string text = svg.substr(from, svg.find('"', from) - from);
+    std::replace(text.begin(), text.end(), ',', ' ');
+    std::istringstream words(text);
+    for (double number = 0; words >> number;) numbers.push_back(number);
+    return numbers;
+}
+
+// A line of 600 units along and 250 down, which is 50 inches and 20 5/6.
+TEST_F(Convert, PageHasTheScaleThatIsWished)
+{
+    p.writeDrawing("beam.mtd", {header(), line({40000, -7000}, {40600, -6750}, 1)});
+    const std::pair<const char*, double> rows[] = {
+        {"--scale 1:50", 50},
+        {"--scale 1:8 --paper a4", 8},
+        {"--scale 2:25 --landscape", 12.5},
+        {"--scale 1:100 --paper a0", 100},
+        {"--scale 1:2 --paper a0 --landscape", 2},
+    };
+    for (const auto& [options, scale] : rows) {
+        expectDone("beam.mtd -o beam.svg " + std::string(options));
+        const std::vector<double> points = lineOf(p.content("beam.svg"));
+        ASSERT_EQ(points.size(), 4U) << options;
+        EXPECT_NEAR(points[2] - points[0], 50.0 / scale * 600, 0.6) << options;
+        EXPECT_NEAR(points[3] - points[1], 250.0 / 12 / scale * 600, 0.6) << options;
+    }
+}
+
+TEST_F(Convert, WhatIsTooLargeForThePaperAtItsScaleIsToldOf)
+{
+    p.writeDrawing("beam.mtd", {header(), line({0, 0}, {250, 600}, 1)});
+    expectRefused("beam.mtd -o beam.pdf --scale 1:4", 1, "does not fit", "1:5 does");
+    expectRefused("beam.mtd -o beam.svg --scale 1:1 --paper a6", 1, "does not fit", "1:10 does");
+    EXPECT_FALSE(p.exists("beam.pdf"));
+    EXPECT_FALSE(p.exists("beam.svg"));
+    expectDone("beam.mtd -o beam.pdf --scale 1:5");
+}
+
 TEST_F(Convert, OneLayerIsAllThatIsWritten)
 {
     expectDone("house.mtd -o layer.mtd --layer 2");
@@ -296,6 +348,10 @@ TEST_F(Convert, WrongUsageIsToldOfBeforeAnythingIsWritten)
         {"house.mtd -o out.png --size 30000x10", "30000x10"},
         {"house.mtd -o out.pdf --paper napkin", "no such paper: napkin"},
         {"house.mtd -o out.pdf --layer two", "no layer number: two"},
+        {"house.mtd -o out.pdf --scale 50", "no scale such as 1:50: 50"},
+        {"house.mtd -o out.pdf --scale 1:0", "1:0"},
+        {"house.mtd -o out.pdf --scale 1:fifty", "1:fifty"},
+        {"house.mtd -o out.pdf --scale", "--scale without its value"},
         {"house.mtd -o out --to gif", "no such format: gif"},
         {"house.mtd other.mtd -o out.pdf", "would be written over"},
         {"house.mtd -o plots/../house.mtd", "would be written over"},
@@ -311,17 +367,26 @@ TEST_F(Convert, HelpNamesEveryOption)
     const fake::Converted got = p.run("--help");
     EXPECT_EQ(got.status, 0);
     EXPECT_EQ(got.err, "");
-    for (const char* option :
-         {"-o ", "--to ", "--size ", "--paper ", "--layer ", "--as-window ", "--compare ", "-j ", "--help "})
+    for (const char* option : {"-o ", "--to ", "--size ", "--paper ", "--landscape ", "--scale ", "--layer ",
+                               "--as-window ", "--compare ", "-j ", "--help ", "--version "})
         EXPECT_THAT(got.out, HasSubstr(option));
+}
+
+TEST_F(Convert, VersionIsPrintedAndNothingElseDone)
+{
+    const fake::Converted got = p.run("--version house.mtd -o out.pdf");
+    EXPECT_EQ(got.status, 0);
+    EXPECT_EQ(got.out, "mirtane-convert 4.00\n");
+    EXPECT_FALSE(p.exists("out.pdf"));
 }
 
 TEST_F(Convert, ManualPageNamesEveryOption)
 {
     std::ifstream file(std::string(MIRTANE_SOURCE_DIR) + "/docs/mirtane-convert.1");
     const std::string page{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    for (const char* option : {"\\-o", "\\-\\-to", "\\-\\-size", "\\-\\-paper", "\\-\\-layer",
-                               "\\-\\-as\\-window", "\\-\\-compare", "\\-j", "\\-\\-help", "EXIT STATUS"})
+    for (const char* option :
+         {"\\-o", "\\-\\-to", "\\-\\-size", "\\-\\-paper", "\\-\\-landscape", "\\-\\-scale", "\\-\\-layer",
+          "\\-\\-as\\-window", "\\-\\-compare", "\\-j", "\\-\\-help", "\\-\\-version", "EXIT STATUS"})
         EXPECT_THAT(page, HasSubstr(option));
 }
 

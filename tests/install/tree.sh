@@ -7,6 +7,11 @@ DESTDIR=$OUT_DIR/root cmake --install "$BUILD_DIR" --prefix /usr >"$OUT_DIR/inst
 prefix=$OUT_DIR/root/usr
 has_all_files "$prefix"
 
+# What a catalogue of programs reads.
+appstreamcli validate --no-net "$prefix/share/metainfo/org.mirtane.Mirtane.metainfo.xml" >"$OUT_DIR/appstream.log" ||
+    fail "the catalogue's entry: $(cat "$OUT_DIR/appstream.log")"
+grep -q '<release version="4.00"' "$prefix/share/metainfo/org.mirtane.Mirtane.metainfo.xml" || fail "no release is told of"
+
 # What a desktop reads.
 desktop=$prefix/share/applications/mirtane.desktop
 desktop-file-validate "$desktop" || fail "the desktop entry is wrong"

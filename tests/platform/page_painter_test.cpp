@@ -171,7 +171,17 @@ TEST_F(PdfFile, KnowsItsPaperInTwips)
     const PdfPrinter a4{QPageSize(QPageSize::A4)};
     EXPECT_NEAR(a4.pageWidth(), 11906, 10);
     EXPECT_NEAR(a4.pageHeight(), 16838, 10);
-    EXPECT_GT(PdfPrinter().pageWidth(), 0);
+}
+
+TEST_F(PdfFile, LiesAcrossWhereThatIsWished)
+{
+    PdfPrinter across{QPageSize(QPageSize::Letter), QPageLayout::Landscape};
+    EXPECT_EQ(across.pageWidth(), 15840);
+    EXPECT_EQ(across.pageHeight(), 12240);
+    ASSERT_TRUE(across.beginPage({path_.toStdString(), {}}));
+    drawLine(across);
+    ASSERT_TRUE(across.endPage());
+    EXPECT_TRUE(contents(path_).contains("/MediaBox [0 0 792"));
 }
 
 TEST_F(PdfFile, IsWrittenWhenThePageEndsAndNotBefore)

@@ -69,6 +69,20 @@ TEST(PlayProgram, EndsAtAFailedExpectWithStatusOneAndItsPlace)
     EXPECT_NE(run.err.find("a.play:2: "), std::string::npos) << run.err;
 }
 
+TEST(PlayProgram, TellsItsVersionAndItsOptionsAndEnds)
+{
+    const QTemporaryDir folder;
+    const Outcome version = runPlay(folder, "--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.out, "mirtane-play 4.00\n");
+    const Outcome help = runPlay(folder, "--help");
+    EXPECT_EQ(help.status, 0);
+    for (const char* option : {"--size WxH", "--home DIR", "--version"})
+        EXPECT_NE(help.out.find(option), std::string::npos) << option;
+    EXPECT_EQ(version.err + help.err, "");
+    EXPECT_EQ(runPlay(folder, "--help extra.play").status, 2);
+}
+
 TEST(PlayProgram, EndsWithStatusZeroAfterExit)
 {
     const QTemporaryDir folder;

@@ -1,22 +1,54 @@
 #include "app/dialogs/help.h"
 
+#include "app/dialogs/manual.h"
+#include "app/typing/keys.h"
+#include "tables/functions.h"
 #include "text/code_page.h"
 
 namespace mirtane {
 namespace {
 
-// Lines may end in LF, CR LF or CR; they are joined with CR LF, the last one without.
-std::string joinedLines(const Bytes& file)
+void openAt(Controls& controls, std::size_t place)
 {
-    std::string joined;
-    for (std::size_t i = 0; i < file.size(); ++i) {
-        const auto c = static_cast<char>(file[i]); // a byte of text
-        const bool endsLine = c == '\n' || c == '\r';
-        if (!endsLine) joined += c;
-        if (c == '\r' && i + 1 < file.size() && file[i + 1] == '\n') ++i;
-        if (endsLine && i + 1 < file.size()) joined += "\r\n";
-    }
-    return joined;
+    const std::string& text = controls[ids::helpPage].text;
+    setCaret(controls[ids::helpPage], characterAt(text, place));
+    controls[ids::helpContents].row = chapterAt(chaptersOf(text), place);
+}
+
+void showContents(Controls& controls)
+{
+    Control& contents = controls[ids::helpContents];
+    contents.rows.clear();
+    for (const Chapter& chapter : chaptersOf(controls[ids::helpPage].text))
+        contents.rows.push_back(chapter.title);
+    contents.row = -1;
+}
+
+// A user who has only just begun reads from the beginning.
+std::size_t placeToOpenAt(const Session& s)
+{
+    const bool hasJustBegun = s.store.entCount == 1 && s.stepNo == 0 && s.curFunc == vocabulary()[0].name;
+    if (hasJustBegun) return 0;
+    const InManual& told = functionRow(s.curFunc).inManual;
+    return placeInManual(s.controls[ids::helpPage].text, told.chapter, told.heading);
+}
+
+// Marks the word where it stands next, from a place on and then from the beginning.
+void find(Controls& controls, std::size_t from)
+{
+    Control& page = controls[ids::helpPage];
+    const std::string& word = controls[ids::helpFind].text;
+    const std::size_t found = findInManual(page.text, word, from);
+    const bool isThere = found != std::string::npos;
+    controls[ids::helpFindLabel].caption = isThere || word.empty() ? "Find" : "Not found";
+    if (!isThere) return;
+    openAt(controls, found);
+    page.caret = characterAt(page.text, found + word.size()); // what lies between is marked
+}
+
+std::size_t placeOf(const Control& page, int character)
+{
+    return byteAt(page.text, character);
 }
 
 } // namespace
@@ -33,7 +65,25 @@ void showHelp(App& app, ControlId)
     } else {
         setText(s.controls[ids::entry], "Help file not found!");
     }
-    setCaret(text, 0);
+    showContents(s.controls);
+    openAt(s.controls, placeToOpenAt(s));
+}
+
+void chooseChapter(App& app, int row)
+{
+    Controls& controls = app.s.controls;
+    const std::vector<Chapter> chapters = chaptersOf(controls[ids::helpPage].text);
+    const auto index = static_cast<std::size_t>(row); // the shell checks rows
+    if (index < chapters.size()) openAt(controls, chapters[index].place);
+}
+
+void helpFindKeyPress(App& app, char32_t code)
+{
+    Controls& controls = app.s.controls;
+    const Control& page = controls[ids::helpPage];
+    if (code == enterKey) return find(controls, placeOf(page, page.caret));
+    passKey(controls[ids::helpFind], code);
+    find(controls, placeOf(page, page.anchor));
 }
 
 } // namespace mirtane

@@ -42,12 +42,19 @@ bool isFree(App& app, const std::string& file)
     return app.s.pageFiles.contains(file) || !app.ports.disk.isTaken(file);
 }
 
-// A drawing is printed beside the place where it is kept.
-std::string fileOfPage(App& app)
+// A drawing is printed beside the place where it is kept, unless the user chose another.
+std::string folderOfPage(App& app, const Printer& printer)
+{
+    const std::string chosen = printer.folder();
+    return app.ports.folders.exists(chosen) ? chosen : folderThatExists(app, app.s.drawings);
+}
+
+std::string fileOfPage(App& app, const Printer& printer)
 {
     Session& s = app.s;
     const std::string base = s.drawingName.substr(0, s.drawingName.find('.'));
-    const std::string start = folderThatExists(app, s.drawings) + "/" + base;
+    const std::string folder = folderOfPage(app, printer);
+    const std::string start = (folder == "/" ? "" : folder) + "/" + base;
     std::string file = start + ".pdf";
     for (int number = 2; !isFree(app, file); ++number) file = start + "-" + std::to_string(number) + ".pdf";
     return file;
@@ -63,7 +70,7 @@ bool putPageOut(Session& s, Printer& printer, const std::string& file)
 void printIntoFile(App& app, Printer& printer)
 {
     Session& s = app.s;
-    const std::string file = fileOfPage(app);
+    const std::string file = fileOfPage(app, printer);
     const bool done = putPageOut(s, printer, file);
     if (done) s.pageFiles.insert(file);
     setText(s.controls[ids::entry], done ? file.substr(file.rfind('/') + 1) : "File not saved!");
@@ -80,6 +87,15 @@ void printSelection(App& app)
         putPageOut(s, *printer, {});
     }
     dropSelection(app);
+}
+
+std::string whereItGoes(App& app)
+{
+    const Printer* const printer = app.ports.printer;
+    const bool hasPage = printer != nullptr && app.s.pageWidth > 0 && app.s.pageHeight > 0;
+    if (!hasPage) return "There is no printer";
+    if (printer->printsToFile()) return "Goes to the file " + fileOfPage(app, *printer);
+    return printer->name().empty() ? "" : "Goes to the printer " + printer->name();
 }
 
 // The picture of the page follows the value typed.
@@ -104,13 +120,17 @@ void askForPrintScale(App& app, ControlId)
     setSelectedText(s.controls[ids::printScale], fitted);
     setText(s.controls[ids::fittedScale], fitted);
     showScaleOfPicture(s.controls);
+    s.controls[ids::printPlace].caption = whereItGoes(app);
     s.controls[ids::printForm].visible = true;
     s.controls.focus = ids::printScale;
 }
 
 void setUpPrinter(App& app, ControlId)
 {
-    if (app.ports.printer != nullptr) app.ports.printer->setup();
+    Printer* const printer = app.ports.printer;
+    const std::string said =
+        printer == nullptr ? std::string() : printer->setup({fileOfPage(app, *printer), app.s.drawingName});
+    setText(app.s.controls[ids::entry], said.empty() ? "There is no printer to set up" : said);
 }
 
 void confirmPrint(App& app, ControlId)

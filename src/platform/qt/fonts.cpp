@@ -46,8 +46,11 @@ QFont faceOf(const QString& name)
     QFont font;
     font.setHintingPreference(QFont::PreferNoHinting); // widths in proportion at every size
     if (!isLookedFor(family)) return font;
-    font.setFamilies(family == QLatin1String("Garamond") ? QStringList{family, QStringLiteral("EB Garamond")}
-                                                         : QStringList{family});
+    font.setFamilies({family});
+    if (family == QLatin1String("Garamond") && !installedFamilies().contains(family)) {
+        font.setFamilies({family, QStringLiteral("Junicode Two Beta"), QStringLiteral("Junicode")});
+        font.setWeight(QFont::Medium); // its strokes are finer
+    }
     return font;
 }
 

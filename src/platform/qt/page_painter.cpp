@@ -7,7 +7,6 @@
 #include <QBuffer>
 #include <QCursor>
 #include <QGuiApplication>
-#include <QLocale>
 #include <QPdfWriter>
 
 #include <algorithm>
@@ -29,15 +28,15 @@ Qt::PenStyle penStyleOf(std::int16_t style)
     return style >= 0 && style < std::ssize(styles) ? styles[style] : Qt::SolidLine;
 }
 
-QPageSize paperOfCountry()
-{
-    const bool imperial = QLocale::system().measurementSystem() != QLocale::MetricSystem;
-    return QPageSize(imperial ? QPageSize::Letter : QPageSize::A4);
-}
-
 float twips(double points)
 {
     return singleOf(points * twipsPerPoint);
+}
+
+// In points, as the page is looked at.
+QSize wholeOf(const QPageSize& paper, QPageLayout::Orientation way)
+{
+    return QPageLayout(paper, way, {}).fullRectPoints().size();
 }
 
 int sixteenths(double radians)
@@ -140,10 +139,9 @@ WaitPointer::~WaitPointer()
     QGuiApplication::restoreOverrideCursor();
 }
 
-PdfPrinter::PdfPrinter() : PdfPrinter(paperOfCountry()) {}
-
-PdfPrinter::PdfPrinter(const QPageSize& paper)
-    : PagePainter(twips(paper.sizePoints().width()), twips(paper.sizePoints().height())), paper_(paper)
+PdfPrinter::PdfPrinter(const QPageSize& paper, QPageLayout::Orientation way)
+    : PagePainter(twips(wholeOf(paper, way).width()), twips(wholeOf(paper, way).height())),
+      layout_(paper, way, {})
 {
 }
 
@@ -155,8 +153,7 @@ bool PdfPrinter::beginPage(const PageName& name)
     auto buffer = std::make_unique<QBuffer>(&bytes_);
     if (!buffer->open(QIODevice::WriteOnly)) return false;
     auto writer = std::make_unique<QPdfWriter>(buffer.get());
-    writer->setPageSize(paper_);
-    writer->setPageMargins(QMarginsF(0, 0, 0, 0));
+    writer->setPageLayout(layout_);
     writer->setResolution(pdfDotsPerInch);
     writer->setCreator(QStringLiteral("Mirtane 4.00"));
     writer->setTitle(QString::fromStdString(name.title));

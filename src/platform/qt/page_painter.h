@@ -3,6 +3,7 @@
 #include "print/printer.h"
 
 #include <QIODevice>
+#include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
 
@@ -60,17 +61,15 @@ class WaitPointer {
 // The page as a PDF file.
 class PdfPrinter : public PagePainter {
   public:
-    // On A4 or letter paper, as the user's country has it.
-    PdfPrinter();
-    explicit PdfPrinter(const QPageSize& paper);
+    explicit PdfPrinter(const QPageSize& paper, QPageLayout::Orientation way = QPageLayout::Portrait);
 
     bool printsToFile() const override { return true; }
-    void setup() override {}
+    std::string setup(const PageName&) override { return {}; }
     bool beginPage(const PageName& name) override;
     bool endPage() override;
 
   private:
-    QPageSize paper_;
+    QPageLayout layout_;
     std::string file_;
     QByteArray bytes_;
     std::unique_ptr<QPagedPaintDevice> device_;
@@ -85,7 +84,7 @@ class PicturePrinter : public PagePainter {
     PicturePrinter(QPaintDevice& device, float width, float height, double pixelsPerTwip);
 
     bool printsToFile() const override { return false; }
-    void setup() override {}
+    std::string setup(const PageName&) override { return {}; }
     bool beginPage(const PageName& name) override;
 
   private:

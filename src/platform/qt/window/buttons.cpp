@@ -5,14 +5,23 @@
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
 
+#include <algorithm>
+
 namespace mirtane {
+namespace {
+
+// What does its work at once and leaves nothing on.
+constexpr ControlId neverOn[] = {ids::selectLast, ids::zoomAll, ids::zoomOut};
+
+} // namespace
 
 StripButton::StripButton(EventGate& gate, ControlId id, QWidget* parent)
     : QToolButton(parent), gate_(gate), id_(id)
 {
+    setObjectName(nameOf(id));
     setToolTip(tipOf(id));
     setAccessibleName(tipOf(id));
-    setCheckable(true);
+    setCheckable(std::ranges::find(neverOn, id) == std::end(neverOn));
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QToolButton::clicked, this,
             [this] { gate_.send([this](Shell& shell) { shell.click(id_); }); });
@@ -20,10 +29,18 @@ StripButton::StripButton(EventGate& gate, ControlId id, QWidget* parent)
 
 void StripButton::show(const Control& now)
 {
-    if (icon().isNull()) setText(captionOf(now));
+    if (icon().isNull()) showCaption(now);
     setChecked(now.checked);
     setEnabled(now.enabled);
     setVisible(now.visible);
+}
+
+// A caption says what is on, and so goes before the tip.
+void StripButton::showCaption(const Control& now)
+{
+    setText(captionOf(now));
+    setAccessibleName(QString::fromStdString(now.caption));
+    setAccessibleDescription(tipOf(id_));
 }
 
 // The toolkit's own greyed icon is nearly as bright as one that can be pressed.

@@ -23,6 +23,8 @@ class StripButton : public QToolButton, public ControlView {
     void nextCheckState() override {} // the control alone says whether it is checked
 
   private:
+    void showCaption(const Control& now);
+
     EventGate& gate_;
     ControlId id_;
 };

@@ -10,12 +10,39 @@
 #include <QVBoxLayout>
 
 namespace mirtane {
+namespace {
+
+struct SpokenName {
+    ControlId id;
+    const char* name;
+};
+
+// Of what has neither a label nor a tip.
+constexpr SpokenName spokenNames[] = {
+    {ids::fileList, "Files"},
+    {ids::folderList, "Folders"},
+    {ids::driveList, "Drives"},
+    {ids::filterLayerList, "Layers"},
+    {ids::printScale, "Scale value to print at"},
+    {ids::fittedScale, "Fitted scale value"},
+    {ids::helpPage, "Manual"},
+};
+
+QString spokenNameOf(ControlId id)
+{
+    for (const SpokenName& row : spokenNames) {
+        if (row.id == id) return QString::fromLatin1(row.name);
+    }
+    return tipOf(id);
+}
+
+} // namespace
 
 template <class View> QWidget& ControlMaker::entered(ControlId id, QWidget& parent) const
 {
     View& view = childOf<View>(parent, gate_, id);
-    view.setObjectName(QString::fromUtf8(id.row().name.data(),
-                                         static_cast<qsizetype>(id.row().name.size()))); // a short name
+    view.setObjectName(nameOf(id));
+    view.setAccessibleName(spokenNameOf(id));
     views_.add(id, view);
     return view;
 }
@@ -42,9 +69,17 @@ QWidget& ControlMaker::makeLabelled(ControlId label, ControlId named, QWidget& p
     QVBoxLayout& column = childOf<QVBoxLayout>(both);
     column.setContentsMargins(0, 0, 0, 0);
     column.setSpacing(3);
-    column.addWidget(&make(label, both));
-    column.addWidget(&make(named, both), 1);
+    QWidget& widget = make(named, both);
+    column.addWidget(&makeLabel(label, widget, both));
+    column.addWidget(&widget, 1);
     return both;
+}
+
+QWidget& ControlMaker::makeLabel(ControlId label, QWidget& named, QWidget& parent) const
+{
+    QWidget& widget = make(label, parent);
+    static_cast<LabelView&>(widget).names(named); // labels are made as such
+    return widget;
 }
 
 } // namespace mirtane

@@ -12,6 +12,8 @@ class ControlMaker {
 
     // A label, text box, list or button; the widget belongs to the parent.
     QWidget& make(ControlId id, QWidget& parent) const;
+    // A label by whose caption what it names goes for those who don't see it.
+    QWidget& makeLabel(ControlId label, QWidget& named, QWidget& parent) const;
     // A label and under it what it names, as one widget.
     QWidget& makeLabelled(ControlId label, ControlId named, QWidget& parent) const;
 

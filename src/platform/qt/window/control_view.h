@@ -24,6 +24,11 @@ inline QString captionOf(const Control& control)
     return QString::fromStdString(control.caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+inline QString nameOf(ControlId id)
+{
+    return QString::fromUtf8(id.row().name.data(), static_cast<qsizetype>(id.row().name.size())); // short
+}
+
 inline QString tipOf(ControlId id)
 {
     return QString::fromUtf8(id.row().tip.data(), static_cast<qsizetype>(id.row().tip.size())); // short

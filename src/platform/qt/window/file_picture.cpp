@@ -13,6 +13,8 @@ constexpr int pictureHeight = 120;
 
 FilePicture::FilePicture(EventGate& gate, QWidget* parent) : QWidget(parent), gate_(gate)
 {
+    setObjectName(nameOf(ids::filePicture));
+    setAccessibleName(QStringLiteral("Picture of the file"));
     setFixedHeight(pictureHeight);
     hide();
 }

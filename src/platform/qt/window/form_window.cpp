@@ -1,5 +1,6 @@
 #include "platform/qt/window/form_window.h"
 
+#include "platform/qt/room_on_screen.h"
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/edit_form.h"
 #include "platform/qt/window/file_form.h"
@@ -8,7 +9,9 @@
 #include "platform/qt/window/print_form.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QShortcut>
+#include <QWindow>
 
 #include <array>
 
@@ -31,13 +34,31 @@ constexpr std::array<FormRow, 5> forms{{
 // How much smaller than the main window the form with the manual is: 1000 and 700 twips, 15 to the pixel.
 constexpr QSize helpSmallerBy(67, 47);
 
+// Nothing is known of it before the window has been on the screen.
+QMargins frameOf(const QWidget& window)
+{
+    return window.windowHandle() == nullptr ? QMargins() : window.windowHandle()->frameMargins();
+}
+
+// A window of its own: it may stand beside the drawing or go behind it.
+constexpr Qt::WindowFlags ofManual = Qt::Window;
+// Over the main window for as long as it is up.
+constexpr Qt::WindowFlags ofForm = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+bool standsAlone(ControlId form)
+{
+    return form == ids::helpForm;
+}
+
 } // namespace
 
-FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
-    : QWidget(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                          Qt::WindowCloseButtonHint),
-      gate_(gate), form_(form)
+FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget& mainWindow)
+    : QWidget(standsAlone(form) ? nullptr : &mainWindow, standsAlone(form) ? ofManual : ofForm), gate_(gate),
+      form_(form), main_(mainWindow)
 {
+    setObjectName(nameOf(form));
+    setWindowIcon(mainWindow.windowIcon());
     if (form == ids::printForm || form == ids::fileForm) setWindowModality(Qt::WindowModal);
     auto& escape = childOf<QShortcut>(*this, QKeySequence(Qt::Key_Escape));
     connect(&escape, &QShortcut::activated, this, &QWidget::close); // as by the frame
@@ -46,19 +67,24 @@ FormWindow::FormWindow(EventGate& gate, ControlId form, QWidget* parent)
 void FormWindow::show(const Control& now)
 {
     setWindowTitle(QString::fromStdString(now.caption));
-    if (now.visible && isHidden()) moveOverParent();
+    // One that stands alone keeps the place and the size that the user gave it.
+    if (now.visible && isHidden() && !(placed_ && standsAlone(form_))) moveOverMain();
     // Whoever had the keys gives them back, also where no window manager sees to it.
-    if (!now.visible && isActiveWindow()) parentWidget()->activateWindow();
+    if (!now.visible && isActiveWindow()) main_.activateWindow();
     setVisible(now.visible);
+    placed_ = placed_ || now.visible;
+    if (now.visible && standsAlone(form_)) raise();
 }
 
-void FormWindow::moveOverParent()
+void FormWindow::moveOverMain()
 {
-    const QRect below = parentWidget()->geometry();
+    const QRect below = main_.geometry();
     if (!testAttribute(Qt::WA_Resized))
         adjustSize(); // before it is first shown a form has no size of its own
     if (form_ == ids::helpForm) resize(below.size() - helpSmallerBy);
-    move(below.center() - rect().center());
+    QRect wished = rect();
+    wished.moveCenter(below.center());
+    setGeometry(within(wished, frameOf(main_), main_.screen()->availableGeometry()));
 }
 
 // Whether the form goes is for the shell to say.
@@ -68,13 +94,19 @@ void FormWindow::closeEvent(QCloseEvent* event)
     gate_.send([this](Shell& shell) { shell.closeForm(form_); });
 }
 
-void makeForms(const ControlMaker& maker, QWidget& parent)
+std::unique_ptr<QWidget> makeForms(const ControlMaker& maker, QWidget& mainWindow)
 {
+    std::unique_ptr<QWidget> alone;
     for (const FormRow& row : forms) {
-        FormWindow& form = childOf<FormWindow>(parent, maker.gate(), row.form);
-        row.lay(maker, form);
-        maker.views().add(row.form, form);
+        auto form = std::make_unique<FormWindow>(maker.gate(), row.form, mainWindow);
+        row.lay(maker, *form);
+        maker.views().add(row.form, *form);
+        if (standsAlone(row.form))
+            alone = std::move(form);
+        else
+            static_cast<void>(form.release()); // its parent has it
     }
+    return alone;
 }
 
 } // namespace mirtane

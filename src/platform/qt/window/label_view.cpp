@@ -3,6 +3,16 @@
 #include <QMouseEvent>
 
 namespace mirtane {
+namespace {
+
+// The path of a file may go on in the next line behind each of its folders.
+QString breakable(QString text)
+{
+    constexpr QChar noWidth(0x200B);
+    return text.replace(u'/', QString(u'/') + noWidth);
+}
+
+} // namespace
 
 LabelView::LabelView(EventGate& gate, ControlId id, QWidget* parent) : QLabel(parent), gate_(gate), id_(id)
 {
@@ -13,7 +23,9 @@ LabelView::LabelView(EventGate& gate, ControlId id, QWidget* parent) : QLabel(pa
 
 void LabelView::show(const Control& now)
 {
-    setText(QString::fromStdString(now.caption));
+    const QString caption = QString::fromStdString(now.caption);
+    setText(wordWrap() ? breakable(caption) : caption);
+    if (named_ != nullptr && !caption.isEmpty()) named_->setAccessibleName(caption);
     setEnabled(now.enabled);
     setVisible(now.visible);
 }

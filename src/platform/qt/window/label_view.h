@@ -13,6 +13,8 @@ class LabelView : public QLabel, public ControlView {
     LabelView(EventGate& gate, ControlId id, QWidget* parent);
 
     void show(const Control& now) override;
+    // From now on the widget, which must live as long as this, goes by the caption.
+    void names(QWidget& widget) { named_ = &widget; }
 
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -20,6 +22,7 @@ class LabelView : public QLabel, public ControlView {
   private:
     EventGate& gate_;
     ControlId id_;
+    QWidget* named_ = nullptr; // not owned
 };
 
 } // namespace mirtane

@@ -1,10 +1,12 @@
 #include "platform/qt/window/main_window.h"
 
+#include "platform/qt/room_on_screen.h"
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/form_window.h"
 #include "platform/qt/window/menu_view.h"
 #include "platform/qt/window/notice_strip.h"
 #include "platform/qt/window/side_panel.h"
+#include "platform/qt/window/spoken_roles.h"
 #include "platform/qt/window/surface_widget.h"
 #include "platform/qt/window/tool_strip.h"
 #include "platform/qt/window/typed_keys.h"
@@ -17,9 +19,12 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
 #include <utility>
 
@@ -30,6 +35,8 @@ namespace {
 // milliseconds.
 constexpr int restBegins = 1000;
 constexpr qint64 longestWithoutRest = 1900;
+
+constexpr QSize wishedSize(1280, 800);
 
 // The line under the drawing: the prompt, which may need all of the width, and the pointer's position.
 QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
@@ -64,10 +71,11 @@ std::string droppedFile(const QDropEvent& event)
 
 MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(surface)
 {
+    tellRoles();
     setWindowIcon(QIcon(QStringLiteral(":/icons/mirtane.svg")));
     fillMenuBar(*menuBar(), ids::mainForm, gate_, views_);
     lay(surface);
-    makeForms(ControlMaker(gate_, views_), *this);
+    help_ = makeForms(ControlMaker(gate_, views_), *this);
     views_.add(ids::mainForm, *this);
     takeShortcuts();
     setAcceptDrops(true);
@@ -79,7 +87,21 @@ MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(
         copyControls();
         waitForRest();
     });
-    gate_.send([](Shell&) {}); // nothing happens but the copying
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { showWhetherDrawingHasKeys(now); });
+    refresh();
+}
+
+// Its parts lose the focus while they go.
+MainWindow::~MainWindow()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+// Nothing happens but the copying.
+void MainWindow::refresh()
+{
+    gate_.send([](Shell&) {});
 }
 
 void MainWindow::lay(Surface& surface)
@@ -99,7 +121,8 @@ void MainWindow::lay(Surface& surface)
     grid.addWidget(&drawing, 0, 1);
     grid.addWidget(&childOf<SidePanel>(whole, maker), 0, 2);
     grid.addWidget(&childOf<NoticeStrip>(whole, maker), 1, 0, 1, 3);
-    grid.addWidget(&statusLine(maker, whole), 2, 0, 1, 3);
+    status_ = &statusLine(maker, whole);
+    grid.addWidget(status_, 2, 0, 1, 3);
 }
 
 void MainWindow::show(const Control& now)
@@ -169,15 +192,54 @@ void MainWindow::openWhenShown(const std::string& path)
     toOpen_ = path;
 }
 
+void MainWindow::takeFirstSize()
+{
+    const QRect room = screen()->availableGeometry();
+    resize(within({room.topLeft(), wishedSize}, usualFrame, room).size());
+}
+
 // The first one comes when the window is on the screen. What is opened is painted in its turn, so it has to
 // wait.
 void MainWindow::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
-    if (toOpen_.empty()) return;
-    QTimer::singleShot(0, this, [this, path = std::exchange(toOpen_, {})] {
-        gate_.send([&path](Shell& shell) { shell.openDrawing(path); });
-    });
+    if (std::exchange(isBegun_, true)) return;
+    QTimer::singleShot(0, this, [this, path = std::exchange(toOpen_, {})] { begin(path); });
+}
+
+void MainWindow::begin(const std::string& path)
+{
+    fitScreen();
+    if (path.empty()) return;
+    gate_.send([&path](Shell& shell) { shell.openDrawing(path); });
+}
+
+// By now the desktop has put its frame round the window, which may be larger than others.
+void MainWindow::fitScreen()
+{
+    if (isMaximized() || isFullScreen()) return;
+    const QRect fitting = within(geometry(), windowHandle()->frameMargins(), screen()->availableGeometry());
+    if (fitting != geometry()) setGeometry(fitting);
+}
+
+// The drawing itself shows nothing but the drawing: that it has the keys is seen at its foot.
+void MainWindow::showWhetherDrawingHasKeys(const QWidget* focused)
+{
+    const bool hasKeys = focused != nullptr && focused->objectName() == QLatin1String("pic1");
+    if (status_->property("keys").toBool() == hasKeys) return;
+    status_->setProperty("keys", hasKeys);
+    status_->style()->unpolish(status_);
+    status_->style()->polish(status_);
+}
+
+// Who brings it to the front while the manual has the keys wants to go on drawing; else the next event would
+// call the manual back.
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+    const ControlId focused = gate_.shell().session().controls.focus;
+    if (formOf(focused) == ids::helpForm) gate_.send([](Shell& shell) { shell.giveFocus(ids::drawing); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

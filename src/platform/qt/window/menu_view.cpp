@@ -1,6 +1,7 @@
 #include "platform/qt/window/menu_view.h"
 
 #include "platform/qt/window/child.h"
+#include "platform/qt/window/swatches.h"
 #include "platform/qt/window/typed_keys.h"
 
 #include <QAction>
@@ -28,7 +29,9 @@ class EntryView : public QAction, public ControlView {
   public:
     EntryView(EventGate& gate, ControlId id, QObject* parent) : QAction(parent), id_(id)
     {
+        setObjectName(nameOf(id));
         setCheckable(id.row().kind == ControlKind::checkedEntry);
+        setIcon(swatchOf(id));
         connect(this, &QAction::triggered, this, [this, &gate, id] {
             setChecked(checked_); // the toolkit turned it; the control alone says whether it is checked
             gate.send([id](Shell& shell) { shell.choose(id); });

@@ -13,6 +13,8 @@ namespace mirtane {
 PagePicture::PagePicture(EventGate& gate, QWidget* parent) : QWidget(parent), gate_(gate)
 {
     setMinimumSize(240, 300);
+    setObjectName(nameOf(ids::pagePicture));
+    setAccessibleName(QStringLiteral("Picture of the page"));
 }
 
 void PagePicture::show(const Control&)

@@ -21,30 +21,34 @@ QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
     return row;
 }
 
+QWidget& makeWrapped(const ControlMaker& maker, ControlId id, QWidget& form)
+{
+    constexpr int textWidth = 260;
+    auto& label = static_cast<QLabel&>(maker.make(id, form)); // labels are made as such
+    label.setWordWrap(true);
+    label.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    label.setFixedWidth(textWidth);
+    return label;
+}
+
 } // namespace
 
 void layPrintForm(const ControlMaker& maker, QWidget& form)
 {
-    constexpr int textWidth = 260;
     form.resize(640, 480);
     QGridLayout& grid = childOf<QGridLayout>(form);
     grid.setContentsMargins(14, 12, 14, 14);
     grid.setSpacing(10);
     grid.setColumnStretch(0, 1);
-    grid.setRowStretch(3, 1);
+    grid.setRowStretch(4, 1);
     PagePicture& picture = childOf<PagePicture>(form, maker.gate());
     maker.views().add(ids::pagePicture, picture);
-    grid.addWidget(&picture, 0, 0, 5, 1);
-    QWidget& words = maker.make(ids::printLabel, form);
-    if (auto* const label = qobject_cast<QLabel*>(&words)) {
-        label->setWordWrap(true);
-        label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    }
-    words.setFixedWidth(textWidth);
-    grid.addWidget(&words, 0, 1);
+    grid.addWidget(&picture, 0, 0, 6, 1);
+    grid.addWidget(&makeWrapped(maker, ids::printLabel, form), 0, 1);
     grid.addWidget(&maker.make(ids::printScale, form), 1, 1);
     grid.addWidget(&maker.make(ids::fittedScale, form), 2, 1);
-    grid.addWidget(&buttonRow(maker, form), 4, 1);
+    grid.addWidget(&makeWrapped(maker, ids::printPlace, form), 3, 1);
+    grid.addWidget(&buttonRow(maker, form), 5, 1);
 }
 
 } // namespace mirtane

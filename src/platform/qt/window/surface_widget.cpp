@@ -62,6 +62,8 @@ QCursor snapCursor()
 SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QWidget* parent)
     : QWidget(parent), gate_(gate), id_(id), surface_(surface)
 {
+    setObjectName(nameOf(id));
+    setAccessibleName(QStringLiteral("Drawing"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled);
     setContextMenuPolicy(Qt::PreventContextMenu);

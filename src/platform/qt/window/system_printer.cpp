@@ -1,8 +1,13 @@
 #include "platform/qt/window/system_printer.h"
 
+#include "platform/qt/page_choice.h"
 #include "platform/qt/page_painter.h"
 #include "platform/qt/whole.h"
+#include "platform/qt/window/page_dialog.h"
 
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -12,6 +17,7 @@ namespace {
 
 constexpr double twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
+constexpr const char* leftAsItWas = "Printer setup left as it was";
 
 // Twips of the printable area; paper is a few thousand of them wide.
 float widthOf(const QPrinter& printer)
@@ -24,6 +30,21 @@ float heightOf(const QPrinter& printer)
     return singleOf(printer.pageLayout().paintRectPoints().height() * twipsPerPoint);
 }
 
+// The toolkit's own dialog, in which nothing is printed yet.
+bool isSetUp(QPrinter& printer)
+{
+    QPrintDialog dialog(&printer);
+    dialog.setWindowTitle(QStringLiteral("Printer Setup"));
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    if (const auto* const buttons = dialog.findChild<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : buttons->buttons()) {
+            if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
+                button->setText(QStringLiteral("OK"));
+        }
+    }
+    return dialog.exec() == QDialog::Accepted;
+}
+
 // What a default printer is made of must be there before the page's size is read.
 struct DefaultPrinter {
     std::unique_ptr<QPrinter> device = std::make_unique<QPrinter>(QPrinter::HighResolution);
@@ -34,7 +55,17 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     PaperPrinter() : PagePainter(widthOf(*device), heightOf(*device)) {}
 
     bool printsToFile() const override { return false; }
-    void setup() override { QPrintDialog(device.get()).exec(); }
+    std::string name() const override
+    {
+        const bool toFile = device->outputFormat() == QPrinter::PdfFormat; // which the dialog offers, too
+        return (toFile ? device->outputFileName() : device->printerName()).toStdString();
+    }
+    std::string setup(const PageName&) override
+    {
+        if (!isSetUp(*device)) return leftAsItWas;
+        const QPageLayout layout = device->pageLayout();
+        return name() + ", " + sheetOf({layout.pageSize(), layout.orientation(), {}});
+    }
     bool beginPage(const PageName& name) override
     {
         wait_.emplace();
@@ -54,11 +85,33 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     std::optional<WaitPointer> wait_;
 };
 
+// The paper and its way are those of the start until the next one; the place is taken at once.
+class FilePrinter : public PdfPrinter {
+  public:
+    FilePrinter(const PageChoice& choice, SettingsStore& settings)
+        : PdfPrinter(choice.paper, choice.way), atStart_(choice), now_(choice), settings_(settings)
+    {
+    }
+
+    std::string folder() const override { return now_.folder; }
+    std::string setup(const PageName& next) override
+    {
+        if (!isChosen(now_, QFileInfo(QString::fromStdString(next.file)).absolutePath())) return leftAsItWas;
+        keep(now_, settings_);
+        return told(now_, atStart_);
+    }
+
+  private:
+    PageChoice atStart_, now_;
+    SettingsStore& settings_;
+};
+
 } // namespace
 
-std::unique_ptr<Printer> systemPrinter()
+std::unique_ptr<Printer> systemPrinter(SettingsStore& settings)
 {
-    if (QPrinterInfo::defaultPrinter().isNull()) return std::make_unique<PdfPrinter>();
+    if (QPrinterInfo::defaultPrinter().isNull())
+        return std::make_unique<FilePrinter>(pageChoiceIn(settings), settings);
     return std::make_unique<PaperPrinter>();
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/fonts.h"
 #include "platform/qt/whole.h"
+#include "platform/qt/window/swatches.h"
 #include "platform/qt/window/typed_keys.h"
 
 #include <QAction>
@@ -23,18 +24,6 @@ int unitsBefore(const QString& text, int character)
     int unit = 0;
     for (int i = 0; i < character && unit < text.size(); ++i) unit += text.at(unit).isHighSurrogate() ? 2 : 1;
     return unit;
-}
-
-QColor colorOf(std::int32_t bgr)
-{
-    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
-}
-
-QIcon filledWith(const QColor& color)
-{
-    QPixmap square(64, 64); // scaled down to the size of an icon
-    square.fill(color);
-    return square;
 }
 
 bool isUndoKey(const QKeyEvent& event)
@@ -67,7 +56,7 @@ TextBox::TextBox(EventGate& gate, ControlId id, QWidget* parent) : QLineEdit(par
     setAcceptDrops(false);
     // What only shows something is no stop on the way of the Tab key.
     if (id.row().kind == ControlKind::display) setFocusPolicy(Qt::ClickFocus);
-    // A word in blue on black is hard to read, a patch of blue is not.
+    // A word in blue on black can't be read, a patch of blue is seen.
     if (id == ids::lineSettings) swatch_ = addAction(QIcon(), LeadingPosition);
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextBox::caretMoved);
     connect(this, &QLineEdit::selectionChanged, this, &TextBox::caretMoved);
@@ -93,14 +82,9 @@ void TextBox::show(const Control& now)
 
 void TextBox::showColor(std::int32_t bgr)
 {
-    if (bgr == color_) return;
+    if (bgr == color_ || swatch_ == nullptr) return;
     color_ = bgr;
-    const QColor color = colorOf(bgr);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Active, QPalette::Text, color);
-    colors.setColor(QPalette::Inactive, QPalette::Text, color);
-    setPalette(colors);
-    if (swatch_ != nullptr) swatch_->setIcon(filledWith(color));
+    swatch_->setIcon(patchOf(bgr));
 }
 
 bool TextBox::event(QEvent* event)

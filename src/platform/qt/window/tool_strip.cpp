@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace mirtane {
 namespace {
@@ -16,6 +17,7 @@ namespace {
 constexpr int columns = 4;
 constexpr int buttonSide = 34;
 constexpr int iconSide = 24;
+constexpr int groupSpacing = 3;
 
 struct IconRow {
     ControlId button;
@@ -66,15 +68,18 @@ QIcon iconOf(ControlId id)
 // One group: its name over a grid of buttons. A button with a caption is twice as wide as one with an icon.
 class Group : public QWidget {
   public:
-    Group(std::string_view name, QWidget* parent) : QWidget(parent), grid_(childOf<QGridLayout>(*this))
+    Group(std::string_view name, QWidget* parent)
+        : QWidget(parent), grid_(childOf<QGridLayout>(*this)), heading_(childOf<QLabel>(*this))
     {
-        QLabel& heading = childOf<QLabel>(*this);
-        heading.setText(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))); // a short word
-        heading.setObjectName(QStringLiteral("heading"));
+        heading_.setText(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))); // a short word
+        heading_.setObjectName(QStringLiteral("heading"));
+        setAccessibleName(heading_.text());
         grid_.setContentsMargins(0, 0, 0, 0);
-        grid_.setSpacing(3);
-        grid_.addWidget(&heading, 0, 0, 1, columns);
+        grid_.setSpacing(groupSpacing);
+        grid_.addWidget(&heading_, 0, 0, 1, columns);
     }
+
+    QWidget& heading() { return heading_; }
 
     void add(StripButton& button, const QIcon& icon)
     {
@@ -89,6 +94,7 @@ class Group : public QWidget {
 
   private:
     QGridLayout& grid_;
+    QLabel& heading_;
     int filled_ = 0; // places of the grid
 };
 
@@ -109,12 +115,33 @@ ToolStrip::ToolStrip(EventGate& gate, ControlViews& views, QWidget* parent) : QW
             name = row.parent;
             group = &childOf<Group>(*this, name);
             column.addWidget(group);
+            names_.push_back(&group->heading());
         }
         StripButton& view = childOf<StripButton>(*group, gate, id);
         group->add(view, iconOf(id));
         views.add(id, view);
     }
     column.addStretch();
+}
+
+int ToolStrip::heightOfNames() const
+{
+    return std::accumulate(names_.begin(), names_.end(), 0, [](int sum, const QWidget* name) {
+        return sum + name->sizeHint().height() + groupSpacing;
+    });
+}
+
+QSize ToolStrip::minimumSizeHint() const
+{
+    const QSize now = QWidget::minimumSizeHint();
+    return names_.front()->isHidden() ? now : now - QSize(0, heightOfNames());
+}
+
+void ToolStrip::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const bool hasRoom = height() >= minimumSizeHint().height() + heightOfNames();
+    for (QWidget* name : names_) name->setVisible(hasRoom);
 }
 
 } // namespace mirtane

@@ -1,0 +1,121 @@
+// The manual as a window that one works beside.
+
+#include "window_desk.h"
+
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::WindowDesk;
+
+struct Reader : WindowDesk {
+    Reader()
+    {
+        std::string text =
+            "MIRTANE\n     1  First things\n     2  Second things\n\n1  FIRST THINGS\n----------\n";
+        for (int i = 0; i < 200; ++i) text += "Line of the first chapter\n";
+        text += "2  SECOND THINGS\n----------\nLine\n    of a kind\n";
+        for (int i = 0; i < 200; ++i) text += "All the rest, and a w\xF6rd\n";
+        disk.files["/home/user/mirtanehelp.txt"] = Bytes(text.begin(), text.end());
+        press(ids::displayHelp);
+    }
+
+    static QWidget& form() { return *widget(ids::helpForm); }
+    static QPlainTextEdit& page() { return dynamic_cast<QPlainTextEdit&>(*widget(ids::helpPage)); }
+    static std::string firstLine()
+    {
+        return page().cursorForPosition(QPoint(4, 4)).block().text().toStdString();
+    }
+    void chapter(int row)
+    {
+        shell.clickRow(ids::helpContents, row);
+        window->refresh();
+        settle();
+    }
+};
+
+TEST(HelpForm, CanGoBehindTheDrawing)
+{
+    const Reader reader;
+    ASSERT_TRUE(Reader::form().isVisible());
+    EXPECT_EQ(Reader::form().parentWidget(), nullptr);
+    EXPECT_EQ(Reader::form().windowHandle()->transientParent(), nullptr);
+    EXPECT_EQ(Reader::form().windowModality(), Qt::NonModal);
+}
+
+// Who brings the drawing to the front while the manual has the keys does not get the manual back in front by
+// the next move of the pointer.
+TEST(HelpForm, StaysBehindTheDrawingThatWasBroughtToTheFront)
+{
+    Reader reader;
+    ASSERT_TRUE(reader.controls().focus == ids::helpPage);
+    reader.window->activateWindow();
+    WindowDesk::settle();
+    reader.shell.mouseMove({100, 100});
+    reader.window->refresh();
+    WindowDesk::settle();
+    EXPECT_TRUE(reader.window->isActiveWindow());
+    EXPECT_TRUE(reader.controls().focus == ids::drawing);
+    reader.press(ids::displayHelp);
+    EXPECT_TRUE(Reader::form().isActiveWindow()) << "when it is asked for again";
+}
+
+TEST(HelpForm, KeepsTheSizeAndThePlaceThatItWasGiven)
+{
+    Reader reader;
+    EXPECT_EQ(Reader::form().size(), QSize(1024 - 67, 700 - 47)) << "at first";
+    const QRect wished(40, 60, 501, 422);
+    Reader::form().setGeometry(wished);
+    WindowDesk::settle();
+    reader.window->resize(900, 640);
+    Reader::form().close();
+    WindowDesk::settle();
+    ASSERT_FALSE(Reader::form().isVisible());
+    reader.press(ids::displayHelp);
+    EXPECT_EQ(Reader::form().geometry(), wished);
+}
+
+TEST(HelpForm, GoesWhereItsContentsLead)
+{
+    Reader reader;
+    reader.chapter(1);
+    EXPECT_EQ(Reader::firstLine(), "2  SECOND THINGS");
+    reader.chapter(0);
+    EXPECT_EQ(Reader::firstLine(), "1  FIRST THINGS");
+}
+
+// The same row leads there again after the reader has gone elsewhere.
+TEST(HelpForm, GoesWhereItsContentsLeadAfterItWasScrolled)
+{
+    Reader reader;
+    reader.chapter(1);
+    Reader::page().verticalScrollBar()->setValue(3);
+    WindowDesk::settle();
+    ASSERT_NE(Reader::firstLine(), "2  SECOND THINGS");
+    reader.chapter(1);
+    EXPECT_EQ(Reader::firstLine(), "2  SECOND THINGS");
+}
+
+TEST(HelpForm, MarksTheWordThatIsFound)
+{
+    Reader reader;
+    auto* const toFind = Reader::form().findChild<QShortcut*>();
+    ASSERT_NE(toFind, nullptr);
+    EXPECT_EQ(toFind->key(), QKeySequence(Qt::CTRL | Qt::Key_F));
+    emit toFind->activated();
+    EXPECT_TRUE(reader.controls().focus == ids::helpFind);
+    reader.shell.type(U"w\u00f6r");
+    reader.window->refresh();
+    EXPECT_EQ(Reader::page().textCursor().selectedText(), QString::fromUtf8("w\u00f6r"));
+    EXPECT_TRUE(Reader::page().viewport()->rect().contains(Reader::page().cursorRect()));
+}
+
+} // namespace
+} // namespace mirtane
