@@ -9,8 +9,8 @@ struct Arrow {
     std::string_view block; // the handle of what is drawn in place of the common arrow; empty for that
 };
 
-// Draws the arrow at the start of a record's line, whose first leg then begins at the arrow's foot. A leg too short for
-// it has none.
+// Draws the arrow at the start of a record's line, whose first leg then begins at the arrow's foot. A leg too
+// short for it has none.
 void drawArrow(std::vector<Vec3>& line, const Arrow& arrow, DrawingMaker& maker);
 
 // The line as it is seen.

@@ -50,7 +50,7 @@ inline constexpr DxfHandle firstFree = 0x30;
 } // namespace fixed
 
 struct LayerOut {
-    std::string name; // as the file has it
+    std::string name;              // as the file has it
     std::int32_t color = 0xFFFFFF; // the pen of most of its objects, which they need not name
     bool hidden = false;
     std::optional<std::string> own{}; // its name in the drawing, where it has a row there

@@ -437,7 +437,7 @@ TEST(PrintDialog, PrinterSetupLeavesThePageAsItWasAtTheStart)
 
 TEST(PrintDialog, PrinterSetupIsToldInTheEntry)
 {
-    Office office;
+    PrintDesk office;
     office.printer.toFile = true;
     office.folders.folders.insert("/plans");
     office.s.drawings.last = "/plans";
@@ -451,7 +451,7 @@ TEST(PrintDialog, PrinterSetupIsToldInTheEntry)
 
 TEST(PrintDialog, PrinterSetupIsToldAlsoWhereThereIsNothingToSetUp)
 {
-    Office office; // its printer has nothing to say
+    PrintDesk office; // its printer has nothing to say
     office.press("prtstp"_c);
     EXPECT_EQ(office.text("entry"_c), "There is no printer to set up");
     fake::Desk none;
@@ -477,7 +477,7 @@ TEST(PrintDialog, TellsWhereThePageGoes)
         {"the root", true, "", "/", "Goes to the file /mill.pdf"},
     };
     for (const Row& row : rows) {
-        Office office;
+        PrintDesk office;
         office.folders.folders.insert({"/plans", "/plots"});
         office.s.drawings.last = "/plans";
         office.s.drawingName = "mill.mtd";
@@ -496,7 +496,7 @@ TEST(PrintDialog, TellsWhereThePageGoes)
 
 TEST(PrintDialog, TellsThatThereIsNoPrinter)
 {
-    Office office(0, 0);
+    PrintDesk office(0, 0);
     office.addLine();
     office.ask();
     EXPECT_EQ(office.caption("frmprintset.Label2"_c), "There is no printer");
