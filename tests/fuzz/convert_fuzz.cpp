@@ -19,8 +19,9 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 // The way is told by the length, so that the files can be seeds as they are.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    constexpr Format formats[] = {Format::svg, Format::pdf, Format::png, Format::dxf, Format::mtd};
-    constexpr const char* outs[] = {"out.svg", "out.pdf", "out.png", "out.dxf", "out.mtd"};
+    constexpr Format formats[] = {Format::svg, Format::pdf, Format::png,
+                                  Format::dxf, Format::mtd, Format::txt};
+    constexpr const char* outs[] = {"out.svg", "out.pdf", "out.png", "out.dxf", "out.mtd", "out.txt"};
     const std::string file(data, data + size);
     const bool isDxf = file.find("SECTION") != std::string::npos;
     const std::string in = isDxf ? "in.dxf" : "in.mtd";
