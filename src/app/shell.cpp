@@ -302,6 +302,7 @@ void Shell::settle(ControlId focusBefore)
     showArmedSnap(s_);
     showMarks(s_);
     showPointer(s_);
+    if (s_.controls.focus != focusBefore) s_.refusedKey = 0;
     showReading(s_);
     const bool aims = s_.pointerIsOver && s_.pointer && !s_.ended && takesInput(ids::drawing);
     s_.snapMark = aims ? aimOfClick(s_, pic1_, *s_.pointer) : std::nullopt;

@@ -227,7 +227,10 @@ void confirmFileDialog(App& app, ControlId)
     const std::string& now = s.controls[ids::fileConfirm].caption;
     if (now != before && now == "Overwrite?") return; // nobody has seen yet that a file stands there
     std::string name = chosenName(s);
-    if (name.empty()) return;
+    if (name.empty()) {
+        if (!s.controls[ids::fileName].text.empty()) tellFault(app, "A name can't begin with a point");
+        return;
+    }
     if (!isSaving(s.controls)) name = nameInList(s, name);
     setText(s.controls[ids::fileName], name);
     (s.*patternOf(s).folders).last = folderShown(s.controls);

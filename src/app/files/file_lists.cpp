@@ -37,25 +37,17 @@ std::string& folderShown(Controls& controls)
     return controls[ids::folderList].text;
 }
 
-bool isSaving(const Controls& controls)
-{
-    const std::string& caption = controls[ids::fileConfirm].caption;
-    return caption == "Save" || caption == "Overwrite?";
-}
-
 TypedPath meantFile(App& app)
 {
     const Session& s = app.s;
     const auto path = typedPath(app);
     if (!path) return {s.controls[ids::folderList].text, chosenName(s)};
-    const bool stands = app.ports.disk.isTaken(path->folder + "/" + path->name);
-    return {path->folder, nameMeant(s, path->name, stands)};
+    return {path->folder, nameMeant(s, path->name, isFileOfPattern(app, *path))};
 }
 
 bool standsThere(App& app, const TypedPath& file)
 {
-    if (file.folder != folderShown(app.s.controls))
-        return !file.name.empty() && app.ports.disk.isTaken(file.folder + "/" + file.name);
+    if (file.folder != folderShown(app.s.controls)) return isFileOfPattern(app, file);
     const std::vector<std::string>& names = app.s.controls[ids::fileList].rows;
     return std::ranges::find(names, file.name) != names.end();
 }

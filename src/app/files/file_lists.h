@@ -12,9 +12,6 @@ std::string& folderShown(Controls& controls);
 // The folder is a copy, since it may be one of the rows that are replaced here.
 void showFolder(App& app, std::string folder);
 
-// Whether the dialog saves, by its button.
-bool isSaving(const Controls& controls);
-
 // The file that is meant, wherever the name or the path that is typed leads, and whether there is one.
 TypedPath meantFile(App& app);
 bool standsThere(App& app, const TypedPath& file);

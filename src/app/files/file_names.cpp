@@ -1,5 +1,7 @@
 #include "app/files/file_names.h"
 
+#include "text/utf8.h"
+
 #include <algorithm>
 
 namespace mirtane {
@@ -89,10 +91,23 @@ void narrow(std::optional<std::string>& common, const std::string& candidate)
         return;
     }
     const auto [end, ignored] = std::ranges::mismatch(*common, candidate);
-    common->erase(end, common->end());
+    std::size_t whole = 0;                                                     // of characters that both have
+    const std::size_t alike = static_cast<std::size_t>(end - common->begin()); // not negative
+    while (whole < alike) {
+        const std::size_t next = whole + firstCharacter(std::string_view(*common).substr(whole)).size;
+        if (next > alike) break;
+        whole = next;
+    }
+    common->resize(whole);
 }
 
 } // namespace
+
+bool isSaving(const Controls& controls)
+{
+    const std::string& caption = controls[ids::fileConfirm].caption;
+    return caption == "Save" || caption == "Overwrite?";
+}
 
 const PatternRow& patternOf(const FileState& s)
 {
@@ -142,13 +157,21 @@ std::optional<TypedPath> typedPath(App& app)
     return TypedPath{folderOf(app, halves.folder), std::string(halves.name)};
 }
 
+bool isFileOfPattern(App& app, const TypedPath& file)
+{
+    const PatternRow* const pattern = patternOfFile(file.name);
+    return pattern != nullptr && pattern->pattern == patternOf(app.s).pattern &&
+           app.ports.disk.stamp(file.folder + "/" + file.name).has_value();
+}
+
 void normalisePath(App& app)
 {
     Control& box = app.s.controls[ids::fileName];
     const auto path = typedPath(app);
     if (!path || path->name.empty()) return;
-    const std::string whole = path->folder + "/" + path->name;
-    const bool stands = app.ports.disk.isTaken(whole) || app.ports.folders.exists(whole);
+    const bool isFolder =
+        !isSaving(app.s.controls) && app.ports.folders.exists(path->folder + "/" + path->name);
+    const bool stands = isFolder || isFileOfPattern(app, *path);
     setText(box, std::string(halvesOf(box.text).folder) + nameMeant(app.s, path->name, stands));
 }
 
@@ -158,8 +181,12 @@ std::string completedName(App& app)
     const Halves halves = halvesOf(typed);
     const std::string folder = folderOf(app, halves.folder);
     std::optional<std::string> common;
-    for (const std::string& name : app.ports.folders.files(folder, std::string(patternOf(app.s).extension))) {
-        if (name.starts_with(halves.name)) narrow(common, name);
+    // Where it is saved a key that completes would choose a file to be replaced: there folders alone.
+    if (!isSaving(app.s.controls)) {
+        for (const std::string& name :
+             app.ports.folders.files(folder, std::string(patternOf(app.s).extension))) {
+            if (name.starts_with(halves.name)) narrow(common, name);
+        }
     }
     for (const std::string& name : app.ports.folders.subfolders(folder)) {
         if (name.starts_with(halves.name)) narrow(common, name + "/");

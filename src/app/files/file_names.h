@@ -15,6 +15,9 @@ struct PatternRow {
     FolderPair FileState::*folders;
 };
 
+// Whether the dialog saves, by its button.
+bool isSaving(const Controls& controls);
+
 // The row of the dialog's pattern.
 const PatternRow& patternOf(const FileState& s);
 
@@ -38,6 +41,10 @@ struct TypedPath {
     std::string name;
 };
 
+// Whether a file of the dialog's pattern stands there: what is called otherwise, and a folder, is neither
+// opened nor written over.
+bool isFileOfPattern(App& app, const TypedPath& file);
+
 // The path that is typed in place of a name: from the root, from the user's home ("~") or from the folder
 // shown. None for a plain name.
 std::optional<TypedPath> typedPath(App& app);
@@ -45,7 +52,8 @@ std::optional<TypedPath> typedPath(App& app);
 // Gives the name at the end of a path that is typed the extension that it is meant with.
 void normalisePath(App& app);
 
-// What could stand for the letters typed so far, as far as all files and folders that begin with them agree.
+// What could stand for the letters typed so far, as far as all folders that begin with them agree, and all
+// files where one is to be opened.
 std::string completedName(App& app);
 
 std::string parentOf(const std::string& folder);

@@ -8,8 +8,8 @@ namespace {
 
 QPageSize paperOfCountry()
 {
-    const bool imperial = QLocale::system().measurementSystem() != QLocale::MetricSystem;
-    return QPageSize(imperial ? QPageSize::Letter : QPageSize::A4);
+    const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize(american ? QPageSize::Letter : QPageSize::A4);
 }
 
 // The first line that is no remark.

@@ -31,6 +31,13 @@
 namespace mirtane {
 namespace {
 
+// Who believed that it was moved would delete it.
+void takeAsCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 // How long nothing may happen before work that is not saved is kept, and how long it may go on happening; in
 // milliseconds.
 constexpr int restBegins = 1000;
@@ -160,14 +167,14 @@ void MainWindow::takeShortcuts()
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event).empty()) event->acceptProposedAction();
+    if (!droppedFile(*event).empty()) takeAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
     const std::string file = droppedFile(*event);
     if (file.empty()) return;
-    event->acceptProposedAction();
+    takeAsCopy(*event);
     activateWindow();
     gate_.send([&file](Shell& shell) { shell.dropFile(file); });
 }

@@ -62,6 +62,16 @@ class PageDialog : public QPageSetupDialog {
     QLineEdit& folder_; // belongs to this
 };
 
+// Where it was named from; none is beside the drawing, and one that is not there leaves what was.
+std::string folderMeant(const QString& typed, const QString& folderNow, const std::string& before)
+{
+    QString path = typed.trimmed();
+    if (path.isEmpty()) return {};
+    if (path == "~" || path.startsWith("~/")) path.replace(0, 1, QDir::homePath());
+    path = QDir::cleanPath(QDir(folderNow).absoluteFilePath(path));
+    return QDir(path).exists() ? path.toStdString() : before;
+}
+
 } // namespace
 
 bool isChosen(PageChoice& choice, const QString& folderNow)
@@ -73,8 +83,7 @@ bool isChosen(PageChoice& choice, const QString& folderNow)
     if (dialog.exec() != QDialog::Accepted) return false;
     choice.paper = printer.pageLayout().pageSize();
     choice.way = printer.pageLayout().orientation();
-    const bool isOther = !dialog.folder().isEmpty() && dialog.folder() != folderNow;
-    if (isOther) choice.folder = QDir(dialog.folder()).absolutePath().toStdString();
+    if (dialog.folder() != folderNow) choice.folder = folderMeant(dialog.folder(), folderNow, choice.folder);
     return true;
 }
 

@@ -67,7 +67,7 @@ SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QW
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus); // a click brings the keys by itself, and a drag leaves them where they are
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -182,6 +182,11 @@ void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event)
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF at = event->position();
+    // A window that came in front took the release.
+    if (middle_.isHeld() && !event->buttons().testFlag(Qt::MiddleButton)) {
+        middle_.release();
+        show(gate_.shell().session().controls[id_]);
+    }
     if (!middle_.isHeld()) {
         gate_.send([&](Shell& shell) { shell.mouseMove(worldAt(at)); });
     } else if (middle_.move(at.x(), at.y())) {
