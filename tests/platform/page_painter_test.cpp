@@ -120,7 +120,7 @@ TEST(PagePicture, TextIsAsWideBesideThePageAsItIsOnPaper)
     };
     Picture large(600);
     large.draw(words);
-    Picture small(44);
+    Picture small(54);
     small.draw(words);
     EXPECT_NEAR(small.dark().width() / large.dark().width(), 1, 0.05);
 }

@@ -28,12 +28,17 @@ inline double contrast(QRgb a, QRgb b)
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
-inline QRgb commonest(const QImage& picture)
+inline QMap<QRgb, int> countsOf(const QImage& picture)
 {
     QMap<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
     }
+    return counts;
+}
+
+inline QRgb commonest(const QMap<QRgb, int>& counts)
+{
     QRgb found = 0;
     int most = 0;
     for (auto one = counts.begin(); one != counts.end(); ++one) {
@@ -47,12 +52,10 @@ inline QRgb commonest(const QImage& picture)
 // The strongest contrast that a pixel has with the colour that most have.
 inline double strongestContrast(const QImage& picture)
 {
-    const QRgb ground = commonest(picture);
+    const QMap<QRgb, int> counts = countsOf(picture);
+    const QRgb ground = commonest(counts);
     double strongest = 1;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            strongest = std::max(strongest, contrast(picture.pixel(x, y), ground));
-    }
+    for (const QRgb color : counts.keys()) strongest = std::max(strongest, contrast(color, ground));
     return strongest;
 }
 
@@ -63,7 +66,8 @@ inline int plainlyDifferent(const QImage& a, const QImage& b)
     int count = 0;
     for (int y = 0; y < std::min(a.height(), b.height()); ++y) {
         for (int x = 0; x < std::min(a.width(), b.width()); ++x)
-            count += contrast(a.pixel(x, y), b.pixel(x, y)) >= plain ? 1 : 0;
+            count +=
+                a.pixel(x, y) != b.pixel(x, y) && contrast(a.pixel(x, y), b.pixel(x, y)) >= plain ? 1 : 0;
     }
     return count;
 }

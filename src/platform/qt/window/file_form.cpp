@@ -32,13 +32,14 @@ QWidget& nameBlock(const ControlMaker& maker, QWidget& form)
     grid.setContentsMargins(0, 0, 0, 0);
     grid.setVerticalSpacing(3);
     grid.setColumnStretch(1, 1);
-    QWidget& label = maker.make(ids::fileNameLabel, block);
+    QWidget& name = maker.make(ids::fileName, block);
+    QWidget& label = maker.makeLabel(ids::fileNameLabel, name, block);
     label.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     QWidget& fault = maker.make(ids::fileFault, block);
     fault.setStyleSheet(QStringLiteral("color: #ffcf5c; font-size: 13px"));
     grid.addWidget(&label, 0, 0);
     grid.addWidget(&fault, 0, 1);
-    grid.addWidget(&maker.make(ids::fileName, block), 1, 0, 1, 2);
+    grid.addWidget(&name, 1, 0, 1, 2);
     return block;
 }
 
