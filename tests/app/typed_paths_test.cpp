@@ -187,6 +187,87 @@ TEST_F(Plans, TabCompletesANameAsFarAsAllAgree)
     EXPECT_EQ(desk.s.controls["frmfile.File1"_c].row, 0);
 }
 
+// The second Enter would replace it: the first is meant for the button that Tab used to lead to.
+TEST_F(Plans, TabChoosesNoFileToBeReplaced)
+{
+    struct Row {
+        ControlId menu;
+        const char* typed;
+        const char* neighbour;
+    };
+    const Row rows[] = {{"fil7"_c, "house", "/home/user/house-old.mtd"},
+                        {"fil7"_c, "~/plans/h", "/home/user/plans/hut.mtd"},
+                        {"fil7"_c, "/srv/big plans/b", "/srv/big plans/barn.mtd"},
+                        {"dd4"_c, "house", "/home/user/house-old.dxf"}};
+    for (const Row& row : rows) {
+        desk.disk.files[row.neighbour] = {1, 2, 3};
+        desk.s.store.setStat(1, Stat::sel);
+        desk.press(row.menu);
+        tabIn(row.typed);
+        EXPECT_EQ(typed(), row.typed);
+        EXPECT_EQ(button(), "Save") << row.typed;
+        desk.enter();
+        desk.enter();
+        EXPECT_EQ(desk.disk.files[row.neighbour], (Bytes{1, 2, 3})) << row.neighbour;
+        desk.press("frmfile.Command2"_c);
+    }
+    desk.press("fil7"_c);
+    tabIn("~/pl");
+    EXPECT_EQ(typed(), "~/plans/") << "folders are completed";
+}
+
+TEST_F(Plans, TabCutsNoLetter)
+{
+    struct Row {
+        const char* one;
+        const char* other;
+        const char* completed;
+    };
+    const Row rows[] = {{"/srv/café.mtd", "/srv/cafè.mtd", "/srv/caf"},
+                        {"/srv/50€.mtd", "/srv/50₤.mtd", "/srv/50"},
+                        {"/srv/x\U0001F3E0.mtd", "/srv/x\U0001F3E1.mtd", "/srv/x"},
+                        {"/srv/größe.mtd", "/srv/größer.mtd", "/srv/größe"}};
+    for (const Row& row : rows) {
+        desk.disk.files = {{row.one, {1}}, {row.other, {1}}};
+        desk.press("fil4"_c);
+        tabIn(std::string(row.completed).substr(0, 6).c_str());
+        EXPECT_EQ(typed(), row.completed);
+        desk.press("frmfile.Command2"_c);
+    }
+}
+
+// Only what would be replaced is warned of.
+TEST_F(Plans, FilesOfOtherKindsAndFoldersAreNotInTheWay)
+{
+    desk.disk.files["/srv/notes.txt"] = {1};
+    desk.folders.folders.insert("/srv/plans");
+    desk.press("fil7"_c);
+    for (const char* path : {"/srv/notes.txt", "/srv/plans", "/srv/notes", "/srv/plans.mtd"}) {
+        desk.name(path);
+        EXPECT_EQ(button(), "Save") << path;
+    }
+    desk.disk.files["/srv/notes.mtd"] = {9, 9};
+    desk.name("/srv/notes.txt");
+    EXPECT_EQ(button(), "Overwrite?") << "what is saved is called notes.mtd";
+    desk.name("/srv/plans");
+    desk.enter();
+    EXPECT_TRUE(desk.disk.files.contains("/srv/plans.mtd"));
+    EXPECT_EQ(desk.disk.files["/srv/notes.mtd"], (Bytes{9, 9}));
+}
+
+TEST_F(Plans, ANameThatBeginsWithAPointIsRefusedAloud)
+{
+    for (const char* path : {"/srv/.plan", ".plan", "~/plans/.x.mtd"}) {
+        desk.press("fil7"_c);
+        desk.name(path);
+        desk.enter();
+        EXPECT_TRUE(desk.visible("frmfile"_c)) << path;
+        EXPECT_EQ(fault(), "A name can't begin with a point") << path;
+        desk.press("frmfile.Command2"_c);
+    }
+    EXPECT_TRUE(desk.disk.files.empty());
+}
+
 TEST_F(Plans, HomeIsTheUsersAndNotTheProgramsWhereTheyDiffer)
 {
     desk.folders.folders.insert("/home/ann");
