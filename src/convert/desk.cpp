@@ -11,8 +11,11 @@ void tell(const FullReport& report, Outcome& outcome)
 {
     outcome.leftOut = !report.isWhole();
     std::string left = sentenceOfLeftOut(report);
-    if (!report.isDxf) left = "no DXF file";
-    if (report.isDxf && report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
+    if (!report.isDxf) {
+        outcome.fault = "no DXF file";
+        return;
+    }
+    if (report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
     const std::string came = sentenceOfWhatCame(report);
     if (!left.empty()) outcome.remarks.push_back(left + (came.empty() ? "" : "; " + came + " came"));
     if (const std::string moved = sentenceOfMove(report); !moved.empty()) outcome.remarks.push_back(moved);

@@ -25,12 +25,14 @@ Vec wayToEdge(Vec from, Vec way, Vec low, Vec high)
     return std::isfinite(times) ? times * way : Vec{};
 }
 
-constexpr std::int64_t mostSteps = 1'000'000; // records drawn, those of a block each time that it is inserted
-constexpr std::size_t deepest = 32;           // blocks within blocks
+// Records drawn, those of a block each time that it is inserted; a long one counts as many.
+constexpr std::int64_t mostSteps = 2'000'000;
+constexpr std::size_t deepest = 32; // blocks within blocks
 constexpr std::size_t roomForPatterns =
     58'000; // the rest of the table is for names of layers, and for whoever draws on
 constexpr std::size_t mostPatternLines =
     400'000; // of all hatches, before it is known which of them have room
+constexpr std::size_t mostOutlineStrokes = 400'000; // likewise
 constexpr std::string_view noRoom = "no room for its lines, its outline alone";
 constexpr std::size_t mostObjects = EntityStore::slotCount - 1;
 
@@ -40,6 +42,16 @@ bool isFinite(const Made& made)
     const auto near = [](Vec p) { return std::abs(p.x) < farthest && std::abs(p.y) < farthest; };
     return std::ranges::all_of(made.p, near) && made.radius < farthest && made.size < farthest &&
            std::isfinite(made.from + made.to + made.ratio + made.rotation + made.radius + made.size);
+}
+
+// What a record costs to be drawn, by the letters in it; 1 for a short one.
+std::int64_t costOf(const DxfRecord& record)
+{
+    constexpr std::size_t lettersOfShort = 256;
+    constexpr std::size_t lettersOfCode = 8;
+    std::size_t letters = 0;
+    for (const DxfGroup& group : record.groups) letters += group.value.size() + lettersOfCode;
+    return 1 + static_cast<std::int64_t>(letters / lettersOfShort); // far below what it holds
 }
 
 // A value that lasts until the end of a block of code, which puts the old one back.
@@ -208,16 +220,17 @@ void DrawingMaker::attributes(const DxfRecord& insert, Vec3 moved)
     for (const DxfRecord& one : insert.parts) record(one);
 }
 
-bool DrawingMaker::takesStep()
+bool DrawingMaker::takesStep(std::int64_t cost)
 {
-    return ++steps_ <= mostSteps;
+    steps_ += cost;
+    return steps_ <= mostSteps;
 }
 
 void DrawingMaker::record(const DxfRecord& record)
 {
     constexpr int invisible = 60;
     if (isPicture_ && isSameName(record.type, "POINT")) return;
-    if (!takesStep()) return leftOut(record.type, "too many");
+    if (!takesStep(costOf(record))) return leftOut(record.type, "too many");
     if (record.whole(invisible) == 1) return leftOut(record.type, "invisible");
     const TakeRecord take = takerOf_(record.type);
     if (take == nullptr) return leftOut(record.type);
@@ -246,7 +259,6 @@ std::string DrawingMaker::faceOf(std::string_view style) const
     return row == list_.styles.end() ? std::string() : faceOfStyle(list_, row->second);
 }
 
-// They don't add to the size of the drawing themselves.
 // As far beyond the drawing as half its size: a view of all of it still shows the drawing, and not a dot on a
 // line.
 void DrawingMaker::cutEndless()
@@ -263,9 +275,16 @@ void DrawingMaker::cutEndless()
     }
 }
 
+bool DrawingMaker::takesPatterns() const
+{
+    return patternLines_ <= mostPatternLines && outlineStrokes_ <= mostOutlineStrokes;
+}
+
 void DrawingMaker::pattern(Pattern pattern)
 {
     pattern.look = look;
+    outlineStrokes_ += pattern.outline.size();
+    if (outlineStrokes_ > mostOutlineStrokes) return leftOut("HATCH", "no room for it");
     patternLines_ += pattern.lines.size();
     if (patternLines_ > mostPatternLines) {
         leftOut("HATCH", noRoom);

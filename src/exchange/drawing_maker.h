@@ -90,6 +90,8 @@ class DrawingMaker {
     // The lines of a hatch, which come after all else: where there is no room for them, its outline alone
     // does.
     void pattern(Pattern pattern);
+    // Whether there can be room for more of them: else they need not be worked out.
+    bool takesPatterns() const;
 
     // Lines without an end: cut to the drawing's size once that is known.
     void endless(Vec from, Vec way, bool bothWays);
@@ -103,7 +105,7 @@ class DrawingMaker {
         Look look;
     };
 
-    bool takesStep();
+    bool takesStep(std::int64_t cost = 1);
     void drawBlock(const DxfBlock& block, const Transform3& at);
     void circular(const EllipseArc& arc);
     void cutEndless();
@@ -122,6 +124,7 @@ class DrawingMaker {
     std::vector<Endless> endless_;
     std::vector<Pattern> patterns_;
     std::size_t patternLines_ = 0;
+    std::size_t outlineStrokes_ = 0;
     bool isPicture_ = false;
     std::int64_t steps_ = 0;
     MadeDrawing made_;

@@ -11,11 +11,21 @@ namespace {
 
 // More than any hatch that can be looked at needs: together with few lines these are as many edges.
 constexpr std::size_t mostCrossings = 400'000;
+// Edges and dashes that are looked at, of all rows together.
+constexpr std::size_t mostLooks = 4'000'000;
+
+// What is left of both.
+struct Budget {
+    std::size_t crossings = mostCrossings;
+    std::size_t looks = mostLooks;
+
+    static bool takes(std::size_t& left) { return left != 0 && left-- != 0; }
+};
 
 class RowCutter {
   public:
-    RowCutter(const PatternRow& row, std::size_t most, std::vector<PatternLine>& lines)
-        : row_(row), most_(most), lines_(lines), apart_(dot(row.offset, turnedLeft(row.way)))
+    RowCutter(const PatternRow& row, std::size_t most, Budget& budget, std::vector<PatternLine>& lines)
+        : row_(row), most_(most), budget_(budget), lines_(lines), apart_(dot(row.offset, turnedLeft(row.way)))
     {
         for (const double dash : row.dashes) period_ += std::abs(dash);
     }
@@ -33,11 +43,11 @@ class RowCutter {
 
     const PatternRow& row_;
     std::size_t most_;
+    Budget& budget_;
     std::vector<PatternLine>& lines_;
     double apart_; // of two lines, below 0 to the right
     double period_ = 0;
-    double first_ = 0; // of the lines that can cross a loop
-    std::size_t crossings_ = 0;
+    double first_ = 0;                       // of the lines that can cross a loop
     std::vector<std::vector<double>> along_; // of each of them, where it is crossed
 };
 
@@ -79,7 +89,7 @@ bool RowCutter::cross(Vec a, Vec b)
         if (line < 0 || line >= static_cast<double>(along_.size())) continue;
         along_[static_cast<std::size_t>(line)].push_back(
             dot(p - start(n), row_.way)); // within the range, seen above
-        if (++crossings_ > mostCrossings) return false;
+        if (!Budget::takes(budget_.crossings)) return false;
     }
     return true;
 }
@@ -97,6 +107,7 @@ bool RowCutter::dashed(Vec start, double from, double to)
     for (double period = first; period * period_ < to; ++period) {
         double at = period * period_;
         for (const double dash : row_.dashes) {
+            if (!Budget::takes(budget_.looks)) return false;
             const double end = at + std::abs(dash);
             const bool isSeen = dash == 0 ? at >= from && at <= to : end > from && at < to;
             if (dash >= 0 && isSeen && !add(start, std::max(at, from), std::min(end, to))) return false;
@@ -118,6 +129,7 @@ bool RowCutter::run(std::span<const Loop> loops)
     if (apart_ == 0 || !findRange(loops)) return false;
     for (const Loop& loop : loops) {
         for (std::size_t i = 0; i < loop.size(); ++i) {
+            if (!Budget::takes(budget_.looks)) return false;
             if (!cross(loop[i], loop[(i + 1) % loop.size()])) return false;
         }
     }
@@ -168,8 +180,9 @@ std::optional<std::vector<PatternLine>> patternLines(std::span<const Loop> loops
                                                      std::span<const PatternRow> rows, std::size_t most)
 {
     std::vector<PatternLine> lines;
+    Budget budget;
     for (const PatternRow& row : rows) {
-        if (!RowCutter(row, most, lines).run(loops)) return std::nullopt;
+        if (!RowCutter(row, most, budget, lines).run(loops)) return std::nullopt;
     }
     return lines;
 }
@@ -177,10 +190,14 @@ std::optional<std::vector<PatternLine>> patternLines(std::span<const Loop> loops
 std::vector<int> depthsOf(std::span<const Loop> loops)
 {
     std::vector<double> areas;
-    for (const Loop& loop : loops) areas.push_back(areaOf(loop));
+    std::size_t corners = 0;
+    for (const Loop& loop : loops) {
+        areas.push_back(areaOf(loop));
+        corners += loop.size();
+    }
     std::vector<int> depths(loops.size(), 0);
     constexpr std::size_t mostCompared = 500; // of one hatch; more are not nested by anyone
-    if (loops.size() > mostCompared) return depths;
+    if (loops.size() > mostCompared || loops.size() * corners > mostLooks) return depths;
     for (std::size_t i = 0; i < loops.size(); ++i) {
         for (std::size_t j = 0; j < loops.size(); ++j) {
             if (areas[j] > areas[i] && liesIn(loops[i], loops[j])) ++depths[i];

@@ -88,6 +88,7 @@ std::vector<Stroke> outlineOf(const std::vector<HatchPath>& paths)
 
 void takeHatch(const DxfRecord& record, DrawingMaker& maker)
 {
+    if (!maker.takesPatterns()) return maker.leftOut(record.type, "no room for it");
     const Transform2 plane = maker.plane(record);
     const bool isSolid = record.whole(70) != 0;
     GroupRun groups(record.groups);

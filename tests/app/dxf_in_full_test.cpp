@@ -149,5 +149,17 @@ TEST_F(DxfInFull, NothingIsSaidOfItInAnotherDrawing)
     EXPECT_EQ(said(), "");
 }
 
+// One that was cut off in the middle came in part, whatever it holds.
+TEST_F(DxfInFull, SaysThatTheFileIsCutOff)
+{
+    const Bytes& whole = desk.disk.files["/home/user/plan.dxf"];
+    for (const std::size_t left : {whole.size() - 40, whole.size() - 21}) {
+        desk.disk.files["/home/user/part.dxf"] =
+            Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(left));
+        startWith("part.dxf");
+        EXPECT_NE(said().find("the file is cut off"), std::string::npos) << left << ": " << said();
+    }
+}
+
 } // namespace
 } // namespace mirtane

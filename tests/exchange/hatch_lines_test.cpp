@@ -127,6 +127,12 @@ TEST(PatternLines, SoManyThatTheyCoverTheAreaAreNone)
         {{none, 0}, {1, 0}, {0, 1}, {}},
     };
     for (const PatternRow& row : dense) EXPECT_FALSE(patternLines(loops, {{row}}, 5000)) << row.offset.y;
+    // gaps and rows that leave no line are looked at all the same
+    PatternRow gaps{{0, 0}, {1, 0}, {0, 1}, {0.002}};
+    gaps.dashes.insert(gaps.dashes.end(), 100'000, -1e-9);
+    EXPECT_FALSE(patternLines(loops, {{gaps}}, 1'000'000));
+    EXPECT_FALSE(
+        patternLines(loops, std::vector<PatternRow>(1'100'000, {{0, -500}, {1, 0}, {0, 1000}, {}}), 5000));
     EXPECT_FALSE(patternLines(loops, std::vector<PatternRow>(30, {{0, 0}, {1, 0}, {0, 0.5}, {}}), 5000));
     EXPECT_TRUE(patternLines(loops, std::vector<PatternRow>(20, {{0, 0}, {1, 0}, {0, 0.5}, {}}), 5000));
 }

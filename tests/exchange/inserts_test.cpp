@@ -138,5 +138,38 @@ TEST(Inserts, AnyNumberOfRowsAndColumnsComesToAnEnd)
     }
 }
 
+// A short file can ask for a long one to be drawn any number of times: what is drawn is counted by what it
+// costs.
+TEST(Inserts, OfLongRecordsComeToAnEnd)
+{
+    std::string vertices, words, corners;
+    for (int i = 0; i < 2000; ++i) {
+        vertices += dxf({{10, std::to_string(i)}, {20, std::to_string(i % 7)}});
+        corners += dxf({{10, std::to_string(i % 50)}, {20, std::to_string(i)}});
+    }
+    for (int i = 0; i < 400; ++i) words += dxf({{3, std::string(250, 'w')}});
+    const std::string records[] = {
+        dxf({{0, "LWPOLYLINE"}, {8, "0"}, {90, "2000"}, {70, "0"}}) + vertices,
+        dxf({{0, "MTEXT"}, {8, "0"}, {10, "0"}, {20, "0"}, {40, "1"}}) + words + dxf({{1, "end"}}),
+        dxf({{0, "HATCH"},
+             {8, "0"},
+             {70, "1"},
+             {71, "0"},
+             {91, "1"},
+             {92, "2"},
+             {72, "0"},
+             {73, "1"},
+             {93, "2000"}}) +
+            corners + dxf({{97, "0"}, {75, "0"}, {76, "1"}}),
+    };
+    for (const std::string& record : records) {
+        const FullReading r =
+            readOf(section("BLOCKS", block("B", record)) +
+                   entities(insert("B", {{70, "1000"}, {71, "1000"}, {44, "9"}, {45, "9"}})));
+        EXPECT_LE(r.drawing.objects.size(), 60000U);
+        EXPECT_FALSE(reportOf(r, {}).isWhole()) << record.substr(0, 20);
+    }
+}
+
 } // namespace
 } // namespace mirtane

@@ -40,7 +40,9 @@ void tellOfReading(Notices& notices, const std::string& name, const FullReport& 
 {
     FullReport types = report;
     types.withoutRoom = 0; // told already, with the name that the drawing has
-    if (const std::string left = sentenceOfLeftOut(types); !left.empty() && report.withoutRoom == 0)
+    std::string left = sentenceOfLeftOut(types);
+    if (report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
+    if (!left.empty() && report.withoutRoom == 0)
         notices.post({Matter::leftOut, name + ": " + left + ".", {{"Close", Offer::goOn}}});
     if (const std::string moved = sentenceOfMove(report); !moved.empty())
         notices.post({Matter::moved, name + ": " + moved + ".", {{"Close", Offer::goOn}}});
