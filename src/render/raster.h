@@ -7,6 +7,8 @@
 
 namespace mirtane {
 
+struct Coverage;
+
 // A rectangle of pixels; right and bottom lie just outside it.
 struct PixelRect {
     int left = 0, top = 0, right = 0, bottom = 0;
@@ -71,6 +73,10 @@ class Raster {
     // The ellipse whose half axes end at u and v from its centre, of as few chords as look round; dashes
     // begin anew with each. False, and nothing drawn, if it takes more than a few dozen.
     bool smallEllipse(PixelPoint centre, PixelPoint u, PixelPoint v, const Stroke& stroke);
+
+    // The colour over what is there, as far as each pixel is covered, by a shape for images of this width.
+    // (x, y) is the place that it is laid at.
+    void lay(const Coverage& shape, std::int64_t x, std::int64_t y, std::uint32_t color);
 
   private:
     std::size_t index(int x, int y) const;
