@@ -172,7 +172,7 @@ class FailedSaves : public testing::TestWithParam<Saved> {
         ADD_FAILURE() << "the save has no end";
     }
 
-    PdfPrinter pdf_;
+    PdfPrinter pdf_{QPageSize(QPageSize::A4)};
     fake::Theatre theatre_{&pdf_};
     std::string whole_;
     std::string failed_; // the call

@@ -3,11 +3,14 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QPdfWriter>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace mirtane {
 namespace {
@@ -262,6 +265,85 @@ TEST_F(PdfFile, APointIsAsLargeAsThePenIsWide)
     }
     EXPECT_GT(dark, 14 * 14 / 2);
     EXPECT_LT(dark, 16 * 16);
+}
+
+// A page whose lines go to the toolkit one by one, in the order in which they are drawn.
+class LineByLine : public PagePainter {
+  public:
+    explicit LineByLine(const QString& file) : PagePainter(12240, 15840), writer_(file)
+    {
+        writer_.setPageSize(QPageSize(QPageSize::Letter));
+        writer_.setPageMargins(QMarginsF(0, 0, 0, 0));
+        writer_.setResolution(600);
+    }
+    bool printsToFile() const override { return true; }
+    void setup() override {}
+    bool beginPage(const PageName&) override { return beginOn(writer_, 600 / 1440.0); }
+
+  private:
+    QPdfWriter writer_;
+};
+
+// Slanted lines with pens of all kinds in turn, and other marks between them.
+void drawPlan(Printer& printer, int lines)
+{
+    for (int i = 0; i < lines; ++i) {
+        const double angle = i * 0.37;
+        const double x = 6000 + 3 * (i % 1200) * std::cos(angle);
+        const double y = 7900 - 4 * (i % 1100) * std::sin(angle * 1.3);
+        printer.pen(static_cast<std::int16_t>(i % 5), 1 + i % 14); // 0 to 4
+        printer.line(x, y, x + 700 * std::cos(angle), y - 700 * std::sin(angle));
+        if (i % 40 == 0) printer.circle(x, y, 300);
+        if (i % 40 == 10) printer.arc(x, y, 450, angle, angle + 1);
+        if (i % 40 == 20) printer.point(x, y);
+    }
+}
+
+TEST_F(PdfFile, LooksAsIfItsLinesWereDrawnOneByOne)
+{
+    const QString toPicture = QStandardPaths::findExecutable(QStringLiteral("pdftoppm"));
+    if (toPicture.isEmpty()) GTEST_SKIP() << "nothing here turns a PDF file into a picture";
+    const auto pictureOf = [&](Printer& printer, const QString& file) {
+        EXPECT_TRUE(printer.beginPage({file.toStdString(), {}}));
+        drawPlan(printer, 400);
+        EXPECT_TRUE(printer.endPage());
+        const QString picture = file + QStringLiteral("-page");
+        QProcess::execute(toPicture, {"-r", "100", "-gray", "-png", "-singlefile", file, picture});
+        return QImage(picture + ".png").convertToFormat(QImage::Format_Grayscale8);
+    };
+    PdfPrinter joined{QPageSize(QPageSize::Letter)};
+    const QImage found = pictureOf(joined, path_);
+    const QString plainPath = folder_.filePath(QStringLiteral("plain.pdf"));
+    LineByLine plain(plainPath);
+    const QImage expected = pictureOf(plain, plainPath);
+    ASSERT_EQ(found.size(), expected.size());
+    ASSERT_FALSE(found.isNull());
+    double ink = 0, apart = 0;
+    for (int y = 0; y < found.height(); ++y) {
+        for (int x = 0; x < found.width(); ++x) {
+            ink += 255 - qGray(expected.pixel(x, y));
+            apart += std::abs(qGray(found.pixel(x, y)) - qGray(expected.pixel(x, y)));
+        }
+    }
+    EXPECT_GT(ink, 1e6);
+    EXPECT_LT(apart / ink, 0.03);
+}
+
+TEST_F(PdfFile, SaysEachPenOnceForAllItsLines)
+{
+    constexpr int lines = 6000;
+    PdfPrinter joined{QPageSize(QPageSize::Letter)};
+    ASSERT_TRUE(joined.beginPage({path_.toStdString(), {}}));
+    drawPlan(joined, lines);
+    ASSERT_TRUE(joined.endPage());
+    const QString plainPath = folder_.filePath(QStringLiteral("plain.pdf"));
+    {
+        LineByLine plain(plainPath);
+        ASSERT_TRUE(plain.beginPage({}));
+        drawPlan(plain, lines);
+        ASSERT_TRUE(plain.endPage());
+    }
+    EXPECT_LT(contents(path_).size() * 3, contents(plainPath).size() * 2);
 }
 
 TEST_F(PdfFile, TakesNamesOfAnyLanguage)

@@ -18,6 +18,7 @@ namespace {
 constexpr double twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
 constexpr int pdfDotsPerInch = 600;
+constexpr int pdfUnitsPerDot = 12;
 constexpr double degreesPerRadian = 57.29577951308232; // the toolkit's own degrees, not those of the drawing
 constexpr double sixteenthsPerDegree = 16;
 
@@ -52,9 +53,15 @@ bool PagePainter::beginOn(QPaintDevice& device, double unitsPerTwip, double unit
     unitsPerTwip_ = unitsPerTwip;
     unitsPerDot_ = unitsPerDot;
     if (!painter_.begin(&device)) return false;
-    painter_.setPen(QPen(Qt::black, 1));
+    painter_.setPen(QPen(Qt::black, leastWidth()));
     painter_.setBrush(Qt::NoBrush);
     return true;
+}
+
+// Of a dot or a unit: a thinner line would fade.
+double PagePainter::leastWidth() const
+{
+    return std::max(unitsPerDot_, 1.0);
 }
 
 void PagePainter::font(std::string_view name, double points)
@@ -70,8 +77,7 @@ void PagePainter::text(double x, double y, std::string_view utf8)
 
 void PagePainter::pen(std::int16_t style, int width)
 {
-    constexpr double leastWidth = 1; // a thinner line would fade
-    const double units = std::max(width * unitsPerDot_, leastWidth);
+    const double units = std::max(width * unitsPerDot_, leastWidth());
     painter_.setPen(QPen(Qt::black, units, penStyleOf(style), Qt::FlatCap, Qt::RoundJoin));
 }
 
@@ -154,17 +160,39 @@ bool PdfPrinter::beginPage(const PageName& name)
     if (!buffer->open(QIODevice::WriteOnly)) return false;
     auto writer = std::make_unique<QPdfWriter>(buffer.get());
     writer->setPageLayout(layout_);
-    writer->setResolution(pdfDotsPerInch);
+    writer->setResolution(pdfDotsPerInch * pdfUnitsPerDot);
     writer->setCreator(QStringLiteral("Mirtane 4.00"));
     writer->setTitle(QString::fromStdString(name.title));
     buffer_ = std::move(buffer);
     device_ = std::move(writer);
-    return beginOn(*device_, pdfDotsPerInch / twipsPerInch);
+    lines_.clear();
+    pen_ = {};
+    return beginOn(*device_, pdfDotsPerInch * pdfUnitsPerDot / twipsPerInch, pdfUnitsPerDot);
+}
+
+void PdfPrinter::pen(std::int16_t style, int width)
+{
+    const Pen next{style, width};
+    if (next == pen_) return;
+    pen_ = next;
+    PagePainter::pen(style, width);
+}
+
+// At whole units, far finer than any printer: the toolkit writes nine digits behind the point of others.
+void PdfPrinter::line(double x1, double y1, double x2, double y2)
+{
+    const auto rounded = [](QPointF p) { return QPointF(std::round(p.x()), std::round(p.y())); };
+    lines_[pen_].append(QLineF(rounded(at(x1, y1)), rounded(at(x2, y2))));
 }
 
 // The file is put on the disk whole, as all files of the program are.
 bool PdfPrinter::endPage()
 {
+    for (const auto& [pen, lines] : lines_) {
+        PagePainter::pen(pen.style, pen.width);
+        painter().drawLines(lines);
+    }
+    lines_.clear();
     const bool drawn = PagePainter::endPage();
     device_.reset();
     buffer_.reset();

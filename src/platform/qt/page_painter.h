@@ -7,6 +7,8 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 
+#include <compare>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -36,9 +38,10 @@ class PagePainter : public Printer {
     // is counted in.
     bool beginOn(QPaintDevice& device, double unitsPerTwip, double unitsPerDot = 1);
     QPainter& painter() { return painter_; }
+    QPointF at(double x, double y) const { return {x * unitsPerTwip_, y * unitsPerTwip_}; }
 
   private:
-    QPointF at(double x, double y) const { return {x * unitsPerTwip_, y * unitsPerTwip_}; }
+    double leastWidth() const;
 
     float width_;
     float height_;
@@ -58,7 +61,8 @@ class WaitPointer {
     WaitPointer& operator=(const WaitPointer&) = delete;
 };
 
-// The page as a PDF file.
+// The page as a PDF file. Its lines are kept by pen until the page ends, so that the file says each pen once:
+// all is black, and nobody sees which was drawn first.
 class PdfPrinter : public PagePainter {
   public:
     explicit PdfPrinter(const QPageSize& paper, QPageLayout::Orientation way = QPageLayout::Portrait);
@@ -66,10 +70,20 @@ class PdfPrinter : public PagePainter {
     bool printsToFile() const override { return true; }
     std::string setup(const PageName&) override { return {}; }
     bool beginPage(const PageName& name) override;
+    void pen(std::int16_t style, int width) override;
+    void line(double x1, double y1, double x2, double y2) override;
     bool endPage() override;
 
   private:
+    struct Pen {
+        std::int16_t style = -1; // none yet
+        int width = 0;
+        friend auto operator<=>(const Pen&, const Pen&) = default;
+    };
+
     QPageLayout layout_;
+    Pen pen_;
+    std::map<Pen, QList<QLineF>> lines_;
     std::string file_;
     QByteArray bytes_;
     std::unique_ptr<QPagedPaintDevice> device_;
