@@ -277,7 +277,7 @@ class LineByLine : public PagePainter {
         writer_.setResolution(600);
     }
     bool printsToFile() const override { return true; }
-    void setup() override {}
+    std::string setup(const PageName&) override { return {}; }
     bool beginPage(const PageName&) override { return beginOn(writer_, 600 / 1440.0); }
 
   private:

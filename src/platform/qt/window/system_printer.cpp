@@ -54,21 +54,24 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
   public:
     PaperPrinter() : PagePainter(widthOf(*device), heightOf(*device)) {}
 
-    bool printsToFile() const override { return false; }
-    std::string name() const override
+    // The dialog offers a file, too: its folder is taken, and a name in it that no other page has.
+    bool printsToFile() const override { return device->outputFormat() == QPrinter::PdfFormat; }
+    std::string name() const override { return printsToFile() ? "" : device->printerName().toStdString(); }
+    std::string folder() const override
     {
-        const bool toFile = device->outputFormat() == QPrinter::PdfFormat; // which the dialog offers, too
-        return (toFile ? device->outputFileName() : device->printerName()).toStdString();
+        if (!printsToFile()) return {};
+        return QFileInfo(device->outputFileName()).absolutePath().toStdString();
     }
     std::string setup(const PageName&) override
     {
         if (!isSetUp(*device)) return leftAsItWas;
         const QPageLayout layout = device->pageLayout();
-        return name() + ", " + sheetOf({layout.pageSize(), layout.orientation(), {}});
+        return (printsToFile() ? "PDF files go to " + folder() : name()) + ", " + sheetOf({layout.pageSize(), layout.orientation(), {}});
     }
     bool beginPage(const PageName& name) override
     {
         wait_.emplace();
+        if (printsToFile()) device->setOutputFileName(QString::fromStdString(name.file));
         device->setDocName(QString::fromStdString(name.title)); // as the printer's queue shows it
         const bool begun = beginOn(*device, device->resolution() / twipsPerInch);
         if (!begun) wait_.reset(); // no end follows
