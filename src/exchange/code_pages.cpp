@@ -65,6 +65,24 @@ bool isHex(std::string_view text)
     });
 }
 
+char32_t hexAt(std::string_view digits)
+{
+    std::uint32_t code = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
+    return code;
+}
+
+// A character beyond four digits stands in two halves.
+std::optional<char32_t> joined(char32_t high, std::string_view rest)
+{
+    if (high < 0xD800 || high > 0xDBFF || rest.size() < 7) return {};
+    const bool follows = rest.starts_with("\\U+") || rest.starts_with("\\u+");
+    if (!follows || !isHex(rest.substr(3, 4))) return {};
+    const char32_t low = hexAt(rest.substr(3, 4));
+    if (low < 0xDC00 || low > 0xDFFF) return {};
+    return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
+}
+
 // \U+00E9 is a character; \M+182A0 two bytes in one of the pages that need two.
 std::optional<Escape> escapeAt(std::string_view text)
 {
@@ -75,9 +93,10 @@ std::optional<Escape> escapeAt(std::string_view text)
     const bool isBytes = text[1] == 'M' || text[1] == 'm';
     if (isBytes && text.size() >= bytesSize && isHex(text.substr(3, 5))) return Escape{"?", bytesSize};
     if (!isUnicode || !isHex(text.substr(3, 4))) return {};
-    std::uint32_t code = 0;
-    std::from_chars(text.data() + 3, text.data() + unicodeSize, code, 16);
-    return Escape{code < ' ' ? std::string() : encodeUtf8(code), unicodeSize};
+    const char32_t code = hexAt(text.substr(3, 4));
+    if (const auto pair = joined(code, text.substr(unicodeSize)))
+        return Escape{encodeUtf8(*pair), 2 * unicodeSize};
+    return Escape{code < U' ' ? std::string() : encodeUtf8(code), unicodeSize};
 }
 
 struct Stand {
