@@ -57,7 +57,11 @@ TextBox::TextBox(EventGate& gate, ControlId id, QWidget* parent) : QLineEdit(par
     // What only shows something is no stop on the way of the Tab key.
     if (id.row().kind == ControlKind::display) setFocusPolicy(Qt::ClickFocus);
     // A word in blue on black can't be read, a patch of blue is seen.
-    if (id == ids::lineSettings) swatch_ = addAction(QIcon(), LeadingPosition);
+    if (id == ids::lineSettings) {
+        swatch_ = addAction(QIcon(), LeadingPosition);
+        ensurePolished();
+        setFixedHeight(sizeHint().height()); // whatever the face that it shows
+    }
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextBox::caretMoved);
     connect(this, &QLineEdit::selectionChanged, this, &TextBox::caretMoved);
 }
