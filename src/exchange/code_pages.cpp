@@ -65,38 +65,38 @@ bool isHex(std::string_view text)
     });
 }
 
-char32_t hexAt(std::string_view digits)
+constexpr std::size_t unicodeSize = 7;
+
+// The number in \U+00E9.
+std::optional<std::uint32_t> unicodeAt(std::string_view text)
 {
+    if (text.size() < unicodeSize || !(text.starts_with("\\U+") || text.starts_with("\\u+"))) return {};
+    if (!isHex(text.substr(3, 4))) return {};
     std::uint32_t code = 0;
-    std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
+    std::from_chars(text.data() + 3, text.data() + unicodeSize, code, 16);
     return code;
 }
 
-// A character beyond four digits stands in two halves.
-std::optional<char32_t> joined(char32_t high, std::string_view rest)
+// Characters past the first 65,536 stand as two numbers, each of which alone is none.
+std::optional<Escape> pairAt(std::string_view text)
 {
-    if (high < 0xD800 || high > 0xDBFF || rest.size() < 7) return {};
-    const bool follows = rest.starts_with("\\U+") || rest.starts_with("\\u+");
-    if (!follows || !isHex(rest.substr(3, 4))) return {};
-    const char32_t low = hexAt(rest.substr(3, 4));
-    if (low < 0xDC00 || low > 0xDFFF) return {};
-    return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
+    constexpr std::uint32_t firsts = 0xD800, seconds = 0xDC00, half = 0x400, beyond = 0x10000;
+    const auto first = unicodeAt(text);
+    const auto second = first ? unicodeAt(text.substr(unicodeSize)) : first;
+    if (!second || *first - firsts >= half || *second - seconds >= half) return {};
+    return Escape{encodeUtf8(beyond + (*first - firsts) * half + (*second - seconds)), 2 * unicodeSize};
 }
 
 // \U+00E9 is a character; \M+182A0 two bytes in one of the pages that need two.
 std::optional<Escape> escapeAt(std::string_view text)
 {
-    constexpr std::size_t unicodeSize = 7;
     constexpr std::size_t bytesSize = 8;
-    if (text.size() < unicodeSize || text[0] != '\\' || text[2] != '+') return {};
-    const bool isUnicode = text[1] == 'U' || text[1] == 'u';
-    const bool isBytes = text[1] == 'M' || text[1] == 'm';
+    const bool isBytes = text.starts_with("\\M+") || text.starts_with("\\m+");
     if (isBytes && text.size() >= bytesSize && isHex(text.substr(3, 5))) return Escape{"?", bytesSize};
-    if (!isUnicode || !isHex(text.substr(3, 4))) return {};
-    const char32_t code = hexAt(text.substr(3, 4));
-    if (const auto pair = joined(code, text.substr(unicodeSize)))
-        return Escape{encodeUtf8(*pair), 2 * unicodeSize};
-    return Escape{code < U' ' ? std::string() : encodeUtf8(code), unicodeSize};
+    if (auto pair = pairAt(text)) return pair;
+    const auto code = unicodeAt(text);
+    if (!code) return {};
+    return Escape{*code < ' ' ? std::string() : encodeUtf8(*code), unicodeSize};
 }
 
 struct Stand {

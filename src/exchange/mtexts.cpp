@@ -10,14 +10,15 @@
 namespace mirtane {
 namespace {
 
-// A long text stands in several groups, the last with a code of its own.
+// A long text stands in several groups, the last with a code of its own. They are cut anywhere, so that a
+// character may begin in one and end in the next.
 std::string wordsOf(const DxfRecord& record, const DxfList& list)
 {
     std::string words;
     for (const DxfGroup& group : record.groups) {
-        if (group.code == 3 || group.code == 1) words += list.text(group.value);
+        if (group.code == 3 || group.code == 1) words += group.value;
     }
-    return words;
+    return list.text(words);
 }
 
 // In files of a late release, in a record within the record.

@@ -53,6 +53,17 @@ TEST(ParagraphRecord, ALongTextStandsInSeveralGroups)
     EXPECT_EQ(texts[0].text.justification, 2);
 }
 
+TEST(ParagraphRecord, ACharacterMayBeginInOneGroupAndEndInTheNext)
+{
+    for (const char* words :
+         {"3 caf\xC3\n1 \xA9 5\n", "3 caf\\U+0\n1 0E9 5\n", "3 caf\\U\n3 +00E\n1 9 5\n"}) {
+        const auto texts =
+            ofKind(madeFrom(std::string("0 MTEXT\n8 0\n10 0\n20 0\n40 1\n41 0\n71 1\n") + words), Kind::text);
+        ASSERT_EQ(texts.size(), 1U) << words;
+        EXPECT_EQ(texts[0].text.words, "caf\u00E9 5") << words;
+    }
+}
+
 TEST(ParagraphRecord, ItsStyleGivesTheFaceAndTheTextMayChangeItAndThePen)
 {
     const std::string tables =
