@@ -49,7 +49,7 @@ void takeSolid(const DxfRecord& record, DrawingMaker& maker)
     maker.polyline(corners, true);
 }
 
-// A bit of group 70 hides an edge.
+// A bit of group 70 hides an edge. The last one closes the outline, of three corners too.
 void takeFace(const DxfRecord& record, DrawingMaker& maker)
 {
     std::vector<Vec> corners;
@@ -59,7 +59,8 @@ void takeFace(const DxfRecord& record, DrawingMaker& maker)
     if (corners.size() == 4 && corners[2] == corners[3]) corners.pop_back();
     const int hidden = record.whole(70);
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        if ((hidden >> i & 1) == 0) maker.line(corners[i], corners[(i + 1) % corners.size()]);
+        const bool closes = i + 1 == corners.size();
+        if ((hidden >> (closes ? 3 : i) & 1) == 0) maker.line(corners[i], corners[(i + 1) % corners.size()]);
     }
 }
 

@@ -117,6 +117,22 @@ TEST(SimpleRecords, FilledShapesAreOutlines)
     EXPECT_EQ(objectsOf(entities(dxf({{0, "SOLID"}}) + three)).size(), 3U);
 }
 
+// Of three corners, the third stands twice or the fourth is not said.
+TEST(SimpleRecords, TheClosingEdgeOfAFaceHasTheLastBit)
+{
+    const std::string three = dxf({{10, "0"}, {20, "0"}, {11, "4"}, {21, "0"}, {12, "1"}, {22, "3"}});
+    const std::string again = dxf({{13, "1"}, {23, "3"}});
+    const auto starts = [&](const std::string& hidden, const std::string& fourth) {
+        return corners(objectsOf(entities(dxf({{0, "3DFACE"}, {70, hidden}}) + three + fourth)));
+    };
+    for (const std::string& fourth : {again, std::string()}) {
+        EXPECT_EQ(starts("8", fourth), (std::vector<Vec>{{0, 0}, {4, 0}}));
+        EXPECT_EQ(starts("4", fourth), (std::vector<Vec>{{0, 0}, {4, 0}, {1, 3}}));
+        EXPECT_EQ(starts("3", fourth), (std::vector<Vec>{{1, 3}}));
+    }
+    EXPECT_EQ(starts("8", dxf({{13, "0"}, {23, "2"}})), (std::vector<Vec>{{0, 0}, {4, 0}, {1, 3}}));
+}
+
 TEST(SimpleRecords, WipeoutIsItsOutline)
 {
     const std::string head = dxf({{0, "WIPEOUT"},
