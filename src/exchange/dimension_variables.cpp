@@ -7,8 +7,8 @@ namespace {
 
 // A variable by its number in the records of styles.
 namespace variable {
-constexpr int scale = 40, arrow = 41, text = 140, gap = 147, leaderColor = 176, decimals = 271,
-              leaderArrow = 341;
+constexpr int scale = 40, arrow = 41, text = 140, measures = 144, gap = 147, leaderColor = 176,
+              decimals = 271, leaderArrow = 341;
 }
 
 // What a record says otherwise than its style stands in its data for other programs, as pairs of number and
@@ -64,6 +64,8 @@ DimensionVariables dimensionVariables(const DxfRecord& record, const DxfList& li
     d.arrow = values.number(variable::arrow, "$DIMASZ", plain.arrow) * scale;
     d.text = values.number(variable::text, "$DIMTXT", plain.text) * scale;
     d.gap = values.number(variable::gap, "$DIMGAP", plain.gap) * scale;
+    const double measures = values.number(variable::measures, "$DIMLFAC", 1);
+    d.measures = measures > 0 ? measures : 1; // one below 0 is for sheets alone
     d.decimals =
         static_cast<int>(std::clamp(values.number(variable::decimals, "", 4), 0.0, 8.0)); // within an int
     d.leaderColor =

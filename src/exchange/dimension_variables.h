@@ -9,6 +9,7 @@ struct DimensionVariables {
     double arrow = 0.18;
     double text = 0.18;
     double gap = 0.09;
+    double measures = 1; // what lengths are multiplied by before they are shown
     int decimals = 4;
     int leaderColor = 0;          // by number; 0 as the object's own
     std::string_view leaderArrow; // handle of a block; empty for the common arrow

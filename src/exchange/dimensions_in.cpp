@@ -183,11 +183,23 @@ std::optional<Measured> measuredBy(const DxfRecord& record, const DimensionPoint
     }
 }
 
+// As the file says, if it does: its program knew what was measured. A length that is just that of the points
+// is shown by the style's factor.
+double figureOf(const DxfRecord& record, const Measured& m, double factor)
+{
+    constexpr double near = 1e-6;
+    const bool isAngle = m.made.kind == Kind::angularDimension;
+    const double said = record.number(42) * (isAngle ? degrees : 1);
+    const bool isSaid = said > 0 && std::isfinite(said) && std::abs(said - m.value) > near * m.value;
+    if (isSaid) return said;
+    return isAngle ? m.value : m.value * factor;
+}
+
 void addOwn(const DxfRecord& record, Measured m, const DimensionPoints& points, DrawingMaker& maker)
 {
     const DimensionVariables variables = dimensionVariables(record, maker.list());
     m.made.size = variables.text;
-    const std::string shown = numberShown(m.value, variables.decimals);
+    const std::string shown = numberShown(figureOf(record, m, variables.measures), variables.decimals);
     m.made.text.words = wordsOf(record, maker.list(), std::string(m.before).append(shown).append(m.behind));
     if (m.made.kind == Kind::radialDimension) {
         m.made.p[2] = m.made.p[1] + Vec{m.made.size, 0};
@@ -206,7 +218,9 @@ void takeDimension(const DxfRecord& record, DrawingMaker& maker)
     const Vec3 moved12 = record.point(12);
     if (maker.picture(record.name(2), moved(moved12))) return;
     const DimensionPoints points(record, maker);
-    if (auto measured = measuredBy(record, points))
+    // Other types have the same numbers for other ways to measure.
+    const bool isKnown = isSameName(record.type, "DIMENSION");
+    if (auto measured = isKnown ? measuredBy(record, points) : std::nullopt)
         return addOwn(record, std::move(*measured), points, maker);
     maker.leftOut(record.type, "without a picture");
 }

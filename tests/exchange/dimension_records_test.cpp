@@ -111,6 +111,50 @@ TEST(DimensionRecord, WithoutAPictureRadialAndAngularOnesAreOneOfOurs)
     }
 }
 
+TEST(DimensionRecord, ItsFigureIsTheFilesOrThatOfItsStyle)
+{
+    const std::string head = "0 DIMENSION\n8 0\n3 SMALL\n";
+    const std::string level = "70 0\n10 30\n20 12\n13 1\n23 0\n14 30\n24 5\n50 0\n";
+    const std::string corner = "70 5\n10 9\n20 9\n15 2\n25 2\n13 12\n23 2\n14 2\n24 12\n";
+    const std::string tenfold = "1001 ACAD\n1000 DSTYLE\n1002 {\n1070 144\n1040 10\n1002 }\n";
+    const auto styled = [](const std::string& factor) {
+        return "0 TABLE\n2 DIMSTYLE\n0 DIMSTYLE\n2 SMALL\n70 0\n40 1\n140 3\n144 " + factor +
+               "\n271 1\n0 ENDTAB\n";
+    };
+    struct Row {
+        const char* what;
+        std::string groups, factor;
+        const char* words;
+    };
+    const Row rows[] = {
+        {"by the style", level, "2.5", "72.5"},
+        {"for sheets alone", level, "-2.5", "29"},
+        {"never set", level, "0", "29"},
+        {"by the record", level + tenfold, "2.5", "290"},
+        {"as the file says", level + "42 31.5\n", "2", "31.5"},
+        {"said without the factor", level + "42 29\n", "2", "58"},
+        {"said with the factor", level + "42 58\n", "2", "58"},
+        {"nothing is said", level + "42 0\n", "1", "29"},
+        {"an angle has no factor", corner, "2", "90\u00B0"},
+        {"an angle is said in radians", corner + "42 0.7853981634\n", "2", "45\u00B0"},
+        {"a radius", "70 4\n10 5\n20 6\n15 8\n25 10\n11 14\n21 18\n", "0.5", "R2.5"},
+    };
+    for (const Row& row : rows) {
+        const auto drawing = madeFrom(head + row.groups, "", styled(row.factor));
+        ASSERT_EQ(drawing.objects.size(), 1U) << row.what;
+        EXPECT_EQ(drawing.objects[0].text.words, row.words) << row.what;
+    }
+}
+
+TEST(DimensionRecord, OfAnotherTypeWithoutAPictureItIsLeftOut)
+{
+    for (const std::string type : {"ARC_DIMENSION", "LARGE_RADIAL_DIMENSION"}) {
+        const auto drawing = madeFrom("0 " + type + "\n8 0\n70 0\n10 30\n20 12\n13 1\n14 30\n24 5\n");
+        EXPECT_TRUE(drawing.objects.empty()) << type;
+        EXPECT_TRUE(drawing.leftOut.contains({type, "without a picture"})) << type;
+    }
+}
+
 TEST(DimensionRecord, AnOrdinateWithoutAPictureIsLeftOut)
 {
     const auto drawing = madeFrom("0 DIMENSION\n8 0\n2 *D9\n70 6\n10 0\n20 0\n13 5\n23 5\n14 9\n24 5\n");
