@@ -6,6 +6,7 @@
 #include "exchange/upright_text.h"
 #include "geometry/fault.h"
 #include "model/entity_store.h"
+#include "text/code_page.h"
 
 #include <algorithm>
 #include <cmath>
@@ -110,6 +111,9 @@ void DrawingMaker::add(Made made)
         ++made_.withoutRoom;
         return;
     }
+    // Objects of our own files, with no record under way, have their letters as they were.
+    if (record_ != nullptr && !firstBeyondCodePage(made.text.words).empty())
+        leftOut("TEXT", "letters that drawings can't keep");
     made.look = look;
     made_.objects.push_back(std::move(made));
 }
@@ -348,6 +352,9 @@ MadeDrawing DrawingMaker::finish()
     cutEndless();
     made_.workLayer = looks_.workLayer();
     made_.layers = looks_.layers();
+    if (const std::size_t more = looks_.layersWithoutRoom(); more > 0)
+        made_.leftOut[{"LAYER", "what is on them is on the last one"}] =
+            static_cast<std::int64_t>(more); // of a file
     leaveOutUnusedLayers();
     return std::move(made_);
 }

@@ -101,7 +101,9 @@ void Lister::takeOfBlock(DxfRecord&& record)
 {
     if (isType(record, "BLOCK")) {
         block_ = &list_.blocks[record.name(2)];
-        *block_ = {record.name(2), record.point(10), {}};
+        constexpr int attached = 4, overlaid = 8;
+        const bool isElsewhere = (record.whole(70) & (attached | overlaid)) != 0;
+        *block_ = {record.name(2), record.point(10), {}, isElsewhere};
         partsFollow_ = false;
     } else if (isType(record, "ENDBLK")) {
         block_ = nullptr;

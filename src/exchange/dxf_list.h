@@ -36,6 +36,7 @@ struct DxfBlock {
     std::string_view name;
     Vec3 base;
     std::vector<DxfRecord> records;
+    bool isElsewhere = false; // what it shows is in another file
 };
 
 // Names are compared without regard to case.

@@ -50,11 +50,18 @@ bool drawGrid(const DxfRecord& record, DrawingMaker& maker)
     return true;
 }
 
+bool isAnotherFile(std::string_view name, const DxfList& list)
+{
+    const auto block = list.blocks.find(name);
+    return block != list.blocks.end() && block->second.isElsewhere && block->second.records.empty();
+}
+
 } // namespace
 
 void takeInsert(const DxfRecord& record, DrawingMaker& maker)
 {
     if (!drawGrid(record, maker)) maker.leftOut("INSERT", "its block can't be drawn");
+    if (isAnotherFile(record.name(2), maker.list())) maker.leftOut("INSERT", "its block is another file");
 }
 
 } // namespace mirtane

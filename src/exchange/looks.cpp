@@ -1,7 +1,6 @@
 #include "exchange/looks.h"
 
 #include "exchange/own_data.h"
-#include "model/layers.h"
 #include "tables/pens.h"
 
 #include <algorithm>
@@ -11,7 +10,6 @@ namespace mirtane {
 namespace {
 
 constexpr std::string_view commonLayer = "0"; // what is on it in a block is on the insert's
-constexpr std::size_t mostLayers = LayerTable::rowLimit;
 constexpr int byBlock = 0;
 constexpr int byLayer = 256;
 constexpr int trueColorCode = 420;

@@ -5,7 +5,9 @@
 #include "exchange/dxf_list.h"
 #include "exchange/look.h"
 #include "exchange/made.h"
+#include "model/layers.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace mirtane {
@@ -29,10 +31,14 @@ class Looks {
     // The layers of the file in its order, those that only its records name behind them, at most as many as
     // there is room for.
     const std::vector<MadeLayer>& layers() const { return made_; }
+    // Those that the last one stands for as well.
+    std::size_t layersWithoutRoom() const { return rows_.size() - std::min(rows_.size(), mostLayers); }
     // Where what is drawn next goes: one of the layers that are shown. There may be a new one for that.
     std::int16_t workLayer();
 
   private:
+    static constexpr std::size_t mostLayers = LayerTable::rowLimit;
+
     struct Row {
         std::int16_t number = 0; // of our layer
         std::int32_t color = 0xFFFFFF;

@@ -119,6 +119,19 @@ TEST(Inserts, WhatCanNotBeDrawnIsCounted)
     EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (its block can't be drawn) left out");
 }
 
+TEST(Inserts, OfBlocksInOtherFilesAreCounted)
+{
+    const auto flagged = [](const std::string& name, const std::string& flags, const std::string& content) {
+        return dxf({{0, "BLOCK"}, {2, name}, {70, flags}}) + content + dxf({{0, "ENDBLK"}});
+    };
+    const FullReading r = readOf(
+        section("BLOCKS", flagged("HOUSE", "4", "") + flagged("SITE", "44", "") +
+                              flagged("BOUND", "36", bar) + flagged("EMPTY", "2", "")) +
+        entities(insert("House", {}) + insert("SITE", {}) + insert("BOUND", {}) + insert("EMPTY", {})));
+    EXPECT_EQ(r.drawing.objects.size(), 1U);
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (its block is another file) left out");
+}
+
 // A thousand million of them, of nothing, and of something.
 TEST(Inserts, AnyNumberOfRowsAndColumnsComesToAnEnd)
 {

@@ -119,6 +119,8 @@ TEST(Layers, ThousandsOfThemGoWithTheLast)
     EXPECT_EQ(r.drawing.layers.size(), 1000U);
     EXPECT_EQ(r.drawing.objects[998].look.layer, 998);
     EXPECT_EQ(r.drawing.objects[1499].look.layer, 999);
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1500, 0})),
+              "500 layers (what is on them is on the last one) left out");
 }
 
 TEST(LineTypes, LookLikeTheirDashes)
