@@ -4,6 +4,7 @@
 #include "exchange/percent_codes.h"
 #include "exchange/simple_records.h"
 
+#include <cmath>
 #include <numbers>
 
 namespace mirtane {
@@ -29,9 +30,20 @@ std::int16_t justificationOf(int horizontal)
     return horizontal == across::centre || horizontal == across::middle ? std::int16_t{2} : std::int16_t{0};
 }
 
-void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& maker)
+// What is fitted between two points runs from the one to the other, whatever angle is said.
+Vec wayOf(const DxfRecord& record, bool betweenPoints)
 {
     constexpr double radians = std::numbers::pi / 180;
+    const Vec3 a = record.point(10), b = record.point(11);
+    const Vec along{b.x - a.x, b.y - a.y};
+    const double size = length(along);
+    const bool isThere = betweenPoints && record.has(11) && size > 0 && std::isfinite(size);
+    return isThere ? 1 / size * along : wayAt(record.number(50) * radians);
+}
+
+void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& maker)
+{
+    constexpr int backward = 2, upsideDown = 4;
     const int horizontal = record.whole(72);
     const int vertical = record.whole(verticalCode);
     const bool betweenPoints = horizontal == across::aligned || horizontal == across::fitted;
@@ -40,9 +52,14 @@ void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& mak
     const bool bySecond =
         !ours && (horizontal != across::left || vertical != 0) && !betweenPoints && record.has(11);
     const Transform2 plane = maker.plane(record);
-    const Vec3 point = record.point(bySecond ? 11 : 10);
-    const Vec along = wayAt(record.number(50) * radians);
-    const Vec up = (ours ? 1.5 : 1) * record.number(40, 1) * turnedLeft(along);
+    const int mirrors = record.whole(71);
+    const bool isBackward = (mirrors & backward) != 0;
+    const bool fromSecond = bySecond || (isBackward && betweenPoints && record.has(11));
+    const Vec3 point = record.point(fromSecond ? 11 : 10);
+    const Vec way = wayOf(record, betweenPoints);
+    const Vec along = isBackward ? -way : way;
+    const double height = (ours ? 1.5 : 1) * record.number(40, 1);
+    const Vec up = ((mirrors & upsideDown) != 0 ? -height : height) * turnedLeft(way);
     MadeText text = plainLine(maker.list().text(record, 1));
     text.face = maker.faceOf(record.name(7));
     text.justification = bySecond || ours ? justificationOf(horizontal) : std::int16_t{0};

@@ -109,6 +109,67 @@ TEST(TextsInPlace, BlankOnesAreNone)
         objectsOf(entities(dxf({{0, "TEXT"}, {40, "1"}, {1, "   "}, {0, "TEXT"}, {40, "1"}}))).empty());
 }
 
+TEST(TextsInPlace, FittedOnesRunFromPointToPoint)
+{
+    struct Row {
+        const char* what;
+        std::initializer_list<Pair> more;
+        double rotation;
+    };
+    const Row rows[] = {
+        {"aligned, upward", {{72, "3"}, {11, "10"}, {21, "70"}}, 90},
+        {"fitted, slanted, another angle said", {{72, "5"}, {11, "40"}, {21, "50"}, {50, "10"}}, 45},
+        {"fitted, down to the left", {{72, "5"}, {11, "-5"}, {21, "5"}, {50, "0"}}, 225},
+        {"no second point", {{72, "5"}, {50, "30"}}, 30},
+        {"the same point twice", {{72, "3"}, {11, "10"}, {21, "20"}, {50, "30"}}, 30},
+        {"not fitted", {{72, "2"}, {11, "40"}, {21, "50"}, {50, "10"}}, 10},
+    };
+    for (const Row& row : rows) EXPECT_NEAR(text(row.more).a1, row.rotation, 1e-4) << row.what;
+}
+
+// They stand where their mirrored letters would, and can be read.
+TEST(TextsInPlace, BackwardAndUpsideDownOnes)
+{
+    struct Row {
+        const char* what;
+        std::initializer_list<Pair> more;
+        double x, y;
+        float justification;
+        double rotation;
+    };
+    const Row rows[] = {
+        {"neither", {{71, "1"}}, 10, 22, 0, 0},
+        {"backward", {{71, "2"}}, 10, 22, 1, 0},
+        {"upside down", {{71, "4"}}, 10, 20, 0, 0},
+        {"both", {{71, "6"}}, 10, 18, 0, 180},
+        {"backward, right", {{71, "2"}, {72, "2"}, {11, "30"}, {21, "40"}}, 30, 42, 0, 0},
+        {"backward, upward", {{71, "2"}, {50, "90"}}, 8, 20, 1, 90},
+        {"backward, fitted", {{71, "2"}, {72, "5"}, {11, "30"}, {21, "20"}}, 30, 22, 1, 0},
+        {"upside down, from the top", {{71, "4"}, {73, "3"}, {11, "30"}, {21, "40"}}, 30, 42, 0, 0},
+    };
+    for (const Row& row : rows) {
+        const EntityRecord r = text(row.more);
+        EXPECT_THAT(r.p1, StandsAt(row.x, row.y)) << row.what;
+        EXPECT_EQ(r.p2.y, row.justification) << row.what;
+        EXPECT_NEAR(std::fmod(r.a1, 360), row.rotation, 1e-4) << row.what;
+    }
+}
+
+TEST(TextsInPlace, LettersThatDrawingsCannotKeepAreCounted)
+{
+    struct Row {
+        const char* words;
+        const char* leftOut;
+    };
+    const Row rows[] = {{"\\U+03B1", "1 text (letters that drawings can't keep) left out"},
+                        {"\\U+00E9 \\U+2205", ""}};
+    for (const Row& row : rows) {
+        const FullReading r = readOf(entities(dxf({{0, "TEXT"}, {40, "1"}, {1, row.words}})));
+        EXPECT_EQ(r.drawing.objects.size(), 1U) << row.words;
+        EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), row.leftOut) << row.words;
+    }
+}
+
 // In a mirrored block letters would be mirrored; they are not, but stand where they would, and can be read.
 TEST(TextsInPlace, MirroredOnesCanBeRead)
 {
