@@ -66,6 +66,23 @@ std::size_t drawFirst(std::span<const DxfRecord> records, const DxfList& list, D
     return own->records;
 }
 
+// Blocks that hold what is on the sheets that were not in view: "*Paper_Space0", "$PAPER_SPACE".
+bool isOfSheet(const DxfBlock& block)
+{
+    constexpr std::string_view sheet = "PAPER_SPACE";
+    const std::string_view name = block.name;
+    const bool isMarked = name.starts_with('*') || name.starts_with('$');
+    return isMarked && isSameName(name.substr(1, sheet.size()), sheet);
+}
+
+void drawOnPaper(const DxfRecord& record, bool isSeen, DrawingMaker& maker)
+{
+    if (isSeen)
+        maker.record(record);
+    else if (!isSameName(record.type, "VIEWPORT"))
+        maker.leftOut(record.type, "on paper");
+}
+
 // What is on paper is seen only where the model has nothing.
 void drawEntities(const DxfList& list, DrawingMaker& maker)
 {
@@ -77,11 +94,11 @@ void drawEntities(const DxfList& list, DrawingMaker& maker)
         if (isShown) modelIsEmpty = false;
     }
     for (const DxfRecord& one : list.entities) {
-        if (!isOfPaper(one)) continue;
-        if (modelIsEmpty)
-            maker.record(one);
-        else if (!isSameName(one.type, "VIEWPORT"))
-            maker.leftOut(one.type, "on paper");
+        if (isOfPaper(one)) drawOnPaper(one, modelIsEmpty, maker);
+    }
+    for (const auto& [name, block] : list.blocks) {
+        if (!isOfSheet(block)) continue;
+        for (const DxfRecord& one : block.records) drawOnPaper(one, modelIsEmpty, maker);
     }
 }
 

@@ -82,6 +82,32 @@ TEST(PaperSpace, ComesOnlyWhereTheModelIsEmpty)
     EXPECT_EQ(sentenceOfLeftOut(reportOf(both, {1, 0})), "1 line (on paper) left out");
 }
 
+TEST(PaperSpace, SheetsThatWereNotInViewStandInBlocks)
+{
+    struct Row {
+        const char* name;
+        bool isSheet;
+    };
+    const Row rows[] = {{"*Paper_Space", true},
+                        {"*PAPER_SPACE0", true},
+                        {"*paper_space12", true},
+                        {"$PAPER_SPACE", true},
+                        {"*Model_Space", false},
+                        {"PAPER_SPACE", false},
+                        {"*U7", false},
+                        {"*", false},
+                        {"", false}};
+    for (const Row& row : rows) {
+        const std::string blocks =
+            section("BLOCKS", block(row.name, lineOf("0", "0", "4", "1") + dxf({{0, "VIEWPORT"}})));
+        EXPECT_EQ(readOf(blocks).drawing.objects.size(), row.isSheet ? 1U : 0U) << row.name;
+        const FullReading both = readOf(blocks + entities(lineOf("0", "0", "1", "1")));
+        EXPECT_EQ(both.drawing.objects.size(), 1U) << row.name;
+        EXPECT_EQ(sentenceOfLeftOut(reportOf(both, {1, 0})), row.isSheet ? "1 line (on paper) left out" : "")
+            << row.name;
+    }
+}
+
 TEST(Report, CountsWhatCameAndWhatDidNot)
 {
     const std::string left =
