@@ -162,7 +162,7 @@ void EntitiesOut::ellipse(const Made& made)
     kept(40, std::max(swapped ? 1 / ratio : ratio, leastRatio));
     out_.number(41, 0);
     out_.exact(42, 2 * std::numbers::pi);
-    if (made.ratio > 1 || made.ratio < leastRatio) writeOwnData(out_, made, kept_);
+    writeOwnData(out_, made, kept_); // one that is round would come back as a circle
 }
 
 void EntitiesOut::text(const EntityRecord& r, const Made& made)
