@@ -223,13 +223,13 @@ TEST_F(Plans, TabCutsNoLetter)
         const char* other;
         const char* completed;
     };
-    const Row rows[] = {{"/srv/café.mtd", "/srv/cafè.mtd", "/srv/caf"},
-                        {"/srv/50€.mtd", "/srv/50₤.mtd", "/srv/50"},
-                        {"/srv/x\U0001F3E0.mtd", "/srv/x\U0001F3E1.mtd", "/srv/x"},
-                        {"/srv/größe.mtd", "/srv/größer.mtd", "/srv/größe"}};
+    const Row rows[] = {{"/srv/café.mth", "/srv/cafè.mth", "/srv/caf"},
+                        {"/srv/50€.mth", "/srv/50₤.mth", "/srv/50"},
+                        {"/srv/x\U0001F3E0.mth", "/srv/x\U0001F3E1.mth", "/srv/x"},
+                        {"/srv/größe.mth", "/srv/größer.mth", "/srv/größe"}};
     for (const Row& row : rows) {
         desk.disk.files = {{row.one, {1}}, {row.other, {1}}};
-        desk.press("fil4"_c);
+        desk.press("ht8"_c);
         tabIn(std::string(row.completed).substr(0, 6).c_str());
         EXPECT_EQ(typed(), row.completed);
         desk.press("frmfile.Command2"_c);

@@ -241,7 +241,7 @@ TEST(PlayQuestions, GetAnswersWhatAControlHas)
     EXPECT_EQ(t.play("get frmMain.caption"),
               "\"Mirtane 4.00    Drawing Name: untitled.mtd    Current Function: "
               "Line(Enter beginning point of line:)\"");
-    EXPECT_EQ(t.play("get List1.row"), "-1");
+    EXPECT_EQ(t.play("get List1.row"), "1") << "the working layer's";
     EXPECT_EQ(t.play("get setts.color"), "16777215");
     EXPECT_EQ(t.play("get ls3.checked"), "true");
     EXPECT_EQ(t.play("get frmfilter.ob4.enabled"), "false");

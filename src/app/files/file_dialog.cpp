@@ -194,6 +194,13 @@ bool takePath(App& app, TypedPath path)
     return true;
 }
 
+// The name at the end of what is typed, if it is no way to a folder.
+bool beginsWithPoint(const std::string& typed)
+{
+    const std::string last = typed.substr(typed.rfind('/') + 1);
+    return last.starts_with('.') && last != "." && last != "..";
+}
+
 void confirmOpen(App& app, const FileChoice& choice)
 {
     if (openFile(app, choice)) return hideDialog(app.s);
@@ -221,6 +228,7 @@ void confirmFileDialog(App& app, ControlId)
     Session& s = app.s;
     s.controls[ids::fileFault].caption.clear();
     const std::string before = s.controls[ids::fileConfirm].caption;
+    const std::string typed = s.controls[ids::fileName].text;
     normalisePath(app);
     const auto path = typedPath(app);
     if (path && !takePath(app, *path)) return;
@@ -228,7 +236,7 @@ void confirmFileDialog(App& app, ControlId)
     if (now != before && now == "Overwrite?") return; // nobody has seen yet that a file stands there
     std::string name = chosenName(s);
     if (name.empty()) {
-        if (!s.controls[ids::fileName].text.empty()) tellFault(app, "A name can't begin with a point");
+        if (beginsWithPoint(typed)) tellFault(app, "A name can't begin with a point");
         return;
     }
     if (!isSaving(s.controls)) name = nameInList(s, name);
