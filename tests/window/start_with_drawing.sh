@@ -47,7 +47,7 @@ shows() {
 shows sheet.mtd sheet.mtd
 shows "plans/my sheet.mtd" "my sheet.mtd"
 shows "$OUT_DIR/plans/../sheet.mtd" sheet.mtd
-shows --help --help.mtd
+shows ./--help --help.mtd
 cd plans
 shows ../sheet sheet.mtd
 cd ..

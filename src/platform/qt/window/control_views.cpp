@@ -31,10 +31,7 @@ void ControlViews::moveFocus(ControlId id)
     if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return;
     QWidget* window = widget->window();
     const bool programInFront = QApplication::activeWindow() != nullptr;
-    // Another window of the program keeps the keys until they are to go elsewhere: Escape closes what is in
-    // front.
-    if (programInFront && id != focus_ && !window->isActiveWindow()) window->activateWindow();
-    focus_ = id;
+    if (programInFront && !window->isActiveWindow()) window->activateWindow();
     if (window->focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
 }
 

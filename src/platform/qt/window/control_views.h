@@ -27,7 +27,6 @@ class ControlViews {
     void moveFocus(ControlId id);
 
     std::vector<Entry> entries_;
-    std::optional<ControlId> focus_; // as it was last shown
 };
 
 } // namespace mirtane
