@@ -67,6 +67,7 @@ const char* const rules = R"(
     QToolButton:pressed { background: #1d4b75; }
     QToolButton:checked { background: #1d4b75; border: 2px solid #57b6ff; }
     QToolButton:focus { border: 2px solid white; }
+    QToolButton:checked:focus { border: 2px dashed white; background: #1f4f7a; }
     QToolButton:disabled { background: #282b31; border-color: #2e323a; color: #6c7480; }
 
     QLineEdit { background: #16181c; border: 1px solid #3d434d; border-radius: 4px; padding: 3px 6px; }
