@@ -66,7 +66,8 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     {
         if (!isSetUp(*device)) return leftAsItWas;
         const QPageLayout layout = device->pageLayout();
-        return (printsToFile() ? "PDF files go to " + folder() : name()) + ", " + sheetOf({layout.pageSize(), layout.orientation(), {}});
+        return (printsToFile() ? "PDF files go to " + folder() : name()) + ", " +
+               sheetOf({layout.pageSize(), layout.orientation(), {}});
     }
     bool beginPage(const PageName& name) override
     {
