@@ -106,9 +106,11 @@ TEST(HelpForm, GoesWhereItsContentsLeadAfterItWasScrolled)
 TEST(HelpForm, MarksTheWordThatIsFound)
 {
     Reader reader;
-    auto* const toFind = Reader::form().findChild<QShortcut*>();
+    QShortcut* toFind = nullptr;
+    for (QShortcut* one : Reader::form().findChildren<QShortcut*>()) {
+        if (one->key() == QKeySequence(Qt::CTRL | Qt::Key_F)) toFind = one;
+    }
     ASSERT_NE(toFind, nullptr);
-    EXPECT_EQ(toFind->key(), QKeySequence(Qt::CTRL | Qt::Key_F));
     emit toFind->activated();
     EXPECT_TRUE(reader.controls().focus == ids::helpFind);
     reader.shell.type(U"w\u00f6r");
