@@ -6,7 +6,7 @@ set -eu
 
 file=27 help_menu=892
 entry_text="824 56 184 22"
-page_text="60 60 900 560" # within the form, which stands over the middle of the window
+page_text="340 80 620 560" # within the page, which stands beside its contents
 
 # bright X Y W H: how many pixels of that part of the screen are those of letters.
 bright() {
@@ -41,7 +41,11 @@ menu $help_menu Down 1
 until_true window_called "Mirtane 4.00 Help"
 until_true help_has_size 957x653
 until_true brighter_than 2000 $page_text
+xdotool windowmove "$(help_form)" 0 100
+sleep 0.3 # no window manager says when it has come
 [ "$(bright $entry_text)" = 0 ] || fail "entry speaks of a missing manual, although there is one"
+xdotool windowmove "$(help_form)" 33 23
+sleep 0.3
 import -window root -crop 1024x700+0+0 +repage "$OUT_DIR/help.png"
 
 # Letters change nothing; Page Down goes on.

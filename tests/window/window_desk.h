@@ -7,6 +7,7 @@
 #include "platform/qt/surface.h"
 #include "platform/qt/window/main_window.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QMenuBar>
@@ -54,10 +55,14 @@ class WindowDesk {
         return window->findChild<QAction*>(name);
     }
 
-    // As the user would by the menu.
+    // As the user would by the menu, or on the button.
     void press(ControlId id) const
     {
-        entry(id)->trigger();
+        if (QAction* const ofMenu = entry(id)) {
+            ofMenu->trigger();
+        } else {
+            dynamic_cast<QAbstractButton&>(*widget(id)).click();
+        }
         settle();
     }
 

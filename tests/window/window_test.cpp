@@ -5,12 +5,11 @@
 #include "window_desk.h"
 
 #include <QMenu>
-#include <QStyle>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <algorithm>
 
 namespace mirtane {
 namespace {
@@ -97,22 +96,37 @@ TEST(Swatches, StandBeforeEachPenInItsColorAndWidth)
     }
 }
 
-TEST(Swatches, AreAsWideAsTheirStrokesNeed)
+// As the menu paints them: a stroke of 24 pixels, in entries no higher than others.
+TEST(Swatches, AreSeenInTheMenuAtTheirWidth)
 {
     const WindowDesk desk;
-    const QMenu* const menu = desk.window->findChild<QMenu*>();
-    ASSERT_NE(menu, nullptr);
-    EXPECT_EQ(menu->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, menu), 44);
+    const QList<QMenu*> menus = desk.window->findChildren<QMenu*>();
+    const auto menu = std::ranges::find_if(
+        menus, [&](const QMenu* one) { return one->actions().contains(desk.entry(ids::redPen)); });
+    ASSERT_NE(menu, menus.end());
+    (*menu)->popup(QPoint(0, 0));
+    WindowDesk::settle();
+    const QImage picture = (*menu)->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    int widest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        int red = 0;
+        for (int x = 0; x < picture.width(); ++x) red += picture.pixel(x, y) == qRgb(255, 0, 0) ? 1 : 0;
+        widest = std::max(widest, red);
+    }
+    EXPECT_EQ(widest, 24 * 2) << "each on two of the screen's";
+    EXPECT_LT((*menu)->actionGeometry(desk.entry(ids::redPen)).height(), 32);
+    (*menu)->hide();
 }
 
 TEST(Swatches, OfLineStylesDiffer)
 {
     const WindowDesk desk;
-    std::set<int> seen;
+    QList<QImage> seen;
     for (const LineStyle& style : lineStyles) {
         const QImage picture = pictureOf(desk.entry(style.entry)->icon(), QIcon::Off);
-        EXPECT_TRUE(seen.insert(pixelsOf(picture, 0xFFFFFFFF)).second) << style.entry.row().caption;
-        EXPECT_GT(*seen.begin(), 0);
+        EXPECT_GT(pixelsOf(picture, 0xFFFFFFFF), 0) << style.entry.row().caption;
+        EXPECT_FALSE(seen.contains(picture)) << style.entry.row().caption;
+        seen.append(picture);
     }
 }
 

@@ -115,8 +115,9 @@ std::size_t findInManual(std::string_view manual, std::string_view word, std::si
     if (word.empty()) return std::string::npos;
     const auto found = [&](std::size_t start) {
         const auto rest = manual.substr(start);
-        const auto hit = std::ranges::search(rest, word, sameLetters);
-        return hit.empty() ? std::string::npos : start + static_cast<std::size_t>(hit.begin() - rest.begin());
+        const auto hit = std::search(rest.begin(), rest.end(), word.begin(), word.end(), sameLetters);
+        if (hit == rest.end()) return std::string::npos;
+        return start + static_cast<std::size_t>(hit - rest.begin()); // found behind the beginning
     };
     const std::size_t next = found(std::min(from, manual.size()));
     return next == std::string::npos ? found(0) : next;

@@ -3,8 +3,23 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace mirtane {
+namespace {
+
+// Of two windows that stand by themselves the one that the user brings to the front stays there, until the
+// focus goes to the other.
+bool callsKeys(const QWidget& window, bool focusWent)
+{
+    const QWidget* const active = QApplication::activeWindow();
+    if (active == nullptr || active == &window)
+        return false; // no window of the program is in front, or that one
+    const bool areEqual = window.parentWidget() == nullptr && active->parentWidget() == nullptr;
+    return focusWent || !areEqual;
+}
+
+} // namespace
 
 void ControlViews::add(ControlId id, ControlView& view)
 {
@@ -30,8 +45,8 @@ void ControlViews::moveFocus(ControlId id)
     QWidget* widget = entry->view->focusWidget();
     if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return;
     QWidget* window = widget->window();
-    const bool programInFront = QApplication::activeWindow() != nullptr;
-    if (programInFront && !window->isActiveWindow()) window->activateWindow();
+    const bool went = std::exchange(focused_, id) != id;
+    if (callsKeys(*window, went)) window->activateWindow();
     if (window->focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
 }
 

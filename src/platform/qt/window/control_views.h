@@ -27,6 +27,7 @@ class ControlViews {
     void moveFocus(ControlId id);
 
     std::vector<Entry> entries_;
+    std::optional<ControlId> focused_; // as it was last shown
 };
 
 } // namespace mirtane

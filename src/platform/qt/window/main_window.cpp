@@ -96,6 +96,12 @@ MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(
     });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* now) { showWhetherDrawingHasKeys(now); });
+    // Asked for again, the manual comes to the front, wherever it is.
+    if (const auto* const entry = findChild<QAction*>(nameOf(ids::displayHelp)))
+        connect(entry, &QAction::triggered, help_.get(), [this] {
+            help_->raise();
+            help_->activateWindow();
+        });
     refresh();
 }
 
@@ -237,16 +243,6 @@ void MainWindow::showWhetherDrawingHasKeys(const QWidget* focused)
     status_->setProperty("keys", hasKeys);
     status_->style()->unpolish(status_);
     status_->style()->polish(status_);
-}
-
-// Who brings it to the front while the manual has the keys wants to go on drawing; else the next event would
-// call the manual back.
-void MainWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
-    const ControlId focused = gate_.shell().session().controls.focus;
-    if (formOf(focused) == ids::helpForm) gate_.send([](Shell& shell) { shell.giveFocus(ids::drawing); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -14,6 +14,7 @@ namespace mirtane {
 namespace {
 
 constexpr int tickWidth = 16;
+constexpr int strokeEnd = 40; // the words of the entry follow at once
 constexpr QRgb white = 0xFFFFFFFF;
 
 struct Stroke {
@@ -59,7 +60,7 @@ QPixmap pictureOf(const Stroke& stroke, bool ticked)
     QPainter painter(&picture);
     const double middle = swatchSize.height() / 2.0;
     painter.setPen(QPen(stroke.color, stroke.width, stroke.style, Qt::FlatCap));
-    painter.drawLine(QPointF(tickWidth, middle), QPointF(swatchSize.width(), middle));
+    painter.drawLine(QPointF(tickWidth, middle), QPointF(strokeEnd, middle));
     if (!ticked) return picture;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor::fromRgb(white), 2));

@@ -7,7 +7,7 @@
 
 namespace mirtane {
 
-inline constexpr QSize swatchSize(44, 16);
+inline constexpr QSize swatchSize(48, 16);
 
 // What stands before a menu entry that chooses a pen or a line style: a stroke as it will be drawn, and a
 // tick while the entry is checked. None for other entries.

@@ -35,6 +35,7 @@ TextPage::TextPage(EventGate& gate, ControlId id, QWidget* parent)
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
+    setCursorWidth(0); // nothing is typed here
     setToolTip(tipOf(id));
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // its tables are lined up with blanks
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { scrolled(); });
@@ -61,11 +62,12 @@ void TextPage::openAt(const Control& now)
 
 void TextPage::scrolled()
 {
-    if (gate_.closed()) return;
-    Control& control = gate_.shell().session().controls[id_];
     const int first = cursorForPosition(QPoint(0, 0)).position();
-    control.caret = characterOf(QString::fromStdString(control.text), first);
-    control.anchor = control.caret;
+    gate_.send([this, first](Shell& shell) {
+        Control& control = shell.session().controls[id_];
+        control.caret = characterOf(QString::fromStdString(control.text), first);
+        control.anchor = control.caret;
+    });
 }
 
 void TextPage::focusInEvent(QFocusEvent* event)

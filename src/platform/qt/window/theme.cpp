@@ -2,7 +2,6 @@
 
 #include "platform/qt/window/swatches.h"
 
-#include <QMenu>
 #include <QPalette>
 #include <QProxyStyle>
 
@@ -65,7 +64,7 @@ const char* const rules = R"(
     QToolButton { background: #2e323a; border: 1px solid #383d46; border-radius: 5px; padding: 0; }
     QToolButton:hover { background: #3a404a; border-color: #4b5361; }
     QToolButton:pressed { background: #1d4b75; }
-    QToolButton:checked { background: #1d4b75; border: 2px solid #57b6ff; }
+    QToolButton:checked { background: #1d4b75; border: 2px solid #2f8fd8; }
     QToolButton:focus { border: 2px solid white; }
     QToolButton:checked:focus { border: 2px dashed white; background: #1f4f7a; }
     QToolButton:disabled { background: #282b31; border-color: #2e323a; color: #6c7480; }
@@ -104,7 +103,9 @@ class Look : public QProxyStyle {
     {
         constexpr int menuBarGoesOn = 24;
         if (metric == PM_ToolBarExtensionExtent) return menuBarGoesOn;
-        const bool ofMenu = metric == PM_SmallIconSize && qobject_cast<const QMenu*>(widget) != nullptr;
+        // Menus ask for it in nobody's name while they paint; how high their entries are they ask in their
+        // own.
+        const bool ofMenu = metric == PM_SmallIconSize && widget == nullptr;
         return ofMenu ? swatchSize.width() : QProxyStyle::pixelMetric(metric, option, widget);
     }
 };
