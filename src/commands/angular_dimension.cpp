@@ -58,7 +58,7 @@ void showBand(Session& s, Canvas& pic1)
     paintScratchAngularDim(s, pic1);
 }
 
-void endAttempt(Session& s, Canvas& pic1)
+void endAngularAttempt(Session& s, Canvas& pic1)
 {
     restorePicture(pic1);
     s.stepNo = 0;
@@ -82,7 +82,7 @@ void takeSecondLeg(Session& s, Canvas& pic1)
     const double angle = sweep(s.arcStart, s.arcEnd);
     if (isOnOneRay(s, angle)) {
         setText(s.controls[ids::workText], std::string(zeroAngle));
-        return endAttempt(s, pic1);
+        return endAngularAttempt(s, pic1);
     }
     setText(s.controls[ids::workText], formatAngle(angle, s.angFormat));
     setPrompt(s, pic1);
@@ -94,7 +94,7 @@ void takeSecondLeg(Session& s, Canvas& pic1)
 void angularDimensionStep(Session& s, Canvas& pic1)
 {
     const bool snapped = std::exchange(s.pointWasSnapped, false);
-    if (s.stepNo != 4 && !snapped) return endAttempt(s, pic1);
+    if (s.stepNo != 4 && !snapped) return endAngularAttempt(s, pic1);
     if (s.stepNo == 1) {
         s.ptA = s.pickFirst;
         setPrompt(s, pic1);

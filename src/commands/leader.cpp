@@ -16,7 +16,7 @@ void paintText3(const Session& s, Canvas& pic1, Point at)
     paintDimText(pic1, {at, s.arrowSize, 0, false, s.textFont, s.controls[ids::workText].text});
 }
 
-void takeElbow(Session& s)
+void takeLeaderElbow(Session& s)
 {
     const Shoulder shoulder = shoulderAt(s.pickLast, s.arrowSize);
     s.ptB = s.pickLast;
@@ -60,7 +60,7 @@ void leaderStep(Session& s, Canvas& pic1)
         s.ptA = s.pickLast;
         setPrompt(s, pic1);
     } else if (s.stepNo > 2) {
-        takeElbow(s);
+        takeLeaderElbow(s);
         commitEntity(s, pic1, addLeader, paintScratchLeader, pen::solid);
         clearTypedText(s);
         readyForNext(s, pic1);
@@ -70,7 +70,7 @@ void leaderStep(Session& s, Canvas& pic1)
 void leaderBand(Session& s, Canvas& pic1)
 {
     if (s.stepNo < 2) return;
-    takeElbow(s);
+    takeLeaderElbow(s);
     restorePicture(pic1);
     paintArrow(s, pic1);
 }

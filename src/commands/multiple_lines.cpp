@@ -25,7 +25,7 @@ struct Place {
     double x, y;
 };
 
-struct Direction {
+struct UnitVector {
     double x = 0, y = 0; // of length 1, y upward; none for a line of no length
 };
 
@@ -39,24 +39,24 @@ Place placeOf(Point p)
     return {p.x, p.y};
 }
 
-Direction directionOf(Point from, Point to)
+UnitVector unitVectorOf(Point from, Point to)
 {
     const Place a = placeOf(from);
     const Place b = placeOf(to);
     const double length = between(a, b);
-    Direction u;
+    UnitVector u;
     keep(u.x, quotient(b.x - a.x, length));
     keep(u.y, quotient(a.y - b.y, length));
     return u;
 }
 
-Place along(Place from, Direction u, double d)
+Place along(Place from, UnitVector u, double d)
 {
     return {from.x + d * u.x, from.y - d * u.y};
 }
 
 // The place at a line's offset from p on a leg in direction u.
-Place beside(Place p, Direction u, double offset)
+Place beside(Place p, UnitVector u, double offset)
 {
     return {p.x + offset * u.y, p.y + offset * u.x};
 }
@@ -69,7 +69,7 @@ Point narrowed(Place p, Point held)
 }
 
 // The foot of a place on the line from start in direction u, from the chord to the place at its own distance.
-Place footFromChord(Place start, Direction u, Place of)
+Place footFromChord(Place start, UnitVector u, Place of)
 {
     const double d = between(start, of);
     const Place ahead = along(start, u, d);
@@ -82,14 +82,14 @@ Place footFromChord(Place start, Direction u, Place of)
 // The corner at B of a leg from A, as seen from the next point C: how far beyond B a line at offset 1 ends.
 struct Corner {
     Place b;
-    Direction u;
+    UnitVector u;
     double reach = 0;
 
     Place mitre(double offset) const { return beside(along(b, u, -offset * reach), u, offset); }
 };
 
 // How far ahead of a place another lies, in direction u.
-double ahead(Place from, Direction u, Place to)
+double ahead(Place from, UnitVector u, Place to)
 {
     return (to.x - from.x) * u.x - (to.y - from.y) * u.y;
 }
@@ -106,7 +106,7 @@ double turnOfRounding(Place a, Place b, Place c)
 
 Corner cornerAt(Point a, Point b, Point c, bool orthoIsOn)
 {
-    Corner corner{placeOf(b), directionOf(a, b), 0};
+    Corner corner{placeOf(b), unitVectorOf(a, b), 0};
     const Place next = placeOf(c);
     const Place foot = footFromChord(corner.b, corner.u, next);
     const double height = between(foot, next);
@@ -182,17 +182,17 @@ void drawLine(Canvas& pic1, Point from, Point to)
 // -- creating a set --
 
 // The reference line of a set that is made runs through ptA in this direction.
-Direction referenceDirection(ScratchPoints& s, const EntityRecord& firstLine)
+UnitVector referenceDirection(ScratchPoints& s, const EntityRecord& firstLine)
 {
     constexpr double farAway = 10000; // world units
-    const Direction u = directionOf(firstLine.p1, firstLine.p2);
+    const UnitVector u = unitVectorOf(firstLine.p1, firstLine.p2);
     s.ptA = s.pickLast;
     s.ptB = narrowed(along(placeOf(s.ptA), u, farAway), s.ptB);
     return u;
 }
 
 // The signed distance of a point from the line through p in direction u.
-double offsetOf(Point of, Point p, Direction u)
+double offsetOf(Point of, Point p, UnitVector u)
 {
     constexpr double tolerance = 1.0 / 9;
     const Place foot = footFromChord(placeOf(p), u, placeOf(of));
@@ -209,7 +209,7 @@ bool isSelectedLine(const EntityStore& store, std::int32_t slot)
 // False when the table is full. missing counts the lines that it had no room for.
 bool takeSelectedLines(Session& s, Missing& missing)
 {
-    Direction u;
+    UnitVector u;
     bool hasDirection = false;
     bool isFull = false;
     for (std::int32_t i = 1; i < s.store.end(); ++i) {
@@ -256,7 +256,7 @@ void multipleLinesBand(Session& s, Canvas& pic1)
     if (s.stepNo < 1) return;
     if (s.stepNo == 1) s.ptB = s.pickLast;
     const Corner corner = cornerUnderway(s);
-    const Direction onward = directionOf(s.ptB, s.pickLast);
+    const UnitVector onward = unitVectorOf(s.ptB, s.pickLast);
     restorePicture(pic1);
     forEachLine(s, [&](MultipleLine& row) {
         Point start = narrowed(beside(placeOf(s.ptA), corner.u, row.m1), s.ptA);

@@ -18,14 +18,14 @@ constexpr std::size_t objectBytes = 160; // of a line, about
 constexpr int halfEllipseSteps = 18;
 constexpr double ellipseStep = 0.1745329; // radians; added up, so that the last point misses half a turn
 
-struct LineTypeRow {
+struct LineTypeEntry {
     std::string_view name, flags, description, count, total;
     std::initializer_list<std::string_view> dashes;
 };
 
 void writeLineTypes(DxfLines& out)
 {
-    const LineTypeRow rows[] = {
+    const LineTypeEntry rows[] = {
         {"CONTINUOUS", "     0", "____________", "     0", "0.0", {}},
         {"DASHED", "    64", "__ __ __ __ __ __", "     2", "8.0", {"7.0", "-1.0"}},
         {"DASHDOT", "    64", "__ . __ . __ . __", "     4", "10.0", {"8.0", "-1.0", "0.0", "-1.0"}},
@@ -37,7 +37,7 @@ void writeLineTypes(DxfLines& out)
          {"9.0", "-1.0", "0.0", "-1.0", "0.0", "-1.0"}},
         {"DOT", "    64", ". . . . . . . .", "     2", "0.5", {"0.0", "-0.5"}},
     };
-    for (const LineTypeRow& row : rows) {
+    for (const LineTypeEntry& row : rows) {
         out.pair("  0", "LTYPE");
         out.pair("  2", row.name);
         out.pair(" 70", row.flags);

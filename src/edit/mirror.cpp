@@ -9,13 +9,10 @@
 #include "render/redraw.h"
 #include "tables/kinds.h"
 
-#include <limits>
 #include <utility>
 
 namespace mirtane {
 namespace {
-
-constexpr double noAngle = std::numeric_limits<double>::quiet_NaN();
 
 class MirrorLine {
   public:

@@ -15,13 +15,10 @@
 
 #include <cmath>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace mirtane {
 namespace {
-
-constexpr double noAngle = std::numeric_limits<double>::quiet_NaN();
 
 struct Scaling {
     Point base;
@@ -158,7 +155,7 @@ void scaleAngularDimension(const Scaling& scaling, EntityRecord& r)
 using ScaleRule = void (*)(const Scaling&, EntityRecord&);
 
 // By kind, from 1.
-constexpr ScaleRule rules[] = {
+constexpr ScaleRule scaleRules[] = {
     scalePairs, // line
     scaleCircle,
     scaleArc,
@@ -171,7 +168,7 @@ constexpr ScaleRule rules[] = {
     scaleAngularDimension,
 };
 
-static_assert(std::size(rules) == drawnKinds);
+static_assert(std::size(scaleRules) == drawnKinds);
 
 } // namespace
 
@@ -181,7 +178,7 @@ void editScale(Session& s, Canvas& pic1)
     if (s.stepNo != 3) return;
     const Scaling scaling{s.pickFirst, s.editDX, s.editDY, pic1};
     const bool done = runOnSelection(s, Sources::goOut, [&scaling](EntityRecord r) {
-        rules[placeOf(r.kind)](scaling, r);
+        scaleRules[placeOf(r.kind)](scaling, r);
         return r;
     });
     if (done) endRun(s, pic1);

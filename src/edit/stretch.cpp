@@ -102,7 +102,7 @@ void pullLeader(const Pull& pull, EntityRecord& r)
 }
 
 // By kind, from 1.
-constexpr void (*rules[])(const Pull&, EntityRecord&) = {
+constexpr void (*pullRules[])(const Pull&, EntityRecord&) = {
     pullEnds,            // line
     pullWhole,           // circle
     pullArc,             // arc
@@ -114,7 +114,7 @@ constexpr void (*rules[])(const Pull&, EntityRecord&) = {
     pullLeader,          // leader
     pullWhole,           // angular
 };
-static_assert(std::size(rules) == drawnKinds);
+static_assert(std::size(pullRules) == drawnKinds);
 
 // The second corner is where the pointer really was: ortho and snaps have no say in a window.
 void takeWindow(Session& s)
@@ -135,7 +135,7 @@ bool pullSelection(Session& s)
     keep(s.editDY, static_cast<double>(s.pickLast.y) - s.pickFirst.y); // widened before the difference
     const Pull pull{s.stretchLeft, s.stretchTop, s.stretchRight, s.stretchBottom, s.editDX, s.editDY, s};
     return runOnSelection(s, Sources::goOut, [&pull](EntityRecord r) {
-        rules[placeOf(r.kind)](pull, r); // only drawn kinds are selected
+        pullRules[placeOf(r.kind)](pull, r); // only drawn kinds are selected
         return r;
     });
 }

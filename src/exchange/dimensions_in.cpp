@@ -133,7 +133,7 @@ Vec crossing(Vec a, Vec b, Vec c, Vec d)
     return a + quotient(cross(c - a, d - c), cross(b - a, d - c)) * (b - a);
 }
 
-double turnOn(double from, double to)
+double turnBetween(double from, double to)
 {
     const double turn = std::fmod(to - from, 2 * std::numbers::pi);
     return turn < 0 ? turn + 2 * std::numbers::pi : turn;
@@ -149,7 +149,7 @@ std::optional<Measured> angular(const DxfRecord& record, const DimensionPoints& 
     const double through = directionOf(onArc - vertex);
     double from = directionOf(first - vertex);
     double to = directionOf(second - vertex);
-    if (turnOn(from, through) > turnOn(from, to)) {
+    if (turnBetween(from, through) > turnBetween(from, to)) {
         std::swap(first, second);
         std::swap(from, to);
     }
@@ -159,10 +159,10 @@ std::optional<Measured> angular(const DxfRecord& record, const DimensionPoints& 
     m.behind = "\u00B0";
     m.made.radius = length(onArc - vertex);
     m.made.from = from;
-    m.made.to = from + turnOn(from, to);
+    m.made.to = from + turnBetween(from, to);
     m.made.p = {vertex, first, second, vertex + m.made.radius * wayAt(from), {}};
-    m.value = turnOn(from, to) * degrees;
-    m.made.rotation = uprightDegrees(from + turnOn(from, to) / 2 - std::numbers::pi / 2);
+    m.value = turnBetween(from, to) * degrees;
+    m.made.rotation = uprightDegrees(from + turnBetween(from, to) / 2 - std::numbers::pi / 2);
     return m;
 }
 

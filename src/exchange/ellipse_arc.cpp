@@ -7,13 +7,11 @@
 namespace mirtane {
 namespace {
 
-constexpr double whole = 2 * std::numbers::pi;
-
 double turnOn(double from, double to)
 {
-    if (!std::isfinite(from) || !std::isfinite(to)) return whole;
-    const double turn = std::fmod(to - from, whole);
-    return turn <= 1e-12 ? turn + whole : turn;
+    if (!std::isfinite(from) || !std::isfinite(to)) return wholeTurn;
+    const double turn = std::fmod(to - from, wholeTurn);
+    return turn <= 1e-12 ? turn + wholeTurn : turn;
 }
 
 } // namespace
@@ -32,7 +30,7 @@ EllipseArc transformed(const EllipseArc& arc, const Transform2& t)
 
 EllipseArc circularArc(Vec centre, double radius, double from, double to)
 {
-    const double start = std::fmod(from, whole);
+    const double start = std::fmod(from, wholeTurn);
     return {centre, {radius, 0}, {0, radius}, start, start + turnOn(from, to)};
 }
 

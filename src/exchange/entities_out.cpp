@@ -15,13 +15,11 @@
 namespace mirtane {
 namespace {
 
-constexpr double degreesToRadians = std::numbers::pi / 180;
-
 // How far below its upper corner a line of text stands, and how far above that its capitals have their
 // middle.
 Vec down(const Lettering& text, double sizes)
 {
-    const double angle = text.degrees * degreesToRadians;
+    const double angle = text.degrees * exactRadiansPerDegree;
     return -(toInches(text.size) * sizes) * turnedLeft(wayAt(angle));
 }
 
@@ -48,7 +46,7 @@ constexpr DimensionKind dimensionKinds(Kind kind)
 
 double degreesBetween(Vec a, Vec b)
 {
-    return a == b ? 0 : directionOf(b - a) / degreesToRadians;
+    return a == b ? 0 : directionOf(b - a) / exactRadiansPerDegree;
 }
 
 } // namespace
@@ -192,7 +190,7 @@ void EntitiesOut::dimension(std::int32_t slot, const EntityRecord& r, const Made
     const Lettering words = letteringOf(r);
     float width = 0;
     keep(width, drawing_.widthOf(r));
-    const Vec half = toInches(double{width}) / 2 * wayAt(words.degrees * degreesToRadians);
+    const Vec half = toInches(double{width}) / 2 * wayAt(words.degrees * exactRadiansPerDegree);
     const DimensionKind kind = dimensionKinds(r.kind);
     const Vec middle = made.p[4] + half + down(words, 1 - capitals / 2);
     out_.text(100, "AcDbDimension");
@@ -267,7 +265,7 @@ void EntitiesOut::annotation(const EntityRecord& r, const Made& made, DxfHandle 
     out_.whole(72, leftToRight);
     paragraph(dxfParagraph(r.t1));
     out_.text(7, plan_.faces().at(r.t2).name);
-    kept(11, wayAt(made.rotation * degreesToRadians));
+    kept(11, wayAt(made.rotation * exactRadiansPerDegree));
     writeOwnPart(out_, kept_);
 }
 

@@ -10,8 +10,6 @@
 namespace mirtane {
 namespace {
 
-constexpr double worldPerInch = 12;
-
 struct UnitRow {
     int number;
     double inches;

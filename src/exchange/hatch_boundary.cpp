@@ -12,9 +12,6 @@
 namespace mirtane {
 namespace {
 
-constexpr double radians = std::numbers::pi / 180;
-constexpr double whole = 2 * std::numbers::pi;
-
 using Strokes = std::vector<Stroke>;
 
 // What an edge may be: programs do not agree on how the ends of a part of an ellipse are counted.
@@ -34,8 +31,8 @@ struct Range {
 Range rangeOf(double from, double to, bool counterClockwise)
 {
     const Range range = counterClockwise ? Range{from, to} : Range{-to, -from};
-    const double turn = std::fmod(range.to - range.from, whole);
-    return {range.from, range.from + (turn <= 1e-9 ? turn + whole : turn)};
+    const double turn = std::fmod(range.to - range.from, wholeTurn);
+    return {range.from, range.from + (turn <= 1e-9 ? turn + wholeTurn : turn)};
 }
 
 struct ArcGroups {
@@ -46,8 +43,8 @@ struct ArcGroups {
 
 void takeRange(GroupRun& groups, ArcGroups& arc)
 {
-    arc.from = groups.number(50) * radians;
-    arc.to = groups.number(51, 360) * radians;
+    arc.from = groups.number(50) * exactRadiansPerDegree;
+    arc.to = groups.number(51, 360) * exactRadiansPerDegree;
     arc.counterClockwise = groups.whole(73, 1) != 0;
 }
 
@@ -64,7 +61,7 @@ Strokes arcEdge(GroupRun& groups, const Transform2& plane, double tolerance)
 // The parameter of an ellipse where it is seen at an angle.
 double parameterAt(double angle, double ratio)
 {
-    const double turns = std::round(angle / whole) * whole;
+    const double turns = std::round(angle / wholeTurn) * wholeTurn;
     return turns + std::atan2(std::sin(angle), ratio * std::cos(angle));
 }
 

@@ -13,7 +13,6 @@ namespace mirtane {
 namespace {
 
 constexpr std::size_t mostLines = 8000;
-constexpr double radians = std::numbers::pi / 180;
 
 namespace islands {
 constexpr int outer = 1, ignored = 2;
@@ -36,7 +35,7 @@ std::vector<Loop> loopsThatCount(const std::vector<HatchPath>& paths, int style,
 
 PatternRow takeRow(GroupRun& groups, const Transform2& plane)
 {
-    const Vec way = plane.way(wayAt(groups.number(53) * radians));
+    const Vec way = plane.way(wayAt(groups.number(53) * exactRadiansPerDegree));
     const double scale = length(way);
     const double baseX = groups.number(43);
     const Vec base{baseX, groups.number(44)};

@@ -36,7 +36,7 @@ Grid gridOf(const DxfRecord& record)
 bool drawGrid(const DxfRecord& record, DrawingMaker& maker)
 {
     const Transform3 place =
-        then(then(turned(record.number(50) * std::numbers::pi / 180), moved(record.point(10))),
+        then(then(turned(record.number(50) * exactRadiansPerDegree), moved(record.point(10))),
              planeOfNormal(record.point(210, {0, 0, 1})));
     const Grid grid = gridOf(record);
     const Transform3 own = scaled(record);

@@ -90,9 +90,9 @@ std::optional<std::int16_t> justificationIn(std::string_view argument)
     return found == std::string_view::npos ? std::int16_t{0} : static_cast<std::int16_t>(found); // below 3
 }
 
-class Reader {
+class CodeReader {
   public:
-    Reader(std::string_view text, const LetterForm& form) : rest_(text), form_(form) {}
+    CodeReader(std::string_view text, const LetterForm& form) : rest_(text), form_(form) {}
 
     std::vector<LetterRun> run();
 
@@ -114,7 +114,7 @@ class Reader {
     std::optional<std::int16_t> justification_;
 };
 
-std::vector<LetterRun> Reader::run()
+std::vector<LetterRun> CodeReader::run()
 {
     constexpr std::size_t deepest = 200;
     while (!rest_.empty()) {
@@ -142,14 +142,14 @@ std::vector<LetterRun> Reader::run()
 }
 
 // A run without letters is one only for its break.
-void Reader::endRun(Break after)
+void CodeReader::endRun(Break after)
 {
     if (words_.empty() && after == Break::none) return;
     runs_.push_back({std::move(words_), form_, after, justification_});
     words_.clear();
 }
 
-std::string_view Reader::argument()
+std::string_view CodeReader::argument()
 {
     const std::size_t end = rest_.find(';');
     const std::string_view found = rest_.substr(0, end);
@@ -158,7 +158,7 @@ std::string_view Reader::argument()
 }
 
 // A caret and a letter are a control sign; what stands for a blank or a tab stays.
-void Reader::caret()
+void CodeReader::caret()
 {
     const char sign = rest_.empty() ? '\0' : rest_[0];
     if (sign != 'J' && sign != 'M') return put("^");
@@ -166,13 +166,13 @@ void Reader::caret()
     if (sign == 'J') endRun(Break::line);
 }
 
-void Reader::setLine(bool underlined)
+void CodeReader::setLine(bool underlined)
 {
     endRun();
     form_.underlined = underlined;
 }
 
-void Reader::formed(char letter)
+void CodeReader::formed(char letter)
 {
     for (const FormCode& row : formCodes) {
         if (row.letter != letter) continue;
@@ -184,7 +184,7 @@ void Reader::formed(char letter)
     words_ += letter;
 }
 
-void Reader::code()
+void CodeReader::code()
 {
     if (rest_.empty()) return put("\\");
     const char letter = rest_[0];
@@ -222,7 +222,7 @@ void Reader::code()
 
 // One above the other comes as a fraction; with nothing on one side it is raised or lowered letters. Behind a
 // whole number there is a blank: "3 1/2".
-void Reader::stacked()
+void CodeReader::stacked()
 {
     std::string upper;
     std::string lower;
@@ -255,7 +255,7 @@ void Reader::stacked()
 
 std::vector<LetterRun> letterRuns(std::string_view text, const LetterForm& form)
 {
-    return Reader(text, form).run();
+    return CodeReader(text, form).run();
 }
 
 } // namespace mirtane

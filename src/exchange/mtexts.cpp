@@ -33,10 +33,9 @@ ParagraphColumns columnsIn(DxfGroups groups)
 // The way of the line; of an angle and a way given, the later one counts.
 Vec alongOf(const DxfRecord& record)
 {
-    constexpr double radians = std::numbers::pi / 180;
     Vec along{1, 0};
     for (const DxfGroup& group : record.groups) {
-        if (group.code == 50) along = wayAt(dxfNumber(group.value) * radians);
+        if (group.code == 50) along = wayAt(dxfNumber(group.value) * exactRadiansPerDegree);
         if (group.code == 11) {
             const Vec3 way = record.point(11);
             along = {way.x, way.y};

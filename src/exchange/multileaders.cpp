@@ -19,7 +19,7 @@ struct Branch {
     std::vector<DxfGroups> lines; // those of each of its lines
 };
 
-struct Parts {
+struct LeaderParts {
     DxfGroups context, behind;
     std::vector<Branch> branches;
 };
@@ -53,10 +53,10 @@ Branch takeBranch(GroupRun& run)
     return branch;
 }
 
-Parts partsOf(const DxfRecord& record)
+LeaderParts leaderPartsOf(const DxfRecord& record)
 {
     constexpr int begins = 300, opens = 302, closes = 301;
-    Parts parts;
+    LeaderParts parts;
     GroupRun run(record.groups);
     if (!run.find(begins)) return parts;
     run.next();
@@ -84,13 +84,13 @@ std::int32_t penOf(int raw, DrawingMaker& maker)
     return bits >> 24 == number ? maker.penOf(raw & 0xFF) : maker.look.color;
 }
 
-struct Lines {
+struct LeaderLines {
     Arrow arrow;
     bool isBent = false;
     bool hasLanding = true;
 };
 
-void drawLine(std::vector<Vec3> points, const Lines& lines, DrawingMaker& maker)
+void drawLine(std::vector<Vec3> points, const LeaderLines& lines, DrawingMaker& maker)
 {
     drawArrow(points, lines.arrow, maker);
     const std::vector<Vec> line = flatPoints(points, maker);
@@ -100,7 +100,7 @@ void drawLine(std::vector<Vec3> points, const Lines& lines, DrawingMaker& maker)
         maker.polyline(line, false);
 }
 
-void drawBranch(const Branch& branch, const Lines& lines, DrawingMaker& maker)
+void drawBranch(const Branch& branch, const LeaderLines& lines, DrawingMaker& maker)
 {
     const DxfRecord own = recordOf(branch.groups);
     const Vec3 last = own.point(10);
@@ -147,13 +147,13 @@ void drawBlock(const DxfRecord& context, DrawingMaker& maker)
 void takeMultileader(const DxfRecord& record, DrawingMaker& maker)
 {
     constexpr int bent = 2;
-    const Parts parts = partsOf(record);
+    const LeaderParts parts = leaderPartsOf(record);
     const DxfRecord context = recordOf(parts.context);
     const DxfRecord behind = recordOf(parts.behind);
     if (parts.context.empty()) return maker.leftOut(record.type, "not whole");
-    const Lines lines{{context.number(140), behind.name(342)},
-                      behind.whole(170, 1) == bent,
-                      behind.whole(290, 1) != 0 && behind.whole(291, 1) != 0};
+    const LeaderLines lines{{context.number(140), behind.name(342)},
+                            behind.whole(170, 1) == bent,
+                            behind.whole(290, 1) != 0 && behind.whole(291, 1) != 0};
     const Look own = maker.look;
     maker.look.color = penOf(behind.whole(91), maker);
     if (behind.whole(170, 1) != 0) {

@@ -69,15 +69,17 @@ void drawCap(const Corner& corner, DrawingMaker& maker)
 namespace style_flag {
 constexpr int joints = 2, startCap = 16, endCap = 256;
 }
-namespace flag {
+namespace multiline_flag {
 constexpr int closed = 2, noStartCap = 4, noEndCap = 8;
 }
 
 void drawCaps(const std::vector<Corner>& corners, int flags, int styleFlags, DrawingMaker& maker)
 {
-    const bool isOpen = (flags & flag::closed) == 0;
-    const bool starts = isOpen && (styleFlags & style_flag::startCap) != 0 && (flags & flag::noStartCap) == 0;
-    const bool ends = isOpen && (styleFlags & style_flag::endCap) != 0 && (flags & flag::noEndCap) == 0;
+    const bool isOpen = (flags & multiline_flag::closed) == 0;
+    const bool starts =
+        isOpen && (styleFlags & style_flag::startCap) != 0 && (flags & multiline_flag::noStartCap) == 0;
+    const bool ends =
+        isOpen && (styleFlags & style_flag::endCap) != 0 && (flags & multiline_flag::noEndCap) == 0;
     if (starts) drawCap(corners.front(), maker);
     if (ends) drawCap(corners.back(), maker);
     if ((styleFlags & style_flag::joints) == 0) return;
@@ -100,7 +102,7 @@ void takeMultiline(const DxfRecord& record, DrawingMaker& maker)
         std::vector<Vec> points;
         for (const Corner& corner : corners) points.push_back(cornerOf(corner, corner.along[i], maker));
         if (i < style.colors.size()) maker.look.color = maker.penOf(style.colors[i]);
-        maker.polyline(points, (flags & flag::closed) != 0);
+        maker.polyline(points, (flags & multiline_flag::closed) != 0);
         maker.look = own;
     }
 }

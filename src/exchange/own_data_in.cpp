@@ -15,9 +15,9 @@ namespace mirtane {
 namespace {
 
 // Takes the data of a record one by one. What is not there, or something else, makes all of it bad.
-class Reader {
+class DataReader {
   public:
-    Reader(const DxfRecord& record, const DxfList& list) : list_(list)
+    DataReader(const DxfRecord& record, const DxfList& list) : list_(list)
     {
         const auto named = [](const DxfGroup& group) {
             return group.code == data::application && trimmed(group.value) == applicationName;
@@ -88,7 +88,7 @@ class GroupsInOrder {
 };
 
 // The kind that is named, if all the groups stand as they were written.
-std::optional<int> unchangedKind(Reader& in, const DxfRecord& record)
+std::optional<int> unchangedKind(DataReader& in, const DxfRecord& record)
 {
     const int kind = in.whole();
     bool same = true;
@@ -102,7 +102,7 @@ std::optional<int> unchangedKind(Reader& in, const DxfRecord& record)
     return kind;
 }
 
-Made objectIn(Reader& in)
+Made objectIn(DataReader& in)
 {
     Made made;
     for (Vec& p : made.p) p = in.point();
@@ -130,7 +130,7 @@ bool showsWords(const DxfRecord& record, const std::string& written, const DxfLi
 
 bool isPart(const DxfRecord& record, const Made& leader, const DxfList& list)
 {
-    Reader in(record, list);
+    DataReader in(record, list);
     return in.good() && unchangedKind(in, record) == partOfAnother &&
            showsWords(record, dxfParagraph(leader.text.words), list);
 }
@@ -139,7 +139,7 @@ bool isPart(const DxfRecord& record, const Made& leader, const DxfList& list)
 
 std::optional<std::string> ownLayerName(const DxfRecord& record, const DxfList& list)
 {
-    Reader in(record, list);
+    DataReader in(record, list);
     std::string name = in.words();
     const bool same = in.words() == list.text(record, 2);
     if (!in.good() || !same) return std::nullopt;
@@ -149,7 +149,7 @@ std::optional<std::string> ownLayerName(const DxfRecord& record, const DxfList& 
 std::optional<OwnObject> ownObject(std::span<const DxfRecord> records, const DxfList& list)
 {
     const DxfRecord& record = records.front();
-    Reader in(record, list);
+    DataReader in(record, list);
     if (!in.good()) return std::nullopt;
     const std::optional<int> kind = unchangedKind(in, record);
     Made made = objectIn(in);

@@ -8,7 +8,6 @@
 namespace mirtane {
 namespace {
 
-constexpr double worldPerInch = 12;
 constexpr std::string_view lineEnd = "\r\n";
 
 } // namespace
@@ -73,11 +72,11 @@ namespace {
 // Of the numbers around the quotient the one that a reader's product brings back to the same angle.
 double degreesOf(double radians)
 {
-    constexpr double perDegree = std::numbers::pi / 180;
-    const double nearest = radians / perDegree;
+    const double nearest = radians / exactRadiansPerDegree;
     for (const double beside : {-1e9, 1e9}) {
         const double other = std::nextafter(nearest, beside);
-        if (nearest * perDegree != radians && other * perDegree == radians) return other;
+        if (nearest * exactRadiansPerDegree != radians && other * exactRadiansPerDegree == radians)
+            return other;
     }
     return nearest;
 }

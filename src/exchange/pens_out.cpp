@@ -19,18 +19,18 @@ constexpr PenOut pensOut[] = {
     {0xFFFFFF, 7, 60},  // white
 };
 
-constexpr double dashed[] = {0.5, -0.25};
-constexpr double dotted[] = {0, -0.25};
-constexpr double dashDotted[] = {0.5, -0.25, 0, -0.25};
-constexpr double dashTwiceDotted[] = {0.5, -0.25, 0, -0.25, 0, -0.25};
+constexpr double dashedLengths[] = {0.5, -0.25};
+constexpr double dottedLengths[] = {0, -0.25};
+constexpr double dashDottedLengths[] = {0.5, -0.25, 0, -0.25};
+constexpr double dashTwiceDottedLengths[] = {0.5, -0.25, 0, -0.25, 0, -0.25};
 
 // By style, from 0 on.
-constexpr LineTypeOut lineTypes[] = {
+constexpr LineTypeOut lineTypeRows[] = {
     {"Continuous", "Solid line", {}},
-    {"DASHED", "__ __ __ __ __ __ __ __ __ __", dashed},
-    {"DOT", ". . . . . . . . . . . . . . .", dotted},
-    {"DASHDOT", "__ . __ . __ . __ . __ . __ .", dashDotted},
-    {"DIVIDE", "__ . . __ . . __ . . __ . . __", dashTwiceDotted},
+    {"DASHED", "__ __ __ __ __ __ __ __ __ __", dashedLengths},
+    {"DOT", ". . . . . . . . . . . . . . .", dottedLengths},
+    {"DASHDOT", "__ . __ . __ . __ . __ . __ .", dashDottedLengths},
+    {"DIVIDE", "__ . . __ . . __ . . __ . . __", dashTwiceDottedLengths},
 };
 
 std::int32_t turnedRound(std::int32_t color) // 0xBBGGRR to 0xRRGGBB
@@ -50,13 +50,13 @@ const PenOut& penOut(std::int32_t color)
 
 const LineTypeOut& lineTypeOut(std::int16_t style)
 {
-    const bool known = style >= 0 && style < std::ssize(lineTypes);
-    return lineTypes[known ? style : 0];
+    const bool known = style >= 0 && style < std::ssize(lineTypeRows);
+    return lineTypeRows[known ? style : 0];
 }
 
 std::span<const LineTypeOut> lineTypesOut()
 {
-    return lineTypes;
+    return lineTypeRows;
 }
 
 } // namespace mirtane

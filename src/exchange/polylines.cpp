@@ -13,13 +13,13 @@ struct Vertex {
     double bulge = 0;
 };
 
-namespace flag {
+namespace polyline_flag {
 constexpr int closed = 1;
 constexpr int inSpace = 8;
 constexpr int mesh = 16;
 constexpr int closedAcross = 32;
 constexpr int polyface = 64;
-} // namespace flag
+} // namespace polyline_flag
 
 namespace vertex_flag {
 constexpr int frame = 16; // the points that a fitted curve is drawn by
@@ -49,7 +49,7 @@ void takeFlat(const DxfRecord& record, DrawingMaker& maker)
         const Vec3 p = part.point(10);
         run.push_back({{p.x, p.y}, part.number(42)});
     }
-    drawRun(run, (record.whole(70) & flag::closed) != 0, maker.plane(record), maker);
+    drawRun(run, (record.whole(70) & polyline_flag::closed) != 0, maker.plane(record), maker);
 }
 
 std::vector<Vec> cornersOf(const DxfRecord& record, int left, const DrawingMaker& maker)
@@ -76,8 +76,8 @@ void takeMesh(const DxfRecord& record, DrawingMaker& maker)
     const auto at = [&](std::size_t row, std::size_t column) {
         return corners[row % rows * columns + column % columns];
     };
-    const std::size_t downs = rows - ((flags & flag::closed) != 0 ? 0 : 1);
-    const std::size_t acrosses = columns - ((flags & flag::closedAcross) != 0 ? 0 : 1);
+    const std::size_t downs = rows - ((flags & polyline_flag::closed) != 0 ? 0 : 1);
+    const std::size_t acrosses = columns - ((flags & polyline_flag::closedAcross) != 0 ? 0 : 1);
     for (std::size_t r = 0; r < rows; ++r) {
         for (std::size_t c = 0; c < columns; ++c) {
             if (r < downs) maker.line(at(r, c), at(r + 1, c));
@@ -128,17 +128,18 @@ void takeLightPolyline(const DxfRecord& record, DrawingMaker& maker)
         if (group.code == 20) run.back().at.y = dxfNumber(group.value);
         if (group.code == 42) run.back().bulge = dxfNumber(group.value);
     }
-    const bool closed = (record.whole(70) & flag::closed) != 0;
+    const bool closed = (record.whole(70) & polyline_flag::closed) != 0;
     drawRun(run, closed, maker.plane(record.point(210, {0, 0, 1}), record.number(38)), maker);
 }
 
 void takePolyline(const DxfRecord& record, DrawingMaker& maker)
 {
     const int flags = record.whole(70);
-    if ((flags & flag::polyface) != 0) return takePolyface(record, maker);
-    if ((flags & flag::mesh) != 0) return takeMesh(record, maker);
-    if ((flags & flag::inSpace) != 0)
-        return maker.polyline(cornersOf(record, vertex_flag::frame, maker), (flags & flag::closed) != 0);
+    if ((flags & polyline_flag::polyface) != 0) return takePolyface(record, maker);
+    if ((flags & polyline_flag::mesh) != 0) return takeMesh(record, maker);
+    if ((flags & polyline_flag::inSpace) != 0)
+        return maker.polyline(cornersOf(record, vertex_flag::frame, maker),
+                              (flags & polyline_flag::closed) != 0);
     takeFlat(record, maker);
 }
 

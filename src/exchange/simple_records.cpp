@@ -3,12 +3,6 @@
 #include <numbers>
 
 namespace mirtane {
-namespace {
-
-constexpr double radians = std::numbers::pi / 180;
-
-} // namespace
-
 void takeLine(const DxfRecord& record, DrawingMaker& maker)
 {
     maker.line(maker.flat(record.point(10)), maker.flat(record.point(11)));
@@ -30,8 +24,9 @@ void takeArc(const DxfRecord& record, DrawingMaker& maker)
 {
     const Vec3 centre = record.point(10);
     const double radius = std::abs(record.number(40));
-    const EllipseArc arc = circularArc({centre.x, centre.y}, radius, record.number(50) * radians,
-                                       record.number(51, 360) * radians);
+    const EllipseArc arc =
+        circularArc({centre.x, centre.y}, radius, record.number(50) * exactRadiansPerDegree,
+                    record.number(51, 360) * exactRadiansPerDegree);
     maker.arc(transformed(arc, maker.plane(record)));
 }
 

@@ -12,8 +12,8 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 constexpr int samplesOfFormula = 6;
-constexpr int mostSteps = 1500;  // two strokes each
-constexpr int mostHalvings = 24; // of the whole range of the parameter
+constexpr int mostArcSteps = 1500; // two strokes each
+constexpr int mostHalvings = 24;   // of the whole range of the parameter
 constexpr int growthTries = 3;
 constexpr double margin = 0.9; // of the tolerance: between two points looked at the curve may be farther off
 
@@ -167,7 +167,7 @@ bool Fitter::run()
         }
         add(pair_.first);
         if (!isLine_) add(pair_.second);
-        if (++steps > mostSteps) return false;
+        if (++steps > mostArcSteps) return false;
         const bool isEnd = from + step >= last() || from + step <= from;
         from = isEnd ? last() : from + step;
         step *= 2;

@@ -33,12 +33,11 @@ std::int16_t justificationOf(int horizontal)
 // What is fitted between two points runs from the one to the other, whatever angle is said.
 Vec wayOf(const DxfRecord& record, bool betweenPoints)
 {
-    constexpr double radians = std::numbers::pi / 180;
     const Vec3 a = record.point(10), b = record.point(11);
     const Vec along{b.x - a.x, b.y - a.y};
     const double size = length(along);
     const bool isThere = betweenPoints && record.has(11) && size > 0 && std::isfinite(size);
-    return isThere ? 1 / size * along : wayAt(record.number(50) * radians);
+    return isThere ? 1 / size * along : wayAt(record.number(50) * exactRadiansPerDegree);
 }
 
 void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& maker)

@@ -3,8 +3,14 @@
 // Points and ways of a DXF file: its own units, y up, as exact as the file gives them.
 
 #include <cmath>
+#include <numbers>
 
 namespace mirtane {
+
+// Not the short literals that angles of drawings are computed with: a file of others is as exact as it says.
+inline constexpr double exactRadiansPerDegree = std::numbers::pi / 180;
+inline constexpr double wholeTurn = 2 * std::numbers::pi; // radians
+inline constexpr double worldPerInch = 12;
 
 struct Vec {
     double x = 0, y = 0;

@@ -2,6 +2,8 @@
 
 #include "geometry/point.h"
 
+#include <limits>
+
 namespace mirtane {
 
 // The short literals are part of the drawing format: angles computed with longer ones would not compare
@@ -16,6 +18,9 @@ inline constexpr double sevenEighthsTurn = 5.4977872;
 inline constexpr double fullTurn = 6.2831853;
 inline constexpr double degreesPerRadian = 57.29578;
 inline constexpr double radiansPerDegree = 0.0174533;
+
+// Of what has no direction.
+inline constexpr double noAngle = std::numeric_limits<double>::quiet_NaN();
 
 // Distance in world units, computed in double from the 32-bit differences.
 double distance(Point a, Point b);

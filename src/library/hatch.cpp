@@ -19,7 +19,7 @@ namespace {
 
 // -- placing --
 
-void addPiece(Session& s, EntityRecord r)
+void addFilledPiece(Session& s, EntityRecord r)
 {
     const std::int32_t slot = s.store.entCount;
     r.layer = s.workLayer;
@@ -39,7 +39,7 @@ std::optional<Missing> fill(Session& s)
                            s.hatchRotation};
     const std::vector<HatchPiece> pieces = fillHatch(wanted, missing);
     if (!hasRoomFor(s, std::ssize(pieces))) return std::nullopt;
-    for (const HatchPiece& piece : pieces) addPiece(s, hatchObject(piece, wanted));
+    for (const HatchPiece& piece : pieces) addFilledPiece(s, hatchObject(piece, wanted));
     endGroup(s.log);
     return missing;
 }

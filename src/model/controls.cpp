@@ -65,6 +65,12 @@ void setSelectedText(Control& control, std::string text)
     control.anchor = 0;
 }
 
+void leaveForm(Controls& controls, ControlId form)
+{
+    controls[form].visible = false;
+    controls.focus = ids::drawing;
+}
+
 void setCaret(Control& control, int position)
 {
     control.caret = std::clamp(position, 0, characterCount(control.text));

@@ -51,6 +51,9 @@ void setText(Control& control, std::string text);
 // it.
 void setSelectedText(Control& control, std::string text);
 
+// Hides the form and gives the focus back to the drawing.
+void leaveForm(Controls& controls, ControlId form);
+
 // Puts the caret at position (characters, clipped to the text) with nothing selected.
 void setCaret(Control& control, int position);
 

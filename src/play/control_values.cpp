@@ -7,12 +7,12 @@
 namespace mirtane::play {
 namespace {
 
-struct ValueRow {
+struct ControlValue {
     std::string_view name;
     std::string (*give)(const Control& control);
 };
 
-constexpr ValueRow valueRows[] = {
+constexpr ControlValue valuesOfControls[] = {
     {"text", [](const Control& c) { return json(c.text); }},
     {"caption", [](const Control& c) { return json(c.caption); }},
     {"visible", [](const Control& c) { return json(c.visible); }},
@@ -72,7 +72,7 @@ bool has(ControlKind kind, std::string_view name)
 std::string controlValues(const Controls& controls, ControlId id)
 {
     std::vector<std::pair<std::string_view, std::string>> fields;
-    for (const ValueRow& row : valueRows) {
+    for (const ControlValue& row : valuesOfControls) {
         if (has(id.row().kind, row.name)) fields.emplace_back(row.name, row.give(controls[id]));
     }
     return jsonObject(fields);
@@ -80,8 +80,8 @@ std::string controlValues(const Controls& controls, ControlId id)
 
 std::optional<std::string> controlValue(const Controls& controls, ControlId id, std::string_view field)
 {
-    const auto* const row = std::ranges::find(valueRows, field, &ValueRow::name);
-    if (row == std::end(valueRows) || !has(id.row().kind, field)) return std::nullopt;
+    const auto* const row = std::ranges::find(valuesOfControls, field, &ControlValue::name);
+    if (row == std::end(valuesOfControls) || !has(id.row().kind, field)) return std::nullopt;
     return row->give(controls[id]);
 }
 

@@ -7,17 +7,17 @@
 namespace mirtane::play {
 namespace {
 
-struct ValueRow {
+struct SessionValue {
     std::string_view name;
     std::string (*give)(const Session& s);
 };
 
-template <auto member> constexpr ValueRow value(std::string_view name)
+template <auto member> constexpr SessionValue value(std::string_view name)
 {
     return {name, [](const Session& s) { return json(s.*member); }};
 }
 
-constexpr ValueRow valueRows[] = {
+constexpr SessionValue sessionValues[] = {
     value<&Session::workLayer>("workLayer"),
     value<&Session::curColor>("curColor"),
     value<&Session::curStyle>("curStyle"),
@@ -183,8 +183,8 @@ std::optional<std::string> pointValue(const Session& s, std::string_view name)
 
 std::optional<std::string> sessionValue(const Session& s, std::string_view name)
 {
-    const auto* const found = std::ranges::find(valueRows, name, &ValueRow::name);
-    if (found != std::end(valueRows)) return found->give(s);
+    const auto* const found = std::ranges::find(sessionValues, name, &SessionValue::name);
+    if (found != std::end(sessionValues)) return found->give(s);
     return pointValue(s, name);
 }
 

@@ -18,7 +18,7 @@ constexpr double turn = 2 * std::numbers::pi;
 // A sweep no more than this above a full turn is one: full turns are sums of rounded angles.
 constexpr double nearlyNothing = 1e-6;
 // Pixels; beyond it coordinates of 32 bits say nothing about a place in the image.
-constexpr double farthest = 1099511627776; // 2^40
+constexpr double farthestCentre = 1099511627776; // 2^40
 
 struct Ring {
     std::int64_t cx, cy;
@@ -49,7 +49,7 @@ double squareDrawn(double r)
 
 std::optional<Ring> ringOf(double cx, double cy, double r)
 {
-    if (!(std::fabs(cx) < farthest && std::fabs(cy) < farthest && r >= 0 && r < farthest))
+    if (!(std::fabs(cx) < farthestCentre && std::fabs(cy) < farthestCentre && r >= 0 && r < farthestCentre))
         return std::nullopt;
     const double square = squareDrawn(r);
     return Ring{static_cast<std::int64_t>(std::floor(cx)), // both below 2^40

@@ -36,9 +36,9 @@ struct Limits {
     float room, left, top, right, bottom;
 };
 
-class Scan {
+class ObjectScan {
   public:
-    Scan(const EntityStore& store, const ObjectSearch& search)
+    ObjectScan(const EntityStore& store, const ObjectSearch& search)
         : store_(store), search_(search), limits_(search.from, search.radius)
     {
         hit_.distance = search.radius;
@@ -167,7 +167,7 @@ KindSet kindsWith(bool (*has)(Kind))
 
 ObjectHit nearestObject(const EntityStore& store, const ObjectSearch& search)
 {
-    return Scan(store, search).run();
+    return ObjectScan(store, search).run();
 }
 
 } // namespace mirtane

@@ -8,9 +8,9 @@
 namespace mirtane {
 namespace {
 
-class Scan {
+class PointScan {
   public:
-    Scan(Point from, float limit) : from_(from), least_(limit), leastSquared_(squareOf(limit)) {}
+    PointScan(Point from, float limit) : from_(from), least_(limit), leastSquared_(squareOf(limit)) {}
 
     std::optional<ObjectPoint> best() const { return best_; }
 
@@ -73,7 +73,7 @@ class Scan {
 
 std::optional<ObjectPoint> nearestObjectPoint(const Session& s, float limit)
 {
-    Scan scan(s.mousePos, limit);
+    PointScan scan(s.mousePos, limit);
     const auto end = EntityStore::at(s.store.end());
     for (std::size_t i = 1; i < end; ++i) {
         const Stat stat = s.store.stat[i];

@@ -16,7 +16,7 @@ constexpr auto rotation3 = &EntityRecord::a3;
 constexpr std::uint16_t leaderPairs = p1 | p2 | p3 | p5;
 
 // clang-format off
-constexpr KindRow rows[] = {
+constexpr KindRow kindRows[] = {
 //   moved              mapped             values                        line style  sweeps  rotation   text start
     {p1 | p2,           p1 | p2,           0,                            true,       false,  nullptr,   nullptr},           // line
     {p1,                p1,                rad,                          true,       false,  nullptr,   nullptr},           // circle
@@ -31,13 +31,13 @@ constexpr KindRow rows[] = {
 };
 // clang-format on
 
-static_assert(std::size(rows) == drawnKinds);
+static_assert(std::size(kindRows) == drawnKinds);
 
 } // namespace
 
 const KindRow* kindRow(Kind kind)
 {
-    return isDrawnKind(kind) ? &rows[placeOf(kind)] : nullptr;
+    return isDrawnKind(kind) ? &kindRows[placeOf(kind)] : nullptr;
 }
 
 bool hasWords(Kind kind)

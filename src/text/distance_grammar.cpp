@@ -11,7 +11,6 @@ namespace mirtane {
 namespace {
 
 constexpr double inchesPerFoot = 12;
-constexpr double centimetresPerMetre = 100;
 constexpr double worldUnitsPerInch = 12;
 
 // Not 2.54: drawings made so far were made with this factor, and one that is edited on has to fit itself.

@@ -27,8 +27,6 @@ constexpr double centimetresPerUnit = 0.2118295;
 constexpr double unitsPerCentimetreOfSize = 4.7206;
 constexpr double squareFeetPerSquareMetre = 10.74008;
 
-constexpr double centimetresPerMetre = 100;
-
 // How many wholes of that size value has, where a value that misses the next one by no more than slack counts
 // as having it. 0 when there are more than Whole can count.
 template <class Whole> Whole wholesIn(double value, double size, double slack)

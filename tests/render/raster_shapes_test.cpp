@@ -7,12 +7,12 @@
 namespace mirtane {
 namespace {
 
-constexpr int wide = 10;
+constexpr int columns = 10;
 
 // Three columns and two rows about the place that it is laid at; the last column is covered by half.
 Coverage shape()
 {
-    Coverage found({-1, -1, 2, 1}, wide);
+    Coverage found({-1, -1, 2, 1}, columns);
     for (int row = 0; row < 2; ++row) {
         for (int column = 0; column < 3; ++column) found.ink(column, row, column == 2 ? 127 : 255);
     }
@@ -42,7 +42,7 @@ TEST(RasterShapes, AreCutByTheEdgesOfTheImage)
         {"far away", farthest, -farthest, 0},
     };
     for (const LaidRow& row : rows) {
-        Raster image(wide, 8);
+        Raster image(columns, 8);
         image.lay(shape(), row.x, row.y, 0xFFFF8040);
         int changed = 0;
         for (const std::uint32_t pixel : image.pixels()) changed += pixel != 0xFF000000 ? 1 : 0;
@@ -52,7 +52,7 @@ TEST(RasterShapes, AreCutByTheEdgesOfTheImage)
 
 TEST(RasterShapes, MixTheirColourWithWhatIsThereAsFarAsTheyCover)
 {
-    Raster image(wide, 8);
+    Raster image(columns, 8);
     image.fill(0xFF204080);
     image.lay(shape(), 5, 4, 0xFFFF8000);
     EXPECT_EQ(image.at(4, 3), 0xFFFF8000) << "whole";

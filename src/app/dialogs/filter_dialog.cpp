@@ -54,12 +54,6 @@ void showDialog(Session& s, std::string_view title)
     s.controls.focus = ids::filterLayerList;
 }
 
-void hideDialog(Controls& controls)
-{
-    controls[ids::filterForm].visible = false;
-    controls.focus = ids::drawing;
-}
-
 bool isChange(const Controls& controls)
 {
     return controls[ids::filterForm].caption == list_mode::changeProperties;
@@ -104,7 +98,7 @@ void closeChangeDialog(Session& s)
 {
     if (!s.controls[ids::filterForm].visible || !isChange(s.controls)) return;
     resetCriteria(s);
-    hideDialog(s.controls);
+    leaveForm(s.controls, ids::filterForm);
 }
 
 void takeFilterKind(App& app, ControlId menu)
@@ -159,14 +153,14 @@ void acceptFilter(App& app, ControlId)
         if (!changeSelection(s, app.pic1, chosenChanges(s))) return; // the dialog stays up
         resetCriteria(s);
     }
-    hideDialog(s.controls);
+    leaveForm(s.controls, ids::filterForm);
 }
 
 void cancelFilter(App& app, ControlId)
 {
     if (isChange(app.s.controls)) giveUpChange(app.s, app.pic1);
     resetCriteria(app.s);
-    hideDialog(app.s.controls);
+    leaveForm(app.s.controls, ids::filterForm);
 }
 
 } // namespace mirtane

@@ -20,12 +20,6 @@ void dropSelection(App& app)
     redrawAll(app.s, app.pic1);
 }
 
-void hideDialog(Controls& controls)
-{
-    controls[ids::printForm].visible = false;
-    controls.focus = ids::drawing;
-}
-
 double typedScale(const Controls& controls)
 {
     return readNumber(controls[ids::printScale].text);
@@ -143,13 +137,13 @@ void confirmPrint(App& app, ControlId)
     keep(s.printFactor, quotient(fitted, typed));
     endWhatIsBegun(s, app.pic1);
     printSelection(app);
-    hideDialog(s.controls);
+    leaveForm(s.controls, ids::printForm);
 }
 
 void cancelPrint(App& app, ControlId)
 {
     dropSelection(app);
-    hideDialog(app.s.controls);
+    leaveForm(app.s.controls, ids::printForm);
 }
 
 void emptyPrintScale(App& app, ControlId box)

@@ -23,7 +23,6 @@
 namespace mirtane {
 namespace {
 
-constexpr int leftButton = 1;
 constexpr int rightButton = 2;
 
 void takeWindowCorner(Session& s, Canvas& pic1, Point at)

@@ -10,8 +10,6 @@
 namespace mirtane {
 namespace {
 
-constexpr int leftButton = 1;
-
 void confineClick(Session& s, const FunctionRow& row)
 {
     if (s.stepNo < 2 || !orthoIsOn(s.controls) || !applies(row.orthoOnClick, s.stepNo)) return;

@@ -13,6 +13,8 @@ namespace mirtane {
 // Whether clicks are corners of a window.
 bool takesWindow(const Session& s);
 
+inline constexpr int leftButton = 1;
+
 // A click of the function at a point: counts it if it is one of the left button, and stores the point.
 void storeClick(Session& s, int button, Point at);
 

@@ -8,7 +8,7 @@
 namespace mirtane {
 namespace {
 
-constexpr const char* stem = "work-";
+constexpr const char* keptStem = "work-";
 constexpr std::string_view ending = ".mtd"; // it opens as a drawing in any case
 
 // By the time of the last change, the oldest first.
@@ -32,7 +32,7 @@ std::vector<std::filesystem::path> keptIn(const std::filesystem::path& folder)
     const std::filesystem::directory_iterator end;
     for (std::filesystem::directory_iterator at(folder, fault); !fault && at != end; at.increment(fault)) {
         const std::string name = at->path().filename().string();
-        if (name.starts_with(stem) && name.ends_with(ending)) found.push_back(at->path());
+        if (name.starts_with(keptStem) && name.ends_with(ending)) found.push_back(at->path());
     }
     sortByTime(found);
     return found;
@@ -69,7 +69,7 @@ std::optional<std::string> KeptFiles::own()
     if (!holder_.file.isOpen() || !stands(holder_.path)) {
         const std::optional<std::string> folder = state_.made();
         if (!folder) return std::nullopt;
-        holder_ = makeHeld(*folder, stem, forTheUser);
+        holder_ = makeHeld(*folder, keptStem, forTheUser);
         if (!holder_.file.isOpen()) return std::nullopt;
     }
     return holder_.path.string() + std::string(ending);

@@ -10,7 +10,7 @@
 namespace mirtane {
 namespace {
 
-constexpr const char* stem = ".mirtane-"; // out of sight
+constexpr const char* newStem = ".mirtane-"; // out of sight
 
 Put faultFor(int error)
 {
@@ -33,7 +33,7 @@ Put fillAndMove(HeldFile& made, const std::filesystem::path& path, const Bytes& 
 Put putNewFile(const std::filesystem::path& path, const Bytes& bytes, bool replaces, unsigned mode)
 {
     constexpr mode_t untilItHasTheOther = 0600;
-    HeldFile made = makeHeld(path.parent_path(), stem, replaces ? untilItHasTheOther : mode);
+    HeldFile made = makeHeld(path.parent_path(), newStem, replaces ? untilItHasTheOther : mode);
     if (!made.file.isOpen()) return faultFor(made.fault);
     const bool isLikeIt = !replaces || takeAttributes(path, made);
     const Put put = isLikeIt ? fillAndMove(made, path, bytes) : Put::forbidden;
@@ -43,7 +43,7 @@ Put putNewFile(const std::filesystem::path& path, const Bytes& bytes, bool repla
 
 void removeLeftovers(const std::filesystem::path& folder)
 {
-    for (const std::filesystem::path& left : heldFiles(folder, stem)) removeIfDead(left);
+    for (const std::filesystem::path& left : heldFiles(folder, newStem)) removeIfDead(left);
 }
 
 } // namespace mirtane

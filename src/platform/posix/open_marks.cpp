@@ -15,11 +15,11 @@ std::string realPath(const std::string& path)
     return fault ? path : real.string();
 }
 
-constexpr const char* stem = "open-";
+constexpr const char* markStem = "open-";
 
 std::string stemFor(const std::string& real)
 {
-    return stem + hashOf(real) + "-";
+    return markStem + hashOf(real) + "-";
 }
 
 // For whoever looks into the folder.
@@ -49,7 +49,7 @@ bool PosixOpenMarks::mark(const std::string& path)
     if (own_.contains(real)) return true;
     const std::optional<std::string> folder = state_.made();
     if (!folder) return false;
-    for (const std::filesystem::path& left : heldFiles(*folder, stem)) removeIfDead(left);
+    for (const std::filesystem::path& left : heldFiles(*folder, markStem)) removeIfDead(left);
     HeldFile mark = makeHeld(*folder, stemFor(real), forTheUser);
     if (!mark.file.isOpen()) return false;
     static_cast<void>(mark.file.write(contentFor(real))); // the mark counts, whatever it says

@@ -1,10 +1,10 @@
 #include "platform/qt/window/file_form.h"
 
+#include "platform/qt/window/button_row.h"
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/file_picture.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -12,17 +12,6 @@ namespace mirtane {
 namespace {
 
 constexpr int driveRows = 4;
-
-QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
-{
-    QWidget& row = childOf<QWidget>(form);
-    QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
-    buttons.setContentsMargins(0, 0, 0, 0);
-    buttons.addStretch();
-    buttons.addWidget(&maker.make(ids::fileConfirm, row));
-    buttons.addWidget(&maker.make(ids::fileDismiss, row));
-    return row;
-}
 
 // What went wrong stands beside the word over the name.
 QWidget& nameBlock(const ControlMaker& maker, QWidget& form)
@@ -71,7 +60,7 @@ void layFileForm(const ControlMaker& maker, QWidget& form)
     remark.setWordWrap(true);
     remark.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     grid.addWidget(&remark, 4, 0, 1, 2);
-    grid.addWidget(&buttonRow(maker, form), 5, 0, 1, 2);
+    grid.addWidget(&buttonRow(maker, form, ids::fileConfirm, ids::fileDismiss), 5, 0, 1, 2);
 }
 
 } // namespace mirtane

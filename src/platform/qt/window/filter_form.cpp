@@ -1,10 +1,10 @@
 #include "platform/qt/window/filter_form.h"
 
+#include "platform/qt/window/button_row.h"
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/menu_view.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 
 namespace mirtane {
 namespace {
@@ -20,17 +20,6 @@ constexpr LabelledBox boxes[] = {
     {ids::colorSettingLabel, ids::colorSetting},
     {ids::styleSettingLabel, ids::styleSetting},
 };
-
-QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
-{
-    QWidget& row = childOf<QWidget>(form);
-    QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
-    buttons.setContentsMargins(0, 0, 0, 0);
-    buttons.addStretch();
-    buttons.addWidget(&maker.make(ids::filterAccept, row));
-    buttons.addWidget(&maker.make(ids::filterCancel, row));
-    return row;
-}
 
 } // namespace
 
@@ -51,7 +40,7 @@ void layFilterForm(const ControlMaker& maker, QWidget& form)
         grid.addWidget(&maker.makeLabelled(one.label, one.box, form), row++, 1);
     grid.setRowStretch(row, 1);
     grid.addWidget(&maker.makeLabelled(ids::filterLayerLabel, ids::filterLayerList, form), 0, 0, row + 1, 1);
-    grid.addWidget(&buttonRow(maker, form), row + 1, 0, 1, 2);
+    grid.addWidget(&buttonRow(maker, form, ids::filterAccept, ids::filterCancel), row + 1, 0, 1, 2);
 }
 
 } // namespace mirtane

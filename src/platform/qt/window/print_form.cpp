@@ -1,25 +1,14 @@
 #include "platform/qt/window/print_form.h"
 
+#include "platform/qt/window/button_row.h"
 #include "platform/qt/window/child.h"
 #include "platform/qt/window/page_picture.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 
 namespace mirtane {
 namespace {
-
-QWidget& buttonRow(const ControlMaker& maker, QWidget& form)
-{
-    QWidget& row = childOf<QWidget>(form);
-    QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
-    buttons.setContentsMargins(0, 0, 0, 0);
-    buttons.addStretch();
-    buttons.addWidget(&maker.make(ids::printConfirm, row));
-    buttons.addWidget(&maker.make(ids::printCancel, row));
-    return row;
-}
 
 QWidget& makeWrapped(const ControlMaker& maker, ControlId id, QWidget& form)
 {
@@ -48,7 +37,7 @@ void layPrintForm(const ControlMaker& maker, QWidget& form)
     grid.addWidget(&maker.make(ids::printScale, form), 1, 1);
     grid.addWidget(&maker.make(ids::fittedScale, form), 2, 1);
     grid.addWidget(&makeWrapped(maker, ids::printPlace, form), 3, 1);
-    grid.addWidget(&buttonRow(maker, form), 5, 1);
+    grid.addWidget(&buttonRow(maker, form, ids::printConfirm, ids::printCancel), 5, 1);
 }
 
 } // namespace mirtane

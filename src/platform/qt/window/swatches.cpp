@@ -17,7 +17,7 @@ constexpr int tickWidth = 16;
 constexpr int strokeEnd = 40; // the words of the entry follow at once
 constexpr QRgb white = 0xFFFFFFFF;
 
-struct Stroke {
+struct PenStroke {
     QColor color;
     double width = 1;
     Qt::PenStyle style = Qt::SolidLine;
@@ -27,20 +27,20 @@ constexpr Qt::PenStyle penStyles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, 
                                       Qt::DashDotDotLine};
 
 // In the proportions of the paper: the widest fills the swatch.
-Stroke strokeOf(const Pen& pen)
+PenStroke strokeOf(const Pen& pen)
 {
     constexpr double fullest = 14;
     return {colorOf(pen.color), std::max(1.0, pen.paperWidth * swatchSize.height() / fullest), Qt::SolidLine};
 }
 
-std::optional<Stroke> strokeOf(ControlId entry)
+std::optional<PenStroke> strokeOf(ControlId entry)
 {
     for (const Pen& pen : pens) {
         if (pen.entry == entry || pen.filterEntry == entry) return strokeOf(pen);
     }
     for (const LineStyle& style : lineStyles) {
         if (style.entry == entry || style.filterEntry == entry)
-            return Stroke{QColor::fromRgb(white), 2, penStyles[style.style]};
+            return PenStroke{QColor::fromRgb(white), 2, penStyles[style.style]};
     }
     return std::nullopt;
 }
@@ -54,7 +54,7 @@ QPixmap blank(QSize size)
     return picture;
 }
 
-QPixmap pictureOf(const Stroke& stroke, bool ticked)
+QPixmap pictureOf(const PenStroke& stroke, bool ticked)
 {
     QPixmap picture = blank(swatchSize);
     QPainter painter(&picture);
@@ -85,7 +85,7 @@ bool isBright(const QColor& color)
 
 QIcon swatchOf(ControlId entry)
 {
-    const std::optional<Stroke> stroke = strokeOf(entry);
+    const std::optional<PenStroke> stroke = strokeOf(entry);
     QIcon swatch;
     if (!stroke) return swatch;
     swatch.addPixmap(pictureOf(*stroke, false), QIcon::Normal, QIcon::Off);

@@ -14,7 +14,7 @@
 namespace mirtane {
 namespace {
 
-constexpr int columns = 4;
+constexpr int buttonsInRow = 4;
 constexpr int buttonSide = 34;
 constexpr int iconSide = 24;
 constexpr int groupSpacing = 3;
@@ -76,19 +76,19 @@ class Group : public QWidget {
         setAccessibleName(heading_.text());
         grid_.setContentsMargins(0, 0, 0, 0);
         grid_.setSpacing(groupSpacing);
-        grid_.addWidget(&heading_, 0, 0, 1, columns);
+        grid_.addWidget(&heading_, 0, 0, 1, buttonsInRow);
     }
 
     QWidget& heading() { return heading_; }
 
     void add(StripButton& button, const QIcon& icon)
     {
-        const int width = icon.isNull() ? columns / 2 : 1;
+        const int width = icon.isNull() ? buttonsInRow / 2 : 1;
         button.setIcon(icon);
         button.setIconSize({iconSide, iconSide});
         button.setFixedHeight(icon.isNull() ? buttonSide - 4 : buttonSide);
         button.setFixedWidth(buttonSide * width + grid_.spacing() * (width - 1));
-        grid_.addWidget(&button, 1 + filled_ / columns, filled_ % columns, 1, width);
+        grid_.addWidget(&button, 1 + filled_ / buttonsInRow, filled_ % buttonsInRow, 1, width);
         filled_ += width;
     }
 
