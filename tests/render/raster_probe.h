@@ -12,13 +12,14 @@ inline constexpr std::uint32_t paper = 0xFF000000;
 
 using Pixels = std::set<std::pair<int, int>>;
 
-// The pixels that are not background.
+// The pixels that are not background. Thousands of images are looked through, so this has no calls within.
 inline Pixels inked(const Raster& image)
 {
     Pixels found;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.at(x, y) != paper) found.emplace(x, y);
+    const std::uint32_t* pixel = image.pixels().data();
+    for (int y = 0, height = image.height(); y < height; ++y) {
+        for (int x = 0, width = image.width(); x < width; ++x, ++pixel) {
+            if (*pixel != paper) found.emplace(x, y);
         }
     }
     return found;
