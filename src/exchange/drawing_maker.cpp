@@ -26,9 +26,8 @@ Vec wayToEdge(Vec from, Vec way, Vec low, Vec high)
     return std::isfinite(times) ? times * way : Vec{};
 }
 
-// Records drawn, those of a block each time that it is inserted; a long one counts as many.
-constexpr std::int64_t mostSteps = 2'000'000;
-constexpr std::size_t deepest = 32; // blocks within blocks
+constexpr std::int64_t stepsOfStroke = 4; // of a curve, since it has to be fitted to it
+constexpr std::size_t deepest = 32;       // blocks within blocks
 constexpr std::size_t roomForPatterns =
     58'000; // the rest of the table is for names of layers, and for whoever draws on
 constexpr std::size_t mostPatternLines =
@@ -45,14 +44,24 @@ bool isFinite(const Made& made)
            std::isfinite(made.from + made.to + made.ratio + made.rotation + made.radius + made.size);
 }
 
-// What a record costs to be drawn, by the letters in it; 1 for a short one.
+// By its letters, as numbers cost them: those of texts are laid out one by one.
+std::size_t lettersOf(const DxfRecord& record)
+{
+    constexpr std::size_t ofCode = 8, ofTextLetter = 32;
+    std::size_t letters = 0;
+    for (const DxfGroup& group : record.groups) {
+        const bool isText = group.code == 1 || group.code == 3;
+        letters += group.value.size() * (isText ? ofTextLetter : 1) + ofCode;
+    }
+    for (const DxfRecord& part : record.parts) letters += lettersOf(part);
+    return letters;
+}
+
+// What it costs to go through a record, besides what is drawn of it; 1 for a short one.
 std::int64_t costOf(const DxfRecord& record)
 {
     constexpr std::size_t lettersOfShort = 256;
-    constexpr std::size_t lettersOfCode = 8;
-    std::size_t letters = 0;
-    for (const DxfGroup& group : record.groups) letters += group.value.size() + lettersOfCode;
-    return 1 + static_cast<std::int64_t>(letters / lettersOfShort); // far below what it holds
+    return 1 + static_cast<std::int64_t>(lettersOf(record) / lettersOfShort); // far below what it holds
 }
 
 // A value that lasts until the end of a block of code, which puts the old one back.
@@ -71,8 +80,9 @@ template <class Value> class Lent {
 } // namespace
 
 DrawingMaker::DrawingMaker(const DxfList& list, double tolerance,
-                           TakeRecord (*takerOf)(std::string_view type))
-    : list_(list), tolerance_(tolerance), takerOf_(takerOf), looks_(list)
+                           TakeRecord (*takerOf)(std::string_view type), std::int64_t mostSteps)
+    : list_(list), tolerance_(tolerance), takerOf_(takerOf), looks_(list),
+      stepsLeft_(mostSteps + static_cast<std::int64_t>(list.groups.size())) // of a file
 {
 }
 
@@ -106,6 +116,7 @@ std::int32_t DrawingMaker::penOf(int colorNumber)
 
 void DrawingMaker::add(Made made)
 {
+    --stepsLeft_;
     if (!isFinite(made)) return leftOut(record_ == nullptr ? "" : record_->type, "no place to be found");
     if (made_.objects.size() >= mostObjects) {
         ++made_.withoutRoom;
@@ -167,11 +178,13 @@ void DrawingMaker::piece(const Piece& piece)
 
 void DrawingMaker::pieces(std::span<const Piece> pieces)
 {
+    stepsLeft_ -= (stepsOfStroke - 1) * static_cast<std::int64_t>(pieces.size()); // bounded
     for (const Piece& one : pieces) piece(one);
 }
 
 void DrawingMaker::strokes(std::span<const Stroke> strokes)
 {
+    stepsLeft_ -= (stepsOfStroke - 1) * static_cast<std::int64_t>(strokes.size()); // bounded
     for (const Stroke& one : strokes) {
         if (one.isArc())
             arc(arcOf(one));
@@ -226,8 +239,8 @@ void DrawingMaker::attributes(const DxfRecord& insert, Vec3 moved)
 
 bool DrawingMaker::takesStep(std::int64_t cost)
 {
-    steps_ += cost;
-    return steps_ <= mostSteps;
+    stepsLeft_ -= cost;
+    return stepsLeft_ >= 0;
 }
 
 void DrawingMaker::record(const DxfRecord& record)
@@ -287,6 +300,8 @@ bool DrawingMaker::takesPatterns() const
 void DrawingMaker::pattern(Pattern pattern)
 {
     pattern.look = look;
+    stepsLeft_ -=
+        static_cast<std::int64_t>(stepsOfStroke * pattern.outline.size() + pattern.lines.size()); // bounded
     outlineStrokes_ += pattern.outline.size();
     if (outlineStrokes_ > mostOutlineStrokes) return leftOut("HATCH", "no room for it");
     patternLines_ += pattern.lines.size();

@@ -32,8 +32,14 @@ struct Pattern {
 
 class DrawingMaker {
   public:
+    // Work beyond that of going through the file once: records of blocks, each time that one is inserted, and
+    // what is drawn of them. A step is about as much as a short record or an object; sixty thousand objects
+    // need some five times as many if they all are curves.
+    static constexpr std::int64_t enoughSteps = 400'000;
+
     // takerOf gives what draws the records of a type, or null.
-    DrawingMaker(const DxfList& list, double tolerance, TakeRecord (*takerOf)(std::string_view type));
+    DrawingMaker(const DxfList& list, double tolerance, TakeRecord (*takerOf)(std::string_view type),
+                 std::int64_t mostSteps = enoughSteps);
 
     const DxfList& list() const { return list_; }
     // How far a curve may be from what it is drawn by.
@@ -92,6 +98,7 @@ class DrawingMaker {
     void pattern(Pattern pattern);
     // Whether there can be room for more of them: else they need not be worked out.
     bool takesPatterns() const;
+    PatternWork& patternWork() { return patternWork_; }
 
     // Lines without an end: cut to the drawing's size once that is known.
     void endless(Vec from, Vec way, bool bothWays);
@@ -126,7 +133,8 @@ class DrawingMaker {
     std::size_t patternLines_ = 0;
     std::size_t outlineStrokes_ = 0;
     bool isPicture_ = false;
-    std::int64_t steps_ = 0;
+    std::int64_t stepsLeft_; // of work; below 0 when there is too much of it
+    PatternWork patternWork_;
     MadeDrawing made_;
 };
 

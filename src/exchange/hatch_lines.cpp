@@ -11,15 +11,41 @@ namespace {
 
 // More than any hatch that can be looked at needs: together with few lines these are as many edges.
 constexpr std::size_t mostCrossings = 400'000;
-// Edges and dashes that are looked at, of all rows together.
-constexpr std::size_t mostLooks = 4'000'000;
+// Edges and dashes that are looked at, of all rows of a hatch together.
+constexpr std::size_t mostLooks = 2'000'000;
+// A crossing has to be kept and put in order.
+constexpr std::size_t looksOfCrossing = 4;
 
-// What is left of both.
+// What is left of both for a hatch.
 struct Budget {
     std::size_t crossings = mostCrossings;
     std::size_t looks = mostLooks;
 
-    static bool takes(std::size_t& left) { return left != 0 && left-- != 0; }
+    bool takes(std::size_t more)
+    {
+        const bool isThere = more <= looks;
+        looks -= std::min(more, looks);
+        return isThere;
+    }
+    bool takesCrossing() { return crossings != 0 && crossings-- != 0 && takes(looksOfCrossing); }
+};
+
+// Part of the work for all hatches of a drawing; what is not used goes back.
+class Share {
+  public:
+    explicit Share(PatternWork& work) : work_(work)
+    {
+        budget.looks = std::min(mostLooks, work.left);
+        work_.left -= budget.looks;
+    }
+    ~Share() { work_.left += budget.looks; }
+    Share(const Share&) = delete;
+    Share& operator=(const Share&) = delete;
+
+    Budget budget;
+
+  private:
+    PatternWork& work_;
 };
 
 class RowCutter {
@@ -89,7 +115,7 @@ bool RowCutter::cross(Vec a, Vec b)
         if (line < 0 || line >= static_cast<double>(along_.size())) continue;
         along_[static_cast<std::size_t>(line)].push_back(
             dot(p - start(n), row_.way)); // within the range, seen above
-        if (!Budget::takes(budget_.crossings)) return false;
+        if (!budget_.takesCrossing()) return false;
     }
     return true;
 }
@@ -107,7 +133,7 @@ bool RowCutter::dashed(Vec start, double from, double to)
     for (double period = first; period * period_ < to; ++period) {
         double at = period * period_;
         for (const double dash : row_.dashes) {
-            if (!Budget::takes(budget_.looks)) return false;
+            if (!budget_.takes(1)) return false;
             const double end = at + std::abs(dash);
             const bool isSeen = dash == 0 ? at >= from && at <= to : end > from && at < to;
             if (dash >= 0 && isSeen && !add(start, std::max(at, from), std::min(end, to))) return false;
@@ -126,10 +152,10 @@ bool RowCutter::inside(double number, double from, double to)
 
 bool RowCutter::run(std::span<const Loop> loops)
 {
-    if (apart_ == 0 || !findRange(loops)) return false;
+    if (apart_ == 0 || budget_.looks == 0 || !findRange(loops)) return false;
     for (const Loop& loop : loops) {
         for (std::size_t i = 0; i < loop.size(); ++i) {
-            if (!Budget::takes(budget_.looks)) return false;
+            if (!budget_.takes(1)) return false;
             if (!cross(loop[i], loop[(i + 1) % loop.size()])) return false;
         }
     }
@@ -177,17 +203,18 @@ double areaOf(const Loop& loop)
 } // namespace
 
 std::optional<std::vector<PatternLine>> patternLines(std::span<const Loop> loops,
-                                                     std::span<const PatternRow> rows, std::size_t most)
+                                                     std::span<const PatternRow> rows, std::size_t most,
+                                                     PatternWork& work)
 {
     std::vector<PatternLine> lines;
-    Budget budget;
+    Share share(work);
     for (const PatternRow& row : rows) {
-        if (!RowCutter(row, most, budget, lines).run(loops)) return std::nullopt;
+        if (!RowCutter(row, most, share.budget, lines).run(loops)) return std::nullopt;
     }
     return lines;
 }
 
-std::vector<int> depthsOf(std::span<const Loop> loops)
+std::vector<int> depthsOf(std::span<const Loop> loops, PatternWork& work)
 {
     std::vector<double> areas;
     std::size_t corners = 0;
@@ -197,7 +224,9 @@ std::vector<int> depthsOf(std::span<const Loop> loops)
     }
     std::vector<int> depths(loops.size(), 0);
     constexpr std::size_t mostCompared = 500; // of one hatch; more are not nested by anyone
-    if (loops.size() > mostCompared || loops.size() * corners > mostLooks) return depths;
+    const std::size_t looks = loops.size() * corners;
+    if (loops.size() > mostCompared || looks > std::min(mostLooks, work.left)) return depths;
+    work.left -= looks;
     for (std::size_t i = 0; i < loops.size(); ++i) {
         for (std::size_t j = 0; j < loops.size(); ++j) {
             if (areas[j] > areas[i] && liesIn(loops[i], loops[j])) ++depths[i];

@@ -27,12 +27,18 @@ struct PatternLine {
     Vec from, to;
 };
 
-// What lies in an odd number of loops. None if that would be more lines than most, or the rows of a pattern
-// lie on one another.
-std::optional<std::vector<PatternLine>> patternLines(std::span<const Loop> loops,
-                                                     std::span<const PatternRow> rows, std::size_t most);
+// How many edges and dashes may still be looked at for all hatches of a drawing.
+struct PatternWork {
+    std::size_t left = 16'000'000;
+};
 
-// In how many of the other loops a loop lies.
-std::vector<int> depthsOf(std::span<const Loop> loops);
+// What lies in an odd number of loops. None if that would be more lines than most or too much work, or the
+// rows of a pattern lie on one another.
+std::optional<std::vector<PatternLine>> patternLines(std::span<const Loop> loops,
+                                                     std::span<const PatternRow> rows, std::size_t most,
+                                                     PatternWork& work);
+
+// In how many of the other loops a loop lies; 0 for all where that would be too much work.
+std::vector<int> depthsOf(std::span<const Loop> loops, PatternWork& work);
 
 } // namespace mirtane

@@ -19,12 +19,12 @@ constexpr int outer = 1, ignored = 2;
 }
 
 // The paths that count: all, or those next to the outside, or the outside alone.
-std::vector<Loop> loopsThatCount(const std::vector<HatchPath>& paths, int style, double tolerance)
+std::vector<Loop> loopsThatCount(const std::vector<HatchPath>& paths, int style, DrawingMaker& maker)
 {
     std::vector<Loop> loops;
-    for (const HatchPath& path : paths) loops.push_back(loopOf(path, tolerance));
+    for (const HatchPath& path : paths) loops.push_back(loopOf(path, maker.tolerance()));
     if (style != islands::outer && style != islands::ignored) return loops;
-    const std::vector<int> depths = depthsOf(loops);
+    const std::vector<int> depths = depthsOf(loops, maker.patternWork());
     const int deepest = style == islands::outer ? 1 : 0;
     std::vector<Loop> counting;
     for (std::size_t i = 0; i < loops.size(); ++i) {
@@ -94,10 +94,10 @@ void takeHatch(const DxfRecord& record, DrawingMaker& maker)
     const std::vector<HatchPath> paths = takePaths(groups, plane, maker.tolerance());
     if (paths.empty()) return; // nothing of it was ever seen
     const int style = groups.find(75) ? groups.whole(75) : 0;
-    const std::vector<Loop> loops = loopsThatCount(paths, style, maker.tolerance());
+    const std::vector<Loop> loops = loopsThatCount(paths, style, maker);
     const std::vector<PatternRow> rows =
         isSolid ? std::vector{fillRow(loops, maker.tolerance())} : takeRows(groups, plane);
-    auto lines = patternLines(loops, rows, mostLines);
+    auto lines = patternLines(loops, rows, mostLines, maker.patternWork());
     const bool isOutlined = isSolid || rows.empty() || !lines;
     if (rows.empty()) maker.leftOut(record.type, "without its pattern, its outline alone");
     if (!lines) maker.leftOut(record.type, "too dense, its outline alone");

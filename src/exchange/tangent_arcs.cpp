@@ -12,8 +12,9 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 constexpr int samplesOfFormula = 6;
-constexpr int mostArcSteps = 1500; // two strokes each
-constexpr int mostHalvings = 24;   // of the whole range of the parameter
+constexpr std::size_t fewestSteps = 1500;  // that any curve may take, two strokes each
+constexpr std::size_t stepsOfFormula = 12; // that one of many formulas may take
+constexpr int mostHalvings = 24;           // of the whole range of the parameter
 constexpr int growthTries = 3;
 constexpr double margin = 0.9; // of the tolerance: between two points looked at the curve may be farther off
 
@@ -67,7 +68,8 @@ class Fitter {
   public:
     Fitter(const Curve& curve, double tolerance) : curve_(curve), tolerance_(tolerance) {}
 
-    bool run(); // false: too many strokes
+    // How much of the range came before there were too many strokes; 1: all.
+    double run();
     std::vector<Stroke> take() { return std::move(strokes_); }
 
   private:
@@ -76,6 +78,7 @@ class Fitter {
     bool isNear(double from, double to) const;
     void lengthen(double from, double& step, double tooFar);
     void add(const Stroke& stroke) { append(strokes_, stroke, tolerance_); }
+    double first() const { return curve_.breaks.front(); }
     double last() const { return curve_.breaks.back(); }
 
     const Curve& curve_;
@@ -145,12 +148,13 @@ void Fitter::lengthen(double from, double& step, double tooFar)
     fits(from, from + step);
 }
 
-bool Fitter::run()
+double Fitter::run()
 {
-    const double smallest = std::ldexp(last() - curve_.breaks.front(), -mostHalvings);
-    double from = curve_.breaks.front();
+    const double smallest = std::ldexp(last() - first(), -mostHalvings);
+    const std::size_t mostSteps = std::max(fewestSteps, stepsOfFormula * curve_.breaks.size());
+    double from = first();
     double step = last() - from;
-    int steps = 0;
+    std::size_t steps = 0;
     while (from < last()) {
         step = std::min(step, last() - from);
         double tooFar = step;
@@ -167,12 +171,12 @@ bool Fitter::run()
         }
         add(pair_.first);
         if (!isLine_) add(pair_.second);
-        if (++steps > mostArcSteps) return false;
+        if (++steps > mostSteps) return (from - first()) / (last() - first());
         const bool isEnd = from + step >= last() || from + step <= from;
         from = isEnd ? last() : from + step;
         step *= 2;
     }
-    return true;
+    return 1;
 }
 
 // The larger side of the box about some of its points.
@@ -191,17 +195,28 @@ double sizeOf(const Curve& curve)
     return std::max(high.x - low.x, high.y - low.y);
 }
 
+// By how much the tolerance has to grow for a curve of which so much was done: a pair of arcs strays from it
+// as the cube of its length.
+double coarserBy(double done)
+{
+    constexpr double least = 8, most = 1e6;
+    return std::clamp(1 / (done * done * done), least, most); // a range of which nothing was done takes most
+}
+
 } // namespace
 
 std::vector<Stroke> tangentArcs(const Curve& curve, double tolerance)
 {
     if (curve.breaks.size() < 2) return {};
-    constexpr double part = 1.0 / 4000;
-    if (const double size = sizeOf(curve); size > 0) tolerance = std::min(tolerance, part * size);
+    constexpr double coarsest = 1.0 / 4000, finest = 1.0 / 32'000'000; // of its size; finer than 32 bits tell
+    const double size = sizeOf(curve);
+    if (size > 0) tolerance = std::clamp(tolerance, finest * size, coarsest * size);
     constexpr int coarser = 8;
-    for (int i = 0; i < coarser; ++i, tolerance *= 8) {
+    for (int i = 0; i < coarser; ++i) {
         Fitter fitter(curve, tolerance);
-        if (fitter.run()) return fitter.take();
+        const double done = fitter.run();
+        if (done >= 1) return fitter.take();
+        tolerance *= coarserBy(done);
     }
     return {};
 }

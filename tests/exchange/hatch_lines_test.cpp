@@ -83,6 +83,14 @@ const SquareRow rows[] = {
     {"a corner on a line", {{{0, 0.5}, {4, 1}, {0, 1.5}}}, {0, 1}, {}, {{0, 1, 4, 1}}},
 };
 
+// With the work of a drawing of its own.
+std::optional<std::vector<PatternLine>> linesOf(std::span<const Loop> loops, std::span<const PatternRow> rows,
+                                                std::size_t most)
+{
+    PatternWork work;
+    return patternLines(loops, rows, most, work);
+}
+
 TEST(PatternLines, AreWhatLiesInAnOddNumberOfLoops)
 {
     for (const SquareRow& row : rows) {
@@ -94,7 +102,7 @@ TEST(PatternLines, AreWhatLiesInAnOddNumberOfLoops)
             }
             const PatternRow pattern{place.at, wayAt(place.angle), placed(row.offset, place.angle, {}),
                                      row.dashes};
-            const auto found = patternLines(loops, {{pattern}}, 100);
+            const auto found = linesOf(loops, {{pattern}}, 100);
             ASSERT_TRUE(found) << row.what;
             auto expected = row.lines;
             std::ranges::sort(expected, {}, [](const auto& r) { return std::pair{r[1], r[0]}; });
@@ -126,30 +134,47 @@ TEST(PatternLines, SoManyThatTheyCoverTheAreaAreNone)
         {{0, -3e18}, {1, 0}, {0, -40}, {}},
         {{none, 0}, {1, 0}, {0, 1}, {}},
     };
-    for (const PatternRow& row : dense) EXPECT_FALSE(patternLines(loops, {{row}}, 5000)) << row.offset.y;
+    for (const PatternRow& row : dense) EXPECT_FALSE(linesOf(loops, {{row}}, 5000)) << row.offset.y;
     // gaps and rows that leave no line are looked at all the same
     PatternRow gaps{{0, 0}, {1, 0}, {0, 1}, {0.002}};
     gaps.dashes.insert(gaps.dashes.end(), 100'000, -1e-9);
-    EXPECT_FALSE(patternLines(loops, {{gaps}}, 1'000'000));
-    EXPECT_FALSE(
-        patternLines(loops, std::vector<PatternRow>(1'100'000, {{0, -500}, {1, 0}, {0, 1000}, {}}), 5000));
-    EXPECT_FALSE(patternLines(loops, std::vector<PatternRow>(30, {{0, 0}, {1, 0}, {0, 0.5}, {}}), 5000));
-    EXPECT_TRUE(patternLines(loops, std::vector<PatternRow>(20, {{0, 0}, {1, 0}, {0, 0.5}, {}}), 5000));
+    EXPECT_FALSE(linesOf(loops, {{gaps}}, 1'000'000));
+    EXPECT_FALSE(linesOf(loops, std::vector<PatternRow>(510'000, {{0, -500}, {1, 0}, {0, 1000}, {}}), 5000));
+    EXPECT_FALSE(linesOf(loops, std::vector<PatternRow>(30, {{0, 0}, {1, 0}, {0, 0.5}, {}}), 5000));
+    EXPECT_TRUE(linesOf(loops, std::vector<PatternRow>(20, {{0, 0}, {1, 0}, {0, 0.5}, {}}), 5000));
 }
 
 TEST(PatternLines, NoLoopsNoLines)
 {
     const PatternRow row{{0, 0}, {1, 0}, {0, 1}, {}};
-    EXPECT_TRUE(patternLines({}, {{row}}, 10)->empty());
+    EXPECT_TRUE(linesOf({}, {{row}}, 10)->empty());
     const std::vector<Loop> loops{{}, {{1, 1}}, {{1, 1}, {5, 5}}};
-    EXPECT_TRUE(patternLines(loops, {{row}}, 10)->empty());
+    EXPECT_TRUE(linesOf(loops, {{row}}, 10)->empty());
+}
+
+// Hatches too dense to be drawn cost what they are looked at, so that no number of them takes long.
+TEST(PatternLines, AllHatchesOfADrawingShareItsWork)
+{
+    const std::vector<Loop> loops{box({0, 0}, {100, 100})};
+    PatternRow gaps{{0, 0}, {1, 0}, {0, 1}, {0.002}};
+    gaps.dashes.insert(gaps.dashes.end(), 100'000, -1e-9);
+    const PatternRow plain{{0, 0}, {1, 0}, {0, 1}, {}};
+    PatternWork work{.left = 5000};
+    EXPECT_TRUE(patternLines(loops, {{plain}}, 1000, work));
+    EXPECT_GT(work.left, 3000U); // a hundred lines have two crossings each
+    EXPECT_FALSE(patternLines(loops, {{gaps}}, 100'000, work));
+    EXPECT_EQ(work.left, 0U);
+    EXPECT_FALSE(patternLines(loops, {{plain}}, 1000, work));
 }
 
 TEST(LoopDepths, CountTheLoopsAround)
 {
+    PatternWork work;
     const std::vector<Loop> loops{box({0, 0}, {9, 9}), box({-5, -5}, {20, 20}), box({1, 1}, {4, 4}, 0.1),
                                   box({30, 0}, {40, 9}), box({0.5, 2}, {8, 3})};
-    EXPECT_EQ(depthsOf(loops), (std::vector<int>{1, 0, 2, 0, 2}));
+    EXPECT_EQ(depthsOf(loops, work), (std::vector<int>{1, 0, 2, 0, 2}));
+    PatternWork none{.left = 10};
+    EXPECT_EQ(depthsOf(loops, none), std::vector<int>(loops.size(), 0));
 }
 
 } // namespace

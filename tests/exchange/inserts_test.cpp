@@ -132,55 +132,112 @@ TEST(Inserts, OfBlocksInOtherFilesAreCounted)
     EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (its block is another file) left out");
 }
 
-// A thousand million of them, of nothing, and of something.
-TEST(Inserts, AnyNumberOfRowsAndColumnsComesToAnEnd)
+// Draws what a file has with little work, and gives what came of it.
+MadeDrawing drawnWithLittle(const std::string& sections)
+{
+    constexpr std::int64_t fewSteps = 10'000;
+    const DxfList list = dxfListOf(sections);
+    DrawingMaker maker(list, 0.001, handlerOf, fewSteps);
+    for (const DxfRecord& one : list.entities) maker.record(one);
+    return maker.finish();
+}
+
+std::string grid(const std::string& name)
+{
+    return entities(insert(name, {{70, "32767"}, {71, "32767"}, {44, "9"}, {45, "9"}}));
+}
+
+TEST(Inserts, ThousandMillionsOfThemComeToAnEnd)
+{
+    const FullReading r = readOf(section("BLOCKS", block("LINE", bar)) + grid("LINE"));
+    EXPECT_LE(r.drawing.objects.size(), 65535U);
+    EXPECT_FALSE(reportOf(r, {}).isWhole());
+}
+
+TEST(Inserts, OfNothingAndOfBlocksThatDoubleComeToAnEnd)
 {
     std::string blocks = block("NOTHING", "") + block("LINE", bar);
     std::string last = "LINE";
-    for (int i = 0; i < 40; ++i) {
+    for (int i = 0; i < 30; ++i) {
         const std::string next = "N" + std::to_string(i);
         blocks += block(next, insert(last, {}) + insert(last, {}));
         last = next;
     }
-    for (const std::string& name : {std::string("NOTHING"), std::string("LINE"), last}) {
-        const FullReading r =
-            readOf(section("BLOCKS", blocks) +
-                   entities(insert(name, {{70, "32767"}, {71, "32767"}, {44, "1"}, {45, "1"}})));
-        EXPECT_LE(r.drawing.objects.size(), 60000U);
-        EXPECT_FALSE(reportOf(r, {}).isWhole()) << name;
+    for (const std::string& name : {std::string("NOTHING"), last}) {
+        const MadeDrawing drawn = drawnWithLittle(section("BLOCKS", blocks) + grid(name));
+        EXPECT_LE(drawn.objects.size(), 10'000U) << name;
+        EXPECT_FALSE(drawn.leftOut.empty()) << name;
     }
 }
 
-// A short file can ask for a long one to be drawn any number of times: what is drawn is counted by what it
+// Sixty thousand objects are a real drawing, whatever their blocks hold.
+TEST(Inserts, OfSixtyThousandObjectsAreDrawnWhole)
+{
+    std::string content;
+    for (int i = 0; i < 50; ++i) {
+        content += bar + dxf({{0, "TEXT"}, {8, "0"}, {10, "0"}, {20, std::to_string(i)}, {40, "1"}}) +
+                   dxf({{1, "a room of twenty-two square metres"}});
+        content += dxf({{0, "LWPOLYLINE"}, {8, "0"}, {90, "4"}, {70, "1"}, {10, "0"}, {20, "0"}, {10, "9"}}) +
+                   dxf({{20, "0"}, {10, "9"}, {20, "9"}, {10, "0"}, {20, "9"}});
+    }
+    const FullReading r =
+        readOf(section("BLOCKS", block("INNER", content) + block("OUTER", insert("INNER", {{50, "30"}}))) +
+               entities(insert("OUTER", {{70, "20"}, {71, "10"}, {44, "99"}, {45, "99"}})));
+    EXPECT_EQ(r.drawing.objects.size(), 60000U);
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {60000, 0})), "");
+}
+
+std::string run(int count, std::string (*one)(int))
+{
+    std::string all;
+    for (int i = 0; i < count; ++i) all += one(i);
+    return all;
+}
+
+std::string numbered(int i)
+{
+    return std::to_string(i);
+}
+
+// A short file can ask for a long record to be drawn any number of times: what is drawn is counted by what it
 // costs.
 TEST(Inserts, OfLongRecordsComeToAnEnd)
 {
-    std::string vertices, words, corners;
-    for (int i = 0; i < 2000; ++i) {
-        vertices += dxf({{10, std::to_string(i)}, {20, std::to_string(i % 7)}});
-        corners += dxf({{10, std::to_string(i % 50)}, {20, std::to_string(i)}});
-    }
-    for (int i = 0; i < 400; ++i) words += dxf({{3, std::string(250, 'w')}});
-    const std::string records[] = {
-        dxf({{0, "LWPOLYLINE"}, {8, "0"}, {90, "2000"}, {70, "0"}}) + vertices,
-        dxf({{0, "MTEXT"}, {8, "0"}, {10, "0"}, {20, "0"}, {40, "1"}}) + words + dxf({{1, "end"}}),
-        dxf({{0, "HATCH"},
-             {8, "0"},
-             {70, "1"},
-             {71, "0"},
-             {91, "1"},
-             {92, "2"},
-             {72, "0"},
-             {73, "1"},
-             {93, "2000"}}) +
-            corners + dxf({{97, "0"}, {75, "0"}, {76, "1"}}),
+    const auto lightVertex = [](int i) { return dxf({{10, numbered(i)}, {20, numbered(i % 7)}}); };
+    const auto vertex = [](int i) { return dxf({{0, "VERTEX"}, {10, numbered(i)}, {20, numbered(i % 7)}}); };
+    const auto words = [](int) { return dxf({{3, std::string(250, 'w')}}); };
+    const auto corner = [](int i) { return dxf({{10, numbered(i % 50)}, {20, numbered(i)}}); };
+    const auto face = [](int) { return dxf({{0, "VERTEX"}, {70, "128"}, {71, "1"}, {72, "2"}, {73, "3"}}); };
+    const auto control = [](int i) { return dxf({{10, numbered(i)}, {20, numbered(i * 7919 % 101)}}); };
+    const auto gap = [](int) { return dxf({{49, "-.01"}}); };
+    const std::string polyline = dxf({{0, "POLYLINE"}, {8, "0"}, {66, "1"}});
+    const std::string hatch = dxf({{0, "HATCH"}, {8, "0"}, {91, "1"}, {92, "2"}, {72, "0"}, {73, "1"}});
+    struct Row {
+        const char* what;
+        std::string record;
     };
-    for (const std::string& record : records) {
-        const FullReading r =
-            readOf(section("BLOCKS", block("B", record)) +
-                   entities(insert("B", {{70, "1000"}, {71, "1000"}, {44, "9"}, {45, "9"}})));
-        EXPECT_LE(r.drawing.objects.size(), 60000U);
-        EXPECT_FALSE(reportOf(r, {}).isWhole()) << record.substr(0, 20);
+    const Row rows[] = {
+        {"polyline", dxf({{0, "LWPOLYLINE"}, {8, "0"}, {90, "2000"}}) + run(2000, lightVertex)},
+        {"polyline of records", polyline + run(2000, vertex) + dxf({{0, "SEQEND"}})},
+        {"body of faces", polyline + dxf({{70, "64"}}) +
+                              run(3,
+                                  [](int i) {
+                                      return dxf({{0, "VERTEX"}, {10, numbered(i)}, {20, "1"}, {70, "192"}});
+                                  }) +
+                              run(2000, face) + dxf({{0, "SEQEND"}})},
+        {"paragraph", dxf({{0, "MTEXT"}, {8, "0"}, {10, "0"}, {20, "0"}, {40, "1"}}) + run(400, words) +
+                          dxf({{1, "end"}})},
+        {"curve", dxf({{0, "SPLINE"}, {8, "0"}, {71, "3"}}) + run(500, control)},
+        {"ellipse far too large",
+         dxf({{0, "ELLIPSE"}, {8, "0"}, {11, "1e9"}, {21, "0"}, {40, "0.5"}, {41, "0"}, {42, "3"}})},
+        {"solid hatch", hatch + dxf({{93, "2000"}}) + run(2000, corner) + dxf({{97, "0"}, {70, "1"}})},
+        {"hatch of gaps", hatch + dxf({{93, "4"}}) + run(4, corner) + dxf({{97, "0"}, {78, "1"}, {53, "0"}}) +
+                              dxf({{43, "0"}, {44, "0"}, {45, "0"}, {46, ".2"}, {79, "9"}}) + run(9, gap)},
+    };
+    for (const Row& row : rows) {
+        const MadeDrawing drawn = drawnWithLittle(section("BLOCKS", block("B", row.record)) + grid("B"));
+        EXPECT_LE(drawn.objects.size(), 65535U) << row.what;
+        EXPECT_FALSE(drawn.leftOut.empty()) << row.what;
     }
 }
 

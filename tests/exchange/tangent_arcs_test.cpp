@@ -144,6 +144,39 @@ TEST(TangentArcs, NoMoreThanSomeThousandsOfStrokesAreMade)
     EXPECT_LE(strokes.size(), 3000U);
 }
 
+// A contour of a map has thousands of points, and each is where it is.
+TEST(TangentArcs, ACurveOfManyFormulasMayHaveAsManyStrokes)
+{
+    constexpr int formulas = 4000;
+    Curve curve = curveOf(
+        [](double t) {
+            return CurvePoint{{t, 3 * std::sin(2 * t)}, {1, 6 * std::cos(2 * t)}};
+        },
+        0, formulas);
+    curve.breaks.clear();
+    for (int i = 0; i <= formulas; ++i) curve.breaks.push_back(i);
+    const auto strokes = tangentArcs(curve, 0.05);
+    for (double t = 0.4; t < formulas; t += 97.3) {
+        double far = 1e9;
+        for (const Stroke& one : strokes) far = std::min(far, distanceTo(one, curve.at(t, Side::after).at));
+        EXPECT_LE(far, 0.05) << t;
+    }
+}
+
+// What 32 bits can't tell apart is not asked for.
+TEST(TangentArcs, HugeOnesAreAsExactAsADrawingCanBe)
+{
+    const Curve curve = curveOf(
+        [](double t) {
+            return CurvePoint{{1e9 * std::cos(t), 5e8 * std::sin(t)},
+                              {-1e9 * std::sin(t), 5e8 * std::cos(t)}};
+        },
+        0, 3);
+    const auto strokes = tangentArcs(curve, 0.001);
+    EXPECT_LE(strokes.size(), 1200U);
+    EXPECT_GE(strokes.size(), 100U);
+}
+
 TEST(BulgeStroke, IsTheArcOfAPolylinesSegment)
 {
     const double half = std::tan(pi / 8); // of a quarter turn
