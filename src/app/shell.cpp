@@ -47,6 +47,13 @@ bool canBeUsed(const Controls& controls, ControlId id)
     return isSeen(controls, id) && controls[id].enabled && !isBehindForm(controls, id);
 }
 
+// The form of the edits stands for the drawing: there is nothing on it to type into.
+bool drawingTakesKeys(const Session& s)
+{
+    const ControlId focus = s.controls.focus;
+    return (focus == ids::drawing || formOf(focus) == ids::editsForm) && !isTypingText(s);
+}
+
 // The pointer stays where it is on the screen, whatever moves beneath it.
 void movePointerWithView(Aiming& s, const Scale& before, const Scale& after)
 {
@@ -209,7 +216,7 @@ void Shell::choose(ControlId entry)
 void Shell::shortcut(const Shortcut& keys)
 {
     keyUp(0);
-    if (keys.onDrawing && !(s_.controls.focus == ids::drawing)) return;
+    if (keys.onDrawing && !drawingTakesKeys(s_)) return;
     if (keys.deed == Deed::press) return click(keys.control);
     eventOf(ids::drawing, [&](App& app) { doDeed(app, keys.deed); });
 }

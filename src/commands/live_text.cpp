@@ -7,6 +7,7 @@
 #include "commands/text_edit.h"
 #include "commands/typed_text.h"
 #include "render/redraw.h"
+#include "tables/functions.h"
 
 #include <algorithm>
 #include <limits>
@@ -76,6 +77,11 @@ void liveTextKey(Session& s, Canvas& pic1, char32_t code)
     }
     restorePicture(pic1);
     row->preview(s, pic1);
+}
+
+bool isTypingText(const Session& s)
+{
+    return rowOf(s) != nullptr && (s.textLength > 0 || functionRow(s.curFunc).editsText);
 }
 
 void repaintTextPreview(Session& s, Canvas& pic1)

@@ -12,6 +12,9 @@ namespace mirtane {
 // character nothing happens.
 void liveTextKey(Session& s, Canvas& pic1, char32_t code);
 
+// Whether there are letters on the drawing that are not yet a text, or a text is under edit.
+bool isTypingText(const Session& s);
+
 // Puts the preview back on a picture that was just redrawn. Nothing where no text is typed.
 void repaintTextPreview(Session& s, Canvas& pic1);
 

@@ -13,7 +13,8 @@ struct Shortcut {
     std::string_view keys; // as menus write them
     Deed deed = Deed::press;
     ControlId control = ids::mainForm; // of press
-    bool onDrawing = false; // only while the drawing has the keys: text boxes and lists have their own use
+    bool onDrawing =
+        false; // only while the drawing or its edits have the keys: text has its own use for them
 };
 
 inline constexpr Shortcut shortcuts[] = {

@@ -123,6 +123,61 @@ TEST(Shortcut, OfTheDrawingIsNoneInAFieldOrTheList)
     }
 }
 
+TEST(Shortcut, OfTheDrawingIsNoneWhileATextIsTypedThere)
+{
+    struct Row {
+        ControlId function;
+        bool wantsPlace;
+    };
+    for (const auto& [function, wantsPlace] : {Row{"Command15"_c, true}, {"Command14"_c, false}}) {
+        Desk desk;
+        desk.add(fake::line({-9000, -7000}, {12000, 8000}));
+        const float left = desk.pic1.getScale().left;
+        desk.press(function);
+        if (wantsPlace) desk.click(311, 702);
+        desk.type("Hall");
+        strike(desk, "Home");
+        EXPECT_EQ(desk.pic1.getScale().left, left) << function.row().tip;
+        desk.type("s");
+        EXPECT_EQ(desk.text("Text3"_c), "Halls");
+        for (int i = 0; i < 5; ++i) desk.backspace();
+        strike(desk, "Home");
+        EXPECT_LE(desk.pic1.getScale().left, -9000) << function.row().tip << " with nothing typed";
+    }
+    Desk desk;
+    desk.add(fake::line({-9000, -7000}, {12000, 8000}));
+    desk.add(fake::text({500, 500}, "w"));
+    desk.press("Command16"_c);
+    desk.click(505, 505);
+    desk.backspace();
+    strike(desk, "Home");
+    EXPECT_GT(desk.pic1.getScale().left, -9000) << "a text under edit that has lost its last letter";
+}
+
+// The form stands for the drawing, and has nothing on it that a key could be typed into.
+TEST(Shortcut, OfTheDrawingIsOneOnTheEditsFormToo)
+{
+    const auto edits = [](Desk& desk, ControlId button) {
+        desk.add(fake::circle({-9000, 300}, 411));
+        desk.drawLine(100, 200, 700, 533);
+        desk.press("Command17"_c);
+        desk.cancel(50, 50);
+        desk.shell.giveFocus(button);
+        ASSERT_EQ(desk.focused(), button.row().name);
+    };
+    for (const ControlId button : {"frmedit.Command3"_c, "frmedit.Command15"_c}) {
+        Desk desk;
+        edits(desk, button);
+        strike(desk, "Home");
+        EXPECT_LE(desk.pic1.getScale().left, -9000);
+        strike(desk, "Ctrl+A");
+        EXPECT_EQ(desk.stat(1), Stat::sel);
+        strike(desk, "Del");
+        EXPECT_EQ(desk.stat(1), Stat::out);
+        EXPECT_EQ(desk.stat(2), Stat::out);
+    }
+}
+
 TEST(Shortcut, DoesNotDeleteATextUnderEdit)
 {
     Desk desk;

@@ -8,15 +8,10 @@
 namespace mirtane {
 namespace {
 
-// Of two windows that stand by themselves the one that the user brings to the front stays there, until the
-// focus goes to the other.
-bool callsKeys(const QWidget& window, bool focusWent)
+bool anotherIsInFront(const QWidget& window)
 {
     const QWidget* const active = QApplication::activeWindow();
-    if (active == nullptr || active == &window)
-        return false; // no window of the program is in front, or that one
-    const bool areEqual = window.parentWidget() == nullptr && active->parentWidget() == nullptr;
-    return focusWent || !areEqual;
+    return active != nullptr && active != &window; // null: it is another program's
 }
 
 } // namespace
@@ -46,7 +41,8 @@ void ControlViews::moveFocus(ControlId id)
     if (widget == nullptr || !widget->isVisible() || !widget->isEnabled()) return;
     QWidget* window = widget->window();
     const bool went = std::exchange(focused_, id) != id;
-    if (callsKeys(*window, went)) window->activateWindow();
+    // The window that the user has brought to the front stays there until the focus goes to another.
+    if (went && anotherIsInFront(*window)) window->activateWindow();
     if (window->focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
 }
 

@@ -7,6 +7,7 @@
 #include "platform/qt/window/filter_form.h"
 #include "platform/qt/window/help_form.h"
 #include "platform/qt/window/print_form.h"
+#include "platform/qt/window/typed_keys.h"
 
 #include <QCloseEvent>
 #include <QScreen>
@@ -68,12 +69,14 @@ void FormWindow::show(const Control& now)
 {
     setWindowTitle(QString::fromStdString(now.caption));
     // One that stands alone keeps the place and the size that the user gave it.
-    if (now.visible && isHidden() && !(placed_ && standsAlone(form_))) moveOverMain();
+    const bool comesUp = now.visible && isHidden();
+    if (comesUp && !(placed_ && standsAlone(form_))) moveOverMain();
     // Whoever had the keys gives them back, also where no window manager sees to it.
     if (!now.visible && isActiveWindow()) main_.activateWindow();
     setVisible(now.visible);
     placed_ = placed_ || now.visible;
     if (now.visible && standsAlone(form_)) raise();
+    if (comesUp) activateWindow(); // for whoever closes it by a key, whatever the focus is on
 }
 
 void FormWindow::moveOverMain()
@@ -85,6 +88,15 @@ void FormWindow::moveOverMain()
     QRect wished = rect();
     wished.moveCenter(below.center());
     setGeometry(within(wished, frameOf(main_), main_.screen()->availableGeometry()));
+}
+
+// What no control on it takes is a key of the drawing, where the form is one of those that the shell lets.
+void FormWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (const Shortcut* const shortcut = shortcutOnDrawing(*event))
+        gate_.send([shortcut](Shell& shell) { shell.shortcut(*shortcut); });
+    else
+        QWidget::keyPressEvent(event);
 }
 
 // Whether the form goes is for the shell to say.

@@ -17,6 +17,7 @@ class FormWindow : public QWidget, public ControlView {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void moveOverMain();

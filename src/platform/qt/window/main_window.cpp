@@ -166,6 +166,7 @@ void MainWindow::takeShortcuts()
     for (const Shortcut& row : shortcuts) {
         if (row.deed == Deed::press || row.onDrawing) continue;
         auto& keys = childOf<QShortcut>(*this, keysOf(row));
+        keys.setContext(Qt::ApplicationShortcut);
         connect(&keys, &QShortcut::activated, this,
                 [this, &row] { gate_.send([&row](Shell& shell) { shell.shortcut(row); }); });
     }

@@ -108,6 +108,7 @@ void fillMenuBar(QMenuBar& bar, ControlId form, EventGate& gate, ControlViews& v
         } else {
             EntryView& entry = childOf<EntryView>(*holder, gate, id);
             entry.setShortcuts(shortcutsOf(id));
+            entry.setShortcutContext(Qt::ApplicationShortcut); // the forms beside the drawing have none
             holder->addAction(&entry);
             views.add(id, entry);
         }
