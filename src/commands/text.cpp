@@ -40,6 +40,13 @@ void takeLocation(ScratchPoints& s, Point at)
     s.ptA = at;
 }
 
+// From there on the band carries it along.
+void enterLocation(ScratchPoints& s, Point at)
+{
+    takeLocation(s, at);
+    s.ptB = at;
+}
+
 void commitTypedLine(Session& s, Canvas& pic1)
 {
     const Point entered = s.pickFirst;
@@ -53,14 +60,14 @@ void commitTypedLine(Session& s, Canvas& pic1)
     commitSlot(s);
     pic1.snapshot();
     setRubberBandPen(pic1);
-    takeLocation(s, nextLine(entered, s.textSize, s.textRotation));
+    enterLocation(s, nextLine(entered, s.textSize, s.textRotation));
 }
 
 } // namespace
 
 void placeTextStep(Session& s, Canvas& pic1)
 {
-    takeLocation(s, s.stepNo > 1 ? s.pickLast : s.pickFirst);
+    enterLocation(s, s.stepNo > 1 ? s.pickLast : s.pickFirst);
     if (s.stepNo > 2) s.stepNo = 1;
     setPrompt(s, pic1);
 }

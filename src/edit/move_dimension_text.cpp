@@ -92,4 +92,10 @@ void drawDimTextGhost(Session& s, Canvas& pic1)
     paintDimText(pic1, dimLettering(r));
 }
 
+std::optional<Leg> wayOfDimText(const Session& s)
+{
+    if (s.stepNo < 1 || !stillThere(s)) return std::nullopt;
+    return Leg{s.store.record(s.pickedIndex).p5, s.moveText};
+}
+
 } // namespace mirtane

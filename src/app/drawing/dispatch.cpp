@@ -65,6 +65,34 @@ std::optional<Leg> ofStretch(const Session& s)
     return s.stepNo == 3 ? fromFirst(s) : std::nullopt;
 }
 
+// How far the line stands from the second point.
+std::optional<Leg> ofDimensionLine(const Session& s)
+{
+    return s.stepNo == 2 ? fromFirst(s) : std::nullopt;
+}
+
+// From the round line on.
+std::optional<Leg> ofRadialDimension(const Session& s)
+{
+    return s.stepNo == 1 ? std::optional(Leg{s.ptC, s.pickLast}) : std::nullopt;
+}
+
+std::optional<Leg> ofAngularDimension(const Session& s)
+{
+    return s.stepNo >= 3 ? std::optional(Leg{s.ptA, s.pickLast}) : std::nullopt;
+}
+
+std::optional<Leg> ofTypedText(const Session& s)
+{
+    return s.stepNo == 2 && s.textLength > 0 ? std::optional(Leg{s.ptB, s.pickLast}) : std::nullopt;
+}
+
+// It hangs on the pointer from the start; the last point that was given is what it is measured from.
+std::optional<Leg> ofAssociate(const Session& s)
+{
+    return s.stepNo == 1 && s.associateName != noName ? fromFirst(s) : std::nullopt;
+}
+
 std::optional<Leg> ofConstructionLine(const Session& s)
 {
     return s.blankStep >= 1 ? std::optional(Leg{s.blankStart, s.blankEnd}) : std::nullopt;
@@ -92,17 +120,17 @@ constexpr DispatchRow rows[] = {
     {"Create Multiple Lines", createMultipleLinesStep, nullptr},
     {"Place Hatch", placeHatchStep, boundaryBand, fromFirst},
     {"Create Hatch", createHatchStep, nullptr},
-    {"Place Associate", placeAssociateStep, placeAssociateBand},
+    {"Place Associate", placeAssociateStep, placeAssociateBand, ofAssociate},
     {"Create Associate", createAssociateStep, nullptr},
     {"Measure Area", measureAreaStep, boundaryBand, fromFirst},
-    {"Place Text", placeTextStep, placeTextBand},
+    {"Place Text", placeTextStep, placeTextBand, ofTypedText},
     {"Text Edit", textEditStep, nullptr},
     {"Measure Distance", measureDistanceStep, lineBand, fromFirst},
-    {"Ortho Dimension", linearDimensionStep, linearDimensionBand},
-    {"Radial Dimension", radialDimensionStep, radialDimensionBand},
-    {"Angular Dimension", angularDimensionStep, angularDimensionBand},
+    {"Ortho Dimension", linearDimensionStep, linearDimensionBand, ofDimensionLine},
+    {"Radial Dimension", radialDimensionStep, radialDimensionBand, ofRadialDimension},
+    {"Angular Dimension", angularDimensionStep, angularDimensionBand, ofAngularDimension},
     {"Leader", leaderStep, leaderBand, ofLeader},
-    {"Move Dimension Text", editMoveDimText, drawDimTextGhost},
+    {"Move Dimension Text", editMoveDimText, drawDimTextGhost, wayOfDimText},
     {"Break", editBreak, nullptr},
     {"Trim", editTrim, nullptr},
     {"Fillet", editFillet, nullptr},
