@@ -221,9 +221,9 @@ void Shell::shortcut(const Shortcut& keys)
     eventOf(ids::drawing, [&](App& app) { doDeed(app, keys.deed); });
 }
 
-void Shell::dropFile(const std::string& path)
+void Shell::dropFile(const std::string& path, std::ptrdiff_t others)
 {
-    eventOf(ids::drawing, [&](App& app) { openDroppedFile(app, path); });
+    eventOf(ids::drawing, [&](App& app) { openDroppedFile(app, path, others); });
 }
 
 void Shell::click(ControlId id)

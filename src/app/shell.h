@@ -7,6 +7,7 @@
 #include "render/canvas.h"
 #include "tables/shortcuts.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace mirtane {
@@ -61,8 +62,9 @@ class Shell {
     // An entry of the menus, by the pointer or its keys: a key that was held for a snap was held for this.
     void choose(ControlId entry);
     void shortcut(const Shortcut& keys);
-    // A file dropped on the window, by its absolute path: opens as it would from the menus.
-    void dropFile(const std::string& path);
+    // A file dropped on the window, by its absolute path, with so many others: opens as it would from the
+    // menus. The others don't.
+    void dropFile(const std::string& path, std::ptrdiff_t others = 0);
     // The control got the focus; the one that had it gets its lost-focus event.
     void giveFocus(ControlId id);
     // The close button of a form's frame.

@@ -21,7 +21,8 @@ enum class Matter : std::uint8_t {
     openElsewhere, // the drawing, in another program of ours
     notRead,       // of a DXF file that was opened by the letter
     moved,         // a drawing from far away
-    noUnits        // in a DXF file
+    noUnits,       // in a DXF file
+    notTaken       // of several files that were dropped
 };
 
 enum class Offer : std::uint8_t {

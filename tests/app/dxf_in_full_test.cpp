@@ -71,6 +71,25 @@ TEST_F(DxfInFull, WhatTheLetterLeavesOutIsOffered)
     EXPECT_EQ(desk.s.savedCount, desk.s.store.entCount);
 }
 
+// By the letter nothing of it is read.
+TEST_F(DxfInFull, AFileThatIsDroppedIsReadSo)
+{
+    for (const auto& [name, x] : {std::pair("plan.dxf", 60.0F), {"bare.dxf", 60.0F}}) {
+        desk.shell.dropFile(std::string("/home/user/") + name);
+        EXPECT_EQ(objects(), 3) << name;
+        EXPECT_EQ(desk.slot(1).p1, (Point{x, -60})) << name;
+        EXPECT_EQ(desk.s.dxfName, name);
+    }
+    EXPECT_EQ(said(), "bare.dxf has no units: taken as inches.");
+    desk.drawLine(100, 100, 400, 100);
+    desk.shell.dropFile("/home/user/plan.dxf");
+    EXPECT_EQ(desk.caption("frmfile"_c), "Save Changes");
+    EXPECT_EQ(objects(), 4);
+    desk.press("frmfile.Command2"_c);
+    EXPECT_EQ(objects(), 3) << "after unsaved work was thrown away";
+    EXPECT_EQ(desk.s.dxfName, "plan.dxf");
+}
+
 TEST_F(DxfInFull, WhatWasDrawnMeanwhileIsNotLostToTheButton)
 {
     open("plan");

@@ -92,5 +92,44 @@ TEST(Pinch, ZoomsAboutThePointBetweenTheFingers)
     EXPECT_EQ(desk.pic1.getScale().width, 2400);
 }
 
+struct Drop : testing::Test {
+    Drop()
+    {
+        desk.drawLine(311, 402, 977, 1203);
+        desk.saveAs("house");
+        desk.press("fil5"_c);
+    }
+    void drop(const std::string& name, int others) { desk.shell.dropFile("/home/user/" + name, others); }
+    std::string said() { return desk.caption("notice"_c); }
+
+    Desk desk;
+};
+
+TEST_F(Drop, OfSeveralFilesSaysWhichIsTakenAndHowManyAreNot)
+{
+    drop("house.mtd", 0);
+    EXPECT_EQ(said(), "");
+    drop("house.mtd", 1);
+    EXPECT_EQ(said(), "Only house.mtd was taken: 1 other file that was dropped was not.");
+    drop("house.mtd", 14);
+    EXPECT_EQ(said(), "Only house.mtd was taken: 14 other files that were dropped were not.");
+    EXPECT_EQ(desk.s.store.entCount, 2);
+    desk.press("notice.Command1"_c);
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(desk.s.store.entCount, 2);
+}
+
+TEST_F(Drop, SaysItTooWhereUnsavedWorkIsAskedForFirst)
+{
+    desk.drawLine(100, 200, 700, 533);
+    drop("house.mtd", 2);
+    EXPECT_EQ(desk.caption("frmfile"_c), "Save Changes");
+    desk.press("frmfile.Command2"_c);
+    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(said(), "Only house.mtd was taken: 2 other files that were dropped were not.");
+    drop("house.mtd", 0);
+    EXPECT_EQ(said(), "") << "the next drop is another matter";
+}
+
 } // namespace
 } // namespace mirtane

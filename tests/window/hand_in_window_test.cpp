@@ -31,6 +31,22 @@ TEST(Drop, IsACopyWhateverWasProposed)
     }
 }
 
+// What is no file of this machine is none that could have been opened.
+TEST(Drop, OfSeveralFilesSaysHowManyAreNotTaken)
+{
+    WindowDesk desk;
+    desk.disk.files["/home/user/house.mta"] = {};
+    QMimeData files;
+    files.setUrls({QUrl(QStringLiteral("https://house.example/plan.dxf")),
+                   QUrl::fromLocalFile(QStringLiteral("/home/user/house.mta")),
+                   QUrl::fromLocalFile(QStringLiteral("/home/user/barn.mtd")),
+                   QUrl::fromLocalFile(QStringLiteral("/home/user/notes.txt"))});
+    QDropEvent drop({300, 300}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    static_cast<QObject&>(*desk.window).event(&drop); // as above
+    EXPECT_EQ(desk.controls()[ids::notice].caption,
+              "Only house.mta was taken: 3 other files that were dropped were not.");
+}
+
 struct MiddleDrag : testing::Test {
     void send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held)
     {

@@ -274,6 +274,16 @@ bool isDxf(const std::string& path)
     return pattern != nullptr && pattern->pattern == "*.dxf";
 }
 
+void tellNotTaken(Notices& notices, const std::string& taken, std::ptrdiff_t others)
+{
+    notices.settle(Matter::notTaken);
+    if (others == 0) return;
+    const std::string rest = others == 1
+                                 ? "1 other file that was dropped was not."
+                                 : std::to_string(others) + " other files that were dropped were not.";
+    notices.post({Matter::notTaken, "Only " + taken + " was taken: " + rest, {{"Close", Offer::goOn}}});
+}
+
 } // namespace
 
 void openDrawingAt(App& app, const std::string& path)
@@ -293,8 +303,9 @@ void openFileAt(App& app, const std::string& path)
     openIn(app, {pattern->open, "Open", pattern->pattern}, file);
 }
 
-void openDroppedFile(App& app, const std::string& path)
+void openDroppedFile(App& app, const std::string& path, std::ptrdiff_t others)
 {
+    tellNotTaken(app.s.notices, splitPath(path).name, others);
     const PatternRow* const pattern = patternOfFile(path);
     const bool replacesDrawing =
         pattern != nullptr && (pattern->pattern == "*.mtd" || pattern->pattern == "*.dxf");

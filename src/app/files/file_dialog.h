@@ -2,6 +2,8 @@
 
 #include "app/app.h"
 
+#include <cstddef>
+
 namespace mirtane {
 
 // The one dialog of all file work, frmfile. Its caption, buttons and pattern are what tells it what to do
@@ -31,7 +33,8 @@ void openDrawingAt(App& app, const std::string& path);
 void openFileAt(App& app, const std::string& path);
 
 // The same, once it is settled what becomes of unsaved work, where the file takes the place of the drawing.
-void openDroppedFile(App& app, const std::string& path);
+// Says it if so many others came with it.
+void openDroppedFile(App& app, const std::string& path, std::ptrdiff_t others);
 
 // "Save Changes": asks what to do with unsaved work before what followUp names.
 void offerToSave(App& app, std::int16_t followUp);

@@ -66,7 +66,7 @@ QWidget& statusLine(const ControlMaker& maker, QWidget& parent)
 }
 
 // The first file of those that are dragged; empty where there is none.
-std::string droppedFile(const QDropEvent& event)
+std::string firstFileOf(const QDropEvent& event)
 {
     for (const QUrl& url : event.mimeData()->urls()) {
         if (url.isLocalFile()) return QDir::cleanPath(url.toLocalFile()).toStdString();
@@ -174,16 +174,17 @@ void MainWindow::takeShortcuts()
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event).empty()) takeAsCopy(*event);
+    if (!firstFileOf(*event).empty()) takeAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const std::string file = droppedFile(*event);
+    const std::string file = firstFileOf(*event);
     if (file.empty()) return;
     takeAsCopy(*event);
     activateWindow();
-    gate_.send([&file](Shell& shell) { shell.dropFile(file); });
+    const qsizetype others = event->mimeData()->urls().size() - 1;
+    gate_.send([&](Shell& shell) { shell.dropFile(file, others); });
 }
 
 // Whoever draws without a pause is not to lose all of it.
