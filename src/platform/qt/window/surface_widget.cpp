@@ -4,7 +4,6 @@
 #include "platform/qt/window/snap_mark_painter.h"
 #include "platform/qt/window/typed_keys.h"
 
-#include <QGestureEvent>
 #include <QInputMethodEvent>
 #include <QPainter>
 #include <QPointingDevice>
@@ -72,7 +71,7 @@ SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QW
     setCursor(Qt::CrossCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(240, 180);
-    grabGesture(Qt::PinchGesture); // two fingers on a screen
+    setAttribute(Qt::WA_AcceptTouchEvents);
     surface_.setRefreshHook([this] { showPart(surface_.takeDirty()); });
     sizeAtRest_.setSingleShot(true);
     sizeAtRest_.setInterval(rest);
@@ -232,25 +231,52 @@ void SurfaceWidget::wheelEvent(QWheelEvent* event)
 
 bool SurfaceWidget::event(QEvent* event)
 {
-    if (event->type() == QEvent::Gesture) {
-        const auto* const gestures = static_cast<QGestureEvent*>(event); // told by its type
-        const QGesture* const fingers = gestures->gesture(Qt::PinchGesture);
-        if (fingers != nullptr) pinch(*static_cast<const QPinchGesture*>(fingers)); // the same
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        touch(*static_cast<QTouchEvent*>(event)); // told by its type, as the next
+        event->accept();                          // or the toolkit would make clicks of it
         return true;
-    }
-    if (event->type() == QEvent::NativeGesture) {
-        fingersOnPad(*static_cast<QNativeGestureEvent*>(event)); // told by its type
+    case QEvent::NativeGesture:
+        fingersOnPad(*static_cast<QNativeGestureEvent*>(event));
         return true;
+    default:
+        return QWidget::event(event);
     }
-    return QWidget::event(event);
 }
 
-void SurfaceWidget::pinch(const QPinchGesture& fingers)
+// On a screen. Which finger of two comes first does not matter: while there may be a second one the first
+// gives no point.
+void SurfaceWidget::touch(const QTouchEvent& event)
 {
-    const QPointF at = mapFromGlobal(fingers.centerPoint());
-    drag(mapFromGlobal(fingers.lastCenterPoint()), at);
-    const double factor = fingers.scaleFactor();
-    if (factor > 0 && factor != 1) gate_.send([&](Shell& shell) { shell.zoom(factor, worldAt(at)); });
+    const QList<QEventPoint>& points = event.points();
+    if (event.type() == QEvent::TouchBegin) isTap_ = true;
+    if (points.size() > 1 || event.type() == QEvent::TouchCancel) isTap_ = false;
+    const bool areTwo = points.size() == 2 && !event.touchPointStates().testFlag(QEventPoint::Released);
+    if (areTwo) return twoFingers({points[0].position(), points[1].position()});
+    fingers_.reset();
+    if (isTap_ && points.size() == 1) oneFinger(event);
+}
+
+// Carries the rubber band along, and is a click where it leaves.
+void SurfaceWidget::oneFinger(const QTouchEvent& event)
+{
+    const QPointF at = event.points()[0].position();
+    gate_.send([&](Shell& shell) { shell.mouseMove(worldAt(at)); });
+    if (event.type() != QEvent::TouchEnd) return;
+    isTap_ = false;
+    gate_.send([&](Shell& shell) { shell.mouseDown(numberOf(Qt::LeftButton), worldAt(at)); });
+}
+
+void SurfaceWidget::twoFingers(const QLineF& now)
+{
+    const QLineF before = std::exchange(fingers_, now).value_or(now);
+    drag(before.center(), now.center());
+    const double factor = now.length() / before.length();
+    if (!(factor > 0) || !std::isfinite(factor) || factor == 1) return;
+    gate_.send([&](Shell& shell) { shell.zoom(factor, worldAt(now.center())); });
 }
 
 void SurfaceWidget::fingersOnPad(const QNativeGestureEvent& fingers)

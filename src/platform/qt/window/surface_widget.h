@@ -5,9 +5,10 @@
 #include "platform/qt/window/control_view.h"
 #include "platform/qt/window/event_gate.h"
 
+#include <QLineF>
 #include <QNativeGestureEvent>
-#include <QPinchGesture>
 #include <QTimer>
+#include <QTouchEvent>
 
 #include <optional>
 
@@ -49,7 +50,9 @@ class SurfaceWidget : public QWidget, public ControlView {
     QPointF placeOf(Point world) const;
     QRect markRect() const;
     void drag(QPointF from, QPointF to);
-    void pinch(const QPinchGesture& fingers);
+    void touch(const QTouchEvent& event);
+    void oneFinger(const QTouchEvent& event);
+    void twoFingers(const QLineF& now);
     void fingersOnPad(const QNativeGestureEvent& fingers);
     void showPart(const PixelRect& pixels);
     void fitSurface();
@@ -59,7 +62,9 @@ class SurfaceWidget : public QWidget, public ControlView {
     Surface& surface_;
     QTimer sizeAtRest_;
     MiddleDrag middle_;
-    Point grabbed_; // the point of the drawing that the hand holds
+    Point grabbed_;                 // the point of the drawing that the hand holds
+    std::optional<QLineF> fingers_; // from one of two on the screen to the other
+    bool isTap_ = false;            // the one finger there has been alone
     std::optional<SnapMark> mark_;
     QString markedWhat_;
 };
