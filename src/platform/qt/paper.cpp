@@ -3,13 +3,32 @@
 #include <QFile>
 #include <QLocale>
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
+// Where letter is what lies in the printer; all others have A4.
+constexpr QLocale::Territory withLetter[] = {
+    QLocale::Belize,      QLocale::Canada,     QLocale::Chile,     QLocale::Colombia,     QLocale::CostaRica,
+    QLocale::ElSalvador,  QLocale::Guatemala,  QLocale::Mexico,    QLocale::Nicaragua,    QLocale::Panama,
+    QLocale::Philippines, QLocale::PuertoRico, QLocale::Venezuela, QLocale::UnitedStates,
+};
+
+// The locale of papers, which may be another than that of the words.
+QString localeOfPaper()
+{
+    for (const char* variable : {"LC_ALL", "LC_PAPER", "LANG"}) {
+        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
+    }
+    return {};
+}
+
 QPageSize paperOfCountry()
 {
-    const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageSize(american ? QPageSize::Letter : QPageSize::A4);
+    const QLocale::Territory country = QLocale(localeOfPaper()).territory();
+    const bool hasLetter = std::ranges::find(withLetter, country) != std::end(withLetter);
+    return QPageSize(hasLetter ? QPageSize::Letter : QPageSize::A4);
 }
 
 // The first line that is no remark.
