@@ -76,5 +76,37 @@ TEST(Fonts, ThatAreNotThereAreLookedForSoOftenAndNoMore)
     EXPECT_EQ(faceOf(installed.left(31)).families(), QStringList{installed.left(31)});
 }
 
+TEST(Fonts, OfAFaceThatIsNotThereItsTwinIsAskedForUnderEitherName)
+{
+    const QStringList withTwin{QStringLiteral("Garamond"), QStringLiteral("Junicode Two Beta"),
+                               QStringLiteral("Junicode")};
+    struct Row {
+        const char* name;
+        QSet<QString> installed;
+        QStringList asked;
+    };
+    const Row rows[] = {
+        {"Garamond", {}, withTwin},
+        {"Garamond", {QStringLiteral("DejaVu Sans"), QStringLiteral("Junicode")}, withTwin},
+        {"Garamond", {QStringLiteral("EB Garamond"), QStringLiteral("Junicode Two Beta")}, withTwin},
+        {"Garamond", {QStringLiteral("Garamond"), QStringLiteral("Junicode")}, {QStringLiteral("Garamond")}},
+        {"Times", {QStringLiteral("Junicode")}, {QStringLiteral("Times")}},
+        {"Junicode", {}, {QStringLiteral("Junicode")}},
+        {"", {}, {QString()}},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(familiesFor(QLatin1String(row.name), row.installed), row.asked) << row.name;
+}
+
+TEST(Fonts, OfThisMachineDecideWhatGaramondLooksLike)
+{
+    const QStringList families = QFontDatabase::families();
+    const QString garamond = QStringLiteral("Garamond");
+    const QFont face = faceOf(garamond);
+    EXPECT_EQ(face.families(), familiesFor(garamond, {families.begin(), families.end()}));
+    EXPECT_EQ(face.weight(), families.contains(garamond) ? QFont::Normal : QFont::Medium);
+    EXPECT_EQ(faceOf(QStringLiteral("Junicode")).weight(), QFont::Normal);
+}
+
 } // namespace
 } // namespace mirtane

@@ -39,6 +39,12 @@ QString drawnText(std::string_view utf8)
     return textOf(utf8.substr(0, longest * bytesOfALetter)).left(longest);
 }
 
+QStringList familiesFor(const QString& family, const QSet<QString>& installed)
+{
+    if (family != QLatin1String("Garamond") || installed.contains(family)) return {family};
+    return {family, QStringLiteral("Junicode Two Beta"), QStringLiteral("Junicode")};
+}
+
 QFont faceOf(const QString& name)
 {
     constexpr qsizetype longestName = 31;
@@ -46,11 +52,9 @@ QFont faceOf(const QString& name)
     QFont font;
     font.setHintingPreference(QFont::PreferNoHinting); // widths in proportion at every size
     if (!isLookedFor(family)) return font;
-    font.setFamilies({family});
-    if (family == QLatin1String("Garamond") && !installedFamilies().contains(family)) {
-        font.setFamilies({family, QStringLiteral("Junicode Two Beta"), QStringLiteral("Junicode")});
-        font.setWeight(QFont::Medium); // its strokes are finer
-    }
+    const QStringList families = familiesFor(family, installedFamilies());
+    font.setFamilies(families);
+    if (families.size() > 1) font.setWeight(QFont::Medium); // the strokes of what stands in are finer
     return font;
 }
 
