@@ -5,8 +5,10 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -17,14 +19,15 @@ namespace mirtane {
 namespace {
 
 // What is done in the dialog once it is up.
-bool chosen(PageChoice& choice, const std::function<void(QDialog&)>& act)
+bool chosen(PageChoice& choice, const std::function<void(QDialog&)>& act,
+            const QString& folderNow = QStringLiteral("/plans"))
 {
     QTimer::singleShot(0, [&act] {
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
         act(*dialog);
     });
-    return isChosen(choice, QStringLiteral("/plans"));
+    return isChosen(choice, folderNow);
 }
 
 TEST(PageDialog, ShowsWhatIsChosenNowAndAsksForNothingElse)
@@ -68,6 +71,40 @@ TEST(PageDialog, ThatIsCalledOffChangesNothing)
     }));
     EXPECT_EQ(choice.way, QPageLayout::Portrait);
     EXPECT_EQ(choice.folder, "/plots");
+}
+
+TEST(PageDialog, TakesAFolderAsItIsTyped)
+{
+    const QTemporaryDir folder;
+    const QDir plans(folder.path());
+    ASSERT_TRUE(plans.mkpath(QStringLiteral("2026/plots")));
+    struct Row {
+        QString typed;
+        QString taken;
+    };
+    const Row rows[] = {
+        {QStringLiteral("plots"), plans.filePath(QStringLiteral("2026/plots"))},
+        {QStringLiteral(" ./plots/ "), plans.filePath(QStringLiteral("2026/plots"))},
+        {QStringLiteral(".."), folder.path()},
+        {QStringLiteral("../2026//plots/.."), plans.filePath(QStringLiteral("2026"))},
+        {plans.filePath(QStringLiteral("2026/plots")), plans.filePath(QStringLiteral("2026/plots"))},
+        {QStringLiteral("~"), QDir::homePath()},
+        {QStringLiteral("~/"), QDir::homePath()},
+        {QStringLiteral("/"), QStringLiteral("/")},
+        {QStringLiteral("no such place"), QStringLiteral("/plots")},
+        {QStringLiteral("~nobody"), QStringLiteral("/plots")},
+        {QStringLiteral("  "), {}},
+        {{}, {}},
+    };
+    for (const Row& row : rows) {
+        PageChoice choice{QPageSize(QPageSize::A4), QPageLayout::Portrait, "/plots"};
+        const auto type = [&](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("folder"))->setText(row.typed);
+            dialog.accept();
+        };
+        EXPECT_TRUE(chosen(choice, type, plans.filePath(QStringLiteral("2026"))));
+        EXPECT_EQ(choice.folder, row.taken.toStdString()) << row.typed.toStdString();
+    }
 }
 
 } // namespace

@@ -12,6 +12,8 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include <utility>
+
 namespace mirtane {
 namespace {
 
@@ -52,7 +54,10 @@ struct DefaultPrinter {
 
 class PaperPrinter : private DefaultPrinter, public PagePainter {
   public:
-    PaperPrinter() : PagePainter(widthOf(*device), heightOf(*device)) {}
+    explicit PaperPrinter(PrinterSetup isSetUp)
+        : PagePainter(widthOf(*device), heightOf(*device)), isSetUp_(std::move(isSetUp))
+    {
+    }
 
     // The dialog offers a file, too: its folder is taken, and a name in it that no other page has.
     bool printsToFile() const override { return device->outputFormat() == QPrinter::PdfFormat; }
@@ -64,7 +69,7 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     }
     std::string setup(const PageName&) override
     {
-        if (!isSetUp(*device)) return leftAsItWas;
+        if (!isSetUp_(*device)) return leftAsItWas;
         const QPageLayout layout = device->pageLayout();
         return (printsToFile() ? "PDF files go to " + folder() : name()) + ", " +
                sheetOf({layout.pageSize(), layout.orientation(), {}});
@@ -86,6 +91,7 @@ class PaperPrinter : private DefaultPrinter, public PagePainter {
     }
 
   private:
+    PrinterSetup isSetUp_;
     std::optional<WaitPointer> wait_;
 };
 
@@ -116,7 +122,12 @@ std::unique_ptr<Printer> systemPrinter(SettingsStore& settings)
 {
     if (QPrinterInfo::defaultPrinter().isNull())
         return std::make_unique<FilePrinter>(pageChoiceIn(settings), settings);
-    return std::make_unique<PaperPrinter>();
+    return paperPrinter(isSetUp);
+}
+
+std::unique_ptr<Printer> paperPrinter(PrinterSetup isSetUp)
+{
+    return std::make_unique<PaperPrinter>(std::move(isSetUp));
 }
 
 } // namespace mirtane
