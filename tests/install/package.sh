@@ -36,6 +36,9 @@ for program in mirtane mirtane-play mirtane-convert; do
     for mark in 'Type: *DYN' BIND_NOW GNU_RELRO; do
         grep -qE "$mark" <<<"$told" || fail "$program: no $mark"
     done
+    # The sanitizers watch for the rest by themselves; of that hardened.sh asks.
+    symbols=$(nm -D "$OUT_DIR/root/usr/bin/$program")
+    grep -qE '__asan_init|__[a-z_]+_chk' <<<"$symbols" || fail "$program: nothing is checked"
 done
 
 # What Debian itself would say; of a build that watches itself it says more, which is no error.
