@@ -7,6 +7,7 @@
 #include "kinds_bench.h"
 #include "measures.h"
 #include "plan_bench.h"
+#include "preview_bench.h"
 #include "print_bench.h"
 #include "snap_bench.h"
 #include "table.h"
@@ -53,15 +54,16 @@ int main(int argc, char* argv[])
     registerTextMeasures();
     registerPlanMeasures();
     registerPrintMeasures();
+    registerPreviewMeasures();
     const auto hatches = std::make_unique<HatchBench>();
     registerHatchMeasures(*hatches);
     Collector collector;
     std::cout << "60,000 lines on 1600 x 1000 pixels; medians. This takes a quarter of a minute or more.\n"
               << std::flush;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    for (const auto rows :
-         {comparisons(), kindComparisons(), snapComparisons(), editComparisons(), dxfComparisons(),
-          textComparisons(), planComparisons(), hatchComparisons(), printComparisons()}) {
+    for (const auto rows : {comparisons(), kindComparisons(), snapComparisons(), editComparisons(),
+                            dxfComparisons(), textComparisons(), planComparisons(), hatchComparisons(),
+                            printComparisons(), previewComparisons()}) {
         collector.print(std::cout, rows);
     }
     return 0;

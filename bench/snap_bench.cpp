@@ -165,7 +165,10 @@ constexpr const char* pickNames[] = {"pick, lines", "pick, all kinds"};
 constexpr const char* windowNames[] = {"window, lines", "window, all kinds"};
 constexpr const char* filteredNames[] = {"window filtered, lines", "window filtered, all kinds"};
 
+constexpr const SnapRow& intersectionRow = snapRows[2];
+
 constexpr double aim = 5;
+constexpr double markWithin = 2; // milliseconds of each move
 
 } // namespace
 
@@ -199,7 +202,9 @@ std::span<const Comparison> snapComparisons()
         std::vector<Comparison> all;
         for (const Drawing d : {lines, allKinds}) {
             for (const SnapRow& row : snapRows) all.push_back({row.names[d], passNames[d], aim});
-            for (const auto& names : {markNames, pickNames, windowNames, filteredNames})
+            // The mark is that search, and what it changed put back.
+            all.push_back({markNames[d], intersectionRow.names[d], 2, markWithin});
+            for (const auto& names : {pickNames, windowNames, filteredNames})
                 all.push_back({names[d], passNames[d], aim});
         }
         return all;
