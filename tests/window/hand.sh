@@ -88,3 +88,25 @@ xdotool key ctrl+z
 until_true pixels_are 265 128 201 1 201
 xdotool key Home
 until_true pixels_over $drawing 400
+
+# A form keeps the keys wherever the pointer is; one that has to be answered takes them from it, and lets go of them.
+press 138 238
+press 600 600 3
+until_true window_called Edits
+point 300 520
+point 330 540
+xdotool key Escape
+until_true no_window_called Edits
+press 600 600 3
+until_true window_called Edits
+xdotool key ctrl+s
+until_true window_called "Save File"
+xdotool key Escape
+until_true no_window_called "Save File"
+press 138 238
+press 600 600 3
+until_true window_called Edits
+xdotool key Delete
+until_true no_window_called Edits
+point 600 650
+until_true pixels_are $drawing 0

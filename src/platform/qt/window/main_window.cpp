@@ -222,6 +222,16 @@ void MainWindow::paintEvent(QPaintEvent* event)
     QTimer::singleShot(0, this, [this, path = std::exchange(toOpen_, {})] { begin(path); });
 }
 
+// With nobody to see to it, or with one who does as he is told, the toolkit hands the keys to the window
+// below a form that has to be answered, when such a form comes up over another.
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    QWidget* const form = QApplication::activeModalWidget();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && form != nullptr)
+        form->activateWindow();
+}
+
 void MainWindow::begin(const std::string& path)
 {
     fitScreen();
