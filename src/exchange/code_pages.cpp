@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::string_view firstInUtf8 = "AC1021";
 constexpr int windowsWestern = 1252;
+constexpr int japanese = 932;
 
 // The digits of a name in one number: "ANSI_1250" is 1250, "ISO8859_2" 88592.
 int numberIn(std::string_view name)
@@ -31,8 +32,14 @@ int numberIn(std::string_view name)
 
 bool isDoubleByte(int number)
 {
-    constexpr int pages[] = {932, 936, 949, 950, 1361, 5601, 2312, 5};
+    constexpr int pages[] = {japanese, 936, 949, 950, 1361, 5601, 2312, 5};
     return std::ranges::find(pages, number) != std::end(pages);
+}
+
+// Letters of half the width that Japanese files have beside those of two bytes.
+bool isHalfWidth(unsigned char byte)
+{
+    return byte >= 0xA1 && byte <= 0xDF;
 }
 
 const char16_t* upperHalfOf(int number)
@@ -120,13 +127,21 @@ std::string withLikeSigns(std::string text)
     return text;
 }
 
+// Programs that say so write other letters all the same.
+bool isAscii(std::string_view codePage)
+{
+    return codePage == "ascii" || codePage == "ASCII";
+}
+
 } // namespace
 
 TextCoding::TextCoding(std::string_view codePage, std::string_view release)
-    : isUtf8_(release >= firstInUtf8 && release.starts_with("AC")), isGuess_(codePage.empty())
+    : isUtf8_(release >= firstInUtf8 && release.starts_with("AC")),
+      isGuess_(codePage.empty() || isAscii(codePage))
 {
     const int number = numberIn(codePage);
     const bool isMac = codePage.starts_with("mac") || codePage.starts_with("MAC");
+    isJapanese_ = number == japanese;
     isDouble_ = isDoubleByte(number) || codePage == "johab" || codePage == "JOHAB";
     upperHalf_ = isDouble_ ? nullptr : upperHalfOf(isMac ? 10000 : number);
 }
@@ -134,19 +149,24 @@ TextCoding::TextCoding(std::string_view codePage, std::string_view release)
 void TextCoding::append(std::string& out, std::string_view bytes) const
 {
     static const char16_t* const western = upperHalfOf(windowsWestern);
-    const char16_t* const page = upperHalf_ != nullptr ? upperHalf_ : western;
+    const char16_t* const page = isGuess_ ? western : upperHalf_;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const auto byte = static_cast<unsigned char>(bytes[i]); // char may be signed
         if (byte < 0x80) {
             out += bytes[i];
         } else if (isDouble_) {
             out += '?';
-            ++i; // its second byte may look like any other
+            if (!isJapanese_ || !isHalfWidth(byte)) ++i; // its second byte may look like any other
         } else {
-            const char16_t code = page[byte - 0x80];
+            const char16_t code = page == nullptr ? u'\0' : page[byte - 0x80];
             out += code == 0 ? "?" : encodeUtf8(code);
         }
     }
+}
+
+bool TextCoding::losesLettersOf(std::string_view bytes) const
+{
+    return std::ranges::count(utf8(bytes), '?') > std::ranges::count(bytes, '?');
 }
 
 std::string TextCoding::utf8(std::string_view bytes) const

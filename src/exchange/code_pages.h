@@ -15,6 +15,8 @@ class TextCoding {
     // A character that can't be had becomes "?". Diameter signs and the like become those that our drawings
     // can keep.
     std::string utf8(std::string_view bytes) const;
+    // Whether it has characters that can't be had.
+    bool losesLettersOf(std::string_view bytes) const;
 
   private:
     void append(std::string& out, std::string_view bytes) const;
@@ -24,6 +26,7 @@ class TextCoding {
     bool isUtf8_ = false;
     bool isGuess_ = true; // no code page is named, so that what is well-formed UTF-8 is taken as such
     bool isDouble_ = false;
+    bool isJapanese_ = false; // of two bytes, with letters of one among them
 };
 
 } // namespace mirtane

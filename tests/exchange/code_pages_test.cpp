@@ -26,11 +26,28 @@ TEST(TextCoding, BytesAreThoseOfTheFilesCodePage)
         {"DOS437", "AC1009", "\xF8 \xF1", "° ±"},
         {"ISO8859_2", "AC1009", "\xB1", "ą"},
         {"mac-roman", "AC1009", "\x8A", "ä"},
-        {"unheard of", "AC1009", "\xE9", "é"},
+        {"unheard of", "AC1009", "a\xE9", "a?"}, // a question mark, and not a wrong letter
+        {"ANSI_9999", "AC1027", "\xE9t", "?t"},
+        {"ascii", "AC1009", "\xE9", "é"},
+        {"dos861", "AC1009", "\x8D\x95", "Þþ"},
+        {"dos869", "AC1009", "\xF0", "\u00AD"},
+        {"dos864", "AC1009", "\xB0", "٠"},
+        {"ISO8859_3", "AC1009", "\xA1\xB1", "Ħħ"},
+        {"ISO8859_4", "AC1009", "\xA5\xB5", "Ĩĩ"},
+        {"ISO8859_6", "AC1009", "\xC7", "ا"},
+        {"ISO8859_8", "AC1009", "\xE0\xA1", "א?"},
         {"ANSI_932", "AC1015",
          "a\x83\x5C"
          "b",
          "a?b"}, // whose second byte is a backslash in any other page
+        {"ANSI_932", "AC1015",
+         "\xB1\xDF"
+         "9",
+         "??9"}, // letters of one byte
+        {"ANSI_936", "AC1015",
+         "\xB1\xDF"
+         "9",
+         "?9"},
         {"ANSI_1252", "AC1021",
          "Gr\xC3\xB6\xC3\x9F"
          "e",
