@@ -66,27 +66,26 @@ bool isSamePlace(const EntityRecord& a, const EntityRecord& b)
 // Objects in the order of their leftmost coordinate, so that those at a place are found quickly.
 class Places {
   public:
-    explicit Places(const EntityStore& store)
+    explicit Places(std::vector<EntityRecord> records) : records_(std::move(records))
     {
-        for (std::int32_t i = 1; i < store.end(); ++i) {
-            const std::size_t at = EntityStore::at(i);
-            if (!store.isShown(i) || !isDrawnKind(store.kind[at])) continue;
-            if (store.kind[at] == Kind::text)
-                words_.insert(store.t1[at]);
+        for (std::size_t i = 0; i < records_.size(); ++i) {
+            const EntityRecord& r = records_[i];
+            if (r.kind == Kind::text)
+                words_.insert(r.t1);
             else
-                places_.emplace(leftOf(store.record(i)), i);
+                places_.emplace(leftOf(r), i);
         }
     }
 
-    bool holds(const EntityRecord& r, const EntityStore& store) const
+    bool holds(const EntityRecord& r) const
     {
         if (r.kind == Kind::text) return words_.contains(r.t1);
         const float left = leftOf(r);
         const float room = 0.05F + 2e-5F * std::abs(left);
         const auto end = places_.upper_bound(left + room);
         return std::any_of(places_.lower_bound(left - room), end, [&](const auto& place) {
-            const std::size_t at = EntityStore::at(place.second);
-            return store.kind[at] == r.kind && isSamePlace(r, store.record(place.second));
+            const EntityRecord& other = records_[place.second];
+            return other.kind == r.kind && isSamePlace(r, other);
         });
     }
 
@@ -96,25 +95,50 @@ class Places {
         return r.kind == Kind::line ? std::min(r.p1.x, r.p2.x) : r.p1.x;
     }
 
-    std::multimap<float, std::int32_t> places_;
+    std::vector<EntityRecord> records_;
+    std::multimap<float, std::size_t> places_;
     std::set<std::string> words_;
 };
+
+// What the reader by the letter makes of a file's units.
+constexpr Placing asByTheLetter;
+
+std::vector<EntityRecord> shownIn(const EntityStore& store)
+{
+    std::vector<EntityRecord> records;
+    for (std::int32_t i = 1; i < store.end(); ++i) {
+        if (store.isShown(i) && isDrawnKind(store.kind[EntityStore::at(i)]))
+            records.push_back(store.record(i));
+    }
+    return records;
+}
+
+std::string sentenceOfOthers(std::int64_t count)
+{
+    return withThousands(count) + (count == 1 ? " object that was read is" : " objects that were read are") +
+           " not what this file shows.";
+}
 
 } // namespace
 
 bool NotRead::isNothing() const
 {
-    return std::ranges::all_of(counts, [](std::int64_t count) { return count == 0; });
+    return others == 0 && std::ranges::all_of(counts, [](std::int64_t count) { return count == 0; });
 }
 
 NotRead notRead(const FullReading& reading, const EntityStore& store)
 {
-    const Places places(store);
-    const Placing asByTheLetter;
+    const std::vector<EntityRecord> now = shownIn(store);
+    std::vector<EntityRecord> full;
+    for (const Made& one : reading.drawing.objects) full.push_back(recordOf(one, asByTheLetter));
+    const Places placesNow(now);
     NotRead missing;
-    for (const Made& one : reading.drawing.objects) {
-        if (!places.holds(recordOf(one, asByTheLetter), store)) ++missing.counts[sortOf(one.kind)];
+    for (const EntityRecord& one : full) {
+        if (!placesNow.holds(one)) ++missing.counts[sortOf(one.kind)];
     }
+    const Places placesInFull(std::move(full));
+    missing.others =
+        std::ranges::count_if(now, [&](const EntityRecord& r) { return !placesInFull.holds(r); });
     return missing;
 }
 
@@ -129,6 +153,7 @@ std::string sentenceOf(const NotRead& missing)
         list += (list.empty() ? "" : ", ") + withThousands(count) + " " +
                 std::string(count == 1 ? sortNames[i].one : sortNames[i].many);
     }
+    if (all == 0) return sentenceOfOthers(missing.others);
     return "This file holds " + list + (all == 1 ? " that was not read." : " that were not read.");
 }
 

@@ -10,9 +10,10 @@
 namespace mirtane {
 
 // How many objects of each sort that a user tells apart are not in the drawing, in the order in which they
-// are named.
+// are named; and how many are in it that the reading does not have.
 struct NotRead {
     std::array<std::int64_t, 8> counts{};
+    std::int64_t others = 0;
 
     bool isNothing() const;
 };
@@ -21,7 +22,8 @@ struct NotRead {
 // are there. Pens, layers and units do not count. Hidden objects of the reading do.
 NotRead notRead(const FullReading& reading, const EntityStore& store);
 
-// "This file holds 14 circles, 1 arc that were not read."
+// "This file holds 14 circles, 1 arc that were not read."; where none is missing, "3 objects that were read
+// are not what this file shows."
 std::string sentenceOf(const NotRead& missing);
 
 } // namespace mirtane

@@ -49,6 +49,33 @@ TEST(NotRead, CountsWhatDoesNotStandInItsPlace)
     EXPECT_FALSE(missing.isNothing());
 }
 
+TEST(NotRead, CountsWhatTheFileDoesNotShow)
+{
+    const FullReading r = readOf(entities(dxf({{0, "CIRCLE"}, {10, "4"}, {20, "5"}, {40, "1"}})));
+    struct Row {
+        std::vector<EntityRecord> store;
+        const char* sentence;
+    };
+    const Row rows[] = {
+        {{fake::circle({48, -60}, 12)}, ""},
+        {{fake::circle({48, -60}, 12), fake::line({0, 0}, {1, 1})},
+         "1 object that was read is not what this file shows."},
+        {{fake::text({1, 2}, "of a block"), fake::circle({48, -60}, 12), fake::circle({7, -60}, 12)},
+         "2 objects that were read are not what this file shows."},
+        {{fake::line({0, 0}, {1, 1})}, "This file holds 1 circle that was not read."},
+    };
+    for (const Row& row : rows) {
+        const auto session = std::make_unique<Session>();
+        EntityStore& store = session->store;
+        for (const EntityRecord& one : row.store) {
+            store.setStat(store.entCount, Stat::on);
+            store.setRecord(store.entCount++, one);
+        }
+        const NotRead missing = notRead(r, store);
+        EXPECT_EQ(missing.isNothing() ? "" : sentenceOf(missing), row.sentence);
+    }
+}
+
 TEST(NotRead, SentenceOfOneOfManyAndOfThousands)
 {
     EXPECT_EQ(sentenceOf({{14, 35, 0, 0, 9}}),
