@@ -2,6 +2,7 @@
 
 #include "exchange/own_data.h"
 
+#include "exchange/faces.h"
 #include "exchange/own_data_codes.h"
 #include "exchange/words_out.h"
 #include "geometry/fault.h"
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <numbers>
 
 namespace mirtane {
 namespace {
@@ -128,10 +130,48 @@ bool showsWords(const DxfRecord& record, const std::string& written, const DxfLi
     return list.text(shown) == list.text(written);
 }
 
+bool isSeenFromAbove(const DxfRecord& record)
+{
+    const Vec3 normal = record.point(210, {0, 0, 1});
+    return normal.x == 0 && normal.y == 0 && normal.z > 0;
+}
+
+bool hasFace(const DxfRecord& record, const Made& made, const DxfList& list)
+{
+    const auto style = list.styles.find(record.name(7));
+    return style != list.styles.end() && isSameName(faceOfStyle(list, style->second), made.text.face);
+}
+
+int sideOf(std::int16_t justification)
+{
+    constexpr int sides[] = {0, 2, 1}; // left, right, centre
+    return justification >= 0 && justification <= 2 ? sides[justification] : 0;
+}
+
+// What others can change of an object besides the numbers that were kept: how it is justified, mirrored and
+// seen, and its face.
+bool isFormed(const DxfRecord& record, const Made& made, const DxfList& list)
+{
+    constexpr double little = 1e-6;
+    if (!isSeenFromAbove(record)) return false;
+    switch (made.kind) {
+    case Kind::text:
+        return record.whole(71) == 0 && record.whole(73) == 0 && record.number(41, 1) == 1 &&
+               record.whole(72) == sideOf(made.text.justification) && hasFace(record, made, list);
+    case Kind::ellipse:
+        return record.number(41) == 0 && std::abs(record.number(42, wholeTurn) - wholeTurn) < little;
+    case Kind::leader:
+        return record.whole(71, 1) == 1 && record.whole(72) == 0;
+    default:
+        return true;
+    }
+}
+
 bool isPart(const DxfRecord& record, const Made& leader, const DxfList& list)
 {
     DataReader in(record, list);
-    return in.good() && unchangedKind(in, record) == partOfAnother &&
+    return in.good() && unchangedKind(in, record) == partOfAnother && isSeenFromAbove(record) &&
+           record.whole(71, 1) == 1 && hasFace(record, leader, list) &&
            showsWords(record, dxfParagraph(leader.text.words), list);
 }
 
@@ -157,6 +197,7 @@ std::optional<OwnObject> ownObject(std::span<const DxfRecord> records, const Dxf
     std::int16_t number = 0;
     keep(number, *kind);
     made.kind = static_cast<Kind>(number); // any number is a kind, though none that is drawn
+    if (!isFormed(record, made, list)) return std::nullopt;
     if (made.kind == Kind::ellipse) return OwnObject{made};
     if (made.kind == Kind::leader && !isAnnotated(made)) return OwnObject{made};
     if (made.kind == Kind::leader) {

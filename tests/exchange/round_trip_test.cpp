@@ -202,5 +202,30 @@ TEST(RoundTrip, WhatWasChangedMeanwhileIsReadAsItStands)
     EXPECT_EQ(drawnObjects(readBack(bytes)).front().p1.x, 120);
 }
 
+// What is not a number of its place can be changed as well.
+TEST(RoundTrip, AnotherFaceSideOrPlaneIsReadAsItStands)
+{
+    const std::string bytes = Drawing{fake::text({120, 240}, "Hall", 48)}.written().bytes;
+    const auto with = [&bytes](const std::string& more) {
+        std::string changed = bytes;
+        const std::string mark = "  1\r\nHall\r\n";
+        changed.insert(changed.find(mark) + mark.size(), more);
+        return drawnObjects(readBack(changed)).front();
+    };
+    const EntityRecord was = drawnObjects(readBack(bytes)).front();
+    ASSERT_EQ(was.p2.x, 48);
+    EXPECT_LT(with(" 71\r\n2\r\n").p1.x, was.p1.x);                            // backward
+    EXPECT_EQ(with(" 72\r\n2\r\n 11\r\n30.0\r\n 21\r\n-20.0\r\n").p1.x, 360);  // by its end
+    EXPECT_LT(with("210\r\n0.0\r\n220\r\n0.0\r\n230\r\n-1.0\r\n").p1.x, -100); // seen from below
+    EXPECT_NE(with("  7\r\nSTANDARD\r\n").t2, "");
+    std::string otherFace = bytes;
+    const std::string style = " 50\r\n0.0\r\n  7\r\n";
+    const std::size_t at = otherFace.find(style);
+    ASSERT_NE(at, std::string::npos);
+    otherFace.insert(at + style.size(), "Standard");
+    EXPECT_EQ(drawnObjects(readBack(otherFace)).front().p2.x,
+              32); // of its own size again: as high as capitals
+}
+
 } // namespace
 } // namespace mirtane
