@@ -1,5 +1,6 @@
 #include "exchange/looks.h"
 
+#include "exchange/folded_name.h"
 #include "exchange/own_data.h"
 #include "tables/pens.h"
 
@@ -52,7 +53,7 @@ void Looks::addRow(const DxfRecord& layer)
 // Those for which there is no room go with the last one.
 void Looks::addRow(std::string_view name, Row row)
 {
-    if (!rowNumbers_.emplace(name, rows_.size()).second) return;
+    if (!rowNumbers_.emplace(keyOf(name), rows_.size()).second) return;
     row.number = static_cast<std::int16_t>(std::min(rows_.size(), mostLayers - 1)); // below 1,000
     if (rows_.size() < mostLayers) made_.push_back({list_.text(name), row.off || row.frozen});
     rows_.push_back(row);
@@ -63,8 +64,21 @@ std::size_t Looks::rowOf(const DxfRecord& record, const std::optional<Inherited>
     std::string_view name = record.name(8);
     if (name.empty()) name = commonLayer;
     if (from && name == commonLayer) return from->layer;
-    if (!rowNumbers_.contains(name)) addRow(name, {});
-    return rowNumbers_.find(name)->second;
+    const auto spelled = rowsAsSpelled_.find(name);
+    return spelled != rowsAsSpelled_.end() ? spelled->second : rowOf(name);
+}
+
+std::size_t Looks::rowOf(std::string_view name)
+{
+    const std::string key = keyOf(name);
+    if (!rowNumbers_.contains(key)) addRow(name, {});
+    return rowsAsSpelled_[name] = rowNumbers_.find(key)->second;
+}
+
+// Two names that differ in small and capital letters alone are one.
+std::string Looks::keyOf(std::string_view name) const
+{
+    return foldedName(list_.text(name));
 }
 
 std::int16_t Looks::styleOf(std::string_view name) const
@@ -114,7 +128,7 @@ Inherited Looks::passedOn(const DxfRecord& insert, const std::optional<Inherited
 
 std::int16_t Looks::workLayer()
 {
-    const auto current = rowNumbers_.find(list_.variableName("$CLAYER", 8));
+    const auto current = rowNumbers_.find(keyOf(list_.variableName("$CLAYER", 8)));
     const std::size_t wished = current == rowNumbers_.end() ? 0 : current->second;
     if (wished < made_.size() && !made_[wished].hidden) return rows_[wished].number;
     const auto shown = std::ranges::find_if(made_, [](const MadeLayer& one) { return !one.hidden; });

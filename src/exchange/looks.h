@@ -50,12 +50,15 @@ class Looks {
     void addRow(std::string_view name, Row row);
     void addRow(const DxfRecord& layer);
     std::size_t rowOf(const DxfRecord& record, const std::optional<Inherited>& from);
+    std::size_t rowOf(std::string_view name);
+    std::string keyOf(std::string_view name) const;
     std::int16_t styleOf(std::string_view name, const Row& row, const std::optional<Inherited>& from) const;
     std::int16_t styleOf(std::string_view name) const;
 
     const DxfList& list_;
     std::vector<Row> rows_;
-    ByName<std::size_t> rowNumbers_;
+    std::map<std::string, std::size_t> rowNumbers_;         // by the name with small letters
+    std::map<std::string_view, std::size_t> rowsAsSpelled_; // of the names as records have them
     std::vector<MadeLayer> made_;
 };
 

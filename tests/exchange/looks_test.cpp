@@ -51,6 +51,40 @@ std::string lineOn(const std::string& layer, const std::string& more = "")
     return dxf({{0, "LINE"}, {8, layer}}) + more + dxf({{10, "1"}, {20, "2"}, {11, "3"}, {21, "5"}});
 }
 
+TEST(Layers, LettersBeyondAsciiAreSmallOrCapitalToo)
+{
+    struct Row {
+        const char* codePage;
+        const char* release;
+        const char* layer;
+        const char* spelled;
+    };
+    const Row rows[] = {
+        {"ANSI_1252", "AC1015",
+         "M\xF6"
+         "bel",
+         "M\xD6"
+         "BEL"},
+        {"ANSI_1252", "AC1027",
+         "M\xC3\xB6"
+         "bel",
+         "M\xC3\x96"
+         "BEL"},
+        {"ANSI_1251", "AC1015", "\xD1\xF2\xE5\xED\xFB", "\xF1\xF2\xE5\xED\xFB"},
+        {"ANSI_1253", "AC1015", "\xD4\xEF\xDF\xF7\xEF\xF2", "\xD4\xEF\xDF\xF7\xEF\xF3"},
+        {"ANSI_1250", "AC1018", "\x8Eili\x9A", "\x9Eili\x8A"},
+        {"ANSI_1252", "AC1015", "\\U+0139", "\\U+013A"},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = readOf(section("HEADER", dxf({{9, "$DWGCODEPAGE"}, {3, row.codePage}}) +
+                                                           dxf({{9, "$ACADVER"}, {1, row.release}})) +
+                                     section("TABLES", layer(row.layer, 1)) + entities(lineOn(row.spelled)));
+        ASSERT_EQ(r.drawing.objects.size(), 1U);
+        EXPECT_EQ(r.drawing.layers.size(), 1U) << row.codePage;
+        EXPECT_EQ(r.drawing.objects[0].look.color, red) << row.codePage;
+    }
+}
+
 TEST(Layers, NamesColoursAndLineTypesAreResolvedWithoutRegardToCase)
 {
     const std::string tables = section("TABLES", layer("Walls", 5) + layer("DOORS", 30, 0, "Dashed2"));
