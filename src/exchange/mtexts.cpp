@@ -30,19 +30,31 @@ ParagraphColumns columnsIn(DxfGroups groups)
     return {std::clamp(inner.whole(72), 1, most), inner.number(44), inner.number(45), numbersOf(groups, 46)};
 }
 
-// The way of the line; of an angle and a way given, the later one counts.
-Vec alongOf(const DxfRecord& record)
+// Of length 1; the other where it has no length.
+Vec3 unit(Vec3 way, Vec3 other)
 {
-    Vec along{1, 0};
+    const double size = length(way);
+    return size > 0 && std::isfinite(size) ? 1 / size * way : other;
+}
+
+// The way of the line; of an angle and a way given, the later one counts. The angle is one in the plane.
+Vec3 alongOf(const DxfRecord& record, const Transform3& plane)
+{
+    Vec3 along = plane.x;
     for (const DxfGroup& group : record.groups) {
-        if (group.code == 50) along = wayAt(dxfNumber(group.value) * exactRadiansPerDegree);
-        if (group.code == 11) {
-            const Vec3 way = record.point(11);
-            along = {way.x, way.y};
-        }
+        const Vec way = wayAt(dxfNumber(group.value) * exactRadiansPerDegree);
+        if (group.code == 50) along = plane.way({way.x, way.y, 0});
+        if (group.code == 11) along = record.point(11);
     }
-    const double size = length(along);
-    return size > 0 && std::isfinite(size) ? 1 / size * along : Vec{1, 0};
+    return unit(along, plane.x);
+}
+
+// Seen from below a paragraph is mirrored.
+ParagraphPlace placeOf(const DxfRecord& record)
+{
+    const Transform3 plane = planeOfNormal(record.point(210, {0, 0, 1}));
+    const Vec3 along = alongOf(record, plane);
+    return {record.point(10), along, unit(cross(plane.z, along), plane.y), record.name(7)};
 }
 
 } // namespace
@@ -59,7 +71,7 @@ void takeParagraphs(const DxfRecord& record, DrawingMaker& maker)
     form.exactSpacing = own.whole(73, 1) == 2;
     form.widthFactor = widthFactorOf(own.name(7), maker.list());
     form.columns = columnsIn(parts.from);
-    drawParagraphs(wordsOf(own, maker.list()), form, {own.point(10), alongOf(own), own.name(7)}, maker);
+    drawParagraphs(wordsOf(own, maker.list()), form, placeOf(own), maker);
 }
 
 } // namespace mirtane

@@ -129,7 +129,8 @@ void drawWords(const DxfRecord& context, DrawingMaker& maker)
     const Look own = maker.look;
     maker.look.color = penOf(context.whole(90), maker);
     const Vec along = size > 0 ? 1 / size * Vec{way.x, way.y} : Vec{1, 0};
-    drawParagraphs(maker.list().text(context, 304), form, {context.point(12), along, style}, maker);
+    drawParagraphs(maker.list().text(context, 304), form,
+                   {context.point(12), {along.x, along.y, 0}, {-along.y, along.x, 0}, style}, maker);
     maker.look = own;
 }
 

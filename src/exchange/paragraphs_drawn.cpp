@@ -13,15 +13,12 @@ std::int32_t penOf(const ParagraphLine& line, DrawingMaker& maker)
 
 void drawLine(const ParagraphLine& line, const ParagraphPlace& place, DrawingMaker& maker)
 {
-    const Vec left = turnedLeft(place.along);
-    const Vec away = line.at.x * place.along + line.at.y * left;
     MadeText text = plainLine(line.words);
     text.face = line.face.empty() ? maker.faceOf(place.style) : line.face;
     text.justification = line.justification;
     text.underlined = text.underlined || line.underlined;
-    const Vec up = line.height * left;
-    maker.text(text, maker.flat(place.at + Vec3{away.x, away.y, 0}),
-               maker.flatWay({place.along.x, place.along.y, 0}), maker.flatWay({up.x, up.y, 0}));
+    maker.text(text, maker.flat(place.at + line.at.x * place.along + line.at.y * place.up),
+               maker.flatWay(place.along), maker.flatWay(line.height * place.up));
 }
 
 } // namespace

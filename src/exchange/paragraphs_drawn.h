@@ -7,7 +7,8 @@ namespace mirtane {
 
 struct ParagraphPlace {
     Vec3 at;
-    Vec along{1, 0};        // of length 1
+    Vec3 along{1, 0, 0}; // the way of the line, and the way up from it, of length 1
+    Vec3 up{0, 1, 0};
     std::string_view style; // of the text, by its name
 };
 

@@ -43,6 +43,33 @@ TEST(ParagraphRecord, EachLineIsATextInItsPlace)
     }
 }
 
+// The lines of a paragraph that is seen from below follow one another upward, and can be read.
+TEST(ParagraphRecord, SeenFromBelowItIsMirrored)
+{
+    const std::string text = "0 MTEXT\n8 0\n10 100\n20 50\n30 0\n40 2\n41 0\n71 1\n1 one\\Ptwo\n";
+    const double step = 10.0 / 3;
+    struct Row {
+        const char* what;
+        std::string groups;
+        Vec first, second; // baselines
+        double degrees;
+    };
+    const Row rows[] = {
+        {"along x", "210 0\n220 0\n230 -1\n11 1\n21 0\n31 0\n", {100, 52}, {100, 52 + step}, 0},
+        {"upward", "210 0\n220 0\n230 -1\n11 0\n21 1\n31 0\n", {98, 50}, {98 - step, 50}, 90},
+        {"by an angle in its plane", "210 0\n220 0\n230 -1\n50 180\n", {100, 52}, {100, 52 + step}, 0},
+        {"seen from above", "210 0\n220 0\n230 1\n11 1\n21 0\n31 0\n", {100, 48}, {100, 48 - step}, 0},
+    };
+    for (const Row& row : rows) {
+        const auto texts = ofKind(madeFrom(text + row.groups), Kind::text);
+        ASSERT_EQ(texts.size(), 2U) << row.what;
+        const double between = length(texts[1].p[0] - texts[0].p[0]);
+        EXPECT_NEAR(between, step, 1e-6) << row.what;
+        EXPECT_LT(length(texts[1].p[0] - texts[0].p[0] - (row.second - row.first)), 1e-6) << row.what;
+        EXPECT_NEAR(std::remainder(texts[0].rotation - row.degrees, 360), 0, 1e-6) << row.what;
+    }
+}
+
 TEST(ParagraphRecord, ALongTextStandsInSeveralGroups)
 {
     const auto texts =
