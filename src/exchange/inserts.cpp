@@ -1,5 +1,6 @@
 // exchange/inserts.cpp: blocks in their places.
 
+#include "exchange/group_run.h"
 #include "exchange/simple_records.h"
 
 #include <algorithm>
@@ -56,11 +57,36 @@ bool isAnotherFile(std::string_view name, const DxfList& list)
     return block != list.blocks.end() && block->second.isElsewhere && block->second.records.empty();
 }
 
+// The dictionary or whatever else stands under a name in a dictionary; null for nothing.
+const DxfRecord* entryOf(const DxfRecord& dictionary, std::string_view name, const DxfList& list)
+{
+    bool isNext = false;
+    for (const DxfGroup& group : dictionary.groups) {
+        if (isNext && (group.code == 350 || group.code == 360)) {
+            const auto found = list.objects.find(trimmed(group.value));
+            return found == list.objects.end() ? nullptr : &found->second;
+        }
+        if (group.code == 3) isNext = isSameName(trimmed(group.value), name);
+    }
+    return nullptr;
+}
+
+// Whether a boundary is kept with it outside of which nothing is to be seen.
+bool isClipped(const DxfRecord& record, const DxfList& list)
+{
+    const DxfRecord own{record.type, dividedAt(record.groups, 102, "{ACAD_XDICTIONARY").from, {}};
+    const auto dictionary = list.objects.find(own.name(360));
+    if (own.groups.empty() || dictionary == list.objects.end()) return false;
+    const DxfRecord* const filters = entryOf(dictionary->second, "ACAD_FILTER", list);
+    return filters != nullptr && entryOf(*filters, "SPATIAL", list) != nullptr;
+}
+
 } // namespace
 
 void takeInsert(const DxfRecord& record, DrawingMaker& maker)
 {
     if (!drawGrid(record, maker)) maker.leftOut("INSERT", "its block can't be drawn");
+    if (isClipped(record, maker.list())) maker.leftOut("INSERT", "clipped, drawn whole");
     if (isAnotherFile(record.name(2), maker.list())) maker.leftOut("INSERT", "its block is another file");
 }
 

@@ -132,6 +132,34 @@ TEST(Inserts, OfBlocksInOtherFilesAreCounted)
     EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (its block is another file) left out");
 }
 
+// What is outside of its boundary comes as well, and is told.
+TEST(Inserts, ThatAreClippedAreDrawnWhole)
+{
+    const auto objects = [](const std::string& filter, const std::string& kind) {
+        return section("OBJECTS", dxf({{0, "DICTIONARY"}, {5, "A1"}, {3, filter}, {360, "A2"}}) +
+                                      dxf({{0, "DICTIONARY"}, {5, "A2"}, {3, kind}, {350, "A3"}}) +
+                                      dxf({{0, "SPATIAL_FILTER"}, {5, "A3"}, {70, "2"}}));
+    };
+    const std::string clipped =
+        insert("B", {{102, "{ACAD_XDICTIONARY"}, {360, "a1"}, {102, "}"}, {10, "5"}, {20, "0"}});
+    struct Row {
+        const char* what;
+        std::string objects;
+        const char* leftOut;
+    };
+    const Row rows[] = {
+        {"clipped", objects("ACAD_FILTER", "SPATIAL"), "1 block (clipped, drawn whole) left out"},
+        {"filtered otherwise", objects("ACAD_FILTER", "LAYERS"), ""},
+        {"with other data", objects("NOTES", "SPATIAL"), ""},
+        {"with none", "", ""},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = readOf(section("BLOCKS", block("B", bar)) + entities(clipped) + row.objects);
+        EXPECT_EQ(r.drawing.objects.size(), 1U) << row.what;
+        EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), row.leftOut) << row.what;
+    }
+}
+
 // Draws what a file has with little work, and gives what came of it.
 MadeDrawing drawnWithLittle(const std::string& sections)
 {
