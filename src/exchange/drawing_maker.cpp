@@ -15,15 +15,25 @@
 namespace mirtane {
 namespace {
 
-// From a point within a box as far along a way as the box goes; nothing along no way.
-Vec wayToEdge(Vec from, Vec way, Vec low, Vec high)
+struct Range {
+    double first, last;
+};
+
+// From where to where a line through a point runs within a box, in lengths of its way; nowhere if last is
+// before first.
+Range rangeWithin(Vec from, Vec way, Vec low, Vec high)
 {
-    const auto reach = [](double at, double step, double least, double most) {
-        return step == 0 ? std::numeric_limits<double>::infinity()
-                         : quotient((step > 0 ? most : least) - at, step);
+    constexpr double endless = std::numeric_limits<double>::infinity();
+    Range range{-endless, endless};
+    const auto clip = [&range](double at, double step, double least, double most) {
+        const double a = quotient(least - at, step), b = quotient(most - at, step);
+        const bool isIn = at >= least && at <= most;
+        if (step == 0) return isIn ? range : Range{0, -1};
+        return Range{std::max(range.first, std::min(a, b)), std::min(range.last, std::max(a, b))};
     };
-    const double times = std::min(reach(from.x, way.x, low.x, high.x), reach(from.y, way.y, low.y, high.y));
-    return std::isfinite(times) ? times * way : Vec{};
+    range = clip(from.x, way.x, low.x, high.x);
+    range = clip(from.y, way.y, low.y, high.y);
+    return std::isfinite(range.first) && std::isfinite(range.last) ? range : Range{0, -1};
 }
 
 constexpr std::int64_t stepsOfStroke = 4; // of a curve, since it has to be fitted to it
@@ -34,6 +44,7 @@ constexpr std::size_t mostPatternLines =
     400'000; // of all hatches, before it is known which of them have room
 constexpr std::size_t mostOutlineStrokes = 400'000; // likewise
 constexpr std::string_view noRoom = "no room for its lines, its outline alone";
+constexpr std::string_view lettersLost = "letters that drawings can't keep";
 constexpr std::size_t mostObjects = EntityStore::slotCount - 1;
 
 bool isFinite(const Made& made)
@@ -64,6 +75,21 @@ std::int64_t costOf(const DxfRecord& record)
     return 1 + static_cast<std::int64_t>(lettersOf(record) / lettersOfShort); // far below what it holds
 }
 
+bool hasSubstance(const DxfRecord& record, const RecordHandler& row)
+{
+    const auto isThere = [&record](int code) { return code != 0 && record.has(code); };
+    return row.shownBy[0] == 0 || std::ranges::any_of(row.shownBy, isThere);
+}
+
+bool losesLetters(const DxfRecord& record, const DxfList& list)
+{
+    constexpr int words = 1, pieceOfWords = 3, wordsOfLeader = 304;
+    return std::ranges::any_of(record.groups, [&list](const DxfGroup& group) {
+        const bool isText = group.code == words || group.code == pieceOfWords || group.code == wordsOfLeader;
+        return isText && list.coding.losesLettersOf(group.value);
+    });
+}
+
 // A value that lasts until the end of a block of code, which puts the old one back.
 template <class Value> class Lent {
   public:
@@ -80,8 +106,8 @@ template <class Value> class Lent {
 } // namespace
 
 DrawingMaker::DrawingMaker(const DxfList& list, double tolerance,
-                           TakeRecord (*takerOf)(std::string_view type), std::int64_t mostSteps)
-    : list_(list), tolerance_(tolerance), takerOf_(takerOf), looks_(list),
+                           const RecordHandler* (*handlerOf)(std::string_view type), std::int64_t mostSteps)
+    : list_(list), tolerance_(tolerance), handlerOf_(handlerOf), looks_(list),
       stepsLeft_(mostSteps + static_cast<std::int64_t>(list.groups.size())) // of a file
 {
 }
@@ -123,8 +149,7 @@ void DrawingMaker::add(Made made)
         return;
     }
     // Objects of our own files, with no record under way, have their letters as they were.
-    if (record_ != nullptr && !firstBeyondCodePage(made.text.words).empty())
-        leftOut("TEXT", "letters that drawings can't keep");
+    if (record_ != nullptr && !firstBeyondCodePage(made.text.words).empty()) leftOut("TEXT", lettersLost);
     made.look = look;
     made_.objects.push_back(std::move(made));
 }
@@ -249,11 +274,13 @@ void DrawingMaker::record(const DxfRecord& record)
     if (isPicture_ && isSameName(record.type, "POINT")) return;
     if (!takesStep(costOf(record))) return leftOut(record.type, "too many");
     if (record.whole(invisible) == 1) return leftOut(record.type, "invisible");
-    const TakeRecord take = takerOf_(record.type);
-    if (take == nullptr) return leftOut(record.type);
+    const RecordHandler* const row = handlerOf_(record.type);
+    if (row == nullptr) return leftOut(record.type);
+    if (!hasSubstance(record, *row)) return leftOut(record.type, "not whole");
+    if (losesLetters(record, list_)) leftOut("TEXT", lettersLost);
     const Lent lookKept(look, looks_.of(record, insert_));
     const Lent recordKept(record_, &record);
-    take(record, *this);
+    row->take(record, *this);
 }
 
 void DrawingMaker::own(const DxfRecord& record, Made made)
@@ -281,14 +308,19 @@ std::string DrawingMaker::faceOf(std::string_view style) const
 void DrawingMaker::cutEndless()
 {
     Bounds bounds = boundsOf(made_.objects);
-    for (const Endless& one : endless_) bounds.feed(one.from);
+    for (const Endless& one : endless_) {
+        if (made_.objects.empty()) bounds.feed(one.from);
+    }
     const double beyond = bounds.size() > 0 ? bounds.size() / 2 : 1;
     const Vec low = bounds.low - Vec{beyond, beyond}, high = bounds.high + Vec{beyond, beyond};
     for (const Endless& one : endless_) {
         look = one.look;
-        const Vec far = wayToEdge(one.from, one.way, low, high);
-        const Vec back = one.bothWays ? wayToEdge(one.from, -1 * one.way, low, high) : Vec{};
-        line(one.from + back, one.from + far);
+        const auto [first, last] = rangeWithin(one.from, one.way, low, high);
+        const double start = one.bothWays ? first : std::max(first, 0.0);
+        if (start < last)
+            line(one.from + start * one.way, one.from + last * one.way);
+        else
+            leftOut(one.bothWays ? "XLINE" : "RAY", "beside the drawing");
     }
 }
 

@@ -12,6 +12,7 @@
 #include "exchange/tangent_arcs.h"
 #include "exchange/transform.h"
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <span>
@@ -20,7 +21,12 @@ namespace mirtane {
 
 class DrawingMaker;
 
-using TakeRecord = void (*)(const DxfRecord& record, DrawingMaker& maker);
+// What draws the records of a type, and the codes of which a record has at least one, or it shows nothing.
+struct RecordHandler {
+    std::string_view type;
+    void (*take)(const DxfRecord& record, DrawingMaker& maker);
+    std::array<int, 2> shownBy{};
+};
 
 // Dots and lines, and the outline that stands for them; both are drawn where the outline is seen.
 struct Pattern {
@@ -37,8 +43,9 @@ class DrawingMaker {
     // need some five times as many if they all are curves.
     static constexpr std::int64_t enoughSteps = 400'000;
 
-    // takerOf gives what draws the records of a type, or null.
-    DrawingMaker(const DxfList& list, double tolerance, TakeRecord (*takerOf)(std::string_view type),
+    // handlerOf gives what draws the records of a type, or null.
+    DrawingMaker(const DxfList& list, double tolerance,
+                 const RecordHandler* (*handlerOf)(std::string_view type),
                  std::int64_t mostSteps = enoughSteps);
 
     const DxfList& list() const { return list_; }
@@ -78,6 +85,13 @@ class DrawingMaker {
     // The same of the block that pictures a dimension: the points that it was measured by are not drawn.
     bool picture(std::string_view name, const Transform3& at);
     bool isInBlock() const { return !underWay_.empty(); }
+    // How much has been drawn, and what came since then, which can be taken back for something in its place.
+    std::size_t drawn() const { return made_.objects.size(); }
+    std::span<const Made> drawnSince(std::size_t count) const
+    {
+        return std::span(made_.objects).subspan(count);
+    }
+    void takeBack(std::size_t count) { made_.objects.resize(count); }
     // The attributes of an insert, which stand where they say, moved by so much for one of many.
     void attributes(const DxfRecord& insert, Vec3 moved);
     // One record as it stands, by the row of its type.
@@ -122,7 +136,7 @@ class DrawingMaker {
 
     const DxfList& list_;
     double tolerance_;
-    TakeRecord (*takerOf_)(std::string_view type);
+    const RecordHandler* (*handlerOf_)(std::string_view type);
     Looks looks_;
     Transform3 place_;                // of the block under way
     std::optional<Inherited> insert_; // whose block that is

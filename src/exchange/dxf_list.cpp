@@ -26,6 +26,7 @@ class Lister {
     void takeOfBlock(DxfRecord&& record);
     void takeObject(DxfRecord&& record);
     void addDrawn(std::vector<DxfRecord>& to, DxfRecord&& record);
+    void dropHalf();
 
     DxfList& list_;
     std::string_view section_;
@@ -50,6 +51,20 @@ void Lister::run()
         from = to;
     }
     list_.isCut = !ended_;
+    if (list_.isCut) dropHalf();
+}
+
+// Of the last record before a file breaks off it can't be known what is missing.
+void Lister::dropHalf()
+{
+    const bool isInBlock = isSameName(section_, "BLOCKS") && block_ != nullptr;
+    if (!isInBlock && !isSameName(section_, "ENTITIES")) return;
+    std::vector<DxfRecord>& last = isInBlock ? block_->records : list_.entities;
+    if (last.empty()) return;
+    std::vector<DxfRecord>& parts = last.back().parts;
+    std::vector<DxfRecord>& half = partsFollow_ && !parts.empty() ? parts : last;
+    list_.cutOff = half.back().type;
+    half.pop_back();
 }
 
 void Lister::take(DxfRecord&& record)

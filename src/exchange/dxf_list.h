@@ -58,6 +58,7 @@ struct DxfList {
     ByName<DxfRecord> objects;              // by handle, of the section of that name
     bool isDxf = false;                     // a section or a record was found
     bool isCut = false;                     // no end was found
+    std::string_view cutOff; // type of the record that it broke off in, which is not in the list
     // Written by our own Save DXF, which has numbers for the colours, heights and points of texts of its own.
     bool isOurs = false;
 

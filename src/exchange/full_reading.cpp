@@ -10,6 +10,8 @@
 namespace mirtane {
 namespace {
 
+constexpr double surveyFoot = 1200.0 / 3937 / 0.0254; // in inches
+
 struct UnitRow {
     int number;
     double inches;
@@ -33,7 +35,14 @@ constexpr UnitRow units[] = {
     {14, 0.1 / 0.0254},
     {15, 10 / 0.0254},
     {16, 100 / 0.0254},
-    {21, 12 * 1.000002}, // the surveyor's foot
+    {17, 1e9 / 0.0254},
+    {18, 149'597'870'700 / 0.0254},       // from the earth to the sun
+    {19, 9.4607304725808e15 / 0.0254},    // a year of light
+    {20, 3.0856775814913673e16 / 0.0254}, // a parsec
+    {21, surveyFoot},
+    {22, surveyFoot / 12},
+    {23, surveyFoot * 3},
+    {24, surveyFoot * 5280},
 };
 
 const UnitRow* unitsOf(const DxfList& list)
@@ -84,6 +93,7 @@ void drawOnPaper(const DxfRecord& record, bool isSeen, DrawingMaker& maker)
 // What is on paper is seen only where the model has nothing.
 void drawEntities(const DxfList& list, DrawingMaker& maker)
 {
+    if (!list.cutOff.empty()) maker.leftOut(list.cutOff, "cut off");
     bool modelIsEmpty = true;
     const std::span<const DxfRecord> all = list.entities;
     for (std::size_t i = 0; i < all.size();) {

@@ -8,27 +8,23 @@
 namespace mirtane {
 namespace {
 
-struct RecordHandler {
-    std::string_view type;
-    TakeRecord take;
-};
-
 constexpr RecordHandler handlers[] = {
-    {"3DFACE", takeFace},
+    {"3DFACE", takeFace, {10, 11}},
+    {"3DLINE", takeLine, {10, 11}},
     {"ACAD_TABLE", takeTable},
-    {"ARC", takeArc},
+    {"ARC", takeArc, {40}},
     {"ARC_DIMENSION", takeDimension},
     {"ATTDEF", takeAttributeDefinition},
     {"ATTRIB", takeAttribute},
-    {"CIRCLE", takeCircle},
+    {"CIRCLE", takeCircle, {40}},
     {"DIMENSION", takeDimension},
-    {"ELLIPSE", takeEllipse},
+    {"ELLIPSE", takeEllipse, {11}},
     {"HATCH", takeHatch},
     {"HELIX", takeSpline},
     {"INSERT", takeInsert},
     {"LARGE_RADIAL_DIMENSION", takeDimension},
     {"LEADER", takeLeader},
-    {"LINE", takeLine},
+    {"LINE", takeLine, {10, 11}},
     {"LWPOLYLINE", takeLightPolyline},
     {"MESH", takeMeshOfFaces},
     {"MLEADER", takeMultileader},
@@ -36,25 +32,25 @@ constexpr RecordHandler handlers[] = {
     {"MPOLYGON", takeHatch},
     {"MTEXT", takeParagraphs},
     {"MULTILEADER", takeMultileader},
-    {"POINT", takePoint},
+    {"POINT", takePoint, {10}},
     {"POLYLINE", takePolyline},
-    {"RAY", takeRay},
-    {"SOLID", takeSolid},
+    {"RAY", takeRay, {11}},
+    {"SOLID", takeSolid, {10, 11}},
     {"SPLINE", takeSpline},
     {"TEXT", takeText},
-    {"TRACE", takeSolid},
+    {"TRACE", takeSolid, {10, 11}},
     {"VIEWPORT", takeNothing},
     {"WIPEOUT", takeWipeout},
-    {"XLINE", takeEndlessLine},
+    {"XLINE", takeEndlessLine, {11}},
 };
 
 } // namespace
 
-TakeRecord handlerOf(std::string_view type)
+const RecordHandler* handlerOf(std::string_view type)
 {
     const auto* const row = std::ranges::find_if(
         handlers, [type](const RecordHandler& one) { return isSameName(one.type, type); });
-    return row == std::end(handlers) ? nullptr : row->take;
+    return row == std::end(handlers) ? nullptr : row;
 }
 
 } // namespace mirtane

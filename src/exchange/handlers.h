@@ -5,6 +5,6 @@
 namespace mirtane {
 
 // How a type of record is drawn; null for one that is not, which is counted as left out.
-TakeRecord handlerOf(std::string_view type);
+const RecordHandler* handlerOf(std::string_view type);
 
 } // namespace mirtane

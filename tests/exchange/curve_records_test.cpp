@@ -92,6 +92,33 @@ TEST(EndlessLines, GoAsFarBeyondTheDrawingAsHalfItsSize)
     EXPECT_NEAR(length(lines[2].p[1] - Vec{3, -25}), 0, 1e-9);
 }
 
+// Where they begin says nothing of where the drawing is.
+TEST(EndlessLines, ThatComeFromFarOffAreCutToTheDrawing)
+{
+    const std::string box = "0 LINE\n8 0\n10 0\n20 0\n11 30\n21 40\n";
+    struct Row {
+        const char* what;
+        const char* record;
+        std::vector<Vec> ends; // none: nothing of it is near
+    };
+    const Row rows[] = {
+        {"level", "0 XLINE\n8 0\n10 90000\n20 11\n11 1\n21 0\n", {{-25, 11}, {55, 11}}},
+        {"slanted, backward", "0 XLINE\n8 0\n10 90000\n20 90020\n11 -1\n21 -1\n", {{45, 65}, {-25, -5}}},
+        {"towards it", "0 RAY\n8 0\n10 15\n20 -70000\n11 0\n21 2\n", {{15, -25}, {15, 65}}},
+        {"away from it", "0 RAY\n8 0\n10 15\n20 -70000\n11 0\n21 -2\n", {}},
+        {"beside it", "0 XLINE\n8 0\n10 0\n20 500\n11 1\n21 0\n", {}},
+    };
+    for (const Row& row : rows) {
+        const auto drawing = madeFrom(row.record + box);
+        const auto lines = ofKind(drawing, Kind::line);
+        ASSERT_EQ(lines.size(), row.ends.empty() ? 1U : 2U) << row.what;
+        EXPECT_EQ(drawing.leftOut.size(), row.ends.empty() ? 1U : 0U) << row.what;
+        if (row.ends.empty()) continue;
+        EXPECT_LT(length(lines[1].p[0] - row.ends[0]), 1e-6) << row.what;
+        EXPECT_LT(length(lines[1].p[1] - row.ends[1]), 1e-6) << row.what;
+    }
+}
+
 TEST(Tables, AreDrawnByTheirBlock)
 {
     const std::string block =

@@ -29,10 +29,11 @@ TEST(Units, AreThoseThatTheFileNames)
         double inches;
         bool named;
     };
-    const Row rows[] = {{"0", 1, false},       {"1", 1, true},           {"2", 12, true},
-                        {"4", 1 / 25.4, true}, {"5", 1 / 2.54, true},    {"6", 1000 / 25.4, true},
-                        {"10", 36, true},      {"14", 100 / 25.4, true}, {"99", 1, false},
-                        {"-4", 1, false},      {"nonsense", 1, false}};
+    const Row rows[] = {{"0", 1, false},        {"1", 1, true},           {"2", 12, true},
+                        {"4", 1 / 25.4, true},  {"5", 1 / 2.54, true},    {"6", 1000 / 25.4, true},
+                        {"10", 36, true},       {"14", 100 / 25.4, true}, {"99", 1, false},
+                        {"22", 1.000002, true}, {"23", 36.000072, true},  {"25", 1, false},
+                        {"-4", 1, false},       {"nonsense", 1, false}};
     for (const Row& row : rows) {
         const FullReading r = readOf(units(row.number) + entities(lineOf("1", "2", "-3", "5")));
         EXPECT_THAT(objectsOf(r).at(0).p2, StandsAt(-3 * row.inches, 5 * row.inches)) << row.number;
@@ -40,6 +41,27 @@ TEST(Units, AreThoseThatTheFileNames)
     }
     const FullReading asked = readInFull(entities(lineOf("0", "0", "254", "0")), {.inches = 1 / 25.4});
     EXPECT_THAT(objectsOf(asked).at(0).p2, StandsAt(10, 0));
+}
+
+// Whole drawings of them hold a few thousandths of a unit.
+TEST(Units, OfMapsAndOfTheSky)
+{
+    struct Row {
+        const char* number;
+        double inches;
+    };
+    const Row rows[] = {
+        {"17", 1e12 / 25.4},
+        {"18", 149'597'870'700.0 / 0.0254},
+        {"19", 9.4607304725808e18 / 25.4},
+        {"20", 3.085677581e19 / 25.4},
+        {"24", 63360.12672},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = readOf(units(row.number) + entities(lineOf("0", "0", "0.0003", "-0.0007")));
+        EXPECT_TRUE(r.hasUnits) << row.number;
+        EXPECT_NEAR(r.placing.worldPerFile / 12 / row.inches, 1, 1e-8) << row.number;
+    }
 }
 
 TEST(FarDrawings, AreMovedToWhereTheyCanBeHeldExactly)
@@ -52,6 +74,31 @@ TEST(FarDrawings, AreMovedToWhereTheyCanBeHeldExactly)
     const double scale = 1000 / 25.4;
     EXPECT_THAT(objects[0].p1, StandsAt(0.123 * scale, 0.456 * scale));
     EXPECT_THAT(objects[1].p1, StandsAt(7.25 * scale, 3.125 * scale));
+}
+
+// However large they are, where that gains a bit of exactness.
+TEST(FarDrawings, LargeOnesAreMovedIfItHelps)
+{
+    struct Row {
+        const char* what;
+        double x1, y1, x2, y2;
+        bool moved;
+    };
+    const Row rows[] = {
+        {"as large as it is far", 20000, 15000, 34000, 27000, true},
+        {"on the other side", -34000, -27000, -20000, -15000, true},
+        {"larger than half its distance", 0, 90000, 60000, 190000, true},
+        {"at the origin", 0, 0, 60000, 190000, false},
+        {"about the origin", -90000, -20, 90000, 5000, false},
+        {"held well", 100, 9000, 4000, 10900, false},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = readOf(entities(lineOf(std::to_string(row.x1), std::to_string(row.y1),
+                                                     std::to_string(row.x2), std::to_string(row.y2))));
+        EXPECT_EQ(!sentenceOfMove(reportOf(r, {})).empty(), row.moved) << row.what;
+        const auto objects = objectsOf(r);
+        EXPECT_NEAR(objects[0].p2.x - objects[0].p1.x, 12 * (row.x2 - row.x1), 0.1) << row.what;
+    }
 }
 
 TEST(FarDrawings, OthersStayWhereTheyAre)
@@ -121,6 +168,83 @@ TEST(Report, CountsWhatCameAndWhatDidNot)
     EXPECT_TRUE(reportOf(readOf(entities(lineOf("0", "0", "1", "1"))), {1, 0}).isWhole());
 }
 
+// What is missing of the last record can't be known.
+TEST(Report, TheRecordThatAFileBreaksOffInIsLeftOut)
+{
+    const std::string whole = lineOf("0", "0", "1", "1");
+    const std::string vertices = dxf({{0, "POLYLINE"}, {8, "0"}, {0, "VERTEX"}, {10, "1"}, {20, "2"}}) +
+                                 dxf({{0, "VERTEX"}, {10, "5"}, {20, "2"}, {0, "VERTEX"}, {10, "7"}});
+    struct Row {
+        const char* what;
+        std::string file;
+        std::size_t objects;
+        const char* leftOut;
+    };
+    const std::string head = dxf({{0, "SECTION"}, {2, "ENTITIES"}});
+    const Row rows[] = {
+        {"a line", head + whole + dxf({{0, "LINE"}, {8, "0"}, {10, "40"}, {20, "50"}}), 1,
+         "1 line (cut off) left out"},
+        {"a circle", head + whole + whole + dxf({{0, "CIRCLE"}, {10, "40"}, {40, "5"}}), 2,
+         "1 circle (cut off) left out"},
+        {"a polyline", head + vertices, 1, "1 vertex (cut off) left out"},
+        {"the only one", head + dxf({{0, "TEXT"}, {1, "hal"}}), 0, "1 text (cut off) left out"},
+        {"nothing", head, 0, ""},
+        {"a table", section("ENTITIES", whole) + dxf({{0, "SECTION"}, {2, "OBJECTS"}, {0, "GROUP"}}), 1, ""},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = readInFull(row.file);
+        EXPECT_TRUE(r.isCut) << row.what;
+        EXPECT_EQ(r.drawing.objects.size(), row.objects) << row.what;
+        EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {row.objects, 0})), row.leftOut) << row.what;
+    }
+}
+
+TEST(Report, RecordsThatSayNothingAreCounted)
+{
+    std::string records;
+    for (const char* type :
+         {"LINE", "CIRCLE", "ARC", "POINT", "ELLIPSE", "SOLID", "TRACE", "3DFACE", "XLINE"})
+        records += dxf({{0, type}, {8, "0"}});
+    const FullReading r = readOf(entities(records + dxf({{0, "LINE"}, {8, "0"}, {11, "4"}})));
+    EXPECT_EQ(r.drawing.objects.size(), 1U);
+    EXPECT_EQ(r.drawing.leftOut.size(), 9U);
+    for (const auto& [what, count] : r.drawing.leftOut) EXPECT_EQ(what.second, "not whole") << what.first;
+}
+
+TEST(Report, LinesInSpaceAreLines)
+{
+    const FullReading r = readOf(entities(dxf({{0, "3DLINE"}, {8, "0"}, {10, "1"}, {20, "2"}, {30, "9"}}) +
+                                          dxf({{11, "-3"}, {21, "5"}, {31, "7"}})));
+    ASSERT_EQ(r.drawing.objects.size(), 1U);
+    EXPECT_THAT(objectsOf(r)[0].p2, StandsAt(-3, 5));
+    EXPECT_TRUE(r.drawing.leftOut.empty());
+}
+
+// Of a page that is not known no letter beyond ASCII can be told, and of a page of two bytes none.
+TEST(Report, LettersThatCanNotBeReadAreCounted)
+{
+    const auto text = [](const std::string& codePage, const std::string& words) {
+        return readOf(section("HEADER", dxf({{9, "$DWGCODEPAGE"}, {3, codePage}})) +
+                      entities(dxf({{0, "TEXT"}, {8, "0"}, {10, "1"}, {40, "1"}, {1, words}})));
+    };
+    struct Row {
+        const char* codePage;
+        const char* bytes;
+        const char* words;
+        std::size_t reasons;
+    };
+    const Row rows[] = {
+        {"ANSI_932", "\xB1\xB2 12", "?? 12", 1}, {"ANSI_777", "caf\xE9", "caf?", 1},
+        {"ANSI_1252", "caf\xE9?", "café?", 0},   {"ANSI_936", "why?", "why?", 0},
+        {"ANSI_936", "\xB1\xB2?", "??", 1},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = text(row.codePage, row.bytes);
+        EXPECT_EQ(r.drawing.objects.at(0).text.words, row.words) << row.codePage;
+        EXPECT_EQ(r.drawing.leftOut.size(), row.reasons) << row.codePage << row.words;
+    }
+}
+
 TEST(Report, FileWithoutItsEndIsNotWhole)
 {
     const FullReading r = readInFull(entities(lineOf("0", "0", "1", "1")));
@@ -151,8 +275,8 @@ TEST(TakenReading, HiddenLayersAreHiddenAndTheOthersUsed)
                                                       {62, "-2"},
                                                       {0, "LAYER"},
                                                       {2, "bare"}}));
-    const Taken t(
-        readOf(tables + entities(dxf({{0, "POINT"}, {8, "dark"}}) + dxf({{0, "POINT"}, {8, "seen"}}))));
+    const Taken t(readOf(tables + entities(dxf({{0, "POINT"}, {8, "dark"}, {10, "1"}}) +
+                                           dxf({{0, "POINT"}, {8, "seen"}, {10, "2"}}))));
     EXPECT_EQ(t.s->layerTable.rows(),
               (std::vector<std::string>{"Yes:Wk :seen", "Yes:Off:dark", "No :On :bare"}));
     EXPECT_EQ(t.s->store.stat[1], Stat::off);
