@@ -1,7 +1,8 @@
-// exchange/dimensions_in.cpp: a dimension is drawn by the block that pictures it. One without a picture
-// becomes one of ours, if there is such a kind.
+// exchange/dimensions_in.cpp: a dimension becomes one of ours, if there is such a kind and ours shows what
+// the block that pictures it does; else it is drawn by that block.
 
 #include "exchange/curve_records.h"
+#include "exchange/dimension_likeness.h"
 #include "exchange/dimension_variables.h"
 #include "exchange/mtext_layout.h"
 #include "exchange/percent_codes.h"
@@ -195,12 +196,12 @@ double figureOf(const DxfRecord& record, const Measured& m, double factor)
     return isAngle ? m.value : m.value * factor;
 }
 
-void addOwn(const DxfRecord& record, Measured m, const DimensionPoints& points, DrawingMaker& maker)
+Made ownDimension(const DxfRecord& record, Measured m, const DimensionPoints& points, const DxfList& list)
 {
-    const DimensionVariables variables = dimensionVariables(record, maker.list());
+    const DimensionVariables variables = dimensionVariables(record, list);
     m.made.size = variables.text;
     const std::string shown = numberShown(figureOf(record, m, variables.measures), variables.decimals);
-    m.made.text.words = wordsOf(record, maker.list(), std::string(m.before).append(shown).append(m.behind));
+    m.made.text.words = wordsOf(record, list, std::string(m.before).append(shown).append(m.behind));
     if (m.made.kind == Kind::radialDimension) {
         m.made.p[2] = m.made.p[1] + Vec{m.made.size, 0};
         m.made.p[4] = m.made.p[1] + m.made.size * Vec{1.2, 0.625};
@@ -208,21 +209,46 @@ void addOwn(const DxfRecord& record, Measured m, const DimensionPoints& points, 
         const Vec above = 0.8 * m.made.size * turnedLeft(wayAt(m.made.rotation / degrees));
         placeText(m.made, points.has(11) ? points.at(11) : m.middle + above);
     }
-    maker.add(std::move(m.made));
+    return m.made;
+}
+
+// Ours, if the file's can be one; other types have the same numbers for other ways to measure.
+std::optional<Made> ownDimension(const DxfRecord& record, const DrawingMaker& maker)
+{
+    if (!isSameName(record.type, "DIMENSION")) return std::nullopt;
+    const DimensionPoints points(record, maker);
+    auto measured = measuredBy(record, points);
+    if (!measured) return std::nullopt;
+    return ownDimension(record, std::move(*measured), points, maker.list());
+}
+
+bool isLevelOrUpright(const Made& made)
+{
+    constexpr double little = 1e-6;
+    const Vec line = made.p[2] - made.p[3];
+    return std::min(std::abs(line.x), std::abs(line.y)) <= little * length(line);
+}
+
+// Whether it may stand in the place of its picture. In a block that is scaled it would measure something
+// else.
+bool mayStandForPicture(const Made& own, const DrawingMaker& maker)
+{
+    return !maker.isInBlock() && (own.kind != Kind::linearDimension || isLevelOrUpright(own));
 }
 
 } // namespace
 
 void takeDimension(const DxfRecord& record, DrawingMaker& maker)
 {
-    const Vec3 moved12 = record.point(12);
-    if (maker.picture(record.name(2), moved(moved12))) return;
-    const DimensionPoints points(record, maker);
-    // Other types have the same numbers for other ways to measure.
-    const bool isKnown = isSameName(record.type, "DIMENSION");
-    if (auto measured = isKnown ? measuredBy(record, points) : std::nullopt)
-        return addOwn(record, std::move(*measured), points, maker);
-    maker.leftOut(record.type, "without a picture");
+    const std::size_t before = maker.drawn();
+    auto own = ownDimension(record, maker);
+    const bool hasPicture = maker.picture(record.name(2), moved(record.point(12)));
+    if (!own && !hasPicture) return maker.leftOut(record.type, "without a picture");
+    const bool isPicture = hasPicture && (!own || !mayStandForPicture(*own, maker) ||
+                                          !showsTheSame(*own, maker.look, maker.drawnSince(before)));
+    if (isPicture) return;
+    maker.takeBack(before);
+    maker.add(std::move(*own));
 }
 
 } // namespace mirtane

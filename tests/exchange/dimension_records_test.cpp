@@ -111,6 +111,69 @@ TEST(DimensionRecord, WithoutAPictureRadialAndAngularOnesAreOneOfOurs)
     }
 }
 
+std::string pictureLine(double x1, double y1, double x2, double y2, const std::string& pen = "0")
+{
+    return "0 LINE\n8 0\n62 " + pen + "\n10 " + std::to_string(x1) + "\n20 " + std::to_string(y1) + "\n11 " +
+           std::to_string(x2) + "\n21 " + std::to_string(y2) + "\n";
+}
+
+std::string pictureText(double x, double y, const std::string& words, const std::string& height = "3")
+{
+    return "0 MTEXT\n8 0\n62 0\n10 " + std::to_string(x) + "\n20 " + std::to_string(y) + "\n40 " + height +
+           "\n71 5\n1 " + words + "\n";
+}
+
+std::string arrowHead(double x, double y, double to)
+{
+    return pictureLine(x, y, to, y + 0.42) + pictureLine(to, y + 0.42, to, y - 0.42) +
+           pictureLine(to, y - 0.42, x, y);
+}
+
+// Level, 60 long, as other programs draw it: its arrows narrower, its extension lines from a little farther
+// off.
+TEST(DimensionRecord, IsOneOfOursWhereThatShowsTheSame)
+{
+    const std::string record = "0 DIMENSION\n8 0\n3 SMALL\n2 *D3\n70 32\n13 10\n23 0\n14 70\n24 4\n10 70\n20 "
+                               "30\n11 40\n21 32.5\n";
+    const std::string extensions = pictureLine(10, 0.6, 10, 31.8) + pictureLine(70, 4.6, 70, 31.8);
+    const std::string shaft = pictureLine(12.5, 30, 67.5, 30);
+    const std::string arrows = arrowHead(10, 30, 12.5) + arrowHead(70, 30, 67.5);
+    const std::string figure = pictureText(40, 32.5, "60");
+    const std::string mark = "0 POINT\n8 DEFPOINTS\n10 10\n20 0\n";
+    struct Row {
+        const char* what;
+        std::string record, picture;
+        bool isOwn;
+    };
+    const std::string whole = extensions + shaft + arrows + figure + mark;
+    const std::string turned =
+        "0 DIMENSION\n8 0\n3 SMALL\n2 *D3\n70 33\n13 10\n23 0\n14 70\n24 9\n10 70\n20 30\n";
+    const Row rows[] = {
+        {"the same", record, whole, true},
+        {"other words", record, extensions + shaft + arrows + pictureText(40, 32.5, "60.0"), false},
+        {"more words", record, whole + pictureText(40, 37, "typ."), false},
+        {"words that the record says", record + "1 about <>\n",
+         extensions + shaft + arrows + pictureText(40, 32.5, "about 60"), true},
+        {"words in another place", record, extensions + shaft + arrows + pictureText(60, 32.5, "60"), false},
+        {"smaller words", record, extensions + shaft + arrows + pictureText(40, 32.5, "60", "2"), false},
+        {"one extension line", record, pictureLine(10, 0.6, 10, 31.8) + shaft + arrows + figure, false},
+        {"a line to its words", record, whole + pictureLine(40, 30, 55, 45), false},
+        {"lines of another pen", record, whole + pictureLine(10, 0.6, 10, 20, "3"), false},
+        {"a ring about its words", record, whole + "0 CIRCLE\n8 0\n10 40\n20 32.5\n40 3\n", false},
+        {"slanted", turned, whole, false},
+    };
+    for (const Row& row : rows) {
+        const std::string block = "0 BLOCK\n2 *D3\n70 1\n10 0\n20 0\n" + row.picture + "0 ENDBLK\n";
+        const auto drawing = madeFrom(row.record, block, style);
+        EXPECT_EQ(ofKind(drawing, Kind::linearDimension).size(), row.isOwn ? 1U : 0U) << row.what;
+        EXPECT_EQ(drawing.objects.size() == 1, row.isOwn) << row.what;
+    }
+    const std::string plan = "0 BLOCK\n2 PLAN\n70 0\n10 0\n20 0\n" + record + "0 ENDBLK\n";
+    const std::string block = "0 BLOCK\n2 *D3\n70 1\n10 0\n20 0\n" + whole + "0 ENDBLK\n";
+    const auto inserted = madeFrom("0 INSERT\n8 0\n2 PLAN\n10 5\n20 0\n41 2\n42 2\n", plan + block, style);
+    EXPECT_TRUE(ofKind(inserted, Kind::linearDimension).empty()); // it would measure the scaled lines
+}
+
 TEST(DimensionRecord, ItsFigureIsTheFilesOrThatOfItsStyle)
 {
     const std::string head = "0 DIMENSION\n8 0\n3 SMALL\n";
