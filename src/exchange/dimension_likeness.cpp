@@ -60,12 +60,6 @@ bool areAmong(std::span<const Stroke> strokes, std::span<const Stroke> others, d
     });
 }
 
-std::string withoutBlanks(std::string words)
-{
-    std::erase(words, ' ');
-    return words;
-}
-
 // Where the words of a text have their middle, by the width that most faces have.
 Vec middleOf(const Made& text)
 {
@@ -80,34 +74,43 @@ Vec middleOf(const Made& text)
     return (isOwn ? text.p[4] : text.p[0]) + half * along - text.size / 2 * turnedLeft(along);
 }
 
-bool saysTheSame(const Made& ours, std::span<const Made> picture, double reach)
+// The one text of the picture, if it is as large and as turned as ours would be.
+const Made* textOf(std::span<const Made> picture, const Made& ours)
 {
+    constexpr double little = 0.05, degrees = 2;
     const auto isText = [](const Made& one) { return one.kind == Kind::text; };
-    if (std::ranges::count_if(picture, isText) != 1) return false;
+    if (std::ranges::count_if(picture, isText) != 1) return nullptr;
     const Made& text = *std::ranges::find_if(picture, isText);
-    return withoutBlanks(text.text.words) == withoutBlanks(ours.text.words) &&
-           std::abs(text.size - ours.size) <= 0.05 * ours.size &&
-           length(middleOf(text) - middleOf(ours)) <= reach;
+    const bool isAlike = std::abs(text.size - ours.size) <= little * ours.size &&
+                         std::abs(std::remainder(text.rotation - ours.rotation, 360)) <= degrees;
+    return isAlike ? &text : nullptr;
 }
 
+// The text may have a pen of its own, which ours then is not written in.
 bool isDrawnLike(const Made& one, const Look& look)
 {
-    const bool isShape = one.kind == Kind::line || one.kind == Kind::arc || one.kind == Kind::text;
-    return isShape && one.look.color == look.color && one.look.hidden == look.hidden;
+    const bool isLine = one.kind == Kind::line || one.kind == Kind::arc;
+    return (one.kind == Kind::text || (isLine && one.look.color == look.color)) &&
+           one.look.hidden == look.hidden;
 }
 
 } // namespace
 
-bool showsTheSame(const Made& ours, const Look& look, std::span<const Made> picture)
+std::optional<Made> asPictured(Made ours, const Look& look, std::span<const Made> picture)
 {
-    constexpr double allowed = 0.5; // of the text's size
-    const double reach = allowed * ours.size;
+    constexpr double allowed = 0.25; // of the text's size
     const auto isLike = [&look](const Made& one) { return isDrawnLike(one, look); };
-    if (!std::ranges::all_of(picture, isLike) || !saysTheSame(ours, picture, reach)) return false;
+    const Made* const text = textOf(picture, ours);
+    if (text == nullptr || !std::ranges::all_of(picture, isLike)) return std::nullopt;
+    ours.text = text->text;
+    ours.text.justification = 0;
+    ours.p[4] = ours.p[4] + middleOf(*text) - middleOf(ours);
     const Vec near = ours.p[0];
-    const auto own = strokesOf(ours, near);
+    const double reach = allowed * ours.size;
     const auto other = strokesOf(picture, near);
-    return areAmong(own, other, reach) && areAmong(other, own, reach);
+    const auto own = strokesOf(ours, near);
+    if (!areAmong(own, other, reach) || !areAmong(other, own, reach)) return std::nullopt;
+    return ours;
 }
 
 } // namespace mirtane

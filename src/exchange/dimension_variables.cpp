@@ -1,5 +1,7 @@
 #include "exchange/dimension_variables.h"
 
+#include "render/dimension_strokes.h"
+
 #include <algorithm>
 
 namespace mirtane {
@@ -8,7 +10,7 @@ namespace {
 // A variable by its number in the records of styles.
 namespace variable {
 constexpr int scale = 40, arrow = 41, text = 140, measures = 144, gap = 147, leaderColor = 176,
-              decimals = 271, leaderArrow = 341;
+              decimals = 271, leaderArrow = 341, strokes = 142, arrowBlock = 342;
 }
 
 // What a record says otherwise than its style stands in its data for other programs, as pairs of number and
@@ -52,6 +54,29 @@ class Values {
     const DxfRecord* style_ = nullptr;
 };
 
+struct ArrowName {
+    std::string_view block;
+    std::int16_t style;
+};
+
+constexpr ArrowName arrowNames[] = {
+    {"", arrow::closed},        {"_CLOSED", arrow::closed}, {"_CLOSEDFILLED", arrow::closed},
+    {"_OPEN", arrow::open},     {"_OPEN30", arrow::open},   {"_ARCHTICK", arrow::slash},
+    {"_OBLIQUE", arrow::slash},
+};
+
+std::int16_t arrowStyleOf(const Values& values, const DxfList& list)
+{
+    if (values.number(variable::strokes, "$DIMTSZ", 0) > 0) return arrow::slash;
+    const std::string_view handle = values.name(variable::arrowBlock);
+    const bool isCommon = handle.empty() || handle == "0";
+    const std::string_view block = isCommon ? std::string_view() : list.nameByHandle(handle);
+    const auto* const row = std::ranges::find_if(
+        arrowNames, [block](const ArrowName& one) { return isSameName(one.block, block); });
+    const bool isKnown = row != std::end(arrowNames) && (isCommon || !block.empty());
+    return isKnown ? row->style : std::int16_t{0};
+}
+
 } // namespace
 
 DimensionVariables dimensionVariables(const DxfRecord& record, const DxfList& list)
@@ -70,6 +95,7 @@ DimensionVariables dimensionVariables(const DxfRecord& record, const DxfList& li
         static_cast<int>(std::clamp(values.number(variable::decimals, "", 4), 0.0, 8.0)); // within an int
     d.leaderColor =
         static_cast<int>(std::clamp(values.number(variable::leaderColor, "", 0), 0.0, 256.0)); // likewise
+    d.arrowStyle = arrowStyleOf(values, list);
     d.leaderArrow = values.name(variable::leaderArrow);
     return d;
 }

@@ -12,6 +12,7 @@ struct DimensionVariables {
     double measures = 1; // what lengths are multiplied by before they are shown
     int decimals = 4;
     int leaderColor = 0;          // by number; 0 as the object's own
+    std::int16_t arrowStyle = 1;  // one of ours, or 0 where none of them looks like it
     std::string_view leaderArrow; // handle of a block; empty for the common arrow
 };
 

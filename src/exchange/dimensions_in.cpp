@@ -7,6 +7,7 @@
 #include "exchange/mtext_layout.h"
 #include "exchange/percent_codes.h"
 #include "geometry/fault.h"
+#include "render/dimension_strokes.h"
 
 #include <algorithm>
 #include <array>
@@ -200,6 +201,7 @@ Made ownDimension(const DxfRecord& record, Measured m, const DimensionPoints& po
 {
     const DimensionVariables variables = dimensionVariables(record, list);
     m.made.size = variables.text;
+    m.made.arrow = variables.arrowStyle;
     const std::string shown = numberShown(figureOf(record, m, variables.measures), variables.decimals);
     m.made.text.words = wordsOf(record, list, std::string(m.before).append(shown).append(m.behind));
     if (m.made.kind == Kind::radialDimension) {
@@ -233,7 +235,8 @@ bool isLevelOrUpright(const Made& made)
 // else.
 bool mayStandForPicture(const Made& own, const DrawingMaker& maker)
 {
-    return !maker.isInBlock() && (own.kind != Kind::linearDimension || isLevelOrUpright(own));
+    return !maker.isInBlock() && own.arrow != 0 &&
+           (own.kind != Kind::linearDimension || isLevelOrUpright(own));
 }
 
 } // namespace
@@ -244,9 +247,14 @@ void takeDimension(const DxfRecord& record, DrawingMaker& maker)
     auto own = ownDimension(record, maker);
     const bool hasPicture = maker.picture(record.name(2), moved(record.point(12)));
     if (!own && !hasPicture) return maker.leftOut(record.type, "without a picture");
-    const bool isPicture = hasPicture && (!own || !mayStandForPicture(*own, maker) ||
-                                          !showsTheSame(*own, maker.look, maker.drawnSince(before)));
-    if (isPicture) return;
+    if (hasPicture) {
+        if (own && mayStandForPicture(*own, maker))
+            own = asPictured(std::move(*own), maker.look, maker.drawnSince(before));
+        else
+            own.reset();
+    }
+    if (!own) return;
+    if (!hasPicture && own->arrow == 0) own->arrow = arrow::closed;
     maker.takeBack(before);
     maker.add(std::move(*own));
 }

@@ -135,7 +135,7 @@ TEST(DimensionRecord, IsOneOfOursWhereThatShowsTheSame)
 {
     const std::string record = "0 DIMENSION\n8 0\n3 SMALL\n2 *D3\n70 32\n13 10\n23 0\n14 70\n24 4\n10 70\n20 "
                                "30\n11 40\n21 32.5\n";
-    const std::string extensions = pictureLine(10, 0.6, 10, 31.8) + pictureLine(70, 4.6, 70, 31.8);
+    const std::string extensions = pictureLine(10, 1.6, 10, 31.8) + pictureLine(70, 5.6, 70, 31.8);
     const std::string shaft = pictureLine(12.5, 30, 67.5, 30);
     const std::string arrows = arrowHead(10, 30, 12.5) + arrowHead(70, 30, 67.5);
     const std::string figure = pictureText(40, 32.5, "60");
@@ -143,30 +143,42 @@ TEST(DimensionRecord, IsOneOfOursWhereThatShowsTheSame)
     struct Row {
         const char* what;
         std::string record, picture;
-        bool isOwn;
+        const char* words; // of ours; none where the picture is drawn
     };
     const std::string whole = extensions + shaft + arrows + figure + mark;
+    const auto variable = [](const std::string& pairs) {
+        return "1001 ACAD\n1000 DSTYLE\n1002 {\n" + pairs + "1002 }\n";
+    };
     const std::string turned =
         "0 DIMENSION\n8 0\n3 SMALL\n2 *D3\n70 33\n13 10\n23 0\n14 70\n24 9\n10 70\n20 30\n";
     const Row rows[] = {
-        {"the same", record, whole, true},
-        {"other words", record, extensions + shaft + arrows + pictureText(40, 32.5, "60.0"), false},
-        {"more words", record, whole + pictureText(40, 37, "typ."), false},
+        {"the same", record, whole, "60"},
+        {"another figure", record, extensions + shaft + arrows + pictureText(40, 32.5, "5'-0\""), "5'-0\""},
+        {"more words", record, whole + pictureText(40, 37, "typ."), nullptr},
         {"words that the record says", record + "1 about <>\n",
-         extensions + shaft + arrows + pictureText(40, 32.5, "about 60"), true},
-        {"words in another place", record, extensions + shaft + arrows + pictureText(60, 32.5, "60"), false},
-        {"smaller words", record, extensions + shaft + arrows + pictureText(40, 32.5, "60", "2"), false},
-        {"one extension line", record, pictureLine(10, 0.6, 10, 31.8) + shaft + arrows + figure, false},
-        {"a line to its words", record, whole + pictureLine(40, 30, 55, 45), false},
-        {"lines of another pen", record, whole + pictureLine(10, 0.6, 10, 20, "3"), false},
-        {"a ring about its words", record, whole + "0 CIRCLE\n8 0\n10 40\n20 32.5\n40 3\n", false},
-        {"slanted", turned, whole, false},
+         extensions + shaft + arrows + pictureText(40, 32.5, "about 60"), "about 60"},
+        {"words in another place", record, extensions + shaft + arrows + pictureText(60, 32.5, "60"), "60"},
+        {"words turned", record, extensions + shaft + arrows + pictureText(40, 32.5, "60") + "50 45\n",
+         nullptr},
+        {"smaller words", record, extensions + shaft + arrows + pictureText(40, 32.5, "60", "2"), nullptr},
+        {"strokes for arrows", record + variable("1070 142\n1040 2\n"),
+         extensions + pictureLine(9, 30, 71, 30) + pictureLine(9.4, 29.4, 10.6, 30.6) +
+             pictureLine(69.4, 29.4, 70.6, 30.6) + figure,
+         "60"},
+        {"arrows that we have none like", record + variable("1070 342\n1005 7A\n"), whole, nullptr},
+        {"one extension line", record, pictureLine(10, 1.6, 10, 31.8) + shaft + arrows + figure, nullptr},
+        {"a line to its words", record, whole + pictureLine(40, 30, 55, 45), nullptr},
+        {"lines of another pen", record, whole + pictureLine(10, 0.6, 10, 20, "3"), nullptr},
+        {"a ring about its words", record, whole + "0 CIRCLE\n8 0\n10 40\n20 32.5\n40 3\n", nullptr},
+        {"slanted", turned, whole, nullptr},
     };
     for (const Row& row : rows) {
         const std::string block = "0 BLOCK\n2 *D3\n70 1\n10 0\n20 0\n" + row.picture + "0 ENDBLK\n";
         const auto drawing = madeFrom(row.record, block, style);
-        EXPECT_EQ(ofKind(drawing, Kind::linearDimension).size(), row.isOwn ? 1U : 0U) << row.what;
-        EXPECT_EQ(drawing.objects.size() == 1, row.isOwn) << row.what;
+        const auto own = ofKind(drawing, Kind::linearDimension);
+        ASSERT_EQ(own.size(), row.words != nullptr ? 1U : 0U) << row.what;
+        EXPECT_EQ(drawing.objects.size() == 1, row.words != nullptr) << row.what;
+        for (const Made& one : own) EXPECT_EQ(one.text.words, row.words) << row.what;
     }
     const std::string plan = "0 BLOCK\n2 PLAN\n70 0\n10 0\n20 0\n" + record + "0 ENDBLK\n";
     const std::string block = "0 BLOCK\n2 *D3\n70 1\n10 0\n20 0\n" + whole + "0 ENDBLK\n";
