@@ -68,6 +68,26 @@ TEST(HelpForm, StaysBehindTheDrawingThatWasBroughtToTheFront)
     EXPECT_TRUE(Reader::form().isActiveWindow()) << "when it is asked for again";
 }
 
+// As far as the contents can give way; where there is room they are read whole.
+TEST(HelpForm, BreaksNoLineOfThePageWhereTheContentsCanGiveWay)
+{
+    const Reader reader;
+    for (const int width : {820, 885, 957, 1300}) {
+        Reader::form().resize(width, 420);
+        WindowDesk::settle();
+        const QPlainTextEdit& page = Reader::page();
+        const int line = page.fontMetrics().horizontalAdvance(QString(79, u'm'));
+        EXPECT_GE(page.viewport()->width() - 2 * page.document()->documentMargin(), line) << width;
+        const int contents = WindowDesk::widget(ids::helpContents)->width();
+        EXPECT_GE(contents, 130) << width;
+        EXPECT_TRUE(width < 1300 || contents == 270) << contents;
+    }
+    Reader::form().resize(480, 420);
+    WindowDesk::settle();
+    EXPECT_EQ(WindowDesk::widget(ids::helpContents)->width(), 130);
+    EXPECT_EQ(Reader::form().width(), 480);
+}
+
 TEST(HelpForm, KeepsTheSizeAndThePlaceThatItWasGiven)
 {
     Reader reader;

@@ -7,11 +7,44 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
-constexpr int contentsWidth = 270;
 constexpr int findWidth = 260;
+
+// The contents beside the page. They give way while the page has no room for its longest line.
+class ContentsAndPage : public QWidget {
+  public:
+    ContentsAndPage(const ControlMaker& maker, QWidget* parent)
+        : QWidget(parent), contents_(maker.make(ids::helpContents, *this)),
+          page_(maker.make(ids::helpPage, *this))
+    {
+        QHBoxLayout& row = childOf<QHBoxLayout>(*this);
+        row.setContentsMargins(0, 0, 0, 0);
+        row.setSpacing(spacing);
+        row.addWidget(&contents_);
+        row.addWidget(&page_, 1);
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QWidget::resizeEvent(event);
+        const int line = page_.fontMetrics().horizontalAdvance(QString(longestLine, u'm'));
+        contents_.setFixedWidth(std::clamp(width() - spacing - line - round, least, most));
+    }
+
+  private:
+    static constexpr int spacing = 10;
+    static constexpr int least = 130;
+    static constexpr int most = 270;
+    static constexpr int round = 40;       // about the page's lines, with its scroll bar
+    static constexpr int longestLine = 79; // the manual's
+    QWidget& contents_;                    // both belong to this
+    QWidget& page_;
+};
 
 QWidget& findLine(const ControlMaker& maker, QWidget& form)
 {
@@ -44,13 +77,7 @@ void layHelpForm(const ControlMaker& maker, QWidget& form)
     column.setContentsMargins(14, 8, 14, 14);
     column.setSpacing(6);
     column.addWidget(&findLine(maker, form));
-    QHBoxLayout& row = *new QHBoxLayout; // goes to the column
-    column.addLayout(&row, 1);
-    row.setSpacing(10);
-    QWidget& contents = maker.make(ids::helpContents, form);
-    contents.setFixedWidth(contentsWidth);
-    row.addWidget(&contents);
-    row.addWidget(&maker.make(ids::helpPage, form), 1);
+    column.addWidget(&childOf<ContentsAndPage>(form, maker), 1);
     QShortcut& toFind = childOf<QShortcut>(form, QKeySequence(QKeySequence::Find));
     QObject::connect(&toFind, &QShortcut::activated, &form,
                      [&gate = maker.gate(), &form] { goToFindLine(gate, form); });
