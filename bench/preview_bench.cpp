@@ -36,26 +36,31 @@ EntityRecord aText(Dice& dice)
     EntityRecord r = aLine(dice);
     r.kind = Kind::text;
     r.p4 = r.p1;
-    r.p2.x = static_cast<float>(dice.between(12, 90)); // its size
-    r.a1 = dice.between(0, 360);
+    constexpr float sizes[] = {24, 30, 36, 48, 72};
+    r.p2.x = sizes[dice.below(std::size(sizes))];
+    r.a1 = static_cast<double>(90 * dice.below(4) + dice.below(2)); // exact
     r.t1 = "Hall 12'-6\" x 9'";
+    r.t1.resize(4 + dice.below(13));
     r.t2 = "Garamond";
     return r;
 }
 
-// As many as a file may hold and still have a picture.
+// As many as a file may hold and still have a picture, or some more in the drawing.
 struct LargestFile {
     explicit LargestFile(EntityRecord (*make)(Dice&))
     {
         Dice dice;
         EntityStore& store = session->store;
+        FilePreview preview;
+        Bytes next;
         do {
-            file = drawingBytes(*session, SaveWhat::drawing);
+            file = std::move(next);
             for (int i = 0; i < 20; ++i) {
                 store.setRecord(store.entCount, make(dice));
                 store.setStat(store.entCount++, Stat::on);
             }
-        } while (FilePreview::isSmall(std::ssize(drawingBytes(*session, SaveWhat::drawing))));
+            next = drawingBytes(*session, SaveWhat::drawing);
+        } while (preview.draw(name, next, surface));
         zoomAll(*session, surface);
     }
 

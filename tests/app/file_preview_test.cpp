@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace mirtane {
 namespace {
 
@@ -66,6 +68,53 @@ TEST_F(Preview, IsLeftOutWhereItWouldTakeLongOrShowNothing)
     for (const char* file : {"", "/home/user/none.mth", "/home/user/plan.dxf", "/home/user/huge.mtd",
                              "/home/user/not there.mtd"})
         EXPECT_TRUE(pictureOf(file).empty()) << file;
+}
+
+// A letter that is written once more costs little, one of a new size or direction has to be made.
+TEST_F(Preview, IsLeftOutWhereItsLettersWouldTakeLong)
+{
+    struct Row {
+        const char* what;
+        int texts;
+        float sizeStep;
+        double turn;
+        bool drawn;
+    };
+    const Row rows[] = {{"many of one size, level", 300, 0, 0, true},
+                        {"many in few directions", 300, 0, 90, true},
+                        {"very many", 1000, 0, 0, false},
+                        {"each of its own size", 300, 0.25F, 0, false},
+                        {"each in its own direction", 300, 0, 1, false},
+                        {"few of their own", 60, 0.25F, 7, true}};
+    for (const Row& row : rows) {
+        Desk other;
+        for (int i = 0; i < row.texts; ++i) {
+            const auto number = static_cast<float>(i); // small
+            EntityRecord text = fake::text({number * 17, 300 - number}, "Wohnraum 12");
+            text.p2.x = 24 + row.sizeStep * number;
+            text.a1 = std::fmod(row.turn * i, 360);
+            other.add(text);
+        }
+        desk.disk.files["/home/user/words.mtd"] = drawingBytes(other.s, SaveWhat::drawing);
+        EXPECT_EQ(!pictureOf("/home/user/words.mtd").empty(), row.drawn) << row.what;
+    }
+}
+
+// Of a dimension's letters, too.
+TEST_F(Preview, IsLeftOutWhereTheLettersOfDimensionsWouldTakeLong)
+{
+    for (const auto& [count, drawn] : {std::pair(20, true), std::pair(300, false)}) {
+        Desk other;
+        for (int i = 0; i < count; ++i) {
+            EntityRecord dimension = fake::sample(Kind::linearDimension);
+            dimension.t1 = "12'-6 1/2\"";
+            dimension.a1 = i;
+            dimension.a2 = 30.0 + i % 7;
+            other.add(dimension);
+        }
+        desk.disk.files["/home/user/plan.mtd"] = drawingBytes(other.s, SaveWhat::drawing);
+        EXPECT_EQ(!pictureOf("/home/user/plan.mtd").empty(), drawn) << count;
+    }
 }
 
 TEST_F(Preview, LeavesTheDrawingAsItWas)

@@ -4,9 +4,14 @@
 #include "files/drawing_file.h"
 #include "files/library_files.h"
 #include "geometry/arc.h"
+#include "render/text_painter.h"
 #include "render/view.h"
+#include "tables/kinds.h"
 
 #include <algorithm>
+#include <cmath>
+#include <set>
+#include <tuple>
 
 namespace mirtane {
 namespace {
@@ -104,6 +109,37 @@ constexpr Reader readers[] = {
     {"*.mtm", readMultipleLines},
 };
 
+// Letters cost more than all else, those of a new face, size or direction most: they are made first and kept.
+class LettersInTime {
+  public:
+    // Whether there is time for these, too.
+    bool take(const Lettering& text)
+    {
+        constexpr std::size_t mostMade = 1000;
+        constexpr std::size_t mostWritten = 10'000;
+        written_ += text.words.size();
+        if (written_ > mostWritten) return false;
+        for (const char letter : text.words)
+            made_.insert({text.font, text.size, std::lrint(text.degrees), letter});
+        return made_.size() <= mostMade;
+    }
+
+  private:
+    std::size_t written_ = 0;
+    std::set<std::tuple<std::string_view, float, long, char>> made_;
+};
+
+bool isWrittenInTime(const EntityStore& store)
+{
+    LettersInTime letters;
+    for (std::size_t at = 1; at < EntityStore::at(store.end()); ++at) {
+        if (store.t1[at].empty() || !isDrawnKind(store.kind[at])) continue;
+        const bool isText = store.kind[at] == Kind::text;
+        if (!letters.take(isText ? textLetteringAt(store, at) : dimLetteringAt(store, at))) return false;
+    }
+    return true;
+}
+
 void empty(Session& s)
 {
     s.store.entCount = 1;
@@ -128,7 +164,7 @@ bool FilePreview::draw(const std::string& name, const Bytes& file, Canvas& pictu
     if (scratch_ == nullptr) scratch_ = std::make_unique<Session>();
     empty(*scratch_);
     reader->read(*scratch_, file);
-    if (scratch_->store.entCount < 2) return false;
+    if (scratch_->store.entCount < 2 || !isWrittenInTime(scratch_->store)) return false;
     zoomAll(*scratch_, picture);
     return true;
 }
