@@ -15,25 +15,25 @@
 namespace mirtane {
 namespace {
 
-struct Range {
+struct LinePart {
     double first, last;
 };
 
 // From where to where a line through a point runs within a box, in lengths of its way; nowhere if last is
 // before first.
-Range rangeWithin(Vec from, Vec way, Vec low, Vec high)
+LinePart rangeWithin(Vec from, Vec way, Vec low, Vec high)
 {
     constexpr double endless = std::numeric_limits<double>::infinity();
-    Range range{-endless, endless};
+    LinePart range{-endless, endless};
     const auto clip = [&range](double at, double step, double least, double most) {
         const double a = quotient(least - at, step), b = quotient(most - at, step);
         const bool isIn = at >= least && at <= most;
-        if (step == 0) return isIn ? range : Range{0, -1};
-        return Range{std::max(range.first, std::min(a, b)), std::min(range.last, std::max(a, b))};
+        if (step == 0) return isIn ? range : LinePart{0, -1};
+        return LinePart{std::max(range.first, std::min(a, b)), std::min(range.last, std::max(a, b))};
     };
     range = clip(from.x, way.x, low.x, high.x);
     range = clip(from.y, way.y, low.y, high.y);
-    return std::isfinite(range.first) && std::isfinite(range.last) ? range : Range{0, -1};
+    return std::isfinite(range.first) && std::isfinite(range.last) ? range : LinePart{0, -1};
 }
 
 constexpr std::int64_t stepsOfStroke = 4; // of a curve, since it has to be fitted to it

@@ -2,6 +2,7 @@
 
 #include "exchange/made_of.h"
 #include "exchange/pens_out.h"
+#include "exchange/words_out.h"
 #include "geometry/arc.h"
 #include "geometry/fault.h"
 #include "render/dimension_strokes.h"
@@ -21,15 +22,6 @@ Vec down(const Lettering& text, double sizes)
 {
     const double angle = text.degrees * exactRadiansPerDegree;
     return -(toInches(text.size) * sizes) * turnedLeft(wayAt(angle));
-}
-
-// Numbers of the format for where a text has its point.
-int sideOf(std::int16_t justification)
-{
-    constexpr std::int16_t right = 1;
-    constexpr std::int16_t centre = 2;
-    if (justification == centre) return 1;
-    return justification == right ? 2 : 0;
 }
 
 struct DimensionKind {
@@ -166,7 +158,7 @@ void EntitiesOut::ellipse(const Made& made)
 void EntitiesOut::text(const EntityRecord& r, const Made& made)
 {
     const Lettering words = letteringOf(r);
-    const int side = sideOf(made.text.justification);
+    const int side = dxfSideOf(made.text.justification);
     out_.text(100, "AcDbText");
     kept(10, baselineOf(words, toInches(r.p4)));
     kept(40, made.size * capitals);

@@ -14,7 +14,7 @@ struct Capitals {
     std::int32_t toSmall;
 };
 
-constexpr Capitals capitals[] = {
+constexpr Capitals capitalRows[] = {
     {U'A', U'Z', 1, 32},   {0xC0, 0xD6, 1, 32},   {0xD8, 0xDE, 1, 32},   {0x100, 0x12E, 2, 1},
     {0x132, 0x136, 2, 1},  {0x139, 0x147, 2, 1},  {0x14A, 0x176, 2, 1},  {0x178, 0x178, 1, -121},
     {0x179, 0x17D, 2, 1},  {0x218, 0x21A, 2, 1},  {0x386, 0x386, 1, 38}, {0x388, 0x38A, 1, 37},
@@ -25,7 +25,7 @@ constexpr Capitals capitals[] = {
 
 char32_t small(char32_t c)
 {
-    for (const Capitals& row : capitals) {
+    for (const Capitals& row : capitalRows) {
         const bool isIn = c >= row.first && c <= row.last && (c - row.first) % row.step == 0;
         if (isIn) return static_cast<char32_t>(static_cast<std::int32_t>(c) + row.toSmall); // a letter
     }

@@ -12,12 +12,12 @@
 namespace mirtane {
 namespace {
 
-using Strokes = std::vector<Stroke>;
+using EdgeStrokes = std::vector<Stroke>;
 
 // What an edge may be: programs do not agree on how the ends of a part of an ellipse are counted.
-using Readings = std::vector<Strokes>;
+using Readings = std::vector<EdgeStrokes>;
 
-Strokes lineEdge(GroupRun& groups, const Transform2& plane)
+EdgeStrokes lineEdge(GroupRun& groups, const Transform2& plane)
 {
     const Vec from = groups.point(10);
     const Vec to = groups.point(11);
@@ -48,7 +48,7 @@ void takeRange(GroupRun& groups, ArcGroups& arc)
     arc.counterClockwise = groups.whole(73, 1) != 0;
 }
 
-Strokes arcEdge(GroupRun& groups, const Transform2& plane, double tolerance)
+EdgeStrokes arcEdge(GroupRun& groups, const Transform2& plane, double tolerance)
 {
     ArcGroups arc{groups.point(10)};
     const double radius = groups.number(40);
@@ -82,7 +82,7 @@ Readings ellipseEdge(GroupRun& groups, const Transform2& plane, double tolerance
     return readings;
 }
 
-Strokes splineEdge(GroupRun& groups, const Transform2& plane, double tolerance)
+EdgeStrokes splineEdge(GroupRun& groups, const Transform2& plane, double tolerance)
 {
     Spline spline;
     spline.degree = groups.whole(94, 3);
@@ -121,29 +121,29 @@ Readings takeEdge(GroupRun& groups, const Transform2& plane, double tolerance)
     }
 }
 
-double nearest(Vec p, const Strokes& edge)
+double nearest(Vec p, const EdgeStrokes& edge)
 {
     return std::min(length(p - edge.front().from), length(p - edge.back().to));
 }
 
-double gap(const Strokes& edge, const Strokes& other)
+double gap(const EdgeStrokes& edge, const EdgeStrokes& other)
 {
     return std::min(nearest(edge.front().from, other), nearest(edge.back().to, other));
 }
 
 // Of several readings that which its neighbours go with best.
-Strokes chosen(const std::vector<Readings>& edges, std::size_t at)
+EdgeStrokes chosen(const std::vector<Readings>& edges, std::size_t at)
 {
     const Readings& readings = edges[at];
-    const Strokes& before = edges[(at + edges.size() - 1) % edges.size()].front();
-    const Strokes& after = edges[(at + 1) % edges.size()].front();
-    const auto badness = [&](const Strokes& one) {
+    const EdgeStrokes& before = edges[(at + edges.size() - 1) % edges.size()].front();
+    const EdgeStrokes& after = edges[(at + 1) % edges.size()].front();
+    const auto badness = [&](const EdgeStrokes& one) {
         return one.empty() || before.empty() || after.empty() ? 0 : gap(one, before) + gap(one, after);
     };
     return *std::ranges::min_element(readings, {}, badness);
 }
 
-void reverse(Strokes& strokes)
+void reverse(EdgeStrokes& strokes)
 {
     std::ranges::reverse(strokes);
     for (Stroke& one : strokes) {
@@ -153,7 +153,7 @@ void reverse(Strokes& strokes)
 }
 
 // Whether the way from a loop's end to its start is no longer than that to the next edge.
-bool isClosed(const Strokes& loop, const Strokes& next)
+bool isClosed(const EdgeStrokes& loop, const EdgeStrokes& next)
 {
     return length(loop.back().to - loop.front().from) <= nearest(loop.back().to, next);
 }
@@ -161,12 +161,12 @@ bool isClosed(const Strokes& loop, const Strokes& next)
 // The edges of a path that are not yet part of a loop.
 class EdgesLeft {
   public:
-    explicit EdgesLeft(std::vector<Strokes> edges) : edges_(std::move(edges)) { passTaken(); }
+    explicit EdgesLeft(std::vector<EdgeStrokes> edges) : edges_(std::move(edges)) { passTaken(); }
 
     bool isEmpty() const { return first_ == edges_.size(); }
     // That which begins or ends nearest to p; of equals the first.
-    Strokes& nearestTo(Vec p);
-    Strokes& first() { return edges_[first_]; }
+    EdgeStrokes& nearestTo(Vec p);
+    EdgeStrokes& first() { return edges_[first_]; }
     // It is taken by leaving it empty.
     void passTaken()
     {
@@ -174,11 +174,11 @@ class EdgesLeft {
     }
 
   private:
-    std::vector<Strokes> edges_;
+    std::vector<EdgeStrokes> edges_;
     std::size_t first_ = 0;
 };
 
-Strokes& EdgesLeft::nearestTo(Vec p)
+EdgeStrokes& EdgesLeft::nearestTo(Vec p)
 {
     constexpr std::size_t mostCompared = 2000; // the edges of long paths follow one another, as they should
     const std::size_t end = std::min(edges_.size(), first_ + mostCompared);
@@ -191,18 +191,18 @@ Strokes& EdgesLeft::nearestTo(Vec p)
 
 // Edges stand in any order and direction: each is followed by the one that begins or ends nearest, until the
 // way back to the start is shorter. What is left then is a loop of its own.
-std::vector<Strokes> loopsOf(const std::vector<Readings>& readings)
+std::vector<EdgeStrokes> loopsOf(const std::vector<Readings>& readings)
 {
-    std::vector<Strokes> edges;
+    std::vector<EdgeStrokes> edges;
     for (std::size_t i = 0; i < readings.size(); ++i) edges.push_back(chosen(readings, i));
     EdgesLeft left(std::move(edges));
-    std::vector<Strokes> loops;
+    std::vector<EdgeStrokes> loops;
     for (; !left.isEmpty(); left.passTaken()) {
-        Strokes edge = loops.empty() ? std::exchange(left.first(), {})
-                                     : std::exchange(left.nearestTo(loops.back().back().to), {});
+        EdgeStrokes edge = loops.empty() ? std::exchange(left.first(), {})
+                                         : std::exchange(left.nearestTo(loops.back().back().to), {});
         const bool isNew = loops.empty() || isClosed(loops.back(), edge);
         if (isNew) loops.emplace_back();
-        Strokes& loop = loops.back();
+        EdgeStrokes& loop = loops.back();
         if (!isNew && length(loop.back().to - edge.back().to) < length(loop.back().to - edge.front().from))
             reverse(edge);
         loop.insert(loop.end(), edge.begin(), edge.end());
@@ -210,7 +210,7 @@ std::vector<Strokes> loopsOf(const std::vector<Readings>& readings)
     return loops;
 }
 
-Strokes polylinePath(GroupRun& groups, const Transform2& plane, double tolerance)
+EdgeStrokes polylinePath(GroupRun& groups, const Transform2& plane, double tolerance)
 {
     groups.whole(72);
     groups.whole(73);
@@ -220,22 +220,22 @@ Strokes polylinePath(GroupRun& groups, const Transform2& plane, double tolerance
         const Vec corner = groups.point(10);
         corners.push_back({corner, groups.number(42)});
     }
-    Strokes strokes;
+    EdgeStrokes strokes;
     for (std::size_t i = 0; i < corners.size(); ++i) {
         const auto [from, bulge] = corners[i];
         const Vec to = corners[(i + 1) % corners.size()].first;
         if (from == to) continue;
-        const Strokes leg = std::abs(bulge) > 1e-9
-                                ? strokesOf(transformed(arcOfBulge(from, to, bulge), plane), tolerance)
-                                : Strokes{straightStroke(plane(from), plane(to))};
-        Strokes turned = leg;
+        const EdgeStrokes leg = std::abs(bulge) > 1e-9
+                                    ? strokesOf(transformed(arcOfBulge(from, to, bulge), plane), tolerance)
+                                    : EdgeStrokes{straightStroke(plane(from), plane(to))};
+        EdgeStrokes turned = leg;
         if (!turned.empty() && bulge < 0) reverse(turned);
         strokes.insert(strokes.end(), turned.begin(), turned.end());
     }
     return strokes;
 }
 
-std::vector<Strokes> edgePath(GroupRun& groups, const Transform2& plane, double tolerance)
+std::vector<EdgeStrokes> edgePath(GroupRun& groups, const Transform2& plane, double tolerance)
 {
     const std::size_t count = groups.count(93);
     std::vector<Readings> edges;
@@ -255,11 +255,11 @@ std::vector<HatchPath> takePaths(GroupRun& groups, const Transform2& plane, doub
         constexpr int polyline = 2;
         const int flags = groups.whole(92);
         const bool isPolyline = (flags & polyline) != 0;
-        const std::vector<Strokes> loops = isPolyline
-                                               ? std::vector<Strokes>{polylinePath(groups, plane, tolerance)}
-                                               : edgePath(groups, plane, tolerance);
+        const std::vector<EdgeStrokes> loops =
+            isPolyline ? std::vector<EdgeStrokes>{polylinePath(groups, plane, tolerance)}
+                       : edgePath(groups, plane, tolerance);
         while (groups.isAt(97) || groups.isAt(330)) groups.next(); // what it was made of
-        for (const Strokes& loop : loops) {
+        for (const EdgeStrokes& loop : loops) {
             if (!loop.empty()) paths.push_back({loop});
         }
     }

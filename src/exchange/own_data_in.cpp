@@ -142,12 +142,6 @@ bool hasFace(const DxfRecord& record, const Made& made, const DxfList& list)
     return style != list.styles.end() && isSameName(faceOfStyle(list, style->second), made.text.face);
 }
 
-int sideOf(std::int16_t justification)
-{
-    constexpr int sides[] = {0, 2, 1}; // left, right, centre
-    return justification >= 0 && justification <= 2 ? sides[justification] : 0;
-}
-
 // What others can change of an object besides the numbers that were kept: how it is justified, mirrored and
 // seen, and its face.
 bool isFormed(const DxfRecord& record, const Made& made, const DxfList& list)
@@ -157,7 +151,7 @@ bool isFormed(const DxfRecord& record, const Made& made, const DxfList& list)
     switch (made.kind) {
     case Kind::text:
         return record.whole(71) == 0 && record.whole(73) == 0 && record.number(41, 1) == 1 &&
-               record.whole(72) == sideOf(made.text.justification) && hasFace(record, made, list);
+               record.whole(72) == dxfSideOf(made.text.justification) && hasFace(record, made, list);
     case Kind::ellipse:
         return record.number(41) == 0 && std::abs(record.number(42, wholeTurn) - wholeTurn) < little;
     case Kind::leader:

@@ -187,4 +187,12 @@ std::string DxfNames::add(std::string_view utf8)
     return name;
 }
 
+int dxfSideOf(std::int16_t justification)
+{
+    constexpr std::int16_t right = 1;
+    constexpr std::int16_t centre = 2;
+    if (justification == centre) return 1;
+    return justification == right ? 2 : 0;
+}
+
 } // namespace mirtane

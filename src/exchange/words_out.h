@@ -3,6 +3,7 @@
 // Words as a DXF file holds them: letters beyond ASCII as "\U+XXXX", and nothing in them that a reader would
 // take for a sign of its own.
 
+#include <cstdint>
 #include <set>
 #include <string>
 #include <string_view>
@@ -26,5 +27,8 @@ class DxfNames {
   private:
     std::set<std::string> taken_;
 };
+
+// Where a text of that justification has its point, as the format counts: 0 left, 1 in the middle, 2 right.
+int dxfSideOf(std::int16_t justification);
 
 } // namespace mirtane
