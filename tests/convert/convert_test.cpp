@@ -249,18 +249,31 @@ TEST_F(Convert, OneLayerIsAllThatIsWritten)
     EXPECT_THAT(p.content("layer.dxf"), Not(HasSubstr("KITCHEN")));
 }
 
+const std::string inInches = "  0\nSECTION\n  2\nHEADER\n  9\n$INSUNITS\n 70\n1\n  0\nENDSEC\n";
 const char* const foreignDxf = "0\nSECTION\n2\nENTITIES\n"
                                "0\nLINE\n8\nwalls\n10\n1.5\n20\n-2\n11\n3\n21\n4\n"
                                "0\nENDSEC\n0\nEOF\n";
 
 TEST_F(Convert, DxfOfAnotherProgramComesIn)
 {
-    p.write("foreign.dxf", foreignDxf);
+    p.write("foreign.dxf", inInches + foreignDxf);
     expectDone("foreign.dxf -o in.mtd");
     const auto objects = p.objectsOf("in.mtd");
     ASSERT_EQ(objects.size(), 1U);
     EXPECT_EQ(objects[0].p1, (Point{18, 24}));
     EXPECT_EQ(objects[0].p2, (Point{36, -48}));
+}
+
+TEST_F(Convert, DxfWithoutUnitsIsTakenAsInchesAloud)
+{
+    p.write("bare.dxf", foreignDxf);
+    expectRefused("bare.dxf -o in.mtd", 0, "bare.dxf: no units: taken as inches");
+    EXPECT_EQ(p.objectsOf("in.mtd").at(0).p2, (Point{36, -48}));
+    p.writeDrawing("own.mtd", house);
+    expectDone("own.mtd -o own.dxf");
+    expectDone("own.dxf -o back.mtd");
+    expectDone("--as-window own.mtd -o window.dxf");
+    expectDone("window.dxf -o back.mtd");
 }
 
 TEST_F(Convert, DxfOfAnotherProgramByTheLetterHasNothingToConvert)
@@ -317,7 +330,7 @@ TEST_F(Convert, DimensionThatDxfCannotHoldEndsTheFileAndIsToldOf)
 
 TEST_F(Convert, ObjectsPastTheTableAreToldOf)
 {
-    std::string dxf = "  0\nSECTION\n  2\nENTITIES\n";
+    std::string dxf = inInches + "  0\nSECTION\n  2\nENTITIES\n";
     for (int i = 0; i <= 60000; ++i) dxf += "  0\nLINE\n  8\n0\n 10\n1\n 20\n1\n 11\n2\n 21\n5\n";
     p.write("big.dxf", dxf + "  0\nENDSEC\n  0\nEOF\n");
     expectRefused("big.dxf -o big.mtd", 3,
