@@ -71,8 +71,8 @@ void FormWindow::show(const Control& now)
     // One that stands alone keeps the place and the size that the user gave it.
     const bool comesUp = now.visible && isHidden();
     if (comesUp && !(placed_ && standsAlone(form_))) moveOverMain();
-    // Whoever had the keys gives them back, also where no window manager sees to it.
-    if (!now.visible && isActiveWindow()) main_.activateWindow();
+    // Who had the keys, or was about to get them, gives them back, also where no window manager sees to it.
+    if (!now.visible && isVisible()) main_.activateWindow();
     setVisible(now.visible);
     placed_ = placed_ || now.visible;
     if (now.visible && standsAlone(form_)) raise();
