@@ -18,7 +18,7 @@ void tell(const FullReport& report, Outcome& outcome)
     if (report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
     const std::string came = sentenceOfWhatCame(report);
     if (!left.empty()) outcome.remarks.push_back(left + (came.empty() ? "" : "; " + came + " came"));
-    if (!report.hasUnits) outcome.remarks.push_back("no units: taken as inches");
+    if (!report.hasUnits) outcome.remarks.emplace_back("no units: taken as inches");
     if (const std::string moved = sentenceOfMove(report); !moved.empty()) outcome.remarks.push_back(moved);
 }
 

@@ -40,7 +40,9 @@ class Share {
     }
     ~Share() { work_.left += budget.looks; }
     Share(const Share&) = delete;
+    Share(Share&&) = delete;
     Share& operator=(const Share&) = delete;
+    Share& operator=(Share&&) = delete;
 
     Budget budget;
 

@@ -22,6 +22,7 @@ constexpr int outer = 1, ignored = 2;
 std::vector<Loop> loopsThatCount(const std::vector<HatchPath>& paths, int style, DrawingMaker& maker)
 {
     std::vector<Loop> loops;
+    loops.reserve(paths.size());
     for (const HatchPath& path : paths) loops.push_back(loopOf(path, maker.tolerance()));
     if (style != islands::outer && style != islands::ignored) return loops;
     const std::vector<int> depths = depthsOf(loops, maker.patternWork());

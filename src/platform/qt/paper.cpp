@@ -19,7 +19,7 @@ constexpr QLocale::Territory withLetter[] = {
 QString localeOfPaper()
 {
     for (const char* variable : {"LC_ALL", "LC_PAPER", "LANG"}) {
-        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
+        if (QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
     }
     return {};
 }

@@ -8,8 +8,8 @@ namespace mirtane {
 
 QWidget& buttonRow(const ControlMaker& maker, QWidget& form, ControlId accept, ControlId cancel)
 {
-    QWidget& row = childOf<QWidget>(form);
-    QHBoxLayout& buttons = childOf<QHBoxLayout>(row);
+    auto& row = childOf<QWidget>(form);
+    auto& buttons = childOf<QHBoxLayout>(row);
     buttons.setContentsMargins(0, 0, 0, 0);
     buttons.addStretch();
     buttons.addWidget(&maker.make(accept, row));

@@ -21,7 +21,7 @@ class ContentsAndPage : public QWidget {
         : QWidget(parent), contents_(maker.make(ids::helpContents, *this)),
           page_(maker.make(ids::helpPage, *this))
     {
-        QHBoxLayout& row = childOf<QHBoxLayout>(*this);
+        auto& row = childOf<QHBoxLayout>(*this);
         row.setContentsMargins(0, 0, 0, 0);
         row.setSpacing(spacing);
         row.addWidget(&contents_);
@@ -39,7 +39,7 @@ class ContentsAndPage : public QWidget {
   private:
     static constexpr int spacing = 10;
     static constexpr int least = 130;
-    static constexpr int most = 270;
+    static constexpr int most = 320;
     static constexpr int round = 40;       // about the page's lines, with its scroll bar
     static constexpr int longestLine = 79; // the manual's
     QWidget& contents_;                    // both belong to this
