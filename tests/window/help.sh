@@ -6,7 +6,7 @@ set -eu
 
 file=27 help_menu=892
 entry_text="824 56 184 22"
-page_text="340 80 620 560" # within the page, which stands beside its contents
+page_text="400 80 560 560" # within the page, which stands beside its contents
 
 # bright X Y W H: how many pixels of that part of the screen are those of letters.
 bright() {

@@ -80,7 +80,7 @@ TEST(HelpForm, BreaksNoLineOfThePageWhereTheContentsCanGiveWay)
         EXPECT_GE(page.viewport()->width() - 2 * page.document()->documentMargin(), line) << width;
         const int contents = WindowDesk::widget(ids::helpContents)->width();
         EXPECT_GE(contents, 130) << width;
-        EXPECT_TRUE(width < 1300 || contents == 270) << contents;
+        EXPECT_TRUE(width < 1300 || contents == 320) << contents;
     }
     Reader::form().resize(480, 420);
     WindowDesk::settle();
