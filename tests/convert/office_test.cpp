@@ -223,6 +223,8 @@ TEST_F(Office, DrawingsAreHandedToManyMachinesAsTheManualPageSays)
     const auto done = [this] {
         int count = 0;
         for (const auto& entry : std::filesystem::directory_iterator(p.path("plots"))) {
+            // One that is being written has no plot's name yet, and what was cut off never gets one.
+            if (entry.path().filename().string().starts_with('.')) continue;
             EXPECT_THAT(p.content("plots/" + entry.path().filename().string()), testing::EndsWith("%%EOF\n"));
             ++count;
         }

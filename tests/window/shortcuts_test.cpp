@@ -39,6 +39,8 @@ struct KeyDesk : private RecordingPrinter, WindowDesk {
         QTest::keyClick(QGuiApplication::focusWindow(), static_cast<Qt::Key>(key), held); // one of them
         settle();
     }
+    // Until the drawing is drawn for the size that it got last.
+    static void rest() { QTest::qWait(150); }
     void movePointer()
     {
         QWidget& drawing = *widget(ids::drawing);
@@ -176,6 +178,7 @@ TEST(Shortcuts, AreAModalFormsOwn)
         row.open(desk);
         desk.movePointer();
         const std::string title = desk.controls()[row.form].caption;
+        KeyDesk::rest();
         const auto whole = desk.picture();
         desk.surface.clear();
         const auto bare = desk.picture();
