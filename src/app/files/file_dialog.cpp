@@ -274,14 +274,16 @@ bool isDxf(const std::string& path)
     return pattern != nullptr && pattern->pattern == "*.dxf";
 }
 
-void tellNotTaken(Notices& notices, const std::string& taken, std::ptrdiff_t others)
+// Of the others alone: what becomes of the first may be for the user to say.
+void tellNotTaken(Notices& notices, const std::string& first, std::ptrdiff_t others)
 {
     notices.settle(Matter::notTaken);
     if (others == 0) return;
-    const std::string rest = others == 1
-                                 ? "1 other file that was dropped was not."
-                                 : std::to_string(others) + " other files that were dropped were not.";
-    notices.post({Matter::notTaken, "Only " + taken + " was taken: " + rest, {{"Close", Offer::goOn}}});
+    const bool isOne = others == 1;
+    const std::string told = std::to_string(others) +
+                             (isOne ? " other file that was" : " other files that were") + " dropped with " +
+                             first + (isOne ? " was" : " were") + " not taken.";
+    notices.post({Matter::notTaken, told, {{"Close", Offer::goOn}}});
 }
 
 } // namespace
