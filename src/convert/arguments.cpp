@@ -1,5 +1,7 @@
 #include "convert/arguments.h"
 
+#include "text/ascii.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QThread>
@@ -75,18 +77,10 @@ struct Given {
     std::optional<int> workers; // 0 for as many as there are cores
 };
 
-std::string lowered(std::string text)
-{
-    for (char& c : text) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a'); // stays among the letters
-    }
-    return text;
-}
-
 std::optional<Format> formatNamed(const std::string& name)
 {
     for (const FormatRow& row : formats) {
-        if (row.name == lowered(name)) return row.format;
+        if (row.name == inSmallLetters(name)) return row.format;
     }
     return std::nullopt;
 }
@@ -114,21 +108,31 @@ void takeFormat(Given& given, const std::string& value)
     if (!given.to) throw WrongUsage{"no such format: " + value};
 }
 
+struct Pair {
+    int first, second;
+};
+
+// Two whole numbers from 1 on, as in 800x600 and 1:50.
+std::optional<Pair> pairIn(std::string_view text, char between, int largest)
+{
+    const std::size_t at = std::min(text.find(between), text.size());
+    const auto first = wholeNumber(text.substr(0, at), 1, largest);
+    const auto second = wholeNumber(text.substr(std::min(at + 1, text.size())), 1, largest);
+    return first && second ? std::optional(Pair{*first, *second}) : std::nullopt;
+}
+
 void takeSize(Given& given, const std::string& value)
 {
     constexpr int largest = 20000;
-    const std::string_view text = value;
-    const std::size_t cross = std::min(text.find('x'), text.size());
-    const auto width = wholeNumber(text.substr(0, cross), 1, largest);
-    const auto height = wholeNumber(text.substr(std::min(cross + 1, text.size())), 1, largest);
-    if (!width || !height) throw WrongUsage{"no size of 1x1 to 20000x20000: " + value};
-    given.wishes.size = {*width, *height};
+    const auto size = pairIn(value, 'x', largest);
+    if (!size) throw WrongUsage{"no size of 1x1 to 20000x20000: " + value};
+    given.wishes.size = {size->first, size->second};
 }
 
 void takePaper(Given& given, const std::string& value)
 {
     for (const PaperRow& row : papers) {
-        if (row.name != lowered(value)) continue;
+        if (row.name != inSmallLetters(value)) continue;
         given.wishes.paper = row.paper;
         return;
     }
@@ -138,12 +142,9 @@ void takePaper(Given& given, const std::string& value)
 void takeScale(Given& given, const std::string& value)
 {
     constexpr int largest = 100000;
-    const std::string_view text = value;
-    const std::size_t colon = std::min(text.find(':'), text.size());
-    const auto paper = wholeNumber(text.substr(0, colon), 1, largest);
-    const auto drawing = wholeNumber(text.substr(std::min(colon + 1, text.size())), 1, largest);
-    if (!paper || !drawing) throw WrongUsage{"no scale such as 1:50: " + value};
-    given.wishes.scale = PaperScale{*paper, *drawing};
+    const auto scale = pairIn(value, ':', largest);
+    if (!scale) throw WrongUsage{"no scale such as 1:50: " + value};
+    given.wishes.scale = PaperScale{scale->first, scale->second};
 }
 
 void takeLayer(Given& given, const std::string& value)

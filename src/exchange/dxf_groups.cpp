@@ -6,13 +6,6 @@
 
 namespace mirtane {
 
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t";
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    return text.substr(0, text.find_last_not_of(blanks) + 1);
-}
-
 double dxfNumber(std::string_view value, double fallback)
 {
     value = trimmed(value);

@@ -2,6 +2,8 @@
 
 // The pairs that a DXF file is made up of, and what their values can be read as.
 
+#include "text/ascii.h"
+
 #include <span>
 #include <string_view>
 
@@ -13,8 +15,6 @@ struct DxfGroup {
 };
 
 using DxfGroups = std::span<const DxfGroup>;
-
-std::string_view trimmed(std::string_view text);
 
 // The number that a value is; fallback for none, and for one that is not finite.
 double dxfNumber(std::string_view value, double fallback = 0);

@@ -1,16 +1,12 @@
 #include "exchange/dxf_list.h"
 
 #include "exchange/pairs.h"
+#include "text/ascii.h"
 
 #include <algorithm>
 
 namespace mirtane {
 namespace {
-
-char capital(char c)
-{
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; // ASCII stays ASCII
-}
 
 // Puts the records into the list, one behind the other.
 class Lister {
@@ -192,12 +188,12 @@ Vec3 DxfRecord::point(int code, Vec3 fallback) const
 
 bool LessWithoutCase::operator()(std::string_view a, std::string_view b) const
 {
-    return std::ranges::lexicographical_compare(a, b, {}, capital, capital);
+    return std::ranges::lexicographical_compare(a, b, {}, capitalLetter, capitalLetter);
 }
 
 bool isSameName(std::string_view a, std::string_view b)
 {
-    return std::ranges::equal(a, b, {}, capital, capital);
+    return isSameButForCase(a, b);
 }
 
 std::string DxfList::text(const DxfRecord& record, int code) const

@@ -1,5 +1,6 @@
 #include "exchange/mtext_codes.h"
 
+#include "text/ascii.h"
 #include "text/utf8.h"
 
 #include <algorithm>
@@ -17,12 +18,6 @@ std::optional<double> takeNumber(std::string_view& text)
     if (fault != std::errc{} || !std::isfinite(number)) return std::nullopt;
     text.remove_prefix(static_cast<std::size_t>(stop - text.data())); // stop is within text
     return number;
-}
-
-std::string_view trimmedEnds(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 // "Arial|b0|i0|c0|p34": the face stands first.
@@ -239,8 +234,8 @@ void CodeReader::stacked()
             (isLower ? lower : upper) += c;
     }
     if (!rest_.empty()) rest_.remove_prefix(1);
-    const std::string_view top = trimmedEnds(upper);
-    const std::string_view bottom = trimmedEnds(lower);
+    const std::string_view top = trimmed(upper, " ");
+    const std::string_view bottom = trimmed(lower, " ");
     const bool isFraction = !top.empty() && !bottom.empty();
     const std::string_view before = !words_.empty() ? words_
                                     : runs_.empty() ? ""

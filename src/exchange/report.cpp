@@ -1,5 +1,6 @@
 #include "exchange/report.h"
 
+#include "text/ascii.h"
 #include "text/numbers.h"
 
 #include <algorithm>
@@ -63,15 +64,6 @@ void append(std::string& sentence, const std::string& part)
     sentence += part;
 }
 
-std::string lowered(std::string_view type)
-{
-    std::string name(type);
-    std::ranges::transform(name, name.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; // ASCII stays ASCII
-    });
-    return name;
-}
-
 } // namespace
 
 FullReport reportOf(const FullReading& reading, const TakenReading& taken)
@@ -92,7 +84,7 @@ std::string counted(std::int64_t count, std::string_view type)
 {
     const auto* const row = std::ranges::find(typeNames, type, &TypeName::type);
     if (row != std::end(typeNames)) return withName(count, row->one, row->many);
-    const std::string name = lowered(type);
+    const std::string name = inSmallLetters(type);
     return withName(count, name, name + "s");
 }
 

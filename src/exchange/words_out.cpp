@@ -1,5 +1,6 @@
 #include "exchange/words_out.h"
 
+#include "text/ascii.h"
 #include "text/code_page.h"
 #include "text/utf8.h"
 
@@ -124,21 +125,6 @@ void addToNameBeyondAscii(std::string& to, char32_t code, std::string_view)
         addUnicode(to, code);
 }
 
-std::string_view withoutBlanks(std::string_view name)
-{
-    name.remove_prefix(std::min(name.find_first_not_of(' '), name.size()));
-    return name.substr(0, name.find_last_not_of(' ') + 1);
-}
-
-// Readers compare names without case.
-std::string folded(std::string name)
-{
-    for (char& c : name) {
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A'); // stays among the letters
-    }
-    return name;
-}
-
 // The first letters of a text, as many as have room.
 std::string_view shortened(std::string_view utf8, std::size_t letters)
 {
@@ -180,10 +166,10 @@ std::string DxfNames::add(std::string_view utf8)
         kept = shortened(kept, utf8Length(kept) - 1);
         whole = encoded(kept, addToName, addToNameBeyondAscii);
     }
-    const std::string_view trimmed = withoutBlanks(whole);
-    const std::string base = trimmed.empty() ? "_" : std::string(trimmed);
+    const std::string_view bare = trimmed(whole, " ");
+    const std::string base = bare.empty() ? "_" : std::string(bare);
     std::string name = base;
-    for (int n = 2; !taken_.insert(folded(name)).second; ++n) name = base + "-" + std::to_string(n);
+    for (int n = 2; !taken_.insert(inCapitals(name)).second; ++n) name = base + "-" + std::to_string(n);
     return name;
 }
 

@@ -1,5 +1,6 @@
 #include "app/dialogs/manual.h"
 
+#include "text/ascii.h"
 #include "text/utf8.h"
 
 #include <algorithm>
@@ -8,21 +9,9 @@
 namespace mirtane {
 namespace {
 
-char lowered(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; // stays among the letters
-}
-
 bool sameLetters(char a, char b)
 {
-    return lowered(a) == lowered(b);
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+    return smallLetter(a) == smallLetter(b);
 }
 
 struct Line {
@@ -60,7 +49,7 @@ std::string titleOf(const std::vector<Line>& lines, std::string_view heading)
 {
     for (const Line& line : lines) {
         const std::string_view listed = trimmed(line.text);
-        if (std::ranges::equal(listed, heading, sameLetters)) return std::string(listed);
+        if (isSameButForCase(listed, heading)) return std::string(listed);
     }
     return std::string(heading);
 }

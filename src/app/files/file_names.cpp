@@ -1,5 +1,6 @@
 #include "app/files/file_names.h"
 
+#include "text/ascii.h"
 #include "text/utf8.h"
 
 #include <algorithm>
@@ -18,14 +19,6 @@ constexpr PatternRow patternRows[] = {
 const std::vector<std::string>& namesListed(const Controls& controls)
 {
     return controls[ids::fileList].rows;
-}
-
-bool sameButForCase(std::string_view a, std::string_view b)
-{
-    const auto lower = [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-    }; // a letter
-    return std::ranges::equal(a, b, {}, lower, lower);
 }
 
 // All after the first "." is dropped and the pattern's extension added; nothing of a name without a base.
@@ -119,7 +112,7 @@ const PatternRow* patternOfFile(std::string_view name)
 {
     const auto* const found = std::ranges::find_if(patternRows, [&](const PatternRow& row) {
         const std::size_t length = row.extension.size();
-        return name.size() > length && sameButForCase(name.substr(name.size() - length), row.extension);
+        return name.size() > length && isSameButForCase(name.substr(name.size() - length), row.extension);
     });
     return found == std::end(patternRows) ? nullptr : found;
 }
@@ -143,7 +136,7 @@ std::string nameInList(const Session& s, const std::string& name)
     if (std::ranges::find(names, name) != names.end()) return name;
     const std::size_t base = name.size() - patternOf(s).extension.size();
     const auto found = std::ranges::find_if(names, [&](const std::string& row) {
-        return row.starts_with(name.substr(0, base)) && sameButForCase(row, name);
+        return row.starts_with(name.substr(0, base)) && isSameButForCase(row, name);
     });
     return found == names.end() ? name : *found;
 }

@@ -1,5 +1,7 @@
 #include "platform/qt/settings.h"
 
+#include "text/ascii.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -15,15 +17,8 @@ namespace {
 using Values = std::map<std::string, std::string>;
 
 constexpr std::string_view section = "[Mirtane]";
+constexpr std::string_view blanks = " \t\r";
 constexpr std::size_t largestFile = 1024 * 1024; // bytes; the settings take one or two thousand
-
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t\r";
-    const auto from = text.find_first_not_of(blanks);
-    if (from == std::string_view::npos) return {};
-    return text.substr(from, text.find_last_not_of(blanks) - from + 1);
-}
 
 char escaped(char letter)
 {
@@ -42,7 +37,7 @@ std::string valueOf(std::string_view text)
         if (text[i] == '"')
             quoted = !quoted;
         else if (text[i] == ';' && !quoted)
-            return std::string(trimmed(value));
+            return std::string(trimmed(value, blanks));
         else if (text[i] == '\\' && i + 1 < text.size())
             value += escaped(text[++i]);
         else
@@ -68,7 +63,7 @@ std::string_view nextLine(std::string_view& text)
 {
     const std::string_view line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(text.size(), line.size() + 1));
-    return trimmed(line);
+    return trimmed(line, blanks);
 }
 
 Values valuesIn(std::string_view text)
@@ -80,8 +75,8 @@ Values valuesIn(std::string_view text)
         if (line.starts_with('['))
             ours = line == section;
         else if (ours && !line.starts_with(';') && equals != std::string_view::npos)
-            values[validUtf8(std::string(trimmed(line.substr(0, equals))))] =
-                validUtf8(withoutMark(valueOf(trimmed(line.substr(equals + 1)))));
+            values[validUtf8(std::string(trimmed(line.substr(0, equals), blanks)))] =
+                validUtf8(withoutMark(valueOf(trimmed(line.substr(equals + 1), blanks))));
     }
     return values;
 }
