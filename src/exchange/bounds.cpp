@@ -21,13 +21,6 @@ void feedArc(Bounds& bounds, const Made& made)
 
 } // namespace
 
-void Bounds::feed(Vec p)
-{
-    low = fed ? Vec{std::min(low.x, p.x), std::min(low.y, p.y)} : p;
-    high = fed ? Vec{std::max(high.x, p.x), std::max(high.y, p.y)} : p;
-    fed = true;
-}
-
 double Bounds::reach() const
 {
     return std::max({std::abs(low.x), std::abs(low.y), std::abs(high.x), std::abs(high.y)});

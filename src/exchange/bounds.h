@@ -2,6 +2,7 @@
 
 #include "exchange/made.h"
 
+#include <algorithm>
 #include <span>
 
 namespace mirtane {
@@ -10,7 +11,12 @@ struct Bounds {
     Vec low, high;
     bool fed = false;
 
-    void feed(Vec p);
+    void feed(Vec p)
+    {
+        low = fed ? Vec{std::min(low.x, p.x), std::min(low.y, p.y)} : p;
+        high = fed ? Vec{std::max(high.x, p.x), std::max(high.y, p.y)} : p;
+        fed = true;
+    }
     double size() const { return length(high - low); }
     // The farthest that a coordinate lies from 0.
     double reach() const;

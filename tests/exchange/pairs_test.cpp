@@ -3,6 +3,9 @@
 #include "dxf_text.h"
 
 #include <bit>
+#include <charconv>
+#include <cmath>
+#include <random>
 
 namespace mirtane {
 namespace {
@@ -41,6 +44,57 @@ TEST(DxfPairs, AnyPaddingAndAnyLineEnd)
         {"a code without a value at the end", "0\nLINE\n10\n1.5\n20"},
     };
     for (const Row& row : rows) EXPECT_EQ(joined(dxfPairs(row.text)), "0=LINE;10=1.5;") << row.what;
+}
+
+// Values of every length at every distance from the end of the file, with letters beside them that differ
+// from an end of a line in one bit.
+TEST(DxfPairs, LinesOfEveryLengthEndWhereTheyEnd)
+{
+    const std::string letters = "\x0B\x0C\x8A\x8D\x09\x0E\xFA a\x01\xFF";
+    for (const std::string end : {"\n", "\r", "\r\n", "\r\r\n"}) {
+        for (std::size_t length = 0; length < 40; ++length) {
+            std::string value;
+            for (std::size_t i = 0; i < length; ++i) value += letters[(i + length) % letters.size()];
+            for (std::size_t behind = 0; behind < 10; ++behind) {
+                const std::string last(behind, 'x');
+                const std::string text =
+                    std::string("1") + end + value + end + " 40" + end + value + end + "1004" + end + last;
+                const std::string shown = "1=" + value + ";40=" + value + ";1004=" + last + ";";
+                EXPECT_EQ(joined(dxfPairs(text + end)), shown) << length << ", " << behind;
+                if (behind > 0) {
+                    EXPECT_EQ(joined(dxfPairs(text)), shown) << length << ", " << behind;
+                }
+            }
+        }
+    }
+}
+
+TEST(DxfNumbers, ReadAsTheLibraryReadsThem)
+{
+    std::mt19937_64 chance(7);
+    for (int i = 0; i < 20'000; ++i) {
+        const auto digits = std::to_string(chance() >> (chance() % 64));
+        const std::size_t point = chance() % (digits.size() + 2);
+        std::string text =
+            point > digits.size() ? digits : digits.substr(0, point) + "." + digits.substr(point);
+        if (chance() % 2 == 0) text.insert(0, "-");
+        double expected = 0;
+        std::from_chars(text.data(), text.data() + text.size(), expected);
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(dxfNumber(text)), std::bit_cast<std::uint64_t>(expected))
+            << text;
+    }
+    for (const auto& [text, number] : {std::pair{" 7 ", 7.0},
+                                       {"+5.25", 5.25},
+                                       {".5", 0.5},
+                                       {"-3.", -3.0},
+                                       {"1e3", 1000.0},
+                                       {"2.5E-2", 0.025},
+                                       {"12a", 12.0},
+                                       {"1.2.3", 1.2}})
+        EXPECT_EQ(dxfNumber(text, -9), number) << text;
+    for (const char* const none : {"", " ", ".", "-", "-.", "+", "x1", "nan", "inf", "1e999"})
+        EXPECT_EQ(dxfNumber(none, -9), -9) << none;
+    EXPECT_TRUE(std::signbit(dxfNumber("-0.0")));
 }
 
 TEST(DxfPairs, BlanksOfAValueStay)
