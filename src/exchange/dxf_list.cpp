@@ -75,6 +75,7 @@ void Lister::take(DxfRecord&& record)
         if (isSameName(section_, "HEADER")) takeHeader(record.groups);
     } else if (isType(record, "ENDSEC")) {
         section_ = {};
+        partsFollow_ = false;
     } else if (isSameName(section_, "TABLES")) {
         takeRow(std::move(record));
     } else if (isSameName(section_, "BLOCKS")) {
@@ -118,6 +119,7 @@ void Lister::takeOfBlock(DxfRecord&& record)
         partsFollow_ = false;
     } else if (isType(record, "ENDBLK")) {
         block_ = nullptr;
+        partsFollow_ = false;
     } else if (block_ != nullptr) {
         addDrawn(block_->records, std::move(record));
     }

@@ -376,6 +376,31 @@ TEST(DamagedFiles, CutAtEveryLengthAreTaken)
     }
 }
 
+// A vertex or an attribute belongs to the record before it in the same place, and to no other. A vertex alone
+// is nothing; an attribute alone is its text.
+TEST(DamagedFiles, PartsBelongToNothingInAnotherSection)
+{
+    const std::string line = dxf({{0, "LINE"}, {10, "3"}, {20, "7"}, {11, "9"}, {21, "1"}});
+    const std::string label = dxf({{0, "ATTRIB"}, {10, "2"}, {20, "5"}, {40, "1"}, {1, "stray"}});
+    const std::string corner = dxf({{0, "VERTEX"}, {10, "4"}, {20, "8"}});
+    const struct {
+        std::string whole, part;
+        std::size_t alone;
+    } kinds[] = {{dxf({{0, "POLYLINE"}, {66, "1"}}) + corner, corner, 0},
+                 {dxf({{0, "INSERT"}, {2, "C"}}), label, 1}};
+    const std::string begin = dxf({{0, "BLOCK"}, {2, "B"}}), end = dxf({{0, "ENDBLK"}});
+    const auto shown = [](const std::string& sections) { return readOf(sections).drawing.objects.size(); };
+    for (const auto& [whole, part, alone] : kinds) {
+        for (const std::string& blocks : {begin + whole, begin + whole + end, whole, begin + end + whole}) {
+            const std::string head = section("BLOCKS", blocks);
+            EXPECT_EQ(shown(head + part), alone) << part << blocks;
+            EXPECT_EQ(shown(entities(line) + head + part), 1 + alone) << part << blocks;
+            EXPECT_EQ(shown(head + part + entities(line) + part), 1 + 2 * alone) << part << blocks;
+        }
+        EXPECT_EQ(shown(entities(line + whole) + part + line), 2 + alone) << part;
+    }
+}
+
 TEST(DamagedFiles, PairsAtRandomAreTaken)
 {
     const int codes[] = {0,  1,  2,  6,  8,  10, 11, 20, 21, 30, 38,  40,  41,  42,
