@@ -4,6 +4,7 @@
 #include "exchange/code_pages.h"
 
 #include "exchange/code_page_tables.h"
+#include "text/ascii.h"
 #include "text/code_page.h"
 #include "text/utf8.h"
 
@@ -128,16 +129,21 @@ std::string withLikeSigns(std::string text)
 }
 
 // Programs that say so write other letters all the same.
-bool isAscii(std::string_view codePage)
+bool saysNothing(std::string_view codePage)
 {
-    return codePage == "ascii" || codePage == "ASCII";
+    return codePage.empty() || isSameButForCase(codePage, "ascii") || isSameButForCase(codePage, "undefined");
+}
+
+bool isUtf8Named(std::string_view codePage)
+{
+    return isSameButForCase(codePage, "UTF-8") || isSameButForCase(codePage, "UTF8");
 }
 
 } // namespace
 
 TextCoding::TextCoding(std::string_view codePage, std::string_view release)
     : isUtf8_(release >= firstInUtf8 && release.starts_with("AC")),
-      isGuess_(codePage.empty() || isAscii(codePage))
+      isGuess_(saysNothing(codePage) || isUtf8Named(codePage))
 {
     const int number = numberIn(codePage);
     const bool isMac = codePage.starts_with("mac") || codePage.starts_with("MAC");

@@ -53,6 +53,13 @@ TEST(TextCoding, BytesAreThoseOfTheFilesCodePage)
          "e",
          "Größe"},
         {"ANSI_1252", "AC1027", "\xE9t\xE9", "été"}, // no UTF-8, although the release has it
+        {"ISO8859-1", "AC1015", "\xE9\xDF\xC4\xB5\xF8", "éßÄµø"},
+        {"iso_8859_1", "AC1009", "\xBD\x85", "½?"},
+        {"ISO8859-15", "AC1015", "\xA4\xBD\xFC", "€œü"},
+        {"dos737", "AC1009", "\x80\xE3", "Αή"},
+        {"UTF-8", "AC1015", "\xC3\xA9\xCE\xA9", "éΩ"},
+        {"utf8", "AC1009", "\xE9t\xE9", "été"}, // none, although the file says so
+        {"undefined", "AC1009", "\xE9", "é"},
         {"", "", "\xC3\xA9", "é"},
         {"", "AC1009", "\xE9", "é"},
     };
