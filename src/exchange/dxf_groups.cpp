@@ -19,16 +19,20 @@ std::optional<double> shortDecimal(std::string_view value)
     constexpr std::size_t most = std::size(tens) - 1;
     const bool isNegative = value.starts_with('-');
     if (isNegative) value.remove_prefix(1);
-    const std::size_t point = std::min(value.find('.'), value.size());
     std::int64_t digits = 0;
     std::size_t count = 0;
-    for (std::size_t i = 0; i < value.size(); ++i) {
-        if (i == point) continue;
-        if (value[i] < '0' || value[i] > '9' || ++count > most) return std::nullopt;
-        digits = 10 * digits + (value[i] - '0');
+    std::size_t whole = most + 1; // digits before the point
+    for (const char c : value) {
+        if (c == '.' && whole > most) {
+            whole = count;
+        } else if (c >= '0' && c <= '9' && ++count <= most) {
+            digits = 10 * digits + (c - '0');
+        } else {
+            return std::nullopt;
+        }
     }
     if (count == 0) return std::nullopt;
-    const double number = static_cast<double>(digits) / tens[count - std::min(point, count)]; // both exact
+    const double number = static_cast<double>(digits) / tens[count - std::min(whole, count)]; // both exact
     return isNegative ? -number : number;
 }
 

@@ -41,6 +41,8 @@ const char* behindBreak(const char* stop, const char* end)
 {
     constexpr std::ptrdiff_t mostReturns = 8;
     if (stop == end) return end;
+    if (*stop == '\n') return stop + 1;
+    if (end - stop > 1 && stop[1] == '\n') return stop + 2; // what nearly all lines end with
     const char* const last = stop + std::min(mostReturns, end - stop);
     const char* const feed = std::find_if(stop, last, [](char c) { return c != '\r'; });
     return (feed != last && *feed == '\n' ? feed : stop) + 1;
