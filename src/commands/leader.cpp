@@ -42,7 +42,7 @@ void paintScratchLeader(const Session& s, Canvas& pic1)
     paintText3(s, pic1, s.ptD);
 }
 
-// Text3 may hold what another function has left there.
+// workText may hold what another function has left there.
 void endTyping(Session& s, Canvas& pic1)
 {
     setText(s.controls[ids::workText], typedText(s));

@@ -7,8 +7,8 @@ namespace mirtane {
 
 // Shows the prompt of curFunc at stepNo (a step without one keeps the old), and in the caption of blank
 // whether a construction line is on; ends the rubber band's angle and hides the Edits form. A prompt with a
-// number in it leaves that number in Text3. When baseFunc has changed, and the new function does not select,
-// the selection is dropped and all is repainted.
+// number in it leaves that number in workText. When baseFunc has changed, and the new function does not
+// select, the selection is dropped and all is repainted.
 void setPrompt(Session& s, Canvas& pic1);
 
 // Shows the prompt that curFunc has at a step, without any of setPrompt's other work.

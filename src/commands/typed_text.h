@@ -1,6 +1,6 @@
 #pragma once
 
-// The characters that are typed onto the drawing: they stand in textBuffer and, joined, in Text3.
+// The characters that are typed onto the drawing: they stand in textBuffer and, joined, in workText.
 
 #include "model/session.h"
 #include "render/canvas.h"
@@ -17,10 +17,10 @@ void repaintPreview(Session& s, Canvas& pic1, void (*preview)(Session&, Canvas&)
 // textBuffer, as far as it is filled, as one string.
 std::string typedText(const Session& s);
 
-// Begins with a text that stands already, in textBuffer and Text3.
+// Begins with a text that stands already, in textBuffer and workText.
 void loadTypedText(Session& s, const std::string& text);
 
-// No character typed, Text3 empty.
+// No character typed, workText empty.
 void clearTypedText(Session& s);
 
 } // namespace mirtane

@@ -25,7 +25,7 @@ bool hasName(const Session& s, Library library, std::string_view name);
 // The names as a list shows them.
 std::vector<std::string> listedNames(const Session& s, Library library);
 
-// Shows the names in List1 under the caption that says what a click on one does ("Select Hatch"). With
+// Shows the names in the list under the caption that says what a click on one does ("Select Hatch"). With
 // nothing to choose from it does nothing and gives false. A list of associates also ends what is under way,
 // and no associate is chosen any more.
 bool offerNames(Session& s, Library library, std::string_view caption);

@@ -28,8 +28,8 @@ struct Control {
 
 class Controls {
   public:
-    // Every control with its caption and first text; forms but frmMain, the strip and working strings, not
-    // visible.
+    // Every control with its caption and first text; forms but the main one, the strip and working strings,
+    // not visible.
     Controls();
 
     Control& operator[](ControlId id) { return controls_[id.index]; }
@@ -62,8 +62,7 @@ void setCaret(Control& control, int position);
 void typeInto(Control& control, std::string_view utf8Character);
 void backspaceIn(Control& control);
 
-// What a control stands on: "frmfile" for "frmfile.Text1", "frmMain" for "entry", "notice" for the buttons of
-// the strip.
+// What a control stands on: fileForm for fileName, mainForm for entry, notice for the buttons of the strip.
 ControlId formOf(ControlId id);
 
 } // namespace mirtane

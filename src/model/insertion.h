@@ -14,7 +14,7 @@ void addArc(Session& s);     // centre ptA, points ptB, ptC, ptD, workRadius, ar
 void addEllipse(Session& s); // axis end ptB, centre ptC, ratio ptF.x
 void addPoint(Session& s);   // ptA
 
-// The text is that of Text3, the font textFont.
+// The text is that of workText, the font textFont.
 void addText(Session& s, float textWidth); // entered ptA, painted pickFirst; width in world units
 void addLinearDim(Session& s);             // ptE, ptF, ptG, ptH, text ptA, rotation dimAngle (degrees)
 void addRadialDim(Session& s);             // ptA, ptB, ptE, ptC, text ptD
@@ -25,9 +25,9 @@ void addAngularDim(Session& s); // ptA, ptG, ptH, ptC, text ptB, workRadius, arc
 void commitInGroup(Session& s); // the action goes on: the caller ends the group
 void commitSlot(Session& s);    // the object is the whole action
 
-// Shows the share of the table in use in memy, and warns in entry when it is nearly full, unless entry tells
-// of pieces that are missing or of an action that was refused for want of room. An insertion calls it before
-// entCount is advanced, so it lags one object behind.
+// Shows in memoryGauge how much of the table is in use, and warns in entry when it is nearly full, unless
+// entry tells of pieces that are missing or of an action that was refused for want of room. An insertion
+// calls it before entCount is advanced, so it lags one object behind.
 void updateGauge(Session& s);
 
 } // namespace mirtane

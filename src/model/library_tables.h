@@ -112,7 +112,7 @@ template <class Row> std::vector<std::string> listedNames(const LibraryTable<Row
 // The names of associates, whose pieces are slots of the drawing's own table.
 std::vector<std::string> listedNames(const EntityStore& store);
 
-// Shows names in List1 under a caption, which is what tells a click on a row what to do.
+// Shows names in the list under a caption, which is what tells a click on a row what to do.
 void showNames(Controls& controls, std::string_view caption, std::vector<std::string> names);
 
 } // namespace mirtane

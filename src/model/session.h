@@ -142,7 +142,7 @@ struct View {
     std::int16_t wholeViewFlag = 0; // 1 after Zoom All: nothing can lie far outside
     float pixelOriginX = 0, pixelOriginY = 0;
     float pixelPerUnitX = 0, pixelPerUnitY = 0;
-    std::string savedPrompt; // caption of snaplab before Zoom Window
+    std::string savedPrompt; // caption of snapLabel before Zoom Window
 };
 
 // What follows once a drawing with unsaved work has been saved or given up.

@@ -15,8 +15,8 @@ namespace mirtane {
 // did.
 std::optional<SnapHit> holdSnap(Session& s, const Canvas& pic1);
 
-// The snap that its button armed for this one click, by the code in snapbox; it is disarmed. An unknown code
-// stays, and so do those that a construction line does not take. Gives what it found, if it did.
+// The snap that its button armed for this one click, by the code in armedSnap; it is disarmed. An unknown
+// code stays, and so do those that a construction line does not take. Gives what it found, if it did.
 std::optional<SnapHit> oneShotSnap(Session& s, const Canvas& pic1);
 
 // Both, as a click has them, so that the button's wins.

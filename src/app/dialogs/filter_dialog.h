@@ -4,7 +4,7 @@
 
 namespace mirtane {
 
-// frmfilter, by its title: "Filter Settings", the criteria of Window Select Filtered, or "Change Properties",
+// One form, by its title: "Filter Settings", the criteria of Window Select Filtered, or "Change Properties",
 // the new properties of the selection.
 void showFilterDialog(App& app, ControlId);
 void showChangeDialog(App& app);

@@ -9,7 +9,7 @@ namespace mirtane {
 void askForPrintScale(App& app, ControlId);
 void setUpPrinter(App& app, ControlId);
 
-// frmprintset.
+// Within the dialog.
 void confirmPrint(App& app, ControlId);
 void cancelPrint(App& app, ControlId);
 void emptyPrintScale(App& app, ControlId);

@@ -6,7 +6,7 @@
 
 namespace mirtane {
 
-// The one dialog of all file work, frmfile. Its caption, buttons and pattern are what tells it what to do
+// The one dialog of all file work. Its caption, buttons and pattern are what tells it what to do
 // when it is confirmed.
 
 // What the dialog says it is for.
@@ -44,7 +44,7 @@ void saveAndOpenAgain(App& app);
 
 // Within the dialog.
 void confirmFileDialog(App& app, ControlId);
-void dismissFileDialog(App& app, ControlId); // Command2
+void dismissFileDialog(App& app, ControlId); // the second button
 void closeFileDialog(App& app);              // its frame
 void fileNameKeyPress(App& app, char32_t code);
 

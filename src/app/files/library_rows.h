@@ -13,7 +13,7 @@ struct LibraryRow {
     std::string_view create;   // that makes a new one
     std::string_view extension;
     std::string_view pattern;
-    std::string_view select, remove, save; // captions of Label3
+    std::string_view select, remove, save; // captions of listMode
 };
 
 // The row with that value in the field, or null.

@@ -7,12 +7,13 @@ namespace mirtane {
 // Sets the check marks of all menus that show an attribute. A value that is in no menu leaves none checked.
 void showCheckMarks(Session& s);
 
-// setts in the current colour with the name of the current line style, and the fonts of the text font.
+// The box of the pen in the current colour with the name of the current line style, and the fonts of the text
+// font.
 void showLineSettings(Session& s);
 
-// Fills List1 with the layer rows, and Combo3 with that of the working layer.
+// Fills the list with the layer rows, and the box of the layers with that of the working layer.
 void showLayers(Session& s);
-void showWorkingLayer(Session& s); // Combo3 alone
+void showWorkingLayer(Session& s); // the box alone
 
 // The menus that set how numbers, angles, text and dimensions look from now on.
 void takeAttribute(App& app, ControlId menu);

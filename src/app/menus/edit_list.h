@@ -4,7 +4,8 @@
 
 namespace mirtane {
 
-// The edit functions, by a row of List1 or a button of the Edits form. Without a selection they only say so.
+// The edit functions, by a row of the list or a button of the Edits form. Without a selection they only say
+// so.
 void startEdit(App& app, const std::string& name);
 void startEditFromRow(App& app, int row);
 void startEditFromButton(App& app, ControlId button);

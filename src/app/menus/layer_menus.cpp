@@ -17,7 +17,7 @@ namespace {
 
 struct MenuRow {
     ControlId menu;
-    std::string_view caption; // of Label3
+    std::string_view caption; // of listMode
 };
 
 constexpr MenuRow menuRows[] = {

@@ -4,7 +4,7 @@
 
 namespace mirtane {
 
-// A click on a row of List1 does what the caption of Label3 says. A mode without a rule does nothing.
+// A click on a row of the list does what the heading of the list says. A mode without a rule does nothing.
 void listRowClicked(App& app, int row);
 
 } // namespace mirtane

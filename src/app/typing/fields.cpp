@@ -42,7 +42,7 @@ constexpr std::string_view degree = "\xC2\xB0";
 constexpr std::string_view belowTurn = "below 360";
 constexpr std::string_view percentBounds = "above 0, up to 100";
 
-// hatrot and assrot hold radians like angle; textrot holds degrees.
+// The rotation of text is held in degrees, the other angles in radians.
 constexpr FieldRow fieldRows[] = {
     {ids::orthoAngle, isAngle, storeOrthoAngle,
      [](const Session& s) { return s.orthoAngleSaved * degreesPerRadian; }, degree, belowTurn},

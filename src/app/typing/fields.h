@@ -4,12 +4,13 @@
 
 namespace mirtane {
 
-// The five numeric fields: angle, textrot, hatrot, assrot, snapper.
+// The five numeric fields: the ortho angle, the rotations of text, hatches and associates, and the snap
+// percentage.
 bool isNumericField(ControlId id);
 
 // A key press: digits, ".", "," (which becomes "."), "-" and Backspace pass; m or M starts the match function
-// of angle and textrot; Enter stores a value that the field takes, and gives the focus to the drawing either
-// way.
+// of the ortho angle and of the rotation of text; Enter stores a value that the field takes, and gives the
+// focus to the drawing either way.
 void fieldKeyPress(App& app, ControlId id, char32_t code);
 
 // How a value that is half typed in the field will be taken: "= 45.000°", or that it won't be; empty while
