@@ -1,8 +1,8 @@
 #pragma once
 
-// Turns records of a DXF file into objects of ours. It keeps what is being drawn - where the block under way
-// stands, and what its objects look like - and takes what the records draw: in the drawing, in the file's
-// units, y up. What comes out is placed, scaled and narrowed in one place, made_drawing.cpp.
+// Turns records of a DXF file into objects of ours. It keeps what is being drawn (where the block under way
+// stands, and what its objects look like) and takes what the records draw: in the drawing, in the file's
+// units, y up. What comes out is placed, scaled and narrowed in one place, placing.cpp.
 
 #include "exchange/dxf_list.h"
 #include "exchange/ellipse_pieces.h"

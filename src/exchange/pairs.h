@@ -11,7 +11,7 @@ namespace mirtane {
 // passed over, and so are comments. Values are views into text.
 std::vector<DxfGroup> dxfPairs(std::string_view text);
 
-// A binary file as the text that it stands for; isBinary says whether it is one.
+// A binary file as the text that it stands for; the other says whether it is one.
 bool isBinaryDxf(std::string_view bytes);
 std::string textOfBinaryDxf(std::string_view bytes);
 

@@ -1,4 +1,5 @@
-// The image itself. The drawing is in raster_lines.cpp and raster_arcs.cpp.
+// The image itself. What is drawn into it is in raster_lines.cpp, raster_arcs.cpp, raster_ellipses.cpp and
+// raster_shapes.cpp.
 
 #include "render/raster.h"
 

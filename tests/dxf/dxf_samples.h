@@ -151,7 +151,6 @@ inline float plainWidth(const EntityRecord& r)
     return 10.0F * static_cast<float>(r.t1.size()); // short texts
 }
 
-// A session into which a file has been read.
 inline std::string single(double value)
 {
     char text[64];
@@ -187,6 +186,7 @@ inline std::string levelEllipseLines()
     return all;
 }
 
+// A session into which a file has been read.
 class Opened {
   public:
     explicit Opened(std::string_view file) { read(file); }

@@ -127,8 +127,8 @@ struct CountRow {
 TEST_F(Painters, CutACircleIntoPiecesOfASixthOfTheHeightAndThirtySixAtLeast)
 {
     const CountRow rows[] = {
-        {"half the height", 300, 36},       // 18.8
-        {"1000: 62.83", 1000, 63},          //
+        {"half the height", 300, 36}, // 18.8
+        {"1000: 62.83", 1000, 63},
         {"past a 16-bit count", 600000, 36} // 37,699 pieces fault
     };
     look({-1000000, -300, 2000000, 600});

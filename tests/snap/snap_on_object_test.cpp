@@ -26,8 +26,8 @@ TEST(SnapPercentage, CountsFromTheEndNearerToThePointer)
     const EntityRecord line = fake::line({100, 100}, {200, 150});
     const EntityRecord circle = fake::circle({300, 300}, 50);
     const EntityRecord arc = fake::arc({300, 300}, 50, 0, 3.1415927);
-    // From half past ten through three o'clock to six.
-    const EntityRecord over0 = fake::arc({300, 300}, 50, 2.3561945, 4.712389 - 6.2831853 + 6.2831853);
+    // From half past ten through nine o'clock to six.
+    const EntityRecord threeEighths = fake::arc({300, 300}, 50, 2.3561945, 4.712389);
     const EntityRecord through0 = fake::arc({300, 300}, 50, 4.712389, 1.5707963);
     const Row rows[] = {
         {"near the start of a line", line, 0.25f, {110, 105}, {125, 112.5f}},
@@ -39,7 +39,7 @@ TEST(SnapPercentage, CountsFromTheEndNearerToThePointer)
         {"a quarter of it", arc, 0.25f, {348, 290}, {335.3553f, 264.6447f}},
         {"a quarter from its end", arc, 0.25f, {252, 290}, {264.6447f, 264.6447f}},
         {"over its middle it counts from the end", arc, 0.25f, {300, 248}, {264.6447f, 264.6447f}},
-        {"an arc of three eighths", over0, 1, {262, 262}, {300, 350}},
+        {"an arc of three eighths", threeEighths, 1, {262, 262}, {300, 350}},
         {"through angle 0, from its start", through0, 0.5f, {310, 348}, {350, 300}},
         {"through angle 0, from its end", through0, 0.75f, {310, 252}, {335.3553f, 335.3553f}},
         {"circle from the top, to the left", circle, 0.25f, {310, 252}, {250, 300}},
