@@ -117,7 +117,7 @@ constexpr SessionValue sessionValues[] = {
     value<&Session::printOriginX>("printOriginX"),
     value<&Session::printOriginY>("printOriginY"),
     value<&Session::moveText>("moveText"),
-    // Names under which the drawing office knows them.
+    // Second names of some of them.
     value<&Session::associateName>("assocName"),
     value<&Session::associateRotation>("assocRotation"),
     value<&Session::hatchName>("hatchCurrentName"),

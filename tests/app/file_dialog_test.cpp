@@ -44,7 +44,7 @@ TEST(FileDialog, ShowsTheFilesOfADriveThatIsChosen)
     EXPECT_EQ(desk.s.controls["frmfile.Drive1"_c].row, last);
 }
 
-// Opening, closing, leaving
+// -- opening, closing, leaving --
 
 TEST(FileMenu, OffersADrawingToOpenWhereNothingIsUnsaved)
 {
@@ -332,7 +332,7 @@ TEST(Exit, CarriesTheAttributesOfTheLastDrawingIntoTheSettings)
     EXPECT_EQ(desk.settings.values["tnam"], "Courier");
 }
 
-// Clearing
+// -- clearing --
 
 TEST_F(FileWork, CloseClearsTheDrawingAndNotTheSlots)
 {

@@ -97,7 +97,7 @@ TEST(FileNames, AreComparedCaseAsStored)
     EXPECT_EQ(desk.caption("frmfile.Command1"_c), "Save");
 }
 
-// Folders
+// -- folders --
 
 TEST(FileFolders, ShownIsTheLastPathThenTheWorkingOneThenTheProgramsOwn)
 {

@@ -188,7 +188,7 @@ TEST(LettersKept, AtTheBeginningOfANameOthersAreNamedToo)
     }
 }
 
-// What comes in one go
+// -- what comes in one go --
 
 TEST(LettersKept, OfAPastedTextAllButTheOthersAreTaken)
 {
@@ -227,7 +227,7 @@ TEST(LettersKept, NamesOfFilesMayHaveAny)
     EXPECT_EQ(desk.text("entry"_c), "");
 }
 
-// Fonts
+// -- fonts --
 
 TEST(LettersKept, OfTheNameOfAFontAreThoseOfTheDrawingToo)
 {

@@ -32,7 +32,7 @@ struct HouseDesk : LayerDesk {
     const std::string& button() const { return caption("frmfile.Command1"_c); }
 };
 
-// A folder of its own
+// -- a folder of its own --
 
 struct WanderRow {
     const char* what;
@@ -140,7 +140,7 @@ TEST(OwnFolder, ThatIsGoneGivesWayToTheLastOne)
     EXPECT_EQ(desk.text("frmfile.Dir1"_c), home);
 }
 
-// A name with points
+// -- a name with points --
 
 TEST(OwnName, WithTwoPointsIsSavedUnderItself)
 {
@@ -161,7 +161,7 @@ TEST(OwnName, WithTwoPointsIsSavedUnderItself)
     }
 }
 
-// What is on the disk
+// -- what is on the disk --
 
 TEST(OwnFile, ThatNobodyTouchedIsSavedWithoutAWord)
 {
@@ -292,7 +292,7 @@ TEST(OwnFile, ThatVanishedWithItsFolderIsToldInTheFolderThatIsShownInstead)
     EXPECT_EQ(desk.caption("notice"_c), "house.mtd is no longer on the disk: saving puts it back.");
 }
 
-// Files of others
+// -- files of others --
 
 TEST(FileOfOthers, ThatAppearsWhileTheDialogStandsIsNotReplacedUnseen)
 {
@@ -405,7 +405,7 @@ TEST(OwnFile, ChangedBetweenTheLossAndTheRestoreIsTold)
     EXPECT_NE(next.caption("notice"_c).find("was changed on the disk at 16:00"), std::string::npos);
 }
 
-// More than there is room for
+// -- more than there is room for --
 
 Bytes drawingOf(std::int32_t objects)
 {

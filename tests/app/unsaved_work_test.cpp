@@ -73,7 +73,7 @@ const ChangeRow changes[] = {
      }},
 };
 
-// Keeping
+// -- keeping --
 
 TEST(UnsavedWork, IsKeptOnceTheUserRests)
 {
@@ -199,7 +199,7 @@ TEST(UnsavedWork, ThatCannotBeKeptIsToldAndTriedAgain)
     EXPECT_EQ(readKeptWork(*desk.work.kept)->drawing, drawingBytes(desk.s, SaveWhat::drawing));
 }
 
-// Bringing back
+// -- bringing back --
 
 TEST(LeftWork, IsOfferedAndBroughtBackUnderItsOwnName)
 {
@@ -368,7 +368,7 @@ TEST(LeftWork, EndsWhatIsBegun)
     EXPECT_EQ(linesOf(desk).size(), 2U);
 }
 
-// The dialog says what is at stake
+// -- what the dialog says is at stake --
 
 TEST(SaveChanges, SaysWhatIsAtStake)
 {

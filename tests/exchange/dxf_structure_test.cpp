@@ -215,7 +215,7 @@ TEST(DxfDrawing, IsWholeForNumbersOfEverySize)
     }
 }
 
-// ---- what another reader says of it -------------------------------------------------------------------
+// -- what another reader says of it --
 
 // The system's own interpreter: another one would not see the system's packages.
 std::string audited(const std::string& bytes)

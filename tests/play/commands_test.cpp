@@ -32,7 +32,7 @@ const testing::Environment* const toolkit = testing::AddGlobalTestEnvironment(ne
 
 #define EXPECT_PLAYS(theatre, lines) EXPECT_EQ((theatre).playAll(lines), "")
 
-// Doing
+// -- doing --
 
 TEST(PlayCommands, MoveMovesThePointer)
 {
@@ -231,7 +231,7 @@ TEST(PlayQuestions, LibrariesWithoutRowsAreEmpty)
     EXPECT_EQ(t.play("printed"), "[]");
 }
 
-// Asking
+// -- asking --
 
 TEST(PlayQuestions, GetAnswersWhatAControlHas)
 {
