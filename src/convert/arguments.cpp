@@ -125,7 +125,7 @@ void takeSize(Given& given, const std::string& value)
 {
     constexpr int largest = 20000;
     const auto size = pairIn(value, 'x', largest);
-    if (!size) throw WrongUsage{"no size of 1x1 to 20000x20000: " + value};
+    if (!size) throw WrongUsage{"not a size of 1x1 to 20000x20000: " + value};
     given.wishes.size = {size->first, size->second};
 }
 
@@ -143,7 +143,7 @@ void takeScale(Given& given, const std::string& value)
 {
     constexpr int largest = 100000;
     const auto scale = pairIn(value, ':', largest);
-    if (!scale) throw WrongUsage{"no scale such as 1:50: " + value};
+    if (!scale) throw WrongUsage{"not a scale such as 1:50: " + value};
     given.wishes.scale = PaperScale{scale->first, scale->second};
 }
 
@@ -151,7 +151,7 @@ void takeLayer(Given& given, const std::string& value)
 {
     constexpr int highest = 32767;
     const auto number = wholeNumber(value, 0, highest);
-    if (!number) throw WrongUsage{"no layer number: " + value};
+    if (!number) throw WrongUsage{"not a layer number: " + value};
     given.wishes.layer = static_cast<std::int16_t>(*number); // within the limit just tested
 }
 
@@ -159,7 +159,7 @@ void takeWorkers(Given& given, const std::string& value)
 {
     constexpr int most = 1024;
     given.workers = wholeNumber(value, 0, most);
-    if (!given.workers) throw WrongUsage{"no number of workers: " + value};
+    if (!given.workers) throw WrongUsage{"not a number of workers: " + value};
 }
 
 struct OptionRow {
@@ -277,7 +277,7 @@ Format formatWished(const Given& given)
     if (given.to) return *given.to;
     if (isFolder(given.out)) throw WrongUsage{given.out + " is a folder: --to must name the format"};
     if (const auto format = formatOf(given.out)) return *format;
-    throw WrongUsage{"no .mtd, .dxf, .png, .svg, .pdf or .txt: " + given.out};
+    throw WrongUsage{"not a .mtd, .dxf, .png, .svg, .pdf or .txt: " + given.out};
 }
 
 // Two files into one picture.

@@ -12,7 +12,7 @@ void tell(const FullReport& report, Outcome& outcome)
     outcome.leftOut = !report.isWhole();
     std::string left = sentenceOfLeftOut(report);
     if (!report.isDxf) {
-        outcome.fault = "no DXF file";
+        outcome.fault = "not a DXF file";
         return;
     }
     if (report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
@@ -28,7 +28,7 @@ void open(App& app, const Job& job, bool asWindow, Outcome& outcome)
 {
     const std::optional<Format> format = formatOf(job.in);
     if (format != Format::mtd && format != Format::dxf) {
-        outcome.fault = "no .mtd or .dxf file";
+        outcome.fault = "not a .mtd or .dxf file";
         return;
     }
     const std::optional<Bytes> file = app.ports.disk.read(job.in);

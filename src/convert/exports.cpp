@@ -68,7 +68,7 @@ Fault writePlainDxf(App& app, const std::string& out)
     const DxfFile file = dxfFile(app.s.store, app.dxfScratch);
     if (const Fault fault = put(app, out, file.bytes)) return fault;
     if (file.whole) return std::nullopt;
-    return "a dimension has an unknown arrow style, and ends " + out;
+    return "cut off at a dimension of an unknown arrow style: " + out;
 }
 
 std::string shownScale(double drawingUnits)

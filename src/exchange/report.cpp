@@ -107,7 +107,7 @@ std::string sentenceOfLeftOut(const FullReport& report)
     }
     if (!sentence.empty()) sentence += " left out";
     if (report.withoutRoom > 0)
-        append(sentence, withName(report.withoutRoom, "object", "objects") + " found no room");
+        append(sentence, "no room for " + withName(report.withoutRoom, "object", "objects"));
     return sentence;
 }
 

@@ -218,7 +218,7 @@ void runCommand(Stage& stage, std::string_view line)
     Words words(line);
     const std::string_view name = words.word();
     const auto* const row = std::ranges::find(commandRows, name, &CommandRow::name);
-    if (row == std::end(commandRows)) throw Refusal{"unknown command: " + std::string(name)};
+    if (row == std::end(commandRows)) throw Refusal{"no such command: " + std::string(name)};
     if (row->words != anyNumber && words.count() != row->words)
         throw Refusal{"not " + std::to_string(row->words) + " words"};
     row->run(stage, words);

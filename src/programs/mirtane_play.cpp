@@ -65,7 +65,7 @@ Options optionsOf(const std::vector<std::string>& words)
         else if (words[i] == "--home")
             options.home = words[++i];
         else if (words[i].size() > 1 && words[i].starts_with('-'))
-            throw play::Refusal{"unknown: " + words[i]};
+            throw play::Refusal{"no such option: " + words[i]};
         else if (!options.file.empty())
             throw play::Refusal{"one file of commands is enough: " + words[i]};
         else

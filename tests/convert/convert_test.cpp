@@ -334,7 +334,7 @@ TEST_F(Convert, ObjectsPastTheTableAreToldOf)
     for (int i = 0; i <= 60000; ++i) dxf += "  0\nLINE\n  8\n0\n 10\n1\n 20\n1\n 11\n2\n 21\n5\n";
     p.write("big.dxf", dxf + "  0\nENDSEC\n  0\nEOF\n");
     expectRefused("big.dxf -o big.mtd", 3,
-                  "big.dxf: ", "2 objects found no room"); // a layer's name has its own
+                  "big.dxf: ", "no room for 2 objects"); // a layer's name has its own
     EXPECT_EQ(p.objectsOf("big.mtd").size(), 59999U);
     expectRefused("--as-window big.dxf -o big.mtd", 1, "big.dxf: ", "60,000 objects");
     EXPECT_EQ(p.objectsOf("big.mtd").size(), 60000U);
@@ -360,8 +360,8 @@ TEST_F(Convert, WrongUsageIsToldOfBeforeAnythingIsWritten)
         {"house.mtd -o out.png --size 300", "300"},
         {"house.mtd -o out.png --size 30000x10", "30000x10"},
         {"house.mtd -o out.pdf --paper napkin", "no such paper: napkin"},
-        {"house.mtd -o out.pdf --layer two", "no layer number: two"},
-        {"house.mtd -o out.pdf --scale 50", "no scale such as 1:50: 50"},
+        {"house.mtd -o out.pdf --layer two", "not a layer number: two"},
+        {"house.mtd -o out.pdf --scale 50", "not a scale such as 1:50: 50"},
         {"house.mtd -o out.pdf --scale 1:0", "1:0"},
         {"house.mtd -o out.pdf --scale 1:fifty", "1:fifty"},
         {"house.mtd -o out.pdf --scale", "--scale without its value"},
