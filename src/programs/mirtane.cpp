@@ -78,7 +78,8 @@ const char* answerTo(std::string_view word)
     if (word == "--version") return "Mirtane 4.00\n";
     if (word != "--help") return nullptr;
     return "Usage: mirtane [DRAWING]\n"
-           "Draws plans in two dimensions. With the name of a drawing (.mtd) that drawing is opened.\n"
+           "Draws plans in two dimensions. With the name of a drawing (.mtd) or of a DXF file (.dxf)\n"
+           "that is opened.\n"
            "\n"
            "  --help     print this and exit\n"
            "  --version  print the version and exit\n"

@@ -155,7 +155,7 @@ constexpr const char* helpText =
     "Runs Mirtane without its window: reads one command a line from FILE or from standard\n"
     "input, does what a user would have done, and answers questions.\n"
     "\n"
-    "  --size WxH  pixels of the drawing, 1200x800 by default\n"
+    "  --size WxH  pixels of the drawing surface, 1200x800 by default\n"
     "  --home DIR  where files begin; a fresh folder, removed at the end, by default\n"
     "  --help      print this and exit\n"
     "  --version   print the version and exit\n";
