@@ -1,4 +1,4 @@
-// Measures what a user waits for, beside the plain work under it, in one run. Takes the options of Google
+// Measures what a user waits for, beside the plain work beneath it, in one run. Takes the options of Google
 // Benchmark.
 
 #include "dxf_bench.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-// What is measured: each thing that the program does, and beside it the plain work under it.
+// What is measured: each thing that the program does, and beside it the plain work beneath it.
 
 #include "app/shell.h"
 #include "plain.h"

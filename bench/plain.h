@@ -1,6 +1,6 @@
 #pragma once
 
-// The plain work under what the program does: what anyone would write first, with no care beyond that.
+// The plain work beneath what the program does: what anyone would write first, with no care beyond that.
 
 #include "files/disk.h"
 #include "model/entity_store.h"

@@ -67,7 +67,7 @@ double Collector::median(const std::string& name) const
 
 void Collector::print(std::ostream& out, std::span<const Comparison> comparisons) const
 {
-    put(out, {"what", "ms", "the plain work under it", "ms", "ratio", "aim"});
+    put(out, {"what", "ms", "the plain work beneath it", "ms", "ratio", "aim"});
     for (const Comparison& c : comparisons) {
         const double ours = median(c.what);
         const double plain = median(c.plain);
