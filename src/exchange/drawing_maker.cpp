@@ -44,7 +44,7 @@ constexpr std::size_t roomForPatterns =
 constexpr std::size_t mostPatternLines =
     400'000; // of all hatches, before it is known which of them have room
 constexpr std::size_t mostOutlineStrokes = 400'000; // likewise
-constexpr std::string_view noRoom = "no room for its lines, its outline alone";
+constexpr std::string_view noLines = "the lines, for want of room";
 constexpr std::string_view lettersLost = "letters that drawings can't keep";
 constexpr std::size_t mostObjects = EntityStore::slotCount - 1;
 
@@ -337,10 +337,10 @@ void DrawingMaker::pattern(Pattern pattern)
     stepsLeft_ -=
         static_cast<std::int64_t>(stepsOfStroke * pattern.outline.size() + pattern.lines.size()); // bounded
     outlineStrokes_ += pattern.outline.size();
-    if (outlineStrokes_ > mostOutlineStrokes) return leftOut("HATCH", "no room for it");
+    if (outlineStrokes_ > mostOutlineStrokes) return leftOut("HATCH", "no room");
     patternLines_ += pattern.lines.size();
     if (patternLines_ > mostPatternLines) {
-        leftOut("HATCH", noRoom);
+        leftOut("HATCH", noLines);
         pattern.hasOutline = true;
         pattern.lines = {};
     }
@@ -357,7 +357,7 @@ void DrawingMaker::drawPatterns()
         look = one.look;
         const bool fits = made_.objects.size() + one.lines.size() + outlines <= roomForPatterns;
         if (fits) drawLines(one.lines);
-        if (!fits) leftOut("HATCH", noRoom);
+        if (!fits) leftOut("HATCH", noLines);
         if (!fits || one.hasOutline) strokes(one.outline);
         outlines -= one.outline.size();
     }

@@ -88,7 +88,7 @@ std::vector<Stroke> outlineOf(const std::vector<HatchPath>& paths)
 
 void takeHatch(const DxfRecord& record, DrawingMaker& maker)
 {
-    if (!maker.takesPatterns()) return maker.leftOut(record.type, "no room for it");
+    if (!maker.takesPatterns()) return maker.leftOut(record.type, "no room");
     const Transform2 plane = maker.plane(record);
     const bool isSolid = record.whole(70) != 0;
     GroupRun groups(record.groups);
@@ -100,8 +100,8 @@ void takeHatch(const DxfRecord& record, DrawingMaker& maker)
         isSolid ? std::vector{fillRow(loops, maker.tolerance())} : takeRows(groups, plane);
     auto lines = patternLines(loops, rows, mostLines, maker.patternWork());
     const bool isOutlined = isSolid || rows.empty() || !lines;
-    if (rows.empty()) maker.leftOut(record.type, "without its pattern, its outline alone");
-    if (!lines) maker.leftOut(record.type, "too dense, its outline alone");
+    if (rows.empty()) maker.leftOut(record.type, "the lines, without a pattern");
+    if (!lines) maker.leftOut(record.type, "the lines, too dense");
     maker.pattern({lines ? std::move(*lines) : std::vector<PatternLine>(), outlineOf(paths), isOutlined});
 }
 

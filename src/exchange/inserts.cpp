@@ -85,9 +85,9 @@ bool isClipped(const DxfRecord& record, const DxfList& list)
 
 void takeInsert(const DxfRecord& record, DrawingMaker& maker)
 {
-    if (!drawGrid(record, maker)) maker.leftOut("INSERT", "its block can't be drawn");
-    if (isClipped(record, maker.list())) maker.leftOut("INSERT", "clipped, drawn whole");
-    if (isAnotherFile(record.name(2), maker.list())) maker.leftOut("INSERT", "its block is another file");
+    if (!drawGrid(record, maker)) maker.leftOut("INSERT", "can't be drawn");
+    if (isClipped(record, maker.list())) maker.leftOut("INSERT", "the clipping, drawn whole");
+    if (isAnotherFile(record.name(2), maker.list())) maker.leftOut("INSERT", "of another file");
 }
 
 } // namespace mirtane

@@ -140,7 +140,7 @@ void drawBlock(const DxfRecord& context, DrawingMaker& maker)
     const Transform3 sized{{scale.x, 0, 0}, {0, scale.y, 0}, {0, 0, scale.z}, {}};
     const Transform3 at = then(then(sized, turned(context.number(46))), moved(context.point(15)));
     const std::string_view name = maker.list().nameByHandle(context.name(341));
-    if (!maker.block(name, at)) maker.leftOut("MULTILEADER", "without its block");
+    if (!maker.block(name, at)) maker.leftOut("MULTILEADER", "without a block");
 }
 
 } // namespace

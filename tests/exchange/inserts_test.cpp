@@ -116,7 +116,7 @@ TEST(Inserts, WhatCanNotBeDrawnIsCounted)
         readOf(section("BLOCKS", block("SELF", bar + insert("SELF", {}))) +
                entities(insert("NONE", {{70, "30000"}, {71, "30000"}}) + insert("self", {})));
     EXPECT_EQ(r.drawing.objects.size(), 1U);
-    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (its block can't be drawn) left out");
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (can't be drawn) left out");
 }
 
 TEST(Inserts, OfBlocksInOtherFilesAreCounted)
@@ -129,7 +129,7 @@ TEST(Inserts, OfBlocksInOtherFilesAreCounted)
                               flagged("BOUND", "36", bar) + flagged("EMPTY", "2", "")) +
         entities(insert("House", {}) + insert("SITE", {}) + insert("BOUND", {}) + insert("EMPTY", {})));
     EXPECT_EQ(r.drawing.objects.size(), 1U);
-    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (its block is another file) left out");
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), "2 blocks (of another file) left out");
 }
 
 // What is outside of its boundary comes as well, and is told.
@@ -148,7 +148,7 @@ TEST(Inserts, ThatAreClippedAreDrawnWhole)
         const char* leftOut;
     };
     const Row rows[] = {
-        {"clipped", objects("ACAD_FILTER", "SPATIAL"), "1 block (clipped, drawn whole) left out"},
+        {"clipped", objects("ACAD_FILTER", "SPATIAL"), "1 block (the clipping, drawn whole) left out"},
         {"filtered otherwise", objects("ACAD_FILTER", "LAYERS"), ""},
         {"with other data", objects("NOTES", "SPATIAL"), ""},
         {"with none", "", ""},

@@ -57,7 +57,7 @@ TEST_F(PrinterDialog, WhoseAnswerIsAFileIsNoPrinter)
 TEST_F(PrinterDialog, ThatIsCalledOffLeavesThePrinterAsItWas)
 {
     isAccepted = false;
-    EXPECT_EQ(printer->setup({"/home/user/house.pdf", "house.mtd"}), "Printer setup left as it was");
+    EXPECT_EQ(printer->setup({"/home/user/house.pdf", "house.mtd"}), "Printer Setup left as it was");
 }
 
 // Its folder is meant: a page has a name of its own, and what stands there is nobody's to replace.

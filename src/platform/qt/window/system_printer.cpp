@@ -19,7 +19,7 @@ namespace {
 
 constexpr double twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
-constexpr const char* leftAsItWas = "Printer setup left as it was";
+constexpr const char* leftAsItWas = "Printer Setup left as it was";
 
 // Twips of the printable area; paper is a few thousand of them wide.
 float widthOf(const QPrinter& printer)
