@@ -11,11 +11,10 @@
 
 namespace mirtane {
 
-// Of a text of one line.
 std::string dxfLineOfText(std::string_view utf8);
-// Of a paragraph.
 std::string dxfParagraph(std::string_view utf8);
-// Of what no one reads as a text: in pieces, since a file bounds how long one may be.
+
+// What no one reads as a text, in pieces, since a file bounds how long one may be.
 std::vector<std::string> dxfPieces(std::string_view utf8);
 
 // The names of a table: each with no sign that a name may not have, and none like another, in letters small

@@ -5,7 +5,6 @@
 
 namespace mirtane {
 
-// Bytes of a record besides its two texts.
 inline constexpr std::size_t recordBytesWithoutTexts = 90;
 
 // Takes the next record. False when what is left is not a whole record; the record then means nothing.

@@ -5,7 +5,6 @@
 
 namespace mirtane {
 
-// Bytes of a row besides its name.
 inline constexpr std::size_t hatchRowBytesWithoutName = 70;
 inline constexpr std::size_t multipleLineBytesWithoutName = 28;
 

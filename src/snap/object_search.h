@@ -26,7 +26,6 @@ KindSet kindsWith(bool (*has)(Kind));
 inline constexpr KindSet circleOrArc = inKind(Kind::circle) | inKind(Kind::arc);
 inline constexpr KindSet lineCircleArc = inKind(Kind::line) | circleOrArc;
 
-// A set of states.
 using StatSet = std::uint32_t;
 
 constexpr StatSet inStat(Stat stat)

@@ -7,7 +7,6 @@ namespace mirtane {
 
 // Files keep text in code page Windows-1252, one byte a character; in memory it is UTF-8.
 
-// Whether the code page has the character.
 bool inCodePage(char32_t code);
 
 // The first character of utf8 that the code page lacks; empty where it has them all.

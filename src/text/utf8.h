@@ -17,7 +17,6 @@ struct Utf8Step {
     bool wellFormed = false;
 };
 
-// The first character of text.
 Utf8Step firstCharacter(std::string_view text);
 
 // code as UTF-8; "?" for a surrogate and for what is beyond U+10FFFF.

@@ -9,7 +9,6 @@ namespace mirtane {
 void startSelection(App& app, ControlId starter);
 void selectLastObjects(App& app, ControlId starter);
 
-// Shows the edit functions in List1.
 void showEditFunctions(Controls& controls);
 
 // A right click in a selection function: shows the Edits form, or says that nothing is selected.
