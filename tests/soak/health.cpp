@@ -220,9 +220,13 @@ std::string faultOfUndo(const Session& s)
     store.entCount = s.store.entCount;
     store.stat = s.store.stat;
     const std::vector<bool> before = alive(store);
-    int undone = 0;
-    while (log.undoGroupTop > 0 && undo(store, log) == Flipped::group) ++undone;
-    for (int i = 0; i < undone; ++i) redo(store, log);
+    // An undo with nothing left to undo goes on at the highest serial, below which tens of thousands are
+    // empty.
+    const std::ptrdiff_t mostGroups =
+        std::ranges::count_if(log.logSlot, [](std::int32_t slot) { return slot != 0; });
+    std::ptrdiff_t undone = 0;
+    while (undone <= mostGroups && log.undoGroupTop > 0 && undo(store, log) == Flipped::group) ++undone;
+    for (std::ptrdiff_t i = 0; i < undone; ++i) redo(store, log);
     const std::vector<bool> after = alive(store);
     const auto [first, _] = std::ranges::mismatch(before, after);
     if (first == before.end()) return "";
