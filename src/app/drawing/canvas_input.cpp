@@ -75,11 +75,9 @@ void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Poi
 {
     storeClick(s, button, at);
     if (row.clicks == Clicks::pickObjects) return pickClick(s, pic1);
-    const bool isSnapped = takesSnapAsItIs(s, row);
     landClick(s, pic1, row);
     s.controls[ids::snapLabel].caption.clear();
-    const bool cancels = row.samePointCancels && !isSnapped;
-    if (cancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
+    if (row.samePointCancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
     callStep(s, pic1);
     updateGauge(s);
 }

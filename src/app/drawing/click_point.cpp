@@ -16,6 +16,12 @@ void confineClick(Session& s, const FunctionRow& row)
     confinePickLast(s, distance(s.pickFirst, s.pickLast));
 }
 
+// A snapped click is a point of its own, whatever the ortho. To be asked before the snap is disarmed.
+bool takesSnapAsItIs(const Session& s, const FunctionRow& row)
+{
+    return row.orthoOnClick == Ortho::unlessSnapped && snapIsOn(s);
+}
+
 std::optional<SnapMark> markAt(const std::optional<SnapHit>& hit, Point at)
 {
     return hit ? std::optional(SnapMark{*hit, at}) : std::nullopt;
@@ -34,11 +40,6 @@ void storeClick(Session& s, int button, Point at)
     if (s.stepNo == 1) s.pickFirst = at;
     if (s.stepNo > 1) s.pickLast = at;
     s.mousePos = at;
-}
-
-bool takesSnapAsItIs(const Session& s, const FunctionRow& row)
-{
-    return row.orthoOnClick == Ortho::unlessSnapped && snapIsOn(s);
 }
 
 std::optional<SnapHit> landClick(Session& s, const Canvas& pic1, const FunctionRow& row)

@@ -18,10 +18,6 @@ inline constexpr int leftButton = 1;
 // A click of the function at a point: counts it if it is one of the left button, and stores the point.
 void storeClick(Session& s, int button, Point at);
 
-// The click is a point of its own: neither ortho nor the first point of an earlier function has a say in it.
-// To be asked before the snap is disarmed.
-bool takesSnapAsItIs(const Session& s, const FunctionRow& row);
-
 // Brings the stored click to where it lands, and disarms the snap. Gives what a snap has found.
 std::optional<SnapHit> landClick(Session& s, const Canvas& pic1, const FunctionRow& row);
 
