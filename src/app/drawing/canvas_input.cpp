@@ -75,8 +75,10 @@ void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Poi
 {
     storeClick(s, button, at);
     if (row.clicks == Clicks::pickObjects) return pickClick(s, pic1);
-    landClick(s, pic1, row);
-    s.controls[ids::snapLabel].caption.clear();
+    if (!bringsBackNextCopy(s, row)) {
+        landClick(s, pic1, row);
+        s.controls[ids::snapLabel].caption.clear();
+    }
     if (row.samePointCancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
     callStep(s, pic1);
     updateGauge(s);

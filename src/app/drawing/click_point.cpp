@@ -42,6 +42,11 @@ void storeClick(Session& s, int button, Point at)
     s.mousePos = at;
 }
 
+bool bringsBackNextCopy(const Session& s, const FunctionRow& row)
+{
+    return row.starts == Starts::fromList && row.firstStep == 1 && s.stepNo == 1;
+}
+
 std::optional<SnapHit> landClick(Session& s, const Canvas& pic1, const FunctionRow& row)
 {
     s.pointWasSnapped = false;
@@ -65,6 +70,7 @@ std::optional<SnapMark> aimOfClick(Session& s, const Canvas& pic1, Point at)
         return markAt(hit, s.blankStep == 1 ? s.blankStart : s.blankEnd);
     }
     storeClick(s, leftButton, at);
+    if (bringsBackNextCopy(s, *row)) return std::nullopt;
     const auto hit = landClick(s, pic1, *row);
     return markAt(hit, s.stepNo == 1 ? s.pickFirst : s.pickLast);
 }

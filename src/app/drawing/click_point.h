@@ -18,6 +18,10 @@ inline constexpr int leftButton = 1;
 // A click of the function at a point: counts it if it is one of the left button, and stores the point.
 void storeClick(Session& s, int button, Point at);
 
+// The stored click asks for what hung on the pointer from the list on once more, and its place is not used: a
+// snap is left for the click that places it.
+bool bringsBackNextCopy(const Session& s, const FunctionRow& row);
+
 // Brings the stored click to where it lands, and disarms the snap. Gives what a snap has found.
 std::optional<SnapHit> landClick(Session& s, const Canvas& pic1, const FunctionRow& row);
 
