@@ -124,6 +124,32 @@ TEST(MouseDown, ThatFillsSlot59899WarnsAtOnce)
     EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.");
 }
 
+// The functions that answer add nothing; the gauge, which warns at each click from there on, lets them
+// answer.
+TEST(MouseDown, KeepsTheAnswerOfAFunctionInANearlyFullTable)
+{
+    for (const std::int32_t count : {59899, 59900, 59977, 60000, 61234}) {
+        Desk desk;
+        desk.s.store.entCount = count;
+        desk.press("freecurs"_c);
+        desk.press("num3"_c);
+        desk.press("ut3"_c);
+        desk.click(1000, 1000);
+        desk.click(1120, 1160);
+        EXPECT_EQ(desk.text("entry"_c), "16.667\"") << count;
+        desk.click(1120, 1280);
+        EXPECT_EQ(desk.text("entry"_c), "10.000\"") << count;
+        desk.press("ut4"_c);
+        for (const Point p : {Point{1000, 1000}, Point{1144, 1000}, Point{1144, 1288}, Point{1000, 1000}})
+            desk.click(p.x, p.y);
+        EXPECT_TRUE(desk.text("entry"_c).ends_with(" Square")) << desk.text("entry"_c);
+        desk.cancel();
+        desk.press("Command8"_c);
+        desk.click(2000, 2000);
+        EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.") << count;
+    }
+}
+
 TEST(MouseDown, GoesOnPastTheEndOfTheTableWithoutHarm)
 {
     Desk desk;

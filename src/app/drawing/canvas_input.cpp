@@ -71,6 +71,18 @@ void passNumberToEntry(Session& s, char32_t code)
     if (isPartOfNumber(code)) passToEntry(s, code);
 }
 
+// Near the table's end the gauge warns at each click. An answer of the function, which added nothing, says
+// more.
+void callStepAndGauge(Session& s, Canvas& pic1)
+{
+    const std::int32_t before = s.store.entCount;
+    callStep(s, pic1);
+    Control& entry = s.controls[ids::entry];
+    const std::string answer = s.store.entCount == before ? entry.text : "";
+    updateGauge(s);
+    if (!answer.empty()) setText(entry, answer);
+}
+
 void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Point at)
 {
     storeClick(s, button, at);
@@ -80,8 +92,7 @@ void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Poi
         s.controls[ids::snapLabel].caption.clear();
     }
     if (row.samePointCancels && s.pickLast == s.pickFirst) return cancel(s, pic1, at);
-    callStep(s, pic1);
-    updateGauge(s);
+    callStepAndGauge(s, pic1);
 }
 
 void endSelection(Session& s, Canvas& pic1)
