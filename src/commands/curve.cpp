@@ -5,9 +5,11 @@
 #include "commands/prompt.h"
 #include "geometry/angle.h"
 #include "geometry/fault.h"
-#include "geometry/foot.h"
+#include "geometry/flat_arc.h"
 #include "model/three_point_scratch.h"
 #include "render/redraw.h"
+
+#include <cmath>
 
 namespace mirtane {
 namespace {
@@ -33,30 +35,63 @@ void joinNextArc(Session& s)
     s.curveFlip = distance(junction, last.p3) < distance(junction, last.p2) ? 1 : 0;
 }
 
-// The centre lies on the normal through the junction J, as far from J as from C: |JC|^2 / (2 |J foot of C|).
-void constructTangentCircle(ScratchPoints& s)
+// The circle that is tangent to the last arc at the junction J and goes through C.
+struct TangentCircle {
+    Point junction, c;
+    Way towards;   // from J to the centre
+    double radius; // not to be had where C lies straight on
+};
+
+// The centre lies on the normal through J, as far from J as from C: |JC|^2 / (2 * how far C is beside the
+// tangent).
+TangentCircle tangentCircle(ScratchPoints& s)
 {
     const Point junction = s.ptA;
     const Point c = s.ptC;
+    const Way towardsA = wayBetween(s.bisectorB, s.bisectorA);
     const double toC = distance(junction, c);
-    const double toFoot = distance(junction, footOfPerpendicular(c, s.bisectorA, s.bisectorB, junction));
-    const double r = quotient(toC * toC, 2 * toFoot);
-    s.curveSide = distance(c, s.bisectorB) >= distance(c, s.bisectorA) ? 1 : 0;
-    const Point towards = s.curveSide == 1 ? s.bisectorA : s.bisectorB;
-    const double d = distance(junction, towards);
-    keep(s.ptF.x, junction.x + r * quotient(towards.x - junction.x, d));
-    keep(s.ptF.y, junction.y - r * quotient(junction.y - towards.y, d));
-    keep(s.workRadius, distance(s.ptF, junction));
+    const double beside = (static_cast<double>(c.x) - junction.x) * towardsA.x + // widened, so that the
+                          (static_cast<double>(c.y) - junction.y) * towardsA.y;  // differences are whole
+    s.curveSide = beside < 0 ? 0 : 1;
+    return {junction, c, s.curveSide == 1 ? towardsA : -towardsA, quotient(toC * toC, 2 * std::abs(beside))};
+}
+
+void takeTangentCircle(ScratchPoints& s, const TangentCircle& circle)
+{
+    keep(s.ptF.x, circle.junction.x + circle.radius * circle.towards.x);
+    keep(s.ptF.y, circle.junction.y + circle.radius * circle.towards.y);
+    keep(s.workRadius, distance(s.ptF, circle.junction));
+    s.arcAngleTwo = directionAngle(s.ptF, circle.c, s.arcAngleTwo);
+    s.arcAngleOne = directionAngle(s.ptF, circle.junction, s.arcAngleOne);
+}
+
+void takeFlatCircle(ScratchPoints& s, const TangentCircle& circle)
+{
+    const FlatCircle flat = flatCircle(circle.junction, circle.c, circle.towards, circle.radius);
+    s.ptF = flat.centre;
+    s.workRadius = flat.radius;
+    s.arcAngleTwo = fullDirection(s.ptF, circle.c);
+    s.arcAngleOne = fullDirection(s.ptF, circle.junction);
 }
 
 void constructTangentArc(Session& s)
 {
-    constructTangentCircle(s);
-    s.arcAngleTwo = directionAngle(s.ptF, s.ptC, s.arcAngleTwo);
-    s.arcAngleOne = directionAngle(s.ptF, s.ptA, s.arcAngleOne);
+    const TangentCircle circle = tangentCircle(s);
+    if (isFlat(circle.radius, distance(circle.junction, circle.c))) {
+        takeFlatCircle(s, circle);
+    } else {
+        takeTangentCircle(s, circle);
+    }
     const bool startsAtC = s.curveFlip == s.curveSide;
     s.arcStart = startsAtC ? s.arcAngleTwo : s.arcAngleOne;
     s.arcEnd = startsAtC ? s.arcAngleOne : s.arcAngleTwo;
+}
+
+// The junction as it was clicked, or the end of the last arc as it was stored.
+bool isOnJunction(const Session& s, Point p)
+{
+    const EntityRecord last = s.store.record(s.store.entCount - 1);
+    return p == s.ptA || p == (s.curveFlip == 1 ? last.p3 : last.p2);
 }
 
 void storeArc(Session& s, Canvas& pic1)
@@ -90,6 +125,10 @@ void curveStep(Session& s, Canvas& pic1)
         return;
     }
     if (s.stepNo == 2) return takeSecondPoint(s);
+    if (s.stepNo > 3 && isOnJunction(s, s.pickLast)) { // no next point: a second click in one place
+        --s.stepNo;
+        return;
+    }
     s.ptC = s.pickLast;
     if (s.stepNo == 3) {
         constructArc(s);

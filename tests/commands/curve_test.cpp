@@ -343,17 +343,15 @@ TEST(Curve, StraightAheadKeepsTheCentreThatStood)
     EXPECT_FLOAT_EQ(r.rad, before.rad);
 }
 
-TEST(Curve, TwiceOnTheSameJunctionKeepsTheCentreThatStood)
+TEST(Curve, TwiceOnTheSameJunctionTakesNoFurtherPoint)
 {
     Desk desk;
     arcWithAnUprightNormal(desk);
-    const EntityRecord before = lastSlot(desk);
+    const std::int16_t flip = desk.s.curveFlip;
     desk.click(1300, 700);
-    ASSERT_EQ(desk.s.store.entCount, 3);
-    const EntityRecord r = lastSlot(desk);
-    expectWholeArc(r);
-    EXPECT_EQ(r.p1, before.p1);
-    EXPECT_EQ(r.a1, r.a2);
+    EXPECT_EQ(desk.s.store.entCount, 2);
+    EXPECT_EQ(desk.s.stepNo, 3);
+    EXPECT_EQ(desk.s.curveFlip, flip);
 }
 
 TEST(Curve, OfThreePointsOnALineKeepsTheCentreThatStood)
