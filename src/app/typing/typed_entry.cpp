@@ -19,6 +19,8 @@
 #include "text/numbers.h"
 #include "text/utf8.h"
 
+#include <cmath>
+
 namespace mirtane {
 namespace {
 
@@ -72,6 +74,19 @@ Way wayAhead(const ScratchPoints& s)
     return s.pickFirst == s.pickLast ? s.lastWay : wayBetween(s.pickFirst, s.pickLast);
 }
 
+// How far a dimension's line stands off: no leg of a chain, and nowhere to be laid but where the pointer
+// shows.
+bool isOffset(const FunctionRow& row)
+{
+    return row.orthoOnClick == Ortho::onlyAtStep3;
+}
+
+// To the right along the ortho angle, as a distance runs that is typed in a fresh program.
+Way firstAxis(const CanvasInput& s)
+{
+    return {std::cos(s.orthoAngle), -std::sin(s.orthoAngle)};
+}
+
 // pickLast at distance d from pickFirst.
 void layAlong(ScratchPoints& s, Way way, float d)
 {
@@ -85,7 +100,8 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
     constexpr float leastInEmptyDrawing = 0.012F; // a thousandth of an inch
     if (d < leastInEmptyDrawing && s.store.entCount == 1) return backToDrawing(s, pic1);
     const bool ortho = orthoIsOn(s.controls);
-    const Way way = wayAhead(s);
+    Way way = wayAhead(s);
+    if (!way.isAny() && !isOffset(row)) way = firstAxis(s);
     if (ortho) {
         confinePickLast(s, d);
     } else {
@@ -94,8 +110,10 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
     countStep(s);
     s.band.reset();
     if (row.typedDistance == TypedDistance::laysPoint) callStep(s, pic1);
-    // The ends of legs are rounded: taken from them, each way would lean a little more than the one before.
-    if (!ortho && s.lastWay.isAny()) s.lastWay = d < 0 ? -way : way;
+    // The ends of legs are rounded: taken from them, each way would lean a little more than the one before,
+    // and a leg of no length has none.
+    const bool keepsWay = !isOffset(row) && (!ortho || !s.lastWay.isAny());
+    if (keepsWay) s.lastWay = d < 0 ? -way : way;
     s.controls.focus = ids::drawing;
     const DispatchRow* const dispatched = dispatchOf(s.curFunc);
     const bool showsBand = dispatched != nullptr && dispatched->bandAtOnce && s.roomMissing == 0;
