@@ -68,27 +68,40 @@ int turnBetween(Bearing last, Bearing now)
     return fromZero(now) > fromZero(last) ? 1 : -1;
 }
 
+// From one axis of ortho to the next the shorter way counts, over angle 0 too: of so few turns the sum would
+// not make good a wrong one. To the opposite axis no way is the shorter one.
+int turnBetweenAxes(Bearing last, Bearing now)
+{
+    const double shorter = std::remainder(now.angle - last.angle, fullTurn);
+    const bool isQuarter = std::abs(shorter) > eighthTurn && std::abs(shorter) < threeEighthsTurn;
+    if (!isQuarter) return turnBetween(last, now);
+    return shorter > 0 ? 1 : -1;
+}
+
 // Counts the way that the pointer goes round the centre, from the place in ptC, which it takes. arcLastAngle
-// is what the last move left, also of an arc before this one; a crossing of angle 0 counts the wrong way, and
-// the sum over the whole way decides.
-void wind(ScratchPoints& s)
+// is what the last move left, also of an arc before this one; without ortho a crossing of angle 0 counts the
+// wrong way, and the sum over the whole way decides.
+void wind(Session& s)
 {
     const Bearing last = bearingOf(s.ptA, s.ptC, s.arcLastAngle);
     s.ptC = s.pickLast;
     s.arcAngleTwo = directionAngle(s.ptA, s.ptC, s.arcAngleTwo);
     const Bearing now = bearingOf(s.ptA, s.ptC, s.arcAngleTwo);
-    const int turn = turnBetween(last, now);
+    const int turn = orthoIsOn(s.controls) ? turnBetweenAxes(last, now) : turnBetween(last, now);
     keep(s.arcWinding, s.arcWinding + turn);
     s.arcLastAngle = s.arcAngleTwo;
     // Under ortho a turn is one count, and the first one, from what an earlier arc left, may cancel it: then
     // the last turn tells the way, as an arc without one would not be seen.
     const bool isSeen = !areOne({s.arcStart, now.noise}, {s.arcEnd, now.noise});
     const int way = s.arcWinding == 0 && !isSeen ? turn : s.arcWinding;
+    // On the radius point's axis the rounding would make a whole circle of nothing.
+    const Bearing one = bearingOf(s.ptA, s.ptB, s.arcAngleOne);
+    const double two = areOne(one, now) ? s.arcAngleOne : s.arcAngleTwo;
     if (way > 0) {
         s.arcStart = s.arcAngleOne;
-        s.arcEnd = s.arcAngleTwo;
+        s.arcEnd = two;
     } else if (way < 0) {
-        s.arcStart = s.arcAngleTwo;
+        s.arcStart = two;
         s.arcEnd = s.arcAngleOne;
     }
 }

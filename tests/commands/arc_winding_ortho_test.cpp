@@ -102,5 +102,70 @@ TEST(ArcTwo, DoesNotTurnAlongAnAxisAtAngleZero)
     EXPECT_GT(nearlyATurn, 100);
 }
 
+// From axis to axis, over angle 0 like over any other, and there and back again.
+TEST(ArcTwo, GoesTheWayFromAxisToAxisOverAngleZeroToo)
+{
+    Slanted dice(41);
+    int over0 = 0;
+    for (int i = 0; i < 600; ++i) {
+        const double turned = i % 6 == 0 ? 0 : dice.between(0, 90);
+        const Point centre = dice.pointWithin({0, 0}, i % 2 == 0 ? 2500 : 150000);
+        Desk desk;
+        setOrthoAngle(desk, turned);
+        start(desk, "Command4"_c, OrthoToggle::on);
+        const int from = dice.below(4);
+        int axis = from;
+        const auto near = [&] {
+            return onCircle(centre, dice.between(300, 900), turned + 90 * axis + dice.between(-40, 40));
+        };
+        clickAt(desk, centre);
+        clickAt(desk, near());
+        desk.s.arcLastAngle = desk.s.arcAngleOne; // as a move at the radius point leaves it
+        const int way = dice.chance() ? 1 : -1;
+        for (int quarters = 1 + dice.below(3); quarters > 0; --quarters) {
+            axis += way;
+            for (int move = 0; move < 3; ++move) moveTo(desk, near());
+        }
+        if (dice.chance() && std::abs(axis - from) > 1) { // one back
+            axis -= way;
+            moveTo(desk, near());
+        }
+        over0 += (axis < 0 || axis > 3) ? 1 : 0;
+        EXPECT_EQ(desk.s.arcWinding, axis - from) << turned << " from " << from;
+        downAt(desk, near());
+        const EntityRecord r = lastSlot(desk);
+        const double low = (turned + 90 * std::min(from, axis)) * std::numbers::pi / 180;
+        const double high = (turned + 90 * std::max(from, axis)) * std::numbers::pi / 180;
+        const double slack = 1e-6 + 1e-8 * (std::abs(centre.x) + std::abs(centre.y));
+        EXPECT_LT(turnedBetween(r.a1, low), slack) << turned << " from " << from << " to " << axis;
+        EXPECT_LT(turnedBetween(r.a2, high), slack) << turned << " from " << from << " to " << axis;
+    }
+    EXPECT_GT(over0, 100);
+}
+
+// The direction differs by its rounding from move to move, above and below that of the radius point.
+TEST(ArcTwo, IsNothingWhileThePointerIsOnTheAxisOfTheRadiusPoint)
+{
+    Slanted dice(42);
+    for (int i = 0; i < 1000; ++i) {
+        const double turned = dice.between(0, 90);
+        const Point centre = dice.pointWithin({0, 0}, i % 2 == 0 ? 3000 : 80000);
+        Desk desk;
+        setOrthoAngle(desk, turned);
+        start(desk, "Command4"_c, OrthoToggle::on);
+        desk.s.arcLastAngle = dice.between(0, 6.28);
+        const int axis = dice.below(4);
+        const auto near = [&] {
+            return onCircle(centre, dice.between(100, 900), turned + 90 * axis + dice.between(-40, 40));
+        };
+        clickAt(desk, centre);
+        clickAt(desk, near());
+        for (int move = dice.below(4); move >= 0; --move) moveTo(desk, near());
+        EXPECT_EQ(desk.s.arcStart, desk.s.arcEnd) << i;
+        downAt(desk, near());
+        EXPECT_EQ(lastSlot(desk).a1, lastSlot(desk).a2) << i << ": " << turned;
+    }
+}
+
 } // namespace
 } // namespace mirtane
