@@ -280,6 +280,45 @@ TEST_F(SelectLast, MarksWhatTheLastActionMadeAndGoesOnAsObjectSelect)
     EXPECT_TRUE(desk.visible("frmedit"_c));
 }
 
+// The text is marked by its function and let go of first, and it is in the picture again.
+TEST_F(SelectLast, FromTheMiddleOfATextEditMarksTheLastAndShowsTheText)
+{
+    desk.draw(fake::text({3000, 2000}, "hello"), Stat::on);
+    desk.drawLine(100, 2500, 300, 2540);
+    desk.press("Command16"_c);
+    desk.click(3000, 2000);
+    ASSERT_EQ(desk.stat(4), Stat::sel);
+    desk.type("x");
+    desk.ops();
+    desk.press("Command17"_c);
+    EXPECT_EQ(selected(), "5");
+    const fake::Ops ops = desk.ops();
+    ASSERT_FALSE(fake::only(ops, "text").empty());
+    EXPECT_TRUE(fake::only(ops, "text").back().ends_with(" hello"));
+    desk.cancel();
+    EXPECT_TRUE(desk.visible("frmedit"_c));
+}
+
+// What the edit has made is the last, and its words are drawn in the pen of the selection.
+TEST_F(SelectLast, OfATextThatWasEditedShowsIt)
+{
+    for (const char* key : {"", "!"}) {
+        desk.draw(fake::text({3000, 2000}, "hello"), Stat::on);
+        desk.press("Command16"_c);
+        desk.click(3000, 2000);
+        desk.type(key);
+        desk.enter();
+        const std::int32_t edited = desk.s.store.entCount - 1;
+        desk.ops();
+        desk.press("Command17"_c);
+        EXPECT_EQ(desk.stat(edited), Stat::sel);
+        const fake::Ops words = fake::only(desk.ops(), "text");
+        ASSERT_FALSE(words.empty()) << key;
+        EXPECT_TRUE(words.back().ends_with(std::string(" hello") + key)) << words.back();
+        desk.shell.clickRow("List1"_c, 13);
+    }
+}
+
 TEST_F(SelectLast, LeavesEarlierMarks)
 {
     desk.press("Command20"_c);

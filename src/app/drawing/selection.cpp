@@ -43,10 +43,10 @@ void startSelection(App& app, ControlId starter)
 
 void selectLastObjects(App& app, ControlId)
 {
+    startSelection(app, ids::selectObjects); // first, as it lets go of a text under edit, which is marked too
     selectLast(app.s);
     redrawAll(app.s, app.pic1);
     app.pic1.refresh();
-    startSelection(app, ids::selectObjects);
 }
 
 void offerEdits(Session& s)
