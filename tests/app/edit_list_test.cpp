@@ -267,6 +267,30 @@ TEST(Move, CancelledInTheMiddleShowsTheObjectsAgain)
     EXPECT_EQ(desk.text("entry"_c), "");
 }
 
+// It is marked only so that it is shown so: the rows find nothing, like the key, and it is typed on.
+TEST(EditList, FindsNothingInATextUnderEdit)
+{
+    for (int row = 0; row < 14; ++row) {
+        EditsDesk desk;
+        desk.draw(fake::text({2000, 2000}, "hello"), Stat::on);
+        desk.press("Command20"_c); // the list of the edits comes up
+        desk.press("Command16"_c);
+        desk.click(2000, 2000);
+        ASSERT_EQ(desk.stat(2), Stat::sel);
+        desk.type("a");
+        desk.pick(row);
+        EXPECT_EQ(desk.text("entry"_c), "Nothing selected!") << row;
+        EXPECT_EQ(desk.s.curFunc, "Text Edit") << row;
+        EXPECT_EQ(desk.s.stepNo, 1) << row;
+        EXPECT_EQ(desk.stat(2), Stat::sel) << row;
+        EXPECT_EQ(desk.title(), fake::titleOf("Text Edit(Edit text:)")) << row;
+        desk.type("b");
+        desk.enter();
+        EXPECT_EQ(desk.slot(3).t1, "helloab") << row;
+        EXPECT_EQ(desk.stat(3), Stat::on) << row;
+    }
+}
+
 TEST(Move, GivenUpForAnotherFunctionShowsTheObjectsAgain)
 {
     struct Row {

@@ -11,6 +11,15 @@
 namespace mirtane {
 namespace {
 
+// A text under edit is marked by its function, and no edit was asked for of it.
+bool somethingToEdit(Session& s)
+{
+    if (!textIsInEdit(s)) return somethingSelected(s);
+    setText(s.controls[ids::entry], "Nothing selected!");
+    s.controls.focus = ids::drawing; // where it goes on being typed
+    return false;
+}
+
 void beginEdit(App& app, const FunctionRow& row)
 {
     setText(app.s.controls[ids::workText], ""); // before the prompt, which may put a number there
@@ -38,7 +47,7 @@ void askForChanges(App& app)
 
 void startEdit(App& app, const std::string& name)
 {
-    if (!somethingSelected(app.s) || name.empty()) return;
+    if (!somethingToEdit(app.s) || name.empty()) return;
     if (name == "Delete") return deleteAndClose(app);
     const FunctionRow* row = findFunction(name);
     if (row == nullptr) return;
@@ -55,7 +64,7 @@ void startEditFromRow(App& app, int row)
 
 void startEditFromButton(App& app, ControlId button)
 {
-    if (!somethingSelected(app.s)) return;
+    if (!somethingToEdit(app.s)) return;
     app.s.controls[ids::editsForm].visible = false;
     app.s.controls.focus = ids::drawing;
     startEdit(app, std::string(button.row().caption));
@@ -69,7 +78,7 @@ void deleteFromKey(App& app)
 
 void deselectFromButton(App& app, ControlId)
 {
-    if (!somethingSelected(app.s)) return;
+    if (!somethingToEdit(app.s)) return;
     app.s.controls[ids::editsForm].visible = false;
     deselect(app.s, app.pic1);
     app.s.controls.focus = ids::drawing;
