@@ -37,8 +37,9 @@ void replacePicked(Session& s, Canvas& pic1)
 {
     const std::int32_t slot = s.store.entCount;
     const std::int32_t old = s.pickedIndex;
+    const bool isHidden = s.store.stat[EntityStore::at(old)] == Stat::off; // with its layer, meanwhile
     s.store.setRecord(slot, editedRecord(s, pic1));
-    s.store.setStat(slot, Stat::on);
+    s.store.setStat(slot, isHidden ? Stat::off : Stat::on);
     updateGauge(s);
     commitInGroup(s);
     s.store.setStat(old, Stat::out);
@@ -58,6 +59,7 @@ void beginTyping(Session& s)
 
 void textEditStep(Session& s, Canvas& pic1)
 {
+    if (s.stepNo < 1) return; // no click of the left button, and no text would be typed
     setPrompt(s, pic1);
     changeStat(s.store, Stat::sel, Stat::on);
     s.textLength = 0;

@@ -12,6 +12,19 @@ std::size_t filled(const Session& s)
     return std::min(static_cast<std::size_t>(std::max(s.textLength, 0)), s.textBuffer.size());
 }
 
+// Letters of a text that was loaded and is longer than the buffer. They stand in Text3 alone, from which
+// Backspace takes them; none can be added.
+std::string beyondBuffer(const Session& s)
+{
+    if (s.textLength <= std::ssize(s.textBuffer)) return "";
+    const std::vector<std::string> shown = utf8Characters(s.controls[ids::workText].text);
+    const std::size_t end =
+        std::min(static_cast<std::size_t>(s.textLength), shown.size()); // above 100, as asked
+    std::string text;
+    for (std::size_t i = s.textBuffer.size(); i < end; ++i) text += shown[i];
+    return text;
+}
+
 } // namespace
 
 void typeCharacter(Session& s, char32_t code)
@@ -36,7 +49,7 @@ std::string typedText(const Session& s)
 {
     std::string text;
     for (std::size_t i = 0; i < filled(s); ++i) text += s.textBuffer[i];
-    return text;
+    return text + beyondBuffer(s);
 }
 
 void loadTypedText(Session& s, const std::string& text)

@@ -222,6 +222,98 @@ TEST_F(TextEdit, LongTextThatIsNotTouchedKeepsAllItsCharacters)
     EXPECT_EQ(slot(2).t1, std::string(150, 'x'));
 }
 
+// So many letters that no two beside each other are one; every seventh takes two bytes.
+std::string longText(int letters)
+{
+    std::string text;
+    for (int i = 0; i < letters; ++i)
+        text += i % 7 == 3 ? "\u00E9" : std::string(1, static_cast<char>('a' + i % 26)); // a letter
+    return text;
+}
+
+// Only files of other programs hold such.
+TEST_F(TextEdit, LongTextLosesNothingToAKeyThatItHasNoRoomFor)
+{
+    for (const int letters : {101, 107, 150, 264, 1000}) {
+        const Point at{1000, static_cast<float>(letters)}; // a whole number
+        add(textAt(at, longText(letters)));
+        click(at);
+        type("X");
+        EXPECT_EQ(text3(), longText(letters)) << letters;
+        enter();
+        EXPECT_EQ(slot(s.store.entCount - 1).t1, longText(letters)) << letters;
+    }
+}
+
+TEST_F(TextEdit, LongTextIsTakenBackLetterByLetter)
+{
+    for (const int letters : {101, 103, 128, 300}) {
+        const Point at{1000, static_cast<float>(letters)}; // a whole number
+        add(textAt(at, longText(letters)));
+        click(at);
+        for (int left = letters - 1; left >= 97; --left) {
+            backspace();
+            ASSERT_EQ(text3(), longText(left)) << letters;
+        }
+        type("XYZ");
+        EXPECT_EQ(text3(), longText(97) + "XYZ");
+        type("U");
+        EXPECT_EQ(text3(), longText(97) + "XYZ") << "the hundredth is the last";
+        enter();
+        EXPECT_EQ(slot(s.store.entCount - 1).t1, longText(97) + "XYZ") << letters;
+    }
+}
+
+// As at a hundred letters: what was not taken is what Backspace takes back first.
+TEST_F(TextEdit, LongTextCountsTheKeysThatItRefused)
+{
+    add(textAt({1000, 1000}, longText(140)));
+    click(1000, 1000);
+    type("XY");
+    type("\b\b");
+    EXPECT_EQ(text3(), longText(140));
+    type("\b");
+    EXPECT_EQ(text3(), longText(139));
+}
+
+TEST_F(TextEdit, AfterALongOneAShortOneHasNoneOfIt)
+{
+    add(textAt({1000, 1000}, longText(140)));
+    add(textAt({1000, 3000}, "Level 2"));
+    click(1000, 1000);
+    type("\b");
+    click(1000, 3000);
+    type("x");
+    EXPECT_EQ(text3(), "Level 2x");
+}
+
+// The middle button counts no step, and a text would be picked that takes no key.
+TEST_F(TextEdit, MiddleButtonBeforeTheFirstClickPicksNothing)
+{
+    add(textAt({1000, 1000}, "Level 1"));
+    add(textAt({2000, 2000}, "Level 2"), Stat::sel);
+    down(4, {1000, 1000});
+    EXPECT_EQ(s.stepNo, 0);
+    EXPECT_EQ(stat(1), Stat::on);
+    EXPECT_EQ(stat(2), Stat::sel);
+    EXPECT_TRUE(texts().empty());
+}
+
+// Its layer was hidden while it was typed.
+TEST_F(TextEdit, OfAHiddenTextIsHidden)
+{
+    add(textAt({1000, 1000}, "Level 1"));
+    click(1000, 1000);
+    type("0");
+    s.store.setStat(1, Stat::off);
+    enter();
+    EXPECT_EQ(slot(2).t1, "Level 10");
+    EXPECT_EQ(stat(2), Stat::off);
+    EXPECT_EQ(stat(1), Stat::out);
+    undo(s.store, s.log);
+    EXPECT_EQ(stat(2), Stat::out);
+}
+
 TEST_F(TextEdit, OfAnObjectThatHasGoneChangesNothing)
 {
     add(textAt({1000, 1000}, "ab"));
