@@ -13,6 +13,7 @@ std::int16_t sectorOfDirection(double direction, double orthoAngle)
 {
     double d = direction - orthoAngle;
     if (d < 0) d += fullTurn;
+    if (d >= fullTurn) d -= fullTurn; // with an angle below 0
     if (d <= eighthTurn) return 1;
     if (d <= threeEighthsTurn) return 2;
     if (d <= fiveEighthsTurn) return 3;

@@ -41,6 +41,13 @@ TEST(Ortho, TheSectorsTurnWithTheOrthoAngle)
         {"just under an eighth below", 0.0, 0.7853, 1},
         {"a negative ortho angle", 0.0, -0.698132, 1},
         {"a negative ortho angle beyond an eighth", 0.5, -0.698132, 2},
+        {"nearly a turn on from an angle of a quarter below", 6.1, -1.5707963, 2},
+        {"the same, past the middle between two axes", 5.4, -1.5707963, 1},
+        {"a half turn below", 6.1, -3.1415927, 3},
+        {"a whole turn below", 6.1, -6.2831853, 1},
+        {"a whole turn below, a quarter on", 1.5707963, -6.2831853, 2},
+        {"a whole turn below, three quarters on", 4.8, -6.2831853, 4},
+        {"an eighth and more below, just before a turn", 6.2, -1, 2},
     };
     for (const Row& row : rows)
         EXPECT_EQ(sectorOfDirection(row.direction, row.orthoAngle), row.sector) << row.what;
