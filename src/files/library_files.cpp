@@ -68,6 +68,11 @@ Bytes multipleLinesBytes(const MultipleLinesLibrary& library, std::string_view n
     return bytesOf(library, name, writeMultipleLine);
 }
 
+std::int32_t piecesIn(const Bytes& file)
+{
+    return readRecords(file, 0, readRecord, [](const EntityRecord&) { return false; });
+}
+
 std::int32_t addAssociate(Session& s, const Bytes& file, std::string_view name)
 {
     markUsed(s.layerTable, 0);

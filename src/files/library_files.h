@@ -15,6 +15,9 @@ Bytes associateBytes(const EntityStore& store, std::string_view name);
 Bytes hatchBytes(const HatchLibrary& library, std::string_view name);
 Bytes multipleLinesBytes(const MultipleLinesLibrary& library, std::string_view name);
 
+// How many pieces an associate's file holds.
+std::int32_t piecesIn(const Bytes& file);
+
 // Adds the pieces of the file (at most 60,000) to the drawing's table as hidden slots that belong to name: an
 // associate is called as its file. Their layers stay as stored, but layer 0 is then marked used. No undo
 // record. The gauge is left to the caller. Gives how many pieces found no place.

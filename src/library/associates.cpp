@@ -7,7 +7,6 @@
 #include "library/turned_angle.h"
 #include "model/insertion.h"
 #include "model/kind_fields.h"
-#include "model/missing.h"
 #include "model/record_moves.h"
 #include "model/room.h"
 #include "render/entity_painter.h"
@@ -20,32 +19,27 @@ namespace {
 
 // -- creating --
 
-// False when the table has no slot for it.
-bool addPiece(Session& s, EntityRecord piece)
+std::vector<EntityRecord> piecesOfSelection(const Session& s)
+{
+    std::vector<EntityRecord> pieces;
+    for (std::int32_t i = 1; i < s.store.end(); ++i) {
+        const std::size_t at = EntityStore::at(i);
+        if (s.store.stat[at] == Stat::sel && isDrawnKind(s.store.kind[at]))
+            pieces.push_back(s.store.record(i));
+    }
+    return pieces;
+}
+
+void addPiece(Session& s, EntityRecord piece)
 {
     const std::int32_t slot = s.store.entCount;
     ++s.store.entCount;
-    if (!EntityStore::holds(slot)) return false;
     shift(piece, -s.pickLast.x, -s.pickLast.y);
     piece.layer = s.workLayer;
     writeFieldsOfKind(s.store, slot, piece);
     s.store.kind[EntityStore::at(slot)] = pieceOf(piece.kind);
     s.store.setStat(slot, Stat::out);
     s.store.ownerName[EntityStore::at(slot)] = s.associateName;
-    return true;
-}
-
-Missing addPiecesOfSelection(Session& s)
-{
-    Missing missing;
-    const std::int32_t end = s.store.end(); // the pieces come behind it
-    for (std::int32_t i = 1; i < end; ++i) {
-        const std::size_t at = EntityStore::at(i);
-        if (s.store.stat[at] != Stat::sel || !isDrawnKind(s.store.kind[at])) continue;
-        if (!addPiece(s, s.store.record(i))) ++missing.pieces;
-    }
-    markUsed(s.layerTable, s.workLayer);
-    return missing;
 }
 
 // -- placing --
@@ -140,13 +134,15 @@ void createAssociateStep(Session& s, Canvas& pic1)
         return;
     }
     if (s.stepNo != 2) return;
-    const Missing missing = addPiecesOfSelection(s);
+    const std::vector<EntityRecord> pieces = piecesOfSelection(s);
+    if (!hasRoomFor(s, std::ssize(pieces))) return;
+    for (const EntityRecord& piece : pieces) addPiece(s, piece);
+    markUsed(s.layerTable, s.workLayer);
     changeStat(s.store, Stat::sel, Stat::on);
     returnToBase(s);
     redrawAll(s, pic1);
     setPrompt(s, pic1);
     refillNames(s, Library::associates, list_mode::selectAssociate);
-    tellMissing(s.controls, missing);
 }
 
 void placeAssociateStep(Session& s, Canvas& pic1)

@@ -5,6 +5,7 @@
 
 #include "desk.h"
 #include "files/library_files.h"
+#include "library/libraries.h"
 
 #include <gtest/gtest.h>
 
@@ -559,8 +560,9 @@ TEST(LibraryMenus, AFileThatTheTableCouldNotTakeWholeSaysSo)
         {hatches, 997, ""},
         {multipleLines, 999, "The table is full: 2 pieces are missing"},
         {multipleLines, 997, ""},
-        {associates, 60000, "The table is full: 2 pieces are missing"},
-        {associates, 60001, "The table is full: 3 pieces are missing"},
+        {associates, 59999, "Not done: room for 1 more object is missing"},
+        {associates, 60000, "Not done: room for 2 more objects is missing"},
+        {associates, 60001, "Not done: room for 3 more objects is missing"},
         {associates, 1, ""},
     };
     for (const Row& row : rows) {
@@ -578,6 +580,42 @@ TEST(LibraryMenus, AFileThatTheTableCouldNotTakeWholeSaysSo)
         desk.openLibrary(row.library, "three");
         EXPECT_FALSE(desk.visible("frmfile"_c)) << row.library.select << " " << row.taken;
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.library.select << " " << row.taken;
+    }
+}
+
+TEST(LibraryMenus, AnAssociateThatTheTableCannotTakeWholeLeavesAllAsItWas)
+{
+    LibraryDesk desk;
+    for (int i = 0; i < 4; ++i) desk.drawLine(1000, 1020, 1100, 1030);
+    for (const std::int32_t slot : {2, 3, 4}) desk.s.store.setStat(slot, Stat::sel);
+    desk.create(associates, "four");
+    desk.saveFirst(associates);
+    desk.removeFirst(associates);
+    for (const std::int32_t free : {3, 1, 0}) {
+        desk.s.store.entCount = EntityStore::slotCount - free;
+        desk.press("Command2"_c);
+        desk.click(2000, 2000);
+        desk.openLibrary(associates, "four");
+        EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount - free) << free;
+        EXPECT_FALSE(hasName(desk.s, Library::associates, "four")) << free;
+        EXPECT_EQ(desk.s.curFunc, "2pt. Circle") << free;
+        EXPECT_EQ(desk.s.stepNo, 1) << free;
+    }
+    desk.s.store.entCount = EntityStore::slotCount - 4;
+    desk.openLibrary(associates, "four");
+    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount);
+    EXPECT_EQ(desk.s.curFunc, "Place Associate");
+}
+
+TEST(LibraryMenus, TheNameOfWhatWasRemovedIsTakenInEachLibrary)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.startCreating(library, "??????");
+        EXPECT_EQ(desk.text("entry"_c), "Name already exists!") << library.select;
+        EXPECT_EQ(desk.s.stepNo, 0) << library.select;
+        desk.create(library, "?????");
+        EXPECT_EQ(desk.rows(), Names{"?????"}) << library.select;
     }
 }
 

@@ -60,24 +60,34 @@ TEST(CreateAssociate, TakesTheCoordinatesRelativeToTheReferencePoint)
     }
 }
 
-TEST(CreateAssociate, SaysHowManyPiecesTheTableHadNoRoomFor)
+// Half a symbol under its name would be of no use, and be saved like a whole one.
+TEST(CreateAssociate, IsRefusedWholeWhereTheTableHasTooLittleRoom)
 {
     struct Row {
         std::int32_t freeSlots; // of 1,500 pieces
         const char* said;
     };
-    const Row rows[] = {{0, "The table is full: 1,500 pieces are missing"},
-                        {500, "The table is full: 1,000 pieces are missing"},
-                        {501, "The table is full: 999 pieces are missing"},
-                        {1499, "The table is full: 1 piece is missing"},
-                        {1500, ""}};
+    const Row rows[] = {{-40, "Not done: room for 1,500 more objects is missing"},
+                        {0, "Not done: room for 1,500 more objects is missing"},
+                        {500, "Not done: room for 1,000 more objects is missing"},
+                        {501, "Not done: room for 999 more objects is missing"},
+                        {1499, "Not done: room for 1 more object is missing"}};
     for (const Row& row : rows) {
         CreateDesk desk;
         for (int i = 0; i < 1500; ++i) desk.add(fake::circle({0, 0}, 1));
         desk.s.store.entCount = EntityStore::slotCount - row.freeSlots;
-        desk.stepAt({100, 200});
+        desk.click(100, 200);
         EXPECT_EQ(desk.text("entry"_c), row.said) << row.freeSlots;
-        EXPECT_EQ(desk.s.stepNo, 0);
+        EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount - row.freeSlots);
+        EXPECT_EQ(desk.s.curFunc, "Create Associate") << row.freeSlots;
+        EXPECT_EQ(desk.s.stepNo, 1) << row.freeSlots;
+        EXPECT_EQ(desk.s.associateName, "Door") << row.freeSlots;
+        for (const std::int32_t slot : {1, 700, 1500}) EXPECT_EQ(desk.stat(slot), Stat::sel) << row.freeSlots;
+        desk.s.store.entCount = EntityStore::slotCount - 1500; // room was made
+        desk.click(100, 200);
+        EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount);
+        EXPECT_EQ(desk.owner(EntityStore::slotCount - 1), "Door");
+        EXPECT_EQ(desk.list(), std::vector<std::string>{"Door"});
     }
 }
 
@@ -157,15 +167,18 @@ TEST(CreateAssociate, EndsWithTheNamesInTheListAndNoneChosen)
     EXPECT_EQ(desk.s.associateName, "??????");
 }
 
-TEST(CreateAssociate, WaitsForItsName)
+// Removed pieces are called so, in a drawing that was closed all slots.
+TEST(CreateAssociate, TakesNoNameThatStandsForNone)
 {
-    CreateDesk desk("??????");
+    LibraryDesk desk("Create Associate");
+    desk.typeIn("??????");
+    EXPECT_EQ(desk.s.stepNo, 0);
+    EXPECT_EQ(desk.text("entry"_c), "Name already exists!");
+    EXPECT_EQ(desk.s.curFunc, "Create Associate");
     desk.add(fake::filled(Kind::line));
     desk.click(5, 5);
-    EXPECT_EQ(desk.s.stepNo, 1);
     EXPECT_EQ(desk.s.store.entCount, 2);
     EXPECT_EQ(desk.stat(1), Stat::sel);
-    EXPECT_EQ(desk.s.curFunc, "Create Associate");
 }
 
 TEST(CreateAssociate, TheReferencePointIsTheSecondPointOfTheFunction)
@@ -175,17 +188,6 @@ TEST(CreateAssociate, TheReferencePointIsTheSecondPointOfTheFunction)
     desk.add(fake::line({10, 10}, {20, 30}));
     desk.click(10, 10);
     EXPECT_EQ(desk.slot(2).p1, (Point{0, 0}));
-}
-
-TEST(CreateAssociate, AFullTableLosesPiecesWithoutHarm)
-{
-    CreateDesk desk;
-    desk.add(fake::line({10, 10}, {20, 30}));
-    desk.add(fake::line({0, 0}, {1, 1}));
-    desk.s.store.entCount = EntityStore::slotCount - 1;
-    desk.click(10, 10);
-    EXPECT_EQ(desk.owner(EntityStore::slotCount - 1), "Door");
-    EXPECT_EQ(desk.s.store.entCount, EntityStore::slotCount + 1);
 }
 
 } // namespace

@@ -229,7 +229,8 @@ TEST(CreateHatch, RemovedRowsCountTowardTheEndOfTheTable)
 
 TEST(CreateHatch, WithoutANameMakesNoRows)
 {
-    CreateHatchDesk desk("??????");
+    CreateHatchDesk desk;
+    desk.s.hatchName = noName;
     desk.add(fake::line({105, 215}, {125, 215}));
     desk.tile();
     EXPECT_EQ(desk.count(), 0);

@@ -7,6 +7,7 @@
 #include "library/libraries.h"
 #include "model/insertion.h"
 #include "model/missing.h"
+#include "model/room.h"
 #include "tables/functions.h"
 #include "text/code_page.h"
 
@@ -73,6 +74,8 @@ bool openLibraryFile(App& app, const FileChoice& choice)
     if (row == nullptr || hasName(app.s, row->library, name)) return false;
     const std::optional<Bytes> file = app.ports.disk.read(choice.folder + "/" + choice.name);
     if (!file) return false;
+    const bool isDrawn = row->library == Library::associates; // its pieces take slots of the drawing's table
+    if (isDrawn && !hasRoomFor(app.s, piecesIn(*file))) return true; // told, and nothing is changed
     endWhatIsBegun(app.s, app.pic1);
     addToLibrary(app, *row, *file, name);
     return true;

@@ -118,7 +118,9 @@ void libraryNameEntered(Session& s, Canvas& pic1)
     const LibraryRow* row = rowWith(&LibraryRow::create, s.curFunc);
     Control& entry = s.controls[ids::entry];
     if (row == nullptr || entry.text.empty() || refusesText(s.controls, entry.text)) return;
-    if (hasName(s, row->library, entry.text)) return setSelectedText(entry, "Name already exists!");
+    // noName is what removed rows and pieces are called: nothing could be placed or saved under it.
+    const bool isTaken = !isLiveName(entry.text) || hasName(s, row->library, entry.text);
+    if (isTaken) return setSelectedText(entry, "Name already exists!");
     currentName(s, row->library) = entry.text;
     setText(entry, "");
     s.stepNo = 1;
