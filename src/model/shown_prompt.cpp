@@ -1,11 +1,13 @@
 #include "model/shown_prompt.h"
 
+#include "model/zoom_window.h"
+
 namespace mirtane {
 
 void showPrompt(Session& s, std::string_view function, std::string_view text)
 {
     s.functionPrompt = {std::string(function), std::string(text)};
-    endPassingPrompt(s);
+    if (!zoomWindowIsOn(s.controls)) endPassingPrompt(s);
 }
 
 void showPassingPrompt(Session& s, std::string_view doing, std::string_view text)

@@ -9,7 +9,8 @@
 
 namespace mirtane {
 
-// The prompt of a function, which stays until the next one.
+// The prompt of a function, which stays until the next one. While Zoom Window is on it waits beneath that
+// one's: the next click is not the function's.
 void showPrompt(Session& s, std::string_view function, std::string_view text);
 
 // A prompt over that of the function, which waits beneath it.

@@ -30,11 +30,6 @@ void endZoomWindow(Session& s)
 
 } // namespace
 
-bool zoomWindowIsOn(const Controls& controls)
-{
-    return controls[ids::snapLabel].caption == zoomWindowOn;
-}
-
 TextWidthOf textWidthOn(Canvas& pic1)
 {
     return [&pic1](const EntityRecord& r) { return textWidthIn(pic1, r.t2, r.p2.x, r.t1); };

@@ -1,15 +1,11 @@
 #pragma once
 
 #include "model/session.h"
+#include "model/zoom_window.h"
 #include "render/canvas.h"
 #include "render/entity_bounds.h"
 
 namespace mirtane {
-
-// The caption of snaplab that says that Zoom Window is on.
-inline constexpr std::string_view zoomWindowOn = "Zoom Window is on:";
-
-bool zoomWindowIsOn(const Controls& controls);
 
 // Width of an object's text by the surface's own measure, world units. Leaves the surface on that font.
 TextWidthOf textWidthOn(Canvas& pic1);

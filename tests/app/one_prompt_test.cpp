@@ -71,9 +71,55 @@ TEST(OnePrompt, OfAFunctionStartedOverZoomWindowThatHasNoneOfItsOwn)
     Desk desk;
     desk.press("Command43"_c);
     desk.press("dim11"_c);
-    expectOnePrompt(desk, "Move Dimension Text", "(Enter beginning point of line:)");
+    expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
     desk.cancel();
     expectOnePrompt(desk, "Move Dimension Text", "(Enter beginning point of line:)");
+}
+
+// The clicks are the window's until it is done, and so is the prompt: it is no word of the function that
+// began or went on meanwhile.
+TEST(OnePrompt, OfZoomWindowWhateverIsStartedOverIt)
+{
+    for (const FunctionRow& row : vocabulary()) {
+        const ControlKind kind = row.starter.row().kind;
+        if (kind != ControlKind::button && kind != ControlKind::menu) continue;
+        Desk plain;
+        plain.drawLine(-2100, 133, 411, 977);
+        plain.s.store.setStat(1, Stat::sel);
+        startFunction(plain.s, plain.pic1, row);
+        const std::string asked = plain.s.promptText;
+
+        Desk desk;
+        desk.drawLine(-2100, 133, 411, 977);
+        desk.s.store.setStat(1, Stat::sel);
+        desk.press("Command43"_c);
+        desk.click(20, 30);
+        startFunction(desk.s, desk.pic1, row);
+        expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+        EXPECT_EQ(desk.s.windowStep, 0) << row.name;
+        desk.click(20, 30);
+        expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+        EXPECT_EQ(desk.s.windowStep, 1) << row.name;
+        desk.click(900, 700);
+        EXPECT_EQ(desk.s.viewLeft, 20) << row.name;
+        expectOnePrompt(desk, std::string(row.name), asked);
+        EXPECT_EQ(desk.s.stepNo, row.firstStep) << row.name;
+    }
+}
+
+TEST(OnePrompt, OfZoomWindowOverAFunctionThatGoesOnByKeys)
+{
+    Desk desk;
+    desk.press("Command1"_c);
+    desk.click(300, 410);
+    desk.move(900, 410);
+    desk.press("Command43"_c);
+    desk.type("12");
+    desk.enter();
+    ASSERT_EQ(desk.s.store.entCount, 2);
+    expectOnePrompt(desk, "Zoom Window", "(Place window around area.)");
+    desk.cancel();
+    expectOnePrompt(desk, "Line", "(Enter ending point of line:)");
 }
 
 // The construction line that is released is no word of the zoom's, which is still on.
