@@ -97,8 +97,10 @@ void showPointer(Session& s)
 {
     if (!s.pointer) return;
     const std::string leg = s.band ? legText(s, *s.band) : "";
-    const std::string at = signedLengthText(s, s.pointer->x) + "  " + signedLengthText(s, s.pointer->y);
-    s.controls[ids::pointerLine].caption = leg.empty() ? at : leg + "    " + at;
+    const std::string x = signedLengthText(s, s.pointer->x);
+    const std::string y = signedLengthText(s, s.pointer->y);
+    const std::string at = x.empty() || y.empty() ? "" : x + "  " + y;
+    s.controls[ids::pointerLine].caption = leg.empty() || at.empty() ? leg + at : leg + "    " + at;
 }
 
 void showReading(Session& s)

@@ -28,6 +28,9 @@ constexpr Advice advices[] = {
     {U'"', "inches need no mark"},
 };
 
+// In no style a length from an inch on is rounded to nothing: one that reads so has too many digits.
+constexpr float longestThatReadsAsNothing = 12;
+
 std::string sidesText(double typed)
 {
     if (!isSides(typed)) return "not taken: 3 to 64 sides";
@@ -44,6 +47,12 @@ std::string hatchScaleText(double typed)
     return "= " + plainNumber(scale);
 }
 
+std::string equals(const Session& s, float length)
+{
+    const std::string text = signedLengthText(s, length);
+    return text.empty() ? text : "= " + text;
+}
+
 std::string distanceText(const Session& s, TypedDistance becomes, const std::string& typed)
 {
     switch (becomes) {
@@ -52,7 +61,7 @@ std::string distanceText(const Session& s, TypedDistance becomes, const std::str
     case TypedDistance::setsTextSize:
     case TypedDistance::setsArrowSize: {
         const float size = readSize(typed, numStyleOf(s.numStyle));
-        return size > 0 ? "= " + signedLengthText(s, size) : "not taken: above 0";
+        return size > 0 ? equals(s, size) : "not taken: above 0";
     }
     case TypedDistance::laysPoint:
     case TypedDistance::laysBlankLeg:
@@ -60,7 +69,7 @@ std::string distanceText(const Session& s, TypedDistance becomes, const std::str
     case TypedDistance::offsetsCopy:
         break;
     }
-    return "= " + signedLengthText(s, readDistance(typed, s.numStyle == "br"));
+    return equals(s, readDistance(typed, s.numStyle == "br"));
 }
 
 std::string withPointOf(const Attributes& s, std::string text)
@@ -144,7 +153,9 @@ std::string refusalOf(char32_t key)
 std::string signedLengthText(const Attributes& s, float length)
 {
     const std::string text = lengthText(s, std::abs(length));
-    return length < 0 ? "-" + text : text;
+    const bool isNothing = text.find_first_of("123456789") == std::string::npos;
+    if (isNothing && std::abs(length) >= longestThatReadsAsNothing) return {};
+    return length < 0 && !isNothing ? "-" + text : text;
 }
 
 std::string legText(const Attributes& s, const Leg& leg)
@@ -153,7 +164,8 @@ std::string legText(const Attributes& s, const Leg& leg)
     keep(length, distance(leg.from, leg.to));
     if (!(length > 0)) return {};
     const std::string angle = formatAngle(directionAngle(leg.from, leg.to, 0), s.angFormat);
-    return signedLengthText(s, length) + "  " + withPointOf(s, angle);
+    const std::string text = signedLengthText(s, length);
+    return text + (text.empty() ? "" : "  ") + withPointOf(s, angle);
 }
 
 } // namespace mirtane

@@ -17,7 +17,7 @@ bool takesNumber(const Session& s);
 // "'/' is not taken: type .5 for 1/2"
 std::string refusalOf(char32_t key);
 
-// A length with its sign, in the style of the drawing.
+// A length with its sign, in the style of the drawing; empty for one that is too long to be written so.
 std::string signedLengthText(const Attributes& s, float length);
 
 // The length and the direction of a leg, empty for one without length.
