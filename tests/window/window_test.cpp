@@ -1,9 +1,12 @@
 // How the window shows what the controls hold, and how it takes the room that it is given.
 
+#include "files/library_files.h"
 #include "seen.h"
 #include "tables/pens.h"
 #include "window_desk.h"
 
+#include <QKeyEvent>
+#include <QListView>
 #include <QMenu>
 #include <QToolButton>
 
@@ -180,6 +183,43 @@ TEST(Buttons, LookOtherWhileTheyAreOn)
         const QImage off = look(false);
         EXPECT_GE(fake::plainlyDifferent(look(true), off), 60) << button;
     }
+}
+
+// What a set of multiple lines has in its file.
+Bytes someLines()
+{
+    MultipleLinesLibrary library;
+    for (const float offset : {-36.0F, 0.0F, 36.0F}) {
+        MultipleLine row;
+        row.m1 = offset;
+        row.name = "wall";
+        library.add(row);
+    }
+    return multipleLinesBytes(library, "wall");
+}
+
+// The picture of a file takes its room from the list, and comes and goes from one file to the next.
+TEST(FileList, KeepsTheLitFileInSightWhileItIsWalkedByKeys)
+{
+    WindowDesk desk;
+    for (int i = 10; i < 60; ++i)
+        desk.disk.files["/home/user/h" + std::to_string(i) + ".mtm"] = i % 3 == 0 ? someLines() : Bytes{};
+    desk.press(ids::openMultipleLines);
+    auto& list = dynamic_cast<QListView&>(*WindowDesk::widget(ids::fileList));
+    list.setFocus();
+    bool pictureCame = false;
+    for (const int key : {Qt::Key_Down, Qt::Key_Up}) {
+        for (int i = 0; i < 49; ++i) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(&list, &press);
+            WindowDesk::settle();
+            pictureCame = pictureCame || WindowDesk::widget(ids::filePicture)->isVisible();
+            ASSERT_TRUE(list.currentIndex().isValid());
+            EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.currentIndex())))
+                << list.currentIndex().row();
+        }
+    }
+    EXPECT_TRUE(pictureCame);
 }
 
 } // namespace

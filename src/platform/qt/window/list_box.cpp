@@ -59,6 +59,13 @@ void ListBox::keyPressEvent(QKeyEvent* event)
     if (after != before) gate_.send([this, after](Shell& shell) { shell.moveToRow(id_, after); });
 }
 
+// A picture that comes up below takes room from the list, and the current row is to stay in sight.
+void ListBox::resizeEvent(QResizeEvent* event)
+{
+    QListView::resizeEvent(event);
+    if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
 void ListBox::focusInEvent(QFocusEvent* event)
 {
     // The list view's own would make the first row current, which no one asked for.

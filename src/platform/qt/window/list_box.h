@@ -19,6 +19,7 @@ class ListBox : public QListView, public ControlView {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void showRows(const std::vector<std::string>& rows);
