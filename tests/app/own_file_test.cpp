@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace mirtane {
 namespace {
 
@@ -333,6 +335,55 @@ TEST(FileOfOthers, ThatStandsOpenElsewhereIsToldBeforeItIsReplaced)
     desk.enter();
     desk.enter();
     EXPECT_NE(desk.disk.files["/home/user/barn.mtd"], (Bytes{1, 2, 3}));
+}
+
+// What was said of one file is not said of the next.
+TEST(FileOfOthers, IsToldOfEachBeforeItIsReplaced)
+{
+    HouseDesk desk;
+    const Bytes theirs = {1, 2, 3};
+    for (const char* file : {"/home/user/barn.mtd", "/home/user/mill.mtd"}) {
+        desk.disk.files[file] = theirs;
+        desk.marks.ofOthers[file] = {4711, "09:12"};
+    }
+    desk.press("fil7"_c);
+    desk.name("barn");
+    desk.enter();
+    const auto& rows = desk.s.controls["frmfile.File1"_c].rows;
+    const auto mill = std::ranges::find(rows, "mill.mtd") - rows.begin();
+    desk.shell.clickRow("frmfile.File1"_c, static_cast<int>(mill));
+    EXPECT_EQ(desk.caption("notice"_c), "");
+    desk.shell.giveFocus("frmfile.Text1"_c);
+    desk.enter();
+    EXPECT_EQ(desk.disk.files["/home/user/mill.mtd"], theirs);
+    EXPECT_EQ(desk.caption("notice"_c),
+              "mill.mtd stands open in another Mirtane since 09:12: saving replaces it.");
+    desk.enter();
+    EXPECT_NE(desk.disk.files["/home/user/mill.mtd"], theirs);
+    EXPECT_EQ(desk.disk.files["/home/user/barn.mtd"], theirs);
+}
+
+TEST(FileOfOthers, ThatStandsOpenElsewhereIsToldBeforeAPartIsWrittenOverIt)
+{
+    for (const ControlId menu : {"fil9"_c, "ly15"_c}) {
+        HouseDesk desk;
+        const Bytes theirs = {1, 2, 3};
+        desk.disk.files["/home/user/barn.mtd"] = theirs;
+        desk.marks.ofOthers["/home/user/barn.mtd"] = {4711, "09:12"};
+        desk.s.store.setStat(1, Stat::sel);
+        if (menu == "ly15"_c)
+            desk.menuRow(menu, 1);
+        else
+            desk.press(menu);
+        desk.name("barn");
+        EXPECT_EQ(desk.button(), "Overwrite?");
+        desk.enter();
+        EXPECT_EQ(desk.disk.files["/home/user/barn.mtd"], theirs);
+        EXPECT_EQ(desk.caption("notice"_c),
+                  "barn.mtd stands open in another Mirtane since 09:12: saving replaces it.");
+        desk.enter();
+        EXPECT_NE(desk.disk.files["/home/user/barn.mtd"], theirs);
+    }
 }
 
 // A name with points that the dialog itself proposes is not another one when it is confirmed.

@@ -150,11 +150,10 @@ namespace {
 bool isToBeToldFirst(App& app, const FileChoice& choice)
 {
     Session& s = app.s;
-    const bool drawing = savesWholeDrawing(choice);
-    if (drawing && pathOf(choice) == s.drawingFile) return !ownFileIsAsSeen(app) && warnOfOwnFile(app);
+    if (savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile) return !ownFileIsAsSeen(app) && warnOfOwnFile(app);
     if (s.notices.tells(Matter::fileInTheWay)) return false;
     const bool saidByButton = s.controls[ids::fileConfirm].caption == "Overwrite?";
-    return (drawing || !saidByButton) && warnOfFileInTheWay(app, pathOf(choice), choice.name, saidByButton);
+    return warnOfFileInTheWay(app, pathOf(choice), choice.name, saidByButton);
 }
 
 std::string whyNotOpened(App& app, const FileChoice& choice)

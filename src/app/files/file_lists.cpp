@@ -89,6 +89,7 @@ void chooseFile(App& app, int row)
     files.row = row;
     setText(s.controls[ids::fileName],
             files.rows[static_cast<std::size_t>(row)]); // the shell checks rows
+    s.notices.settle(Matter::fileInTheWay);             // it told of another file
     lightFile(s);
     files.row = row;
     s.controls[ids::fileFault].caption.clear();
