@@ -1,4 +1,4 @@
-#include "desk.h"
+#include "layer_desk.h"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +27,50 @@ TEST(FileNames, KeepThePartBeforeTheFirstPoint)
         EXPECT_EQ(desk.text("frmfile.Text1"_c), row.file) << row.typed;
         EXPECT_EQ(desk.s.drawingName, row.file) << row.typed;
     }
+}
+
+// What the drawing holds may be called in ways that no file can be.
+TEST(FileNames, ThatAreProposedLeadToNoOtherFolder)
+{
+    const NameRow rows[] = {
+        {"1/2 wall", "1-2 wall.mtd"},
+        {"A/B/C", "A-B-C.mtd"},
+        {"../plans/house", "---plans-house.mtd"},
+        {"/srv/x", "-srv-x.mtd"},
+        {"~/q", "--q.mtd"},
+        {"~", "-.mtd"},
+        {"..", "--.mtd"},
+        {".", "-.mtd"},
+        {".5 brick", "-5 brick.mtd"},
+        {"1.5 wall", "1.5 wall.mtd"},
+        {"plain", "plain.mtd"},
+        {"a~b", "a~b.mtd"},
+        {"x/", "x-.mtd"},
+    };
+    for (const NameRow& row : rows) {
+        fake::LayerDesk desk;
+        for (const char* folder : {"/home", "/home/user/1", "/home/user/plans", "/home/plans", "/srv"})
+            desk.folders.folders.insert(folder);
+        desk.add(1);
+        desk.nameLayer(1, row.typed);
+        desk.menuRow("ly15"_c, 1);
+        EXPECT_EQ(desk.text("frmfile.Text1"_c), row.file) << row.typed;
+        desk.enter();
+        EXPECT_FALSE(desk.visible("frmfile"_c)) << row.typed;
+        EXPECT_TRUE(desk.disk.files.contains(std::string(fake::home) + "/" + row.file)) << row.typed;
+        EXPECT_EQ(desk.text("frmfile.Dir1"_c), fake::home) << row.typed;
+    }
+}
+
+TEST(FileNames, ThatAreTypedWithASlashAreStillPaths)
+{
+    fake::LayerDesk desk;
+    desk.folders.folders.insert("/home/user/1");
+    desk.add(1);
+    desk.menuRow("ly15"_c, 1);
+    desk.name("1/2 wall");
+    desk.enter();
+    EXPECT_TRUE(desk.disk.files.contains("/home/user/1/2 wall.mtd"));
 }
 
 TEST(FileNames, WithoutABaseConfirmNothing)

@@ -123,6 +123,17 @@ std::string nameMeant(const Session& s, const std::string& typed, bool standsThe
     return isMeant ? typed : normalisedName(s, typed);
 }
 
+std::string asFileName(std::string name)
+{
+    std::ranges::replace(name, '/', '-');
+    const std::size_t base = name.rfind('.');
+    const bool hasBase = base != std::string::npos && base > 0;
+    if (hasBase && name.starts_with('~')) name[0] = '-';
+    // A name that begins with a point is hidden, or none at all.
+    for (std::size_t i = 0; hasBase && i < base && name[i] == '.'; ++i) name[i] = '-';
+    return name;
+}
+
 std::string chosenName(const Session& s)
 {
     const std::string& typed = s.controls[ids::fileName].text;

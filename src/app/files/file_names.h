@@ -29,6 +29,10 @@ const PatternRow* patternOfFile(std::string_view name);
 // another file would be opened, or written over.
 std::string nameMeant(const Session& s, const std::string& typed, bool standsThere);
 
+// A name of the drawing's, with an extension, as one that a file can have and that leads to no folder:
+// "1-2 wall.mtd" for "1/2 wall.mtd".
+std::string asFileName(std::string name);
+
 // The name that is meant in the folder shown.
 std::string chosenName(const Session& s);
 

@@ -2,6 +2,7 @@
 
 #include "app/drawing/endings.h"
 #include "app/files/file_dialog.h"
+#include "app/files/file_names.h"
 #include "app/files/unsaved_work.h"
 #include "app/start_stop.h"
 #include "dxf/dxf_names.h"
@@ -79,7 +80,7 @@ void openFileFlow(App& app, ControlId entry)
 void openNamedFlow(App& app, std::string_view caption, const std::string& name)
 {
     const auto* const flow = std::ranges::find(namedFlows, caption, &FileFlow::caption);
-    if (flow != std::end(namedFlows)) openFileDialog(app, *flow, name);
+    if (flow != std::end(namedFlows)) openFileDialog(app, *flow, asFileName(name));
 }
 
 void closeDrawing(App& app, ControlId)
