@@ -94,7 +94,7 @@ std::int32_t addMultipleLines(MultipleLinesLibrary& library, const Bytes& file)
 
 std::string_view baseName(std::string_view fileName)
 {
-    return fileName.substr(0, fileName.find('.'));
+    return fileName.substr(0, fileName.rfind('.'));
 }
 
 } // namespace mirtane

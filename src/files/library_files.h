@@ -28,7 +28,8 @@ std::int32_t addAssociate(Session& s, const Bytes& file, std::string_view name);
 std::int32_t addHatch(HatchLibrary& library, const Bytes& file);
 std::int32_t addMultipleLines(MultipleLinesLibrary& library, const Bytes& file);
 
-// What an associate is called that is read from a file of this name: what stands before the first ".".
+// What is read from a file of this name is called as the file, without its extension: "Door.left" of
+// "Door.left.mta".
 std::string_view baseName(std::string_view fileName);
 
 } // namespace mirtane

@@ -330,10 +330,10 @@ TEST(LibraryFiles, SavedAndOpenedAgainARowIsTheSame)
     EXPECT_EQ(associateBytes(again->store, "Door"), associateBytes(s->store, "Door"));
 }
 
-TEST(LibraryFiles, AnAssociateIsCalledAsItsFileUpToTheFirstPoint)
+TEST(LibraryFiles, AnAssociateIsCalledAsItsFileWithoutTheExtension)
 {
     EXPECT_EQ(baseName("Door.mta"), "Door");
-    EXPECT_EQ(baseName("Door.old.mta"), "Door");
+    EXPECT_EQ(baseName("Door.old.mta"), "Door.old");
     EXPECT_EQ(baseName("Door"), "Door");
     EXPECT_EQ(baseName(".mta"), "");
 }

@@ -10,6 +10,7 @@
 #include "app/start_stop.h"
 #include "app/typing/keys.h"
 #include "commands/prompt.h"
+#include "files/library_files.h"
 
 #include <algorithm>
 
@@ -160,8 +161,7 @@ std::string whyNotOpened(App& app, const FileChoice& choice)
 {
     if (!app.ports.disk.isTaken(pathOf(choice))) return "There is no file " + choice.name;
     const LibraryRow* const row = rowWith(&LibraryRow::pattern, choice.pattern);
-    const std::string base = choice.name.substr(0, choice.name.find('.'));
-    if (row != nullptr && hasName(app.s, row->library, base)) return "Name already exists!";
+    if (row != nullptr && hasName(app.s, row->library, baseName(choice.name))) return "Name already exists!";
     return choice.name + " can't be read";
 }
 
