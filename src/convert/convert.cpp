@@ -44,6 +44,14 @@ std::string nothingThere(const Job& job, const Wishes& wishes)
     return "no objects in it";
 }
 
+// One line says it all.
+void refuseForNothing(const Job& job, const Wishes& wishes, Outcome& outcome)
+{
+    const bool isCut = formatOf(job.in) == Format::mtd && outcome.leftOut;
+    if (isCut) outcome.remarks.clear();
+    outcome.fault = nothingThere(job, wishes) + (isCut ? ": it is cut off, or no drawing" : "");
+}
+
 void convertOn(Desk& desk, const Job& job, const Wishes& wishes, Outcome& outcome)
 {
     open(desk.app, job, wishes.asWindow, outcome);
@@ -56,7 +64,7 @@ void convertOn(Desk& desk, const Job& job, const Wishes& wishes, Outcome& outcom
         leaveOutHidden(store, outcome);
     }
     if (!showsAnything(store) && wishes.format != Format::txt)
-        outcome.fault = nothingThere(job, wishes);
+        refuseForNothing(job, wishes, outcome);
     else
         exportTo(job.out, wishes, desk.app, desk.surface, outcome);
     if (!outcome.fault && store.entCount > EntityStore::slotCount)

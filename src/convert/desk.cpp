@@ -22,6 +22,14 @@ void tell(const FullReport& report, Outcome& outcome)
     if (const std::string moved = sentenceOfMove(report); !moved.empty()) outcome.remarks.push_back(moved);
 }
 
+// That there was no room is told by who writes what came.
+void tell(const Untaken& untaken, Outcome& outcome)
+{
+    if (!untaken.isCut) return;
+    outcome.leftOut = true;
+    outcome.remarks.emplace_back("the file is cut off: the end of it is missing");
+}
+
 } // namespace
 
 void open(App& app, const Job& job, bool asWindow, Outcome& outcome)
@@ -38,7 +46,7 @@ void open(App& app, const Job& job, bool asWindow, Outcome& outcome)
     }
     forgetOwners(app.s.store);
     if (format == Format::mtd)
-        openDrawing(app, *file);
+        tell(openDrawing(app, *file), outcome);
     else if (asWindow)
         openDxf(app, *file);
     else

@@ -42,7 +42,7 @@ bool isWritten(const Session& s, std::int32_t slot, SaveWhat what)
 
 struct RecordCount {
     std::int32_t taken = 0;
-    std::int32_t leftOut = 0; // whole ones behind those
+    Untaken untaken = {};
 };
 
 // Reads whole records, and gives as many as the table has slots to take().
@@ -53,13 +53,15 @@ template <class Take> RecordCount readRecords(const Bytes& file, Take take)
     RecordCount count;
     while (in.remaining() > 0 && readRecord(in, record)) {
         if (count.taken == EntityStore::slotCount) {
-            ++count.leftOut; // below 2^31, as a record has 90 bytes and a file that is read half a gigabyte
+            ++count.untaken.withoutRoom; // below 2^31, as a record has 90 bytes and a file that is read half
+                                         // a gigabyte
             continue;
         }
         if (record.color == fileGrey) record.color = white;
         take(record);
         ++count.taken;
     }
+    count.untaken.isCut = !in.ok();
     return count;
 }
 
@@ -186,7 +188,7 @@ void afterSave(Session& s, SaveWhat what)
     if (what == SaveWhat::drawing) s.savedCount = s.store.entCount;
 }
 
-std::int32_t replaceDrawing(Session& s, const Bytes& file)
+Untaken replaceDrawing(Session& s, const Bytes& file)
 {
     const RecordCount count = readSlots(s, file);
     countDimensionsAndLayers(s);
@@ -195,19 +197,20 @@ std::int32_t replaceDrawing(Session& s, const Bytes& file)
     nameAndMarkLayers(s);
     constexpr std::int32_t highestCount = 32767; // it counts in 16 bits
     s.layerTable.layerCount = std::min(s.layerTable.layerCount + 1, highestCount);
-    return count.leftOut;
+    return count.untaken;
 }
 
 // A layer name is written like the others, but the next record takes its slot.
-std::int32_t mergeLayer(Session& s, const Bytes& file, std::int16_t layer)
+Untaken mergeLayer(Session& s, const Bytes& file, std::int16_t layer)
 {
     const std::int32_t lostBefore = std::max(0, s.store.entCount - EntityStore::slotCount);
-    const RecordCount count = readRecords(file, [&s, layer](EntityRecord record) {
+    RecordCount count = readRecords(file, [&s, layer](EntityRecord record) {
         record.layer = layer;
         storeRecord(s, s.store.entCount, record);
         if (record.kind != layerNameKind) ++s.store.entCount;
     });
-    return count.leftOut + std::max(0, s.store.entCount - EntityStore::slotCount) - lostBefore;
+    count.untaken.withoutRoom += std::max(0, s.store.entCount - EntityStore::slotCount) - lostBefore;
+    return count.untaken;
 }
 
 void setTextAnchors(EntityStore& store, const TextWidthOf& widthOf)

@@ -8,6 +8,7 @@
 // mergeLayer; show the layers; redraw. To save: put drawingBytes on the disk; once they are there, afterSave.
 
 #include "files/disk.h"
+#include "files/untaken.h"
 #include "model/session.h"
 #include "render/entity_bounds.h"
 
@@ -32,14 +33,12 @@ void afterSave(Session& s, SaveWhat what);
 // Replaces the drawing by the records of the file (at most 60,001): the slots, all "on", the undo records,
 // savedCount, dimensionCount, the layer tables and the attributes of the header. Names of owners, the view,
 // the controls and the fields that are computed anew (see above) are left to the caller. A file without one
-// whole record gives an empty drawing, and attributes and slot 0 as they were. Gives how many records of the
-// file found no place.
-std::int32_t replaceDrawing(Session& s, const Bytes& file);
+// whole record gives an empty drawing, and attributes and slot 0 as they were.
+Untaken replaceDrawing(Session& s, const Bytes& file);
 
 // Adds the records of the file (at most 60,001) to the drawing, on one layer; its header stays as a dead
-// object and its layer names are dropped. Attributes, undo records, savedCount and view stay. Gives how many
-// records found no place.
-std::int32_t mergeLayer(Session& s, const Bytes& file, std::int16_t layer);
+// object and its layer names are dropped. Attributes, undo records, savedCount and view stay.
+Untaken mergeLayer(Session& s, const Bytes& file, std::int16_t layer);
 
 // Sets p4 of each text, the point at which it is painted: the point as entered, moved back along the
 // direction of the text by as much of its width as the justification asks for. A fault leaves a coordinate as

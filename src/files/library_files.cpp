@@ -11,17 +11,17 @@ constexpr int mostHatchRows = 30000;
 constexpr int mostMultipleLines = 99;
 
 // Reads whole records and gives each to take(), most of them at the most, which tells whether it had room.
-// Gives how many found no place.
 template <class Record, class Take>
-std::int32_t readRecords(const Bytes& file, int most, bool (*read)(ByteReader&, Record&), Take take)
+Untaken readRecords(const Bytes& file, int most, bool (*read)(ByteReader&, Record&), Take take)
 {
     ByteReader in(file);
     Record record;
-    std::int32_t without = 0;
+    Untaken untaken;
     for (int i = 0; in.remaining() > 0 && read(in, record); ++i) {
-        if (i >= most || !take(record)) ++without;
+        if (i >= most || !take(record)) ++untaken.withoutRoom;
     }
-    return without;
+    untaken.isCut = !in.ok();
+    return untaken;
 }
 
 template <class Row>
@@ -70,23 +70,23 @@ Bytes multipleLinesBytes(const MultipleLinesLibrary& library, std::string_view n
 
 std::int32_t piecesIn(const Bytes& file)
 {
-    return readRecords(file, 0, readRecord, [](const EntityRecord&) { return false; });
+    return readRecords(file, 0, readRecord, [](const EntityRecord&) { return false; }).withoutRoom;
 }
 
-std::int32_t addAssociate(Session& s, const Bytes& file, std::string_view name)
+Untaken addAssociate(Session& s, const Bytes& file, std::string_view name)
 {
     markUsed(s.layerTable, 0);
     return readRecords(file, mostPieces, readRecord,
                        [&](const EntityRecord& piece) { return addPiece(s.store, piece, name); });
 }
 
-std::int32_t addHatch(HatchLibrary& library, const Bytes& file)
+Untaken addHatch(HatchLibrary& library, const Bytes& file)
 {
     return readRecords(file, mostHatchRows, readHatchRow,
                        [&](const HatchRow& row) { return library.add(row); });
 }
 
-std::int32_t addMultipleLines(MultipleLinesLibrary& library, const Bytes& file)
+Untaken addMultipleLines(MultipleLinesLibrary& library, const Bytes& file)
 {
     return readRecords(file, mostMultipleLines, readMultipleLine,
                        [&](const MultipleLine& row) { return library.add(row); });

@@ -130,7 +130,7 @@ TEST_F(StartWithDrawing, OfNoWholeRecordIsAnEmptyDrawing)
     desk.disk.files["/plans/house.mtd"] = {1, 2, 3};
     desk.shell.openDrawing("/plans/house.mtd");
     EXPECT_EQ(desk.s.store.entCount, 1);
-    EXPECT_EQ(desk.s.drawingName, "house.mtd");
+    EXPECT_EQ(desk.s.drawingName, "untitled.mtd") << "a save must not replace what it was";
     EXPECT_FALSE(desk.visible("frmfile"_c));
 }
 

@@ -76,6 +76,27 @@ struct Convert : testing::Test {
     fake::ConvertProcess p;
 };
 
+// What is whole of it is converted, and a script over a thousand drawings learns of it.
+TEST_F(Convert, DrawingThatIsCutOffCameInPart)
+{
+    const std::string whole = p.content("house.mtd");
+    for (const std::size_t missing : {1U, 47U, 91U}) {
+        p.write("cut.mtd", whole.substr(0, whole.size() - missing));
+        for (const char* out : {"cut.png", "cut.pdf", "cut.dxf", "cut.svg", "cut.txt"})
+            expectRefused(std::string("cut.mtd -o ") + out, 3,
+                          "cut.mtd: the file is cut off: the end of it is missing");
+        EXPECT_TRUE(p.exists("cut.png"));
+        EXPECT_THAT(p.content("cut.svg"), HasSubstr("</svg>"));
+    }
+    for (const std::string& none : {std::string(50, '\x7f'), whole.substr(0, 40), std::string(5000, 'x')}) {
+        p.write("none.mtd", none);
+        expectRefused("none.mtd -o none.png", 1, "none.mtd: no objects in it: it is cut off, or no drawing");
+        EXPECT_FALSE(p.exists("none.png"));
+    }
+    p.write("house.mtd", whole);
+    expectDone("house.mtd -o house.png");
+}
+
 TEST_F(Convert, DrawingStaysTheSameDrawing)
 {
     expectDone("house.mtd -o copy.mtd");

@@ -217,20 +217,20 @@ TEST(LibraryFiles, AreReadAsFarAsTheirBounds)
 TEST(LibraryFiles, ReadingTellsHowManyRecordsFoundNoPlace)
 {
     MultipleLinesLibrary lines;
-    EXPECT_EQ(addMultipleLines(lines, linesFile(99)), 0);
-    EXPECT_EQ(addMultipleLines(lines, linesFile(120)), 21);
+    EXPECT_EQ(addMultipleLines(lines, linesFile(99)).withoutRoom, 0);
+    EXPECT_EQ(addMultipleLines(lines, linesFile(120)).withoutRoom, 21);
     lines.count = 950;
-    EXPECT_EQ(addMultipleLines(lines, linesFile(120)), 70);
+    EXPECT_EQ(addMultipleLines(lines, linesFile(120)).withoutRoom, 70);
 
     HatchLibrary hatches;
-    EXPECT_EQ(addHatch(hatches, hatchFile(1000)), 0);
-    EXPECT_EQ(addHatch(hatches, hatchFile(3)), 3);
+    EXPECT_EQ(addHatch(hatches, hatchFile(1000)).withoutRoom, 0);
+    EXPECT_EQ(addHatch(hatches, hatchFile(3)).withoutRoom, 3);
     HatchLibrary more;
-    EXPECT_EQ(addHatch(more, hatchFile(30100)), 29100);
+    EXPECT_EQ(addHatch(more, hatchFile(30100)).withoutRoom, 29100);
 
     const auto s = newSession();
-    EXPECT_EQ(addAssociate(*s, piecesFile(60100), "Door"), 100);
-    EXPECT_EQ(addAssociate(*s, piecesFile(2), "Gate"), 2);
+    EXPECT_EQ(addAssociate(*s, piecesFile(60100), "Door").withoutRoom, 100);
+    EXPECT_EQ(addAssociate(*s, piecesFile(2), "Gate").withoutRoom, 2);
 }
 
 TEST(LibraryFiles, APieceThatHasNoSlotIsLost)

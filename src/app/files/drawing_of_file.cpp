@@ -16,10 +16,10 @@ void takeFolder(App& app, const std::string& folder, const std::string& name)
     takeAsSaved(app);
 }
 
-void takePartOfFile(App& app, const std::string& folder, const std::string& file, std::int32_t leftOut)
+void takePartOfFile(App& app, const std::string& folder, const std::string& file, const Untaken& untaken)
 {
     takeFolder(app, folder, "untitled.mtd");
-    tellLeftOut(app.s.notices, file, leftOut, app.s.drawingName);
+    tellUntaken(app.s.notices, file, untaken, app.s.drawingName);
 }
 
 } // namespace mirtane

@@ -30,7 +30,7 @@ void takeDxfName(App& app, const std::string& folder, const std::string& name, s
     const auto leftOut = static_cast<std::int32_t>(
         std::min<std::int64_t>(withoutRoom, std::numeric_limits<std::int32_t>::max())); // fits
     if (leftOut > 0)
-        takePartOfFile(app, folder, name, leftOut);
+        takePartOfFile(app, folder, name, {leftOut});
     else
         takeFolder(app, folder, drawingNameOf(name)); // what is there under that name is another drawing
     setPrompt(app.s, app.pic1);

@@ -59,11 +59,20 @@ SaveWhat whatIsSaved(const FileChoice& choice)
 
 void mergeDrawing(App& app, const FileChoice& choice, const Bytes& file)
 {
-    const std::int32_t leftOut = mergeLayer(app.s, file, app.s.chosenLayer);
-    if (leftOut > 0) tellLeftOut(app.s.notices, choice.name, leftOut, {});
+    const Untaken untaken = mergeLayer(app.s, file, app.s.chosenLayer);
+    if (!isWhole(untaken)) tellUntaken(app.s.notices, choice.name, untaken, {});
     showLayers(app.s);
     redrawAll(app.s, app.pic1);
     updateGauge(app.s);
+}
+
+void replaceByFile(App& app, const FileChoice& choice, const Bytes& file,
+                   const std::optional<FileStamp>& stamp)
+{
+    forgetOwners(app.s.store);
+    const Untaken untaken = openDrawing(app, file);
+    if (!isWhole(untaken)) return takePartOfFile(app, choice.folder, choice.name, untaken);
+    takeFile(app, choice, stamp);
 }
 
 bool openDrawingFile(App& app, const FileChoice& choice)
@@ -73,15 +82,11 @@ bool openDrawingFile(App& app, const FileChoice& choice)
     const std::optional<Bytes> file = app.ports.disk.read(pathOf(choice));
     if (!file) return false;
     endWhatIsBegun(app.s, app.pic1);
-    forgetOwners(app.s.store);
     if (choice.caption == list_mode::loadLayer) {
+        forgetOwners(app.s.store);
         mergeDrawing(app, choice, *file);
     } else {
-        const std::int32_t leftOut = openDrawing(app, *file);
-        if (leftOut > 0)
-            takePartOfFile(app, choice.folder, choice.name, leftOut);
-        else
-            takeFile(app, choice, stamp);
+        replaceByFile(app, choice, *file, stamp);
     }
     setPrompt(app.s, app.pic1);
     return true;

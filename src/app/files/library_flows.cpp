@@ -3,6 +3,7 @@
 #include "app/drawing/endings.h"
 #include "app/drawing/starters.h"
 #include "app/files/library_rows.h"
+#include "app/files/open_drawing.h"
 #include "files/library_files.h"
 #include "library/libraries.h"
 #include "model/insertion.h"
@@ -30,17 +31,17 @@ void readyToPlaceAssociate(App& app, const LibraryRow& row)
     if (const FunctionRow* function = findFunction(row.function)) changeFunction(s, app.pic1, *function, 0);
 }
 
-void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std::string& name)
+void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std::string& fileName)
 {
     Session& s = app.s;
-    Missing missing;
-    if (row.library == Library::multipleLines)
-        missing.pieces = addMultipleLines(s.multipleLinesLibrary, file);
-    if (row.library == Library::hatches) missing.pieces = addHatch(s.hatchLibrary, file);
-    if (row.library == Library::associates) missing.pieces = addAssociate(s, file, name);
+    Untaken untaken;
+    if (row.library == Library::multipleLines) untaken = addMultipleLines(s.multipleLinesLibrary, file);
+    if (row.library == Library::hatches) untaken = addHatch(s.hatchLibrary, file);
+    if (row.library == Library::associates) untaken = addAssociate(s, file, baseName(fileName));
     refillNames(s, row.library, row.select);
     if (row.library == Library::associates) readyToPlaceAssociate(app, row);
-    tellMissing(s.controls, missing);
+    tellMissing(s.controls, {untaken.withoutRoom});
+    if (untaken.isCut) tellUntaken(s.notices, fileName, {0, true}, {}); // entry tells of the room
 }
 
 // The list gave it to the dialog. The current hatch may be another one, which is being placed.
@@ -77,7 +78,7 @@ bool openLibraryFile(App& app, const FileChoice& choice)
     const bool isDrawn = row->library == Library::associates; // its pieces take slots of the drawing's table
     if (isDrawn && !hasRoomFor(app.s, piecesIn(*file))) return true; // told, and nothing is changed
     endWhatIsBegun(app.s, app.pic1);
-    addToLibrary(app, *row, *file, name);
+    addToLibrary(app, *row, *file, choice.name);
     return true;
 }
 

@@ -51,14 +51,22 @@ void showTakenDxf(App& app)
     s.controls.focus = ids::drawing;
 }
 
+std::string withoutRoomText(const std::string& file, std::int32_t objects, const std::string& name)
+{
+    std::string sentence = file + ": there was no room for " + withThousands(objects) +
+                           (objects == 1 ? " object." : " objects.");
+    if (!name.empty()) sentence += " The drawing is named " + name + ", so that the file stays whole.";
+    return sentence;
+}
+
 } // namespace
 
-std::int32_t openDrawing(App& app, const Bytes& file)
+Untaken openDrawing(App& app, const Bytes& file)
 {
     Session& s = app.s;
     s.notices.settleOfDrawing();
     s.openedDxf.reset();
-    const std::int32_t leftOut = replaceDrawing(s, file);
+    const Untaken untaken = replaceDrawing(s, file);
     fitView(s, app.pic1);
     showTakenAttributes(app);
     setTextAnchors(s.store, textWidthOn(app.pic1));
@@ -68,7 +76,7 @@ std::int32_t openDrawing(App& app, const Bytes& file)
     fixUpLinesAndCircles(s.store);
     s.stepNo = 0;
     s.controls.focus = ids::drawing;
-    return leftOut;
+    return untaken;
 }
 
 std::int32_t openDxf(App& app, const Bytes& file)
@@ -96,11 +104,12 @@ FullReport takeDxfInFull(App& app, const FullReading& reading)
     return reportOf(reading, taken);
 }
 
-void tellLeftOut(Notices& notices, const std::string& file, std::int32_t leftOut, const std::string& name)
+void tellUntaken(Notices& notices, const std::string& file, const Untaken& untaken, const std::string& name)
 {
-    std::string sentence = file + ": there was no room for " + withThousands(leftOut) +
-                           (leftOut == 1 ? " object." : " objects.");
-    if (!name.empty()) sentence += " The drawing is named " + name + ", so that the file stays whole.";
+    std::string sentence;
+    if (untaken.withoutRoom > 0) sentence = withoutRoomText(file, untaken.withoutRoom, name);
+    if (untaken.isCut)
+        sentence += (sentence.empty() ? "" : " ") + file + " is cut off: the end of it is missing.";
     notices.post({Matter::leftOut, sentence, {{"Close", Offer::goOn}}});
 }
 
