@@ -63,6 +63,7 @@ void startProgram(App& app)
 
 void endProgram(App& app)
 {
+    leaveWorkNobodyGaveUp(app, Goes::program);
     takeAsSaved(app);
     writeSettings(app.s, app.ports.settings);
     for (const ControlId form : laterForms) app.s.controls[form].visible = false;
@@ -73,6 +74,7 @@ void clearDrawing(App& app)
 {
     Session& s = app.s;
     endWhatIsBegun(s, app.pic1);
+    leaveWorkNobodyGaveUp(app, Goes::drawing);
     app.pic1.clear();
     app.pic1.clearSnapshot();
     s.store.entCount = 1;

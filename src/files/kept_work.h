@@ -1,13 +1,15 @@
 #pragma once
 
-// Work that is not saved, as bytes that outlive the program: a drawing file, whose last record is a dead one
-// that tells what drawing it is. So it opens in any case as what it is.
+// Work that is not saved, as bytes that outlive the program: a drawing file, whose last records are dead ones
+// that hold what no drawing does and tell, the last of all, what drawing it is. So it opens in any case as
+// what it is.
 
 #include "files/disk.h"
 #include "model/session.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace mirtane {
 
@@ -23,11 +25,22 @@ struct KeptAbout {
     friend bool operator==(const KeptAbout&, const KeptAbout&) = default;
 };
 
-Bytes keptWork(const Session& s, const KeptAbout& about);
+// An associate, a hatch or a set of multiple lines that is in no file of its own, and what its file would
+// hold.
+struct KeptLibrary {
+    std::string extension; // of that file
+    std::string name;
+    Bytes file;
+
+    friend bool operator==(const KeptLibrary&, const KeptLibrary&) = default;
+};
+
+Bytes keptWork(const Session& s, const KeptAbout& about, const std::vector<KeptLibrary>& libraries = {});
 
 struct KeptWork {
     KeptAbout about;
     Bytes drawing;
+    std::vector<KeptLibrary> libraries = {};
 };
 
 // Nothing for what keptWork has not written whole.

@@ -21,6 +21,8 @@ class WorkKeeper {
     virtual void flush() = 0;
     // Nothing of this run is unsaved any more.
     virtual void forget() = 0;
+    // What is kept stays for the next run, whatever this one keeps or forgets from now on.
+    virtual void leave() = 0;
 
     // What runs that are no longer alive have left, by name, the latest last.
     virtual std::vector<std::string> left() = 0;

@@ -16,6 +16,7 @@
 #include <array>
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace mirtane {
 
@@ -180,6 +181,13 @@ struct OpenedDxf {
     WorkMark mark; // of the drawing that it gave
 };
 
+// Names in the three libraries.
+struct LibraryNames {
+    std::set<std::string> associates, hatches, multipleLines;
+
+    friend bool operator==(const LibraryNames&, const LibraryNames&) = default;
+};
+
 struct FileState {
     std::int32_t savedCount = 1; // entCount at the last load or save
     std::int16_t saveFollowUp = follow::nothing;
@@ -191,9 +199,12 @@ struct FileState {
     std::string drawingFolder;           // the drawing's own; empty while it has none
     std::int32_t changesBefore = 0;      // not saved either, of the run that the work was restored from
     WorkMark savedMark;                  // the work at the last load or save
+    std::vector<bool> savedLiving;       // the slots that were alive then (model/work_mark.h)
     std::string savedTime;               // of that, local, "2026-11-22 14:32"
     WorkMark keptMark;                   // the work as it was last kept, in case the program dies
-    std::vector<std::string> leftWork;   // what other runs left, by name; the last one is on offer
+    LibraryNames namedHere; // given here to what may be in no file of its own; some may be in use no more
+    LibraryNames keptNames; // of what was kept with the work
+    std::vector<std::string> leftWork; // what other runs left, by name; the last one is on offer
     std::string dxfName = "untitled.dxf";
     std::optional<OpenedDxf> openedDxf;
     std::string proposedName;          // by the file dialog

@@ -23,4 +23,16 @@ WorkMark workMark(const Session& s)
     return {s.store.entCount, s.log.undoGroupNext, s.log.undoLogCount, namesOf(s.layerTable)};
 }
 
+std::vector<bool> livingSlots(const EntityStore& store)
+{
+    std::vector<bool> living;
+    for (std::int32_t i = 1; i < store.end(); ++i) {
+        const std::size_t at = EntityStore::at(i);
+        if (store.stat[at] == Stat::out) continue;
+        living.resize(at + 1);
+        living[at] = true;
+    }
+    return living;
+}
+
 } // namespace mirtane

@@ -8,4 +8,8 @@ namespace mirtane {
 // between them.
 WorkMark workMark(const Session& s);
 
+// Which slots are alive, up to the last that is. What an undo or a redo has brought back to where it was has
+// the same ones, though the work has gone on.
+std::vector<bool> livingSlots(const EntityStore& store);
+
 } // namespace mirtane

@@ -45,6 +45,43 @@ TEST(KeptWork, ComesBackWithWhatItIs)
     }
 }
 
+TEST(KeptWork, ComesBackWithTheLibrariesThatAreInNoFile)
+{
+    Bytes many;
+    for (int i = 0; i < 123'457; ++i) many.push_back(static_cast<std::uint8_t>(i * 7 % 256)); // a byte
+    const std::vector<KeptLibrary> shelves[] = {
+        {},
+        {{".mta", "door", many}},
+        {{".mth", "two words, 50%", {0, 1, 2}}, {".mth", "empty", {}}, {".mtm", "two words, 50%", many}},
+        {{".mta", "full", Bytes(16'000, 9)}, {".mtm", "", Bytes(48'000, 32)}},
+    };
+    const KeptAbout about{"a.mtd", "/a.mtd", "2026-11-22 14:32", {}, "/srv", 3, "08:00"};
+    for (const std::vector<KeptLibrary>& shelf : shelves) {
+        for (const int lines : {0, 77}) {
+            const auto s = drawingOf(lines);
+            const auto work = readKeptWork(keptWork(*s, about, shelf));
+            ASSERT_TRUE(work);
+            EXPECT_EQ(work->about, about);
+            EXPECT_EQ(work->libraries, shelf);
+            EXPECT_EQ(work->drawing, drawingBytes(*s, SaveWhat::drawing));
+        }
+    }
+}
+
+// Who opens kept work as a drawing and loses power has its records among the objects.
+TEST(KeptWork, OfADrawingThatWasKeptWorkItself)
+{
+    const auto s = drawingOf(3);
+    const Bytes first = keptWork(*s, {"a.mtd", "", ""}, {{".mta", "door", {1, 2, 3}}});
+    Session opened;
+    replaceDrawing(opened, first);
+    const auto work = readKeptWork(keptWork(opened, {"b.mtd", "", ""}, {{".mta", "gate", {4}}}));
+    ASSERT_TRUE(work);
+    EXPECT_EQ(work->about.drawingName, "b.mtd");
+    EXPECT_EQ(work->libraries, (std::vector<KeptLibrary>{{".mta", "gate", {4}}}));
+    EXPECT_EQ(work->drawing, drawingBytes(opened, SaveWhat::drawing));
+}
+
 // Opened as a drawing it is one: the last record is none of its objects.
 TEST(KeptWork, IsADrawingFile)
 {

@@ -14,6 +14,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <utility>
+
 namespace mirtane {
 namespace {
 
@@ -147,6 +149,29 @@ TEST_F(KeptFilesTest, ThatFindNoPlaceFail)
     EXPECT_FALSE(kept.fails());
 }
 
+TEST_F(KeptFilesTest, ThatAreLeftWaitForTheNextRunWhateverThisOneDoes)
+{
+    {
+        KeptFiles one(state(), disk);
+        one.leave(); // nothing yet
+        one.keep({1});
+        one.leave();
+        EXPECT_EQ(KeptFiles(state(), disk).left().size(), 1U);
+        one.forget();
+        one.keep({2, 2});
+        EXPECT_FALSE(one.fails());
+        EXPECT_EQ(KeptFiles(state(), disk).left().size(), 1U) << "the second is that of a living run";
+        one.leave();
+        one.keep({3});
+        one.forget();
+    }
+    KeptFiles next(state(), disk);
+    const std::vector<std::string> left = next.left();
+    ASSERT_EQ(left.size(), 2U);
+    EXPECT_EQ(next.read(left[0]), (Bytes{1}));
+    EXPECT_EQ(next.read(left[1]), (Bytes{2, 2}));
+}
+
 // A keeper that takes its time.
 class SlowKeeper : public WorkKeeper {
   public:
@@ -159,6 +184,7 @@ class SlowKeeper : public WorkKeeper {
     bool fails() const override { return false; }
     void flush() override {}
     void forget() override { kept.reset(); }
+    void leave() override { leftThere = std::exchange(kept, {}); }
     std::vector<std::string> left() override
     {
         return kept ? std::vector<std::string>{"own"} : std::vector<std::string>{};
@@ -168,6 +194,7 @@ class SlowKeeper : public WorkKeeper {
     void remove(const std::string&) override {}
 
     std::optional<Bytes> kept;
+    std::optional<Bytes> leftThere;
     int keeps = 0;
 };
 
@@ -192,6 +219,19 @@ TEST(KeeperThreadTest, ForgetsWhatIsOnItsWay)
     EXPECT_TRUE(thread.left().empty());
     thread.keep({3});
     EXPECT_EQ(thread.read("own"), (Bytes{3}));
+}
+
+TEST(KeeperThreadTest, LeavesWhatIsStillOnItsWay)
+{
+    SlowKeeper slow;
+    KeeperThread thread(slow);
+    thread.keep({1});
+    usleep(5'000);
+    thread.keep({2});
+    thread.leave();
+    thread.forget();
+    thread.flush();
+    EXPECT_EQ(slow.leftThere, (Bytes{2}));
 }
 
 TEST(KeeperThreadTest, EndsWhenAllIsWritten)

@@ -158,6 +158,51 @@ TEST(TwoStarts, KeepFoldersWithNamesOfAllSorts)
     }
 }
 
+// Nobody is asked about an undo after a save, and nothing of it is lost.
+TEST(TwoStarts, OfferWhatTheFirstEndedWithUnasked)
+{
+    const std::string house = "press Command1\nclick 100 120\nclick 433 711\ncancel 0 0\n"
+                              "click 100 300\nclick 4000 -295\ncancel 0 0\n";
+    const std::string save = "press fil7\nput frmfile.Text1 house\nenter\n";
+    const struct {
+        const char* what;
+        std::string lines;
+        int objects; // that come back
+    } rows[] = {
+        {"an undo", house + save + "press undu\n", 1},
+        {"a redo", house + "press undu\n" + save + "press redu\n", 2},
+        {"an undo beneath a close", house + save + "press undu\npress undu\nidle\npress fil5\n", 0},
+    };
+    for (const auto& row : rows) {
+        const PlayProcess process;
+        const fake::Outcome first = process.run(row.lines + "press fil14\nalive\n");
+        ASSERT_EQ(first.status, 0) << row.what << ": " << first.err;
+        EXPECT_EQ(first.out, "false\n") << row.what;
+        const fake::Outcome second =
+            process.run("expect get notice.Command1.caption == \"Restore\"\npress notice.Command1\n"
+                        "expect get session.drawingName == \"house.mtd\"\n"
+                        "expect get notice.caption == \"\"\npress Command17\nget session.entCount\n");
+        EXPECT_EQ(second.status, 0) << row.what << ": " << second.err;
+        EXPECT_EQ(second.out, std::to_string(row.objects + 1) + "\n") << row.what;
+    }
+}
+
+TEST(TwoStarts, OfferNothingOfWhatIsAsItWasSavedOrWasGivenUp)
+{
+    const std::string house = "press Command1\nclick 100 120\nclick 433 711\ncancel 0 0\n";
+    const std::string save = "press fil7\nput frmfile.Text1 house\nenter\n";
+    for (const std::string& lines :
+         {house + save + "press fil14\n", house + save + "press undu\nidle\npress redu\nidle\npress fil14\n",
+          house + "idle\npress fil14\npress frmfile.Command2\n"}) {
+        const PlayProcess process;
+        const fake::Outcome first = process.run(lines + "alive\n");
+        ASSERT_EQ(first.status, 0) << first.err;
+        EXPECT_EQ(first.out, "false\n");
+        const fake::Outcome second = process.run("expect get notice.caption == \"\"\n");
+        EXPECT_EQ(second.status, 0) << second.err;
+    }
+}
+
 constexpr const char* defaultsAsked =
     "expect get session.textFont == \"Garamond\"\nexpect get session.textSize == 48\n"
     "expect get session.arrowSize == 48\nexpect get session.dimStyle == 1\n"

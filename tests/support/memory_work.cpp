@@ -25,6 +25,12 @@ void MemoryWork::forget()
     kept.reset();
 }
 
+void MemoryWork::leave()
+{
+    if (kept) leftBehind["run " + std::to_string(leftBehind.size() + 1)] = *kept;
+    kept.reset();
+}
+
 std::vector<std::string> MemoryWork::left()
 {
     std::vector<std::string> names;

@@ -18,6 +18,7 @@ class MemoryWork : public WorkKeeper {
     bool fails() const override;
     void flush() override;
     void forget() override;
+    void leave() override;
     std::vector<std::string> left() override;
     std::optional<Bytes> read(const std::string& name) override;
     bool adopt(const std::string& name) override;

@@ -3,6 +3,7 @@
 #include "app/drawing/endings.h"
 #include "app/files/drawing_of_file.h"
 #include "app/files/open_drawing.h"
+#include "app/files/unsaved_work.h"
 #include "commands/prompt.h"
 #include "dxf/dxf_names.h"
 #include "dxf/scanner.h"
@@ -56,6 +57,7 @@ void takeInFull(App& app, const Bytes& file, const std::string& folder, const st
                 const FullReading& reading, bool unitsAreChosen)
 {
     endWhatIsBegun(app.s, app.pic1);
+    leaveWorkNobodyGaveUp(app, Goes::drawing);
     FullReport report = takeDxfInFull(app, reading);
     report.hasUnits = report.hasUnits || unitsAreChosen;
     takeDxfName(app, folder, name, report.withoutRoom);
@@ -84,6 +86,7 @@ void openDxfByTheLetter(App& app, const Bytes& file, const std::string& folder, 
 {
     Session& s = app.s;
     endWhatIsBegun(s, app.pic1);
+    leaveWorkNobodyGaveUp(app, Goes::drawing);
     takeDxfName(app, folder, name, openDxf(app, file));
     remember(app, file, folder, name);
     const NotRead missing = notRead(readInFull(textOf(file)), s.store);

@@ -132,9 +132,9 @@ void offerToSave(App& app, std::int16_t followUp)
 {
     openFileDialog(app, {"Save Changes", "Save", "*.mtd"}, app.s.drawingName);
     app.s.saveFollowUp = followUp;
-    const std::string_view button = followUp == follow::exit ? "End" : "Close";
-    app.s.controls[ids::fileDismiss].caption = button;
-    app.s.controls[ids::fileRemark].caption = whatIsUnsaved(app.s, button, app.ports.clock);
+    const Goes goes = followUp == follow::exit ? Goes::program : Goes::drawing;
+    app.s.controls[ids::fileDismiss].caption = goes == Goes::program ? "End" : "Close";
+    app.s.controls[ids::fileRemark].caption = whatIsUnsaved(app.s, goes, app.ports.clock);
 }
 
 void saveAndOpenAgain(App& app)
@@ -151,7 +151,8 @@ namespace {
 bool isToBeToldFirst(App& app, const FileChoice& choice)
 {
     Session& s = app.s;
-    if (savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile) return !ownFileIsAsSeen(app) && warnOfOwnFile(app);
+    if (savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile)
+        return !ownFileIsAsSeen(app) && warnOfOwnFile(app);
     if (s.notices.tells(Matter::fileInTheWay)) return false;
     const bool saidByButton = s.controls[ids::fileConfirm].caption == "Overwrite?";
     return warnOfFileInTheWay(app, pathOf(choice), choice.name, saidByButton);

@@ -69,6 +69,7 @@ void mergeDrawing(App& app, const FileChoice& choice, const Bytes& file)
 void replaceByFile(App& app, const FileChoice& choice, const Bytes& file,
                    const std::optional<FileStamp>& stamp)
 {
+    leaveWorkNobodyGaveUp(app, Goes::drawing);
     forgetOwners(app.s.store);
     const Untaken untaken = openDrawing(app, file);
     if (!isWhole(untaken)) return takePartOfFile(app, choice.folder, choice.name, untaken);

@@ -4,7 +4,7 @@
 #include "app/drawing/starters.h"
 #include "app/files/library_rows.h"
 #include "app/files/open_drawing.h"
-#include "files/library_files.h"
+#include "app/files/own_libraries.h"
 #include "library/libraries.h"
 #include "model/insertion.h"
 #include "model/missing.h"
@@ -14,13 +14,6 @@
 
 namespace mirtane {
 namespace {
-
-Bytes bytesOf(const Session& s, Library library, const std::string& name)
-{
-    if (library == Library::multipleLines) return multipleLinesBytes(s.multipleLinesLibrary, name);
-    if (library == Library::hatches) return hatchBytes(s.hatchLibrary, name);
-    return associateBytes(s.store, name);
-}
 
 // An associate that was just opened is at once the one to place; only a click on its name chooses it.
 void readyToPlaceAssociate(App& app, const LibraryRow& row)
@@ -34,10 +27,9 @@ void readyToPlaceAssociate(App& app, const LibraryRow& row)
 void addToLibrary(App& app, const LibraryRow& row, const Bytes& file, const std::string& fileName)
 {
     Session& s = app.s;
-    Untaken untaken;
-    if (row.library == Library::multipleLines) untaken = addMultipleLines(s.multipleLinesLibrary, file);
-    if (row.library == Library::hatches) untaken = addHatch(s.hatchLibrary, file);
-    if (row.library == Library::associates) untaken = addAssociate(s, file, baseName(fileName));
+    const std::string name(baseName(fileName));
+    const Untaken untaken = addFile(s, row.library, file, name);
+    takeAsInFile(s, row.library, name);
     refillNames(s, row.library, row.select);
     if (row.library == Library::associates) readyToPlaceAssociate(app, row);
     tellMissing(s.controls, {untaken.withoutRoom});
@@ -62,7 +54,8 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     // Nothing is saved under no name, and nothing that would be read back as removed.
     if (!isLiveName(name) || !isLiveName(toCodePage(name))) return false;
     const bool saved =
-        app.ports.disk.writeWhole(choice.folder + "/" + choice.name, bytesOf(s, row->library, name));
+        app.ports.disk.writeWhole(choice.folder + "/" + choice.name, fileOf(s, row->library, name));
+    if (saved) takeAsInFile(s, row->library, name);
     if (!isBeingPlaced(s, *row)) toSave = currentName(s, row->library) = noName;
     endWhatIsBegun(s, app.pic1);
     return saved;

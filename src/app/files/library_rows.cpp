@@ -24,6 +24,25 @@ const LibraryRow* rowWith(std::string_view LibraryRow::*field, std::string_view 
     return found == std::end(libraryRows) ? nullptr : found;
 }
 
+const LibraryRow& rowOf(Library library)
+{
+    return *std::ranges::find(libraryRows, library, &LibraryRow::library); // each has one
+}
+
+Bytes fileOf(const Session& s, Library library, const std::string& name)
+{
+    if (library == Library::multipleLines) return multipleLinesBytes(s.multipleLinesLibrary, name);
+    if (library == Library::hatches) return hatchBytes(s.hatchLibrary, name);
+    return associateBytes(s.store, name);
+}
+
+Untaken addFile(Session& s, Library library, const Bytes& file, const std::string& name)
+{
+    if (library == Library::multipleLines) return addMultipleLines(s.multipleLinesLibrary, file);
+    if (library == Library::hatches) return addHatch(s.hatchLibrary, file);
+    return addAssociate(s, file, name);
+}
+
 bool isBeingPlaced(const FunctionState& s, const LibraryRow& row)
 {
     return row.library == Library::hatches && s.baseFunc == row.function;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/library_files.h"
 #include "library/libraries.h"
 
 #include <string_view>
@@ -18,6 +19,12 @@ struct LibraryRow {
 
 // The row with that value in the field, or null.
 const LibraryRow* rowWith(std::string_view LibraryRow::*field, std::string_view value);
+
+const LibraryRow& rowOf(Library library);
+
+// The file of what bears the name, and back: the library with what stands in such a file.
+Bytes fileOf(const Session& s, Library library, const std::string& name);
+Untaken addFile(Session& s, Library library, const Bytes& file, const std::string& name);
 
 // Whether it is a hatch, and one is being placed: a save leaves that one the current one.
 bool isBeingPlaced(const FunctionState& s, const LibraryRow& row);

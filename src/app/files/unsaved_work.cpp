@@ -4,11 +4,12 @@
 #include "app/files/open_drawing.h"
 #include "app/files/own_file.h"
 #include "commands/prompt.h"
-#include "files/kept_work.h"
+#include "model/insertion.h"
 #include "model/work_mark.h"
 #include "text/numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace mirtane {
 namespace {
@@ -80,6 +81,12 @@ void takeAsUnsaved(Session& s, const KeptAbout& about)
     s.savedTime = about.since;
     s.changesBefore = about.changes;
     s.savedMark = s.keptMark = workMark(s);
+    s.keptNames = inNoFile(s);
+}
+
+bool differsFromSaved(const Session& s)
+{
+    return livingSlots(s.store) != s.savedLiving || workMark(s).layerNames != s.savedMark.layerNames;
 }
 
 } // namespace
@@ -94,12 +101,27 @@ void keepUnsavedWork(App& app)
     Session& s = app.s;
     const WorkMark mark = workMark(s);
     WorkKeeper* const keeper = app.ports.work;
-    if (keeper == nullptr) return;
+    if (keeper == nullptr || s.ended) return;
     tellWhetherItFails(s.notices, *keeper);
-    if (mark == s.keptMark && !keeper->fails()) return;
+    LibraryNames names = inNoFile(s);
+    if (mark == s.keptMark && names == s.keptNames && !keeper->fails()) return;
+    if (mark == s.savedMark && isNone(names) && !hasUnsavedWork(s))
+        keeper->forget(); // what was kept is in files by now
+    else
+        keeper->keep(keptWork(s, aboutDrawing(s, app.ports), librariesOf(s, names)));
     s.keptMark = mark;
-    keeper->keep(keptWork(s, aboutDrawing(s, app.ports)));
+    s.keptNames = std::move(names);
     tellWhetherItFails(s.notices, *keeper);
+}
+
+void leaveWorkNobodyGaveUp(App& app, Goes goes)
+{
+    const Session& s = app.s;
+    if (app.ports.work == nullptr || hasUnsavedWork(s)) return; // which was asked about
+    const bool isNothing = !differsFromSaved(s) && isNone(lostWith(goes, inNoFile(s)));
+    if (isNothing) return;
+    keepUnsavedWork(app);
+    app.ports.work->leave();
 }
 
 void keepBeforeSave(App& app)
@@ -113,19 +135,24 @@ void takeAsSaved(App& app)
 {
     Session& s = app.s;
     s.savedMark = workMark(s);
+    s.savedLiving = livingSlots(s.store);
     s.keptMark = s.savedMark;
+    s.keptNames = {};
     s.changesBefore = 0;
     s.savedTime = nowBy(app.ports.clock);
     if (app.ports.work != nullptr) app.ports.work->forget();
 }
 
-std::string whatIsUnsaved(const Session& s, std::string_view button, Clock* clock)
+std::string whatIsUnsaved(const Session& s, Goes goes, Clock* clock)
 {
+    const std::string_view button = goes == Goes::program ? "End" : "Close";
     const std::int32_t changes = unsavedChanges(s);
     std::string text =
         s.drawingName + ": " + withThousands(changes) + (changes == 1 ? " change" : " changes");
     if (!s.savedTime.empty()) text += " since " + shortTime(s.savedTime, nowBy(clock));
-    return text + ". \"" + std::string(button) + "\" gives " + (changes == 1 ? "it" : "them") + " up.";
+    text += ". \"" + std::string(button) + "\" gives " + (changes == 1 ? "it" : "them") + " up.";
+    const std::string libraries = sentenceOfNoFile(lostWith(goes, inNoFile(s)));
+    return libraries.empty() ? text : text + " " + libraries;
 }
 
 void offerLeftWork(App& app)
@@ -140,14 +167,19 @@ void restoreLeftWork(App& app)
     Session& s = app.s;
     if (s.leftWork.empty()) return;
     const std::optional<KeptWork> work = workOnOffer(app);
+    if (work) {
+        endWhatIsBegun(s, app.pic1);
+        leaveWorkNobodyGaveUp(app, Goes::drawing);
+    }
     // Of two runs one takes it over. Where the folder takes nothing it is brought back all the same, and
     // stays there.
     const bool ours = work && (app.ports.work->adopt(s.leftWork.back()) || workOnOffer(app));
     s.leftWork.pop_back();
     if (ours) {
-        endWhatIsBegun(s, app.pic1);
         forgetOwners(s.store);
         openDrawing(app, work->drawing);
+        giveBack(s, work->libraries);
+        updateGauge(s);
         takeAsUnsaved(s, work->about);
         watchOwnFile(app, work->about.stamp); // as that run knew it: what others did since is told
         setPrompt(s, app.pic1);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/app.h"
+#include "app/files/own_libraries.h"
 
 namespace mirtane {
 
@@ -15,12 +15,15 @@ void keepUnsavedWork(App& app);
 // Keeps it on the disk before its file is written.
 void keepBeforeSave(App& app);
 
+// The drawing goes, and what of it differs from its file stays for the next run, unless the user was asked
+// and gave it up: he is not asked about all of it.
+void leaveWorkNobodyGaveUp(App& app, Goes goes);
+
 // The drawing is as it is on the disk, or was given up: nothing of it is to be kept.
 void takeAsSaved(App& app);
 
-// What is at stake, as one line: "house.mtd: 12 changes since 14:32. ..."; button is the one that gives them
-// up.
-std::string whatIsUnsaved(const Session& s, std::string_view button, Clock* clock);
+// What is at stake, as one line: "house.mtd: 12 changes since 14:32. ...", and what gives it up.
+std::string whatIsUnsaved(const Session& s, Goes goes, Clock* clock);
 
 // At the start of the program: offers what other runs have left.
 void offerLeftWork(App& app);

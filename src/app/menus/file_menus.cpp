@@ -61,6 +61,12 @@ constexpr FileFlow namedFlows[] = {
     {list_mode::saveMultipleLines, "Save", "*.mtm"},
 };
 
+// What is about to be opened takes the associates along.
+void remarkWhatIsForgotten(Session& s)
+{
+    s.controls[ids::fileRemark].caption = sentenceOfNoFile(lostWith(Goes::drawing, inNoFile(s)));
+}
+
 } // namespace
 
 void openFileFlow(App& app, ControlId entry)
@@ -75,12 +81,15 @@ void openFileFlow(App& app, ControlId entry)
         return offerToSave(app, row->afterUnsavedWork);
     }
     openFileDialog(app, row->flow, row->name(app.s));
+    if (row->afterUnsavedWork != follow::nothing) remarkWhatIsForgotten(app.s);
 }
 
 void openNamedFlow(App& app, std::string_view caption, const std::string& name)
 {
     const auto* const flow = std::ranges::find(namedFlows, caption, &FileFlow::caption);
-    if (flow != std::end(namedFlows)) openFileDialog(app, *flow, asFileName(name));
+    if (flow == std::end(namedFlows)) return;
+    openFileDialog(app, *flow, asFileName(name));
+    if (caption == list_mode::loadLayer) remarkWhatIsForgotten(app.s);
 }
 
 void closeDrawing(App& app, ControlId)

@@ -3,6 +3,7 @@
 #include "app/drawing/endings.h"
 #include "app/drawing/starters.h"
 #include "app/files/library_rows.h"
+#include "app/files/own_libraries.h"
 #include "app/menus/file_menus.h"
 #include "commands/kept_letters.h"
 #include "commands/prompt.h"
@@ -122,6 +123,7 @@ void libraryNameEntered(Session& s, Canvas& pic1)
     const bool isTaken = !isLiveName(entry.text) || hasName(s, row->library, entry.text);
     if (isTaken) return setSelectedText(entry, "Name already exists!");
     currentName(s, row->library) = entry.text;
+    takeAsNew(s, row->library, entry.text);
     setText(entry, "");
     s.stepNo = 1;
     setPrompt(s, pic1);

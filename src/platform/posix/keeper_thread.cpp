@@ -63,6 +63,12 @@ void KeeperThread::run()
     }
 }
 
+void KeeperThread::leave()
+{
+    flush();
+    keeper_.leave();
+}
+
 std::vector<std::string> KeeperThread::left()
 {
     flush();

@@ -27,6 +27,7 @@ class KeeperThread : public WorkKeeper {
     void flush() override;
 
     // These wait for what is on its way.
+    void leave() override;
     std::vector<std::string> left() override;
     std::optional<Bytes> read(const std::string& name) override;
     bool adopt(const std::string& name) override;

@@ -106,6 +106,16 @@ void KeptFiles::forget()
     kept_.clear();
 }
 
+// Where nobody holds the file any more, it is known as left.
+void KeptFiles::leave()
+{
+    const std::scoped_lock lock(mutex_);
+    if (kept_.empty()) return;
+    ::unlink(holder_.path.c_str());
+    holder_ = {};
+    kept_.clear();
+}
+
 std::vector<std::string> KeptFiles::left()
 {
     std::vector<std::string> names;

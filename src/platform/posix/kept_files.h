@@ -24,6 +24,7 @@ class KeptFiles : public WorkKeeper {
     bool fails() const override;
     void flush() override {}
     void forget() override;
+    void leave() override;
     std::vector<std::string> left() override;
     std::optional<Bytes> read(const std::string& name) override;
     bool adopt(const std::string& name) override;

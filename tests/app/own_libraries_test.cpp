@@ -1,0 +1,290 @@
+// Associates, hatches and multiple lines that are in no file are told of, and never lost unseen.
+
+#include "layer_desk.h"
+
+#include "library/libraries.h"
+
+#include <gtest/gtest.h>
+
+namespace mirtane {
+namespace {
+
+using fake::Desk;
+using fake::LayerDesk;
+
+struct OwnShelf {
+    Library library;
+    ControlId create, save, remove;
+};
+
+constexpr OwnShelf ofSymbols{Library::associates, "ass7"_c, "ass9"_c, "ass21"_c};
+constexpr OwnShelf ofHatches{Library::hatches, "ht5"_c, "ht7"_c, "ht11"_c};
+constexpr OwnShelf ofLines{Library::multipleLines, "ml3"_c, "ml5"_c, "ml9"_c};
+constexpr OwnShelf ownShelves[] = {ofSymbols, ofHatches, ofLines};
+
+// Of the first object, a slanted line.
+void makeOf(LayerDesk& desk, const OwnShelf& row, const std::string& name)
+{
+    desk.s.store.setStat(1, Stat::sel);
+    desk.press(row.create);
+    desk.type(name);
+    desk.enter();
+    desk.click(90, 91);
+    if (row.library == Library::hatches) desk.click(800, 811);
+    ASSERT_TRUE(hasName(desk.s, row.library, name)) << name;
+}
+
+void saveHouseAgain(LayerDesk& desk)
+{
+    desk.saveAs("house");
+    ASSERT_TRUE(desk.disk.files.contains(fake::houseFile));
+}
+
+struct MadeHere {
+    const OwnShelf* library;
+    const char* name;
+};
+
+struct ToldRow {
+    std::vector<MadeHere> made;
+    const char* atExit;
+    const char* atClose; // which leaves hatches and lines where they are
+};
+
+const ToldRow toldRows[] = {
+    {{{&ofSymbols, "door"}},
+     " 1 associate is in no file: save it from its menu.",
+     " 1 associate is in no file: save it from its menu."},
+    {{{&ofHatches, "brick"}}, " 1 hatch is in no file: save it from its menu.", ""},
+    {{{&ofLines, "wall30"}}, " 1 set of multiple lines is in no file: save it from its menu.", ""},
+    {{{&ofSymbols, "door"}, {&ofHatches, "brick"}, {&ofHatches, "tiles"}},
+     " 1 associate and 2 hatches are in no file: save them from their menus.",
+     " 1 associate is in no file: save it from its menu."},
+    {{{&ofSymbols, "door"}, {&ofSymbols, "gate"}, {&ofHatches, "brick"}, {&ofLines, "a"}, {&ofLines, "b"}},
+     " 2 associates, 1 hatch and 2 sets of multiple lines are in no file: save them from their menus.",
+     " 2 associates are in no file: save them from their menus."},
+};
+
+TEST(OwnLibraries, InNoFileAreToldOfWhereTheyGo)
+{
+    for (const ToldRow& row : toldRows) {
+        LayerDesk desk;
+        desk.drawLine(100, 103, 400, 333);
+        for (const MadeHere& made : row.made) makeOf(desk, *made.library, made.name);
+        saveHouseAgain(desk);
+        desk.drawLine(7, 8, 999, 1001);
+        desk.press("fil14"_c);
+        EXPECT_EQ(desk.caption("frmfile.Label4"_c),
+                  "house.mtd: 1 change since 14:32. \"End\" gives it up." + std::string(row.atExit));
+        desk.shell.closeForm("frmfile"_c);
+        desk.press("fil5"_c);
+        EXPECT_EQ(desk.caption("frmfile.Label4"_c),
+                  "house.mtd: 1 change since 14:32. \"Close\" gives it up." + std::string(row.atClose));
+        desk.shell.closeForm("frmfile"_c);
+        saveHouseAgain(desk);
+        for (const ControlId open : {"fil4"_c, "dd2"_c}) {
+            desk.press(open);
+            const std::string said = desk.caption("frmfile.Label4"_c);
+            EXPECT_EQ(said.empty() ? said : " " + said, row.atClose);
+            desk.shell.closeForm("frmfile"_c);
+        }
+        desk.menuRow("ly13"_c, 3);
+        const std::string said = desk.caption("frmfile.Label4"_c);
+        EXPECT_EQ(said.empty() ? said : " " + said, row.atClose);
+    }
+}
+
+const std::string changeAlone = "house.mtd: 1 change since 14:32. \"End\" gives it up.";
+
+std::string saidAtExit(LayerDesk& desk)
+{
+    saveHouseAgain(desk);
+    desk.drawLine(7, 8, 999, 1001);
+    desk.press("fil14"_c);
+    return desk.caption("frmfile.Label4"_c);
+}
+
+TEST(OwnLibraries, ThatAreSavedOrRemovedOrFromAFileAreNotToldOf)
+{
+    for (const OwnShelf& row : ownShelves) {
+        LayerDesk saved;
+        saved.drawLine(100, 103, 400, 333);
+        makeOf(saved, row, "own");
+        saved.menuRow(row.save, 0);
+        saved.enter();
+        ASSERT_FALSE(saved.visible("frmfile"_c));
+        EXPECT_EQ(saidAtExit(saved), changeAlone);
+
+        LayerDesk removed;
+        removed.drawLine(100, 103, 400, 333);
+        makeOf(removed, row, "own");
+        removed.menuRow(row.remove, 0);
+        EXPECT_EQ(saidAtExit(removed), changeAlone);
+
+        LayerDesk failed;
+        failed.drawLine(100, 103, 400, 333);
+        makeOf(failed, row, "own");
+        failed.menuRow(row.save, 0);
+        failed.disk.refusesWrites = true;
+        failed.enter();
+        failed.disk.refusesWrites = false;
+        failed.shell.closeForm("frmfile"_c);
+        EXPECT_NE(saidAtExit(failed), changeAlone);
+
+        LayerDesk begun;
+        begun.drawLine(100, 103, 400, 333);
+        begun.s.store.setStat(1, Stat::sel);
+        begun.press(row.create);
+        begun.type("own");
+        begun.enter();
+        begun.cancel();
+        EXPECT_EQ(saidAtExit(begun), changeAlone);
+    }
+}
+
+// They come back with the work that was kept, as new as they were.
+TEST(OwnLibraries, AreBroughtBackWithTheWork)
+{
+    LayerDesk desk;
+    desk.drawLine(100, 103, 400, 333);
+    for (const OwnShelf& row : ownShelves) {
+        makeOf(desk, row, "one/\xC3\xA9 50%");
+        makeOf(desk, row, "two");
+    }
+    desk.shell.rest();
+    ASSERT_TRUE(desk.work.kept);
+    Desk started({}, fake::MemoryWork({{"a", *desk.work.kept}}));
+    started.press("notice.Command1"_c);
+    for (const OwnShelf& row : ownShelves)
+        EXPECT_EQ(listedNames(started.s, row.library), listedNames(desk.s, row.library));
+    EXPECT_EQ(started.s.hatchLibrary.count, desk.s.hatchLibrary.count);
+    EXPECT_EQ(started.s.multipleLinesLibrary.count, desk.s.multipleLinesLibrary.count);
+    started.press("fil14"_c);
+    EXPECT_NE(started.caption("frmfile.Label4"_c).find("2 associates, 2 hatches and 2 sets"),
+              std::string::npos);
+}
+
+// What came back is unsaved as a whole until the drawing is saved.
+TEST(OwnLibraries, ThatCameBackAndAreSavedLeaveTheDrawingUnsaved)
+{
+    LayerDesk desk;
+    desk.drawLine(100, 103, 400, 333);
+    makeOf(desk, ofHatches, "own");
+    desk.shell.rest();
+    ASSERT_TRUE(desk.work.kept);
+    Desk started({}, fake::MemoryWork({{"a", *desk.work.kept}}));
+    started.press("notice.Command1"_c);
+    started.press("ht7"_c);
+    started.shell.clickRow(fake::list, 0);
+    started.enter();
+    ASSERT_TRUE(started.disk.files.contains("/home/user/own.mth"));
+    started.shell.rest();
+    EXPECT_TRUE(started.work.kept);
+    started.press("fil5"_c);
+    EXPECT_EQ(started.caption("frmfile"_c), "Save Changes");
+}
+
+TEST(OwnLibraries, AreKeptOnceForEach)
+{
+    for (const OwnShelf& row : ownShelves) {
+        LayerDesk desk;
+        desk.drawLine(100, 103, 400, 333);
+        saveHouseAgain(desk);
+        desk.shell.rest();
+        const int before = desk.work.keeps;
+        makeOf(desk, row, "own");
+        desk.shell.rest();
+        desk.shell.rest();
+        EXPECT_EQ(desk.work.keeps, before + 1);
+        saveHouseAgain(desk);
+        desk.shell.rest();
+        EXPECT_TRUE(desk.work.kept) << "no save of the drawing holds it";
+        desk.menuRow(row.save, 0);
+        desk.enter();
+        desk.shell.rest();
+        EXPECT_FALSE(desk.work.kept);
+        desk.press("undu"_c);
+        desk.shell.rest();
+        EXPECT_TRUE(desk.work.kept);
+    }
+}
+
+struct LibraryFileRow {
+    const OwnShelf* library;
+    ControlId open;
+    const char* extension;
+};
+
+constexpr LibraryFileRow libraryFileRows[] = {
+    {&ofSymbols, "ass10"_c, ".mta"}, {&ofHatches, "ht8"_c, ".mth"}, {&ofLines, "ml6"_c, ".mtm"}};
+
+// A name with a point is that of another one.
+TEST(OwnLibraries, WithPointsInTheirNamesStandSideBySide)
+{
+    for (const LibraryFileRow& row : libraryFileRows) {
+        LayerDesk desk;
+        desk.drawLine(100, 103, 400, 333);
+        for (const char* name : {"door", "door.left", "door.right", "1.5.2 in"}) {
+            makeOf(desk, *row.library, name);
+            desk.press(row.library->save);
+            desk.pick(static_cast<int>(listedNames(desk.s, row.library->library).size()) - 1);
+            desk.enter();
+            ASSERT_TRUE(desk.disk.files.contains("/home/user/" + std::string(name) + row.extension)) << name;
+        }
+        Desk next;
+        next.disk.files = desk.disk.files;
+        std::vector<std::string> opened;
+        for (const char* name : {"door.left", "1.5.2 in", "door.right", "door"}) {
+            const std::string file = name + std::string(row.extension);
+            for (const bool again : {false, true}) {
+                next.press(row.open);
+                next.name(file);
+                next.enter();
+                EXPECT_EQ(next.visible("frmfile"_c), again) << file;
+                EXPECT_EQ(next.caption("frmfile.Label5"_c), again ? "Name already exists!" : "") << file;
+                next.shell.closeForm("frmfile"_c);
+            }
+            opened.emplace_back(name);
+            EXPECT_EQ(listedNames(next.s, row.library->library), opened);
+        }
+    }
+}
+
+// Nobody is asked about them, so they stay for the next start.
+TEST(OwnLibraries, StayWhereTheSessionEndsUnasked)
+{
+    for (const OwnShelf& row : ownShelves) {
+        LayerDesk desk;
+        desk.drawLine(100, 103, 400, 333);
+        makeOf(desk, row, "own");
+        saveHouseAgain(desk);
+        desk.press("fil14"_c);
+        EXPECT_TRUE(desk.s.ended);
+        ASSERT_EQ(desk.work.leftBehind.size(), 1U);
+        desk.shell.rest();
+        EXPECT_FALSE(desk.work.kept) << "the program has ended";
+        Desk next({}, fake::MemoryWork(desk.work.leftBehind));
+        next.press("notice.Command1"_c);
+        EXPECT_EQ(listedNames(next.s, row.library), std::vector<std::string>{"own"});
+    }
+}
+
+// A close takes the associates alone.
+TEST(OwnLibraries, StayInTheSessionOrForTheNextStart)
+{
+    for (const OwnShelf& row : ownShelves) {
+        LayerDesk desk;
+        desk.drawLine(100, 103, 400, 333);
+        makeOf(desk, row, "own");
+        saveHouseAgain(desk);
+        desk.press("fil5"_c);
+        const bool goes = row.library == Library::associates;
+        EXPECT_EQ(hasName(desk.s, row.library, "own"), !goes);
+        EXPECT_EQ(desk.work.leftBehind.size(), goes ? 1U : 0U);
+        desk.shell.rest();
+        EXPECT_EQ(desk.work.kept.has_value(), !goes);
+    }
+}
+
+} // namespace
+} // namespace mirtane
