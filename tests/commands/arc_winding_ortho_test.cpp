@@ -106,11 +106,11 @@ TEST(ArcTwo, DoesNotTurnAlongAnAxisAtAngleZero)
 TEST(ArcTwo, GoesTheWayFromAxisToAxisOverAngleZeroToo)
 {
     Slanted dice(41);
+    Desk desk;
     int over0 = 0;
     for (int i = 0; i < 600; ++i) {
         const double turned = i % 6 == 0 ? 0 : dice.between(0, 90);
         const Point centre = dice.pointWithin({0, 0}, i % 2 == 0 ? 2500 : 150000);
-        Desk desk;
         setOrthoAngle(desk, turned);
         start(desk, "Command4"_c, OrthoToggle::on);
         const int from = dice.below(4);
@@ -139,6 +139,7 @@ TEST(ArcTwo, GoesTheWayFromAxisToAxisOverAngleZeroToo)
         const double slack = 1e-6 + 1e-8 * (std::abs(centre.x) + std::abs(centre.y));
         EXPECT_LT(turnedBetween(r.a1, low), slack) << turned << " from " << from << " to " << axis;
         EXPECT_LT(turnedBetween(r.a2, high), slack) << turned << " from " << from << " to " << axis;
+        desk.cancel();
     }
     EXPECT_GT(over0, 100);
 }
@@ -147,10 +148,10 @@ TEST(ArcTwo, GoesTheWayFromAxisToAxisOverAngleZeroToo)
 TEST(ArcTwo, IsNothingWhileThePointerIsOnTheAxisOfTheRadiusPoint)
 {
     Slanted dice(42);
+    Desk desk;
     for (int i = 0; i < 1000; ++i) {
         const double turned = dice.between(0, 90);
         const Point centre = dice.pointWithin({0, 0}, i % 2 == 0 ? 3000 : 80000);
-        Desk desk;
         setOrthoAngle(desk, turned);
         start(desk, "Command4"_c, OrthoToggle::on);
         desk.s.arcLastAngle = dice.between(0, 6.28);
@@ -164,6 +165,7 @@ TEST(ArcTwo, IsNothingWhileThePointerIsOnTheAxisOfTheRadiusPoint)
         EXPECT_EQ(desk.s.arcStart, desk.s.arcEnd) << i;
         downAt(desk, near());
         EXPECT_EQ(lastSlot(desk).a1, lastSlot(desk).a2) << i << ": " << turned;
+        desk.cancel();
     }
 }
 
