@@ -70,7 +70,7 @@ bool isOnOneRay(const ScratchPoints& s, double angle)
 {
     const std::string digits = angleDigits(angle);
     return digits == zeroAngle || digits == angleDigits(fullTurn) ||
-           runTheSameWay(directionOf(s.ptA, s.ptG), directionOf(s.ptA, s.ptH));
+           areOnOneRay(directionOf(s.ptA, s.ptG), directionOf(s.ptA, s.ptH));
 }
 
 // Until the pointer moves, the arc goes through the second leg's point.

@@ -1,6 +1,7 @@
 #include "geometry/direction.h"
 
 #include "geometry/fault.h"
+#include "geometry/rounding.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,19 +9,16 @@
 namespace mirtane {
 namespace {
 
-// Half a step of a 32-bit number, as a part of it.
-constexpr double halfStep = 0x1p-24;
-
-// A line is drawn, copied and cut before it is asked, and each of these moves its ends by up to half a step,
-// level and upright.
-constexpr double halfStepsInDoubt = 8;
-
 // What is turned is turned by degrees times a literal of six digits, which is off by as much at a whole turn.
 constexpr double turnInDoubt = 3e-6; // radians
 
-double largestCoordinate(Point a, Point b)
+// Of the points of a leg, neither of which has been moved since it was drawn: each lies up to half a step
+// off, level and upright.
+constexpr double halfStepsOfALeg = 2;
+
+double sineBetween(const Direction& a, const Direction& b)
 {
-    return std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
+    return a.x * b.y - a.y * b.x;
 }
 
 } // namespace
@@ -30,19 +28,20 @@ Direction directionOf(Point a, Point b)
     const double dx = static_cast<double>(b.x) - a.x; // widened before the differences
     const double dy = static_cast<double>(b.y) - a.y;
     const double length = std::sqrt(dx * dx + dy * dy);
-    return {quotient(dx, length), quotient(dy, length), quotient(halfStep * largestCoordinate(a, b), length)};
+    const double largest = std::max(largestCoordinate(a), largestCoordinate(b));
+    return {quotient(dx, length), quotient(dy, length), quotient(halfStepOf(largest), length)};
 }
 
 bool areParallel(const Direction& a, const Direction& b)
 {
-    const double sine = a.x * b.y - a.y * b.x;
     const double inDoubt = turnInDoubt + halfStepsInDoubt * (a.rounding + b.rounding);
-    return !(std::abs(sine) > inDoubt); // so written, a NaN is parallel
+    return !(std::abs(sineBetween(a, b)) > inDoubt); // so written, a NaN is parallel
 }
 
-bool runTheSameWay(const Direction& a, const Direction& b)
+bool areOnOneRay(const Direction& a, const Direction& b)
 {
-    return areParallel(a, b) && a.x * b.x + a.y * b.y > 0;
+    const double inDoubt = halfStepsOfALeg * (a.rounding + b.rounding);
+    return std::abs(sineBetween(a, b)) <= inDoubt && a.x * b.x + a.y * b.y > 0;
 }
 
 } // namespace mirtane

@@ -19,7 +19,8 @@ Direction directionOf(Point a, Point b);
 // make, either way round. Two lines on one line are parallel too, and no line is parallel to any.
 bool areParallel(const Direction& a, const Direction& b);
 
-// The same, and both run the same way.
-bool runTheSameWay(const Direction& a, const Direction& b);
+// Whether two legs from one point run one way, as far as the rounding of their points as they were snapped to
+// tells: much less than what comes of copying and turning, since a short leg far off still shows an angle.
+bool areOnOneRay(const Direction& a, const Direction& b);
 
 } // namespace mirtane

@@ -431,5 +431,35 @@ TEST(AngularDimension, TextOfAnyAngleStandsOutsideTheArcOnItsBisector)
     }
 }
 
+// A short leg far off still shows an angle, as long as that is more than a step of rounding.
+TEST(AngularDimension, MeasuresShortLegsFarOffWhatIsMoreThanAStepOfRounding)
+{
+    struct Row {
+        Point vertex;
+        double length, degrees; // of the legs; between them
+    };
+    const Row rows[] = {
+        {{250000, 175000}, 12, 0.97}, {{-250000, 175000}, 15, 0.6}, {{100000, -70000}, 48, 0.1},
+        {{40000, 28000}, 12, 0.11},   {{-1000000, -700000}, 12, 4}, {{30000, 900000}, 36, 0.9},
+    };
+    Slanted dice(43);
+    AngularDesk desk;
+    for (const Row& row : rows) {
+        for (int i = 0; i < 50; ++i) {
+            desk.cancel();
+            const double turn = dice.between(0, 360);
+            const auto on = [&](double degrees) {
+                const Point leg = fake::onTurn(degrees, row.length);
+                return Point{row.vertex.x + leg.x, row.vertex.y + leg.y};
+            };
+            for (const Point p : {row.vertex, on(turn), on(turn + row.degrees)}) desk.snap(p);
+            ASSERT_EQ(desk.s.stepNo, 3) << row.degrees << " from " << turn;
+            const double halfStep = 0x1p-24 * std::max(std::abs(row.vertex.x), std::abs(row.vertex.y));
+            const double room = 4 * halfStep / row.length * degreesPerRadian;
+            EXPECT_NEAR(std::stod(desk.text3()), row.degrees, room + 0.001) << turn;
+        }
+    }
+}
+
 } // namespace
 } // namespace mirtane
