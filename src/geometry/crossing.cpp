@@ -7,11 +7,17 @@
 #include "geometry/arc.h"
 #include "geometry/direction.h"
 #include "geometry/fault.h"
+#include "geometry/rounding.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace mirtane {
 namespace {
+
+// Of the line, of the centre and of the radius each: where a line touches a circle, its end was rounded when
+// it was drawn, and once more, as the circle was, when both were copied, level and upright each.
+constexpr double halfStepsOfAPoint = 4;
 
 struct Vector {
     double x, y;
@@ -32,16 +38,24 @@ double cross(Vector a, Vector b)
     return a.x * b.y - a.y * b.x;
 }
 
-// The two points at a half chord either way along unit from the middle. squared is that of the half chord:
-// the line misses with one below 0, touches at 0.
-Crossings chordEnds(double middleX, double middleY, Vector unit, double squared)
+// The two points at a half chord either way. squared is that of the half chord: the line misses with one
+// below 0, touches at 0.
+Crossings bothEnds(const Chord& chord, double squared)
 {
     Crossings found;
     if (!(squared >= 0)) return found;
     const double t = std::sqrt(squared);
-    found.add(middleX + t * unit.x, middleY + t * unit.y);
-    if (t > 0) found.add(middleX - t * unit.x, middleY - t * unit.y);
+    found.add(chord.footX + t * chord.alongX, chord.footY + t * chord.alongY);
+    if (t > 0) found.add(chord.footX - t * chord.alongX, chord.footY - t * chord.alongY);
     return found;
+}
+
+// By how much rounding moves the line through a and b at a share of the way between them; beyond an end as
+// there.
+double roundingOfLine(Point a, Point b, double share)
+{
+    const double s = std::clamp(share, 0.0, 1.0);
+    return (1 - s) * halfStepOf(largestCoordinate(a)) + s * halfStepOf(largestCoordinate(b));
 }
 
 } // namespace
@@ -72,8 +86,16 @@ Crossings crossLineCircle(Point a, Point b, Point centre, double radius)
     const Vector unit{quotient(along.x, length), quotient(along.y, length)};
     const Vector toCentre = between(a, centre);
     const double foot = dot(toCentre, unit);
-    const double height = cross(unit, toCentre);
-    return chordEnds(a.x + foot * unit.x, a.y + foot * unit.y, unit, radius * radius - height * height);
+    return chordEnds({a.x + foot * unit.x, a.y + foot * unit.y, unit.x, unit.y}, cross(unit, toCentre),
+                     centre, radius, roundingOfLine(a, b, quotient(foot, length)));
+}
+
+Crossings chordEnds(const Chord& chord, double height, Point centre, double radius, double lineOff)
+{
+    const double inDoubt =
+        halfStepsOfAPoint * (lineOff + halfStepOf(largestCoordinate(centre)) + halfStepOf(std::abs(radius)));
+    if (std::abs(std::abs(height) - std::abs(radius)) <= inDoubt) return bothEnds(chord, 0);
+    return bothEnds(chord, radius * radius - height * height);
 }
 
 Crossings crossCircles(Point c1, double r1, Point c2, double r2)
@@ -83,7 +105,8 @@ Crossings crossCircles(Point c1, double r1, Point c2, double r2)
     const Vector unit{quotient(way.x, d), quotient(way.y, d)};
     const double toChord = quotient(d * d + r1 * r1 - r2 * r2, 2 * d);
     const Vector left{unit.y, -unit.x}; // y grows downward
-    return chordEnds(c1.x + toChord * unit.x, c1.y + toChord * unit.y, left, r1 * r1 - toChord * toChord);
+    return bothEnds({c1.x + toChord * unit.x, c1.y + toChord * unit.y, left.x, left.y},
+                    r1 * r1 - toChord * toChord);
 }
 
 Crossings onArc(const Crossings& all, Point centre, double a1, double a2)

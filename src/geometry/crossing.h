@@ -20,9 +20,20 @@ struct Crossings {
 // points tell or one is no line.
 Crossings crossLines(Point a, Point b, Point c, Point d);
 
-// The endless line through a, b and the circle: two, first the one further on towards b; one where they
-// touch; none if they miss each other or a, b is no line.
+// The endless line through a, b and the circle: two, first the one further on towards b; the foot of the
+// centre where they touch up to the rounding of their points; none if they miss each other or a, b is no
+// line.
 Crossings crossLineCircle(Point a, Point b, Point centre, double radius);
+
+// A chord of a circle: the foot of the centre on its line, and where that runs, of length 1.
+struct Chord {
+    double footX, footY, alongX, alongY;
+};
+
+// The ends of a chord at a height (world units, of either sign) over the centre, first the one further on.
+// What touches up to rounding has the foot alone, be it a step inside or outside; lineOff is by how much
+// rounding moves the line there.
+Crossings chordEnds(const Chord& chord, double height, Point centre, double radius, double lineOff);
 
 // Two circles: two, first the one to the left of the way from c1 to c2; one where they touch; none if they
 // miss each other or have one centre.

@@ -14,6 +14,9 @@ struct ParallelLine {
     double off = 0;
 };
 
+// The line itself, through a point of it.
+ParallelLine lineThrough(Point p, const Direction& along);
+
 // The line at a distance (world units) from the one through a and b, on the side on which towards lies; below
 // 0 on the other side. With towards on the line itself there is no side, and it is that line. With a and b
 // equal there is none: it meets nothing.
@@ -22,7 +25,11 @@ ParallelLine parallelTowards(Point a, Point b, Point towards, double distance);
 // One crossing, none if they are parallel.
 Crossings crossParallels(const ParallelLine& a, const ParallelLine& b);
 
-// Two, one where they touch, none if they miss each other.
+// Two, first the one further on along the line's direction; the foot of the centre where they touch up to
+// rounding; none if they miss each other.
 Crossings crossParallelCircle(const ParallelLine& line, Point centre, double radius);
+
+// The foot of p on the line; held where there is no line.
+Point footOnLine(Point p, const ParallelLine& line, Point held);
 
 } // namespace mirtane

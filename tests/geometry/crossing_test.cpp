@@ -1,5 +1,9 @@
 #include "geometry/crossing.h"
 
+#include "geometry/rounding.h"
+#include "geometry/tangent.h"
+#include "slanted.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,6 +11,8 @@
 
 namespace mirtane {
 namespace {
+
+using fake::Slanted;
 
 constexpr float huge = 3e38f;
 
@@ -154,6 +160,56 @@ TEST(Crossings, OnAnArcKeepsThoseWithinItsSweep)
     const Crossings both = crossLineCircle({-10, 0}, {10, 0}, {0, 0}, 5);
     for (const Row& row : rows)
         expectCrossings(onArc(both, {0, 0}, row.a1, row.a2), row.wanted, frames[0], row.what);
+}
+
+// A line drawn to the touching point, which was rounded then; and both once more, as a copy has them.
+TEST(CrossLineCircle, ATangentMeetsTheCircleInItsFootAlone)
+{
+    Slanted dice(83);
+    for (int i = 0; i < 30000; ++i) {
+        const double reach = dice.anySize(20, 2000000);
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        const auto radius = static_cast<float>(dice.between(reach / 100, reach / 3)); // as stored
+        const double way = dice.between(0, 6.28);
+        const double away = dice.between(1.2, 4) * radius;
+        const Point from{static_cast<float>(centre.x + away * std::cos(way)), // as stored
+                         static_cast<float>(centre.y + away * std::sin(way))};
+        const Point touch = tangentPoints(from, centre, radius)[dice.chance() ? 0 : 1];
+        // Outwards: nearer to the origin the steps are finer than those that it was rounded to.
+        const float by = dice.chance() ? 0 : static_cast<float>(dice.between(0, reach));
+        const auto moved = [&](Point p) {
+            return Point{p.x + std::copysign(by, centre.x), p.y + std::copysign(by, centre.y)};
+        };
+        const double off = 40 * halfStepOf(2 * reach);
+        for (const bool turned : {false, true}) {
+            const Point a = moved(turned ? touch : from);
+            const Point b = moved(turned ? from : touch);
+            const Crossings found = crossLineCircle(a, b, moved(centre), radius);
+            ASSERT_EQ(found.count, 1) << i;
+            ASSERT_LT(distance(found.points[0], moved(touch)), 2 * off) << i;
+        }
+    }
+}
+
+TEST(CrossLineCircle, AChordStaysAChordAndAGapAGap)
+{
+    Slanted dice(84);
+    for (int i = 0; i < 30000; ++i) {
+        const double reach = dice.anySize(20, 2000000);
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        const double radius = dice.between(reach / 100, reach / 3);
+        const double way = dice.between(0, 6.28);
+        const auto at = [&](double height, double along) {
+            return Point{static_cast<float>(centre.x + height * std::cos(way) - along * std::sin(way)),
+                         static_cast<float>(centre.y + height * std::sin(way) + along * std::cos(way))};
+        };
+        const double apart = 2e-6 * reach;
+        for (const double height : {radius - apart, radius + apart}) {
+            const Crossings found =
+                crossLineCircle(at(height, -radius), at(height, 2 * radius), centre, radius);
+            ASSERT_EQ(found.count, height < radius ? 2 : 0) << i;
+        }
+    }
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 #include "geometry/parallel.h"
 
 #include "geometry/along.h"
+#include "geometry/rounding.h"
+#include "geometry/tangent.h"
+#include "slanted.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +12,8 @@
 
 namespace mirtane {
 namespace {
+
+using fake::Slanted;
 
 void expectAt(const Crossings& found, double x, double y, const char* what)
 {
@@ -105,6 +110,37 @@ TEST(CrossParallels, LinesOfOneDirectionDoNotMeetWhateverTheirLengths)
         const ParallelLine b = parallelTowards(p[2], p[3], p[0], 2);
         EXPECT_EQ(crossParallels(a, b).count, 0) << p[1].x << " " << p[3].x;
     }
+}
+
+// Beside a tangent, towards the centre: it touches the circle that lies inside by as much.
+TEST(ParallelLine, BesideATangentTouchesTheCircleInside)
+{
+    Slanted dice(85);
+    for (int i = 0; i < 30000; ++i) {
+        const double reach = dice.anySize(20, 500000);
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        const auto radius = static_cast<float>(dice.between(reach / 100, reach / 3)); // as stored
+        const double way = dice.between(0, 6.28);
+        const Point from{static_cast<float>(centre.x + 3 * radius * std::cos(way)),
+                         static_cast<float>(centre.y + 3 * radius * std::sin(way))};
+        const Point touch = tangentPoints(from, centre, radius)[dice.chance() ? 0 : 1];
+        const double aside = dice.between(0.1, 0.9) * radius;
+        const Crossings found =
+            crossParallelCircle(parallelTowards(from, touch, centre, aside), centre, radius - aside);
+        ASSERT_EQ(found.count, 1) << i;
+        ASSERT_NEAR(distance(found.points[0], touch), aside, 20 * halfStepOf(2 * reach)) << i;
+    }
+}
+
+TEST(ParallelLine, FootOfAPoint)
+{
+    const ParallelLine slanted = lineThrough({10, 20}, directionOf({0, 0}, {4, 3}));
+    EXPECT_EQ(footOnLine({13, 16}, slanted, {}), (Point{10, 20}));
+    EXPECT_EQ(footOnLine({1013, 766}, slanted, {}), (Point{1010, 770}));
+    const ParallelLine level = lineThrough({0.1F, 0.3F}, {1, 0, 0});
+    EXPECT_EQ(footOnLine({123.456F, 70000}, level, {}), (Point{123.456F, 0.3F})) << "exact on an axis";
+    const ParallelLine none = lineThrough({4, 4}, directionOf({4, 4}, {4, 4}));
+    EXPECT_EQ(footOnLine({5, 6}, none, {7, 8}), (Point{7, 8}));
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 
 #include "geometry/crossing.h"
 #include "geometry/foot.h"
+#include "geometry/rounding.h"
+#include "geometry/tangent.h"
+#include "slanted.h"
 
 #include <random>
 
@@ -10,6 +13,7 @@ namespace {
 
 using fake::ClickDesk;
 using fake::expectPoint;
+using fake::Slanted;
 
 TEST(SnapIntersection, MeetsTwoObjects)
 {
@@ -239,6 +243,34 @@ TEST(SnapIntersection, IgnoresOrtho)
     desk.shoot("si");
     EXPECT_EQ(desk.s.pickLast, (Point{200, 200}));
     EXPECT_EQ(desk.s.pickFirst, (Point{50, 50}));
+}
+
+TEST(SnapIntersection, ATangentMeetsItsCircleWhereItTouches)
+{
+    Slanted dice(62);
+    ClickDesk desk;
+    for (int i = 0; i < 2000; ++i) {
+        const double reach = dice.anySize(500, 300000);
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        const auto radius = static_cast<float>(dice.between(30, 400)); // as stored
+        const double way = dice.between(0, 6.28);
+        const double away = dice.between(1.3, 5) * radius;
+        const Point from{static_cast<float>(centre.x + away * std::cos(way)), // as stored
+                         static_cast<float>(centre.y + away * std::sin(way))};
+        const Point touch = tangentPoints(from, centre, radius)[dice.chance() ? 0 : 1];
+        const bool lineIsFirst = dice.chance();
+        desk.s.store.entCount = 1;
+        if (lineIsFirst) desk.line(from, touch);
+        desk.circle(centre, radius);
+        if (!lineIsFirst) desk.line(touch, from);
+        // Over the line, so that its foot lies on it.
+        const Point mouse{touch.x + (from.x - touch.x) * 8 / radius,
+                          touch.y + (from.y - touch.y) * 8 / radius};
+        desk.s.pointWasSnapped = false;
+        const Point landed = desk.snapped("si", mouse);
+        EXPECT_TRUE(desk.s.pointWasSnapped) << i;
+        EXPECT_LT(distance(landed, touch), 20 * halfStepOf(reach + 3000)) << i;
+    }
 }
 
 } // namespace
