@@ -1,67 +1,74 @@
 // commands/linear_dimension.cpp: the measured points stand in ptE and ptF, the ends of the dimension line
-// beside them in ptH and ptG. A chain goes on from ptF and ptG.
+// beside them in ptH and ptG. A chain goes on from ptF and ptG, along dimWay.
 
 #include "commands/linear_dimension.h"
 
 #include "commands/commit.h"
 #include "commands/linear_dimension_text.h"
 #include "commands/prompt.h"
-#include "geometry/angle.h"
+#include "geometry/direction.h"
 #include "geometry/fault.h"
-#include "geometry/foot.h"
+#include "geometry/ortho.h"
 #include "render/dimension_painters.h"
 #include "render/redraw.h"
 #include "render/text_painter.h"
 
+#include <cmath>
 #include <utility>
 
 namespace mirtane {
 namespace {
 
-// A unit vector with y upward, NaN where there is no direction.
-struct Direction {
-    double x, y;
-};
-
-Direction directionBetween(Point from, Point to)
+Way across(Way w)
 {
-    const double length = distance(from, to);
-    return {quotient(to.x - from.x, length), quotient(from.y - to.y, length)};
+    return {w.y, -w.x};
 }
 
-Direction across(Direction u)
+// The extension lines run as the pointer lies from the second point, which ortho may have put on an axis. A
+// pointer on that point gives no direction: they keep the one they had.
+void turnLine(Session& s, Point pointer)
 {
-    return {-u.y, u.x};
+    const Direction out = orthoIsOn(s.controls)
+                              ? directionByOrtho(s.ptF, pointer, s.orthoSector, s.orthoAngle)
+                              : directionOf(s.ptF, pointer);
+    if (std::isfinite(out.x + out.y)) s.dimWay = across({out.x, out.y});
 }
 
-// The extension lines run as the pointer lies from the second point. A pointer on that point gives no
-// direction: they keep the one they had.
-Direction extensionDirection(const ScratchPoints& s, Point pointer)
+double along(Way way, Point from, Point to)
 {
-    const Direction u = directionBetween(s.ptF, pointer);
-    return std::isfinite(u.x + u.y) ? u : across(directionBetween(s.ptH, s.ptG));
+    return (static_cast<double>(to.x) - from.x) * way.x + // widened before the differences
+           (static_cast<double>(to.y) - from.y) * way.y;
+}
+
+Point movedAlong(Way way, Point from, double distance)
+{
+    Point p = from;
+    keep(p.x, from.x + distance * way.x);
+    keep(p.y, from.y + distance * way.y);
+    return p;
 }
 
 // From the pointer square across the extension lines, as far as the first point lies to the side of the
 // second one's.
 void layDimensionLine(Session& s, Point pointer)
 {
-    const Direction u = extensionDirection(s, pointer);
-    const Direction aside = across(u);
-    const double height = (s.ptE.x - s.ptF.x) * aside.x + (s.ptF.y - s.ptE.y) * aside.y;
+    turnLine(s, pointer);
     s.ptG = pointer;
-    s.ptH = pointer;
-    keep(s.ptH.x, pointer.x + height * aside.x);
-    keep(s.ptH.y, pointer.y - height * aside.y);
+    s.ptH = movedAlong(s.dimWay, pointer, along(s.dimWay, s.ptF, s.ptE));
 }
 
+// Between points that are rounded the line would lean, and what is measured along it with it. One point that
+// is measured twice has no line.
 void writeLabel(Session& s, Canvas& pic1)
 {
+    const double measured = along(s.dimWay, s.ptE, s.ptF);
     float length = 0;
-    keep(length, distance(s.ptG, s.ptH));
+    keep(length, std::abs(measured));
     const std::string text = lengthText(s, length);
     const float width = textWidthIn(pic1, s.textFont, s.arrowSize, text);
-    const DimensionLabel label = labelOfLine(s.ptG, s.ptH, s.arrowSize, width);
+    const Way onwards = measured < 0 ? -s.dimWay : s.dimWay;
+    const DimensionLabel label =
+        labelAlong(s.ptE == s.ptF ? Way{} : onwards, s.ptG, s.ptH, s.arrowSize, width);
     setText(s.controls[ids::workText], text);
     s.ptA = label.at;
     s.dimAngle = label.degrees;
@@ -101,8 +108,7 @@ void takeSecondPoint(Session& s, Canvas& pic1)
 {
     s.ptE = s.pickFirst;
     s.ptF = s.pickLast;
-    s.ptG = s.ptF;
-    s.ptH = s.ptE;
+    s.dimWay = wayBetween(s.ptE, s.ptF);
     s.pickFirst = s.pickLast;
     setPrompt(s, pic1);
     showBand(s, pic1, s.ptF);
@@ -110,11 +116,10 @@ void takeSecondPoint(Session& s, Canvas& pic1)
 
 void goOnAlongLine(ScratchPoints& s)
 {
-    const Point foot = footOfPerpendicular(s.pickLast, s.ptH, s.ptG, s.ptG);
     s.ptE = s.ptF;
     s.ptH = s.ptG;
     s.ptF = s.pickLast;
-    s.ptG = foot;
+    s.ptG = movedAlong(s.dimWay, s.ptH, along(s.dimWay, s.ptH, s.ptF));
 }
 
 void commitDimension(Session& s, Canvas& pic1)

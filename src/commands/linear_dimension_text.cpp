@@ -14,8 +14,27 @@ namespace {
 constexpr double lastUpright = 1.5882596;
 constexpr double firstUpright = 4.7298523;
 
+constexpr Way level{1, 0};
+
 constexpr double offLine = 1.5;    // sizes
 constexpr double textShare = 0.75; // of the width as measured, which is what the text takes up
+
+DimensionLabel labelAt(double angle, Way way, Leg line, float size, float width)
+{
+    if (!way.isAny()) way = level;
+    if (angle >= lastUpright && angle <= firstUpright) {
+        std::swap(line.from, line.to);
+        way = -way;
+        angle += halfTurn;
+        if (angle > fullTurn) angle -= fullTurn;
+    }
+    const double along = distance(line.from, line.to) / 2 - width * textShare / 2;
+    const double off = offLine * size;
+    DimensionLabel label{line.from, angle * degreesPerRadian};
+    keep(label.at.x, line.from.x + along * way.x + off * way.y);
+    keep(label.at.y, line.from.y + along * way.y - off * way.x);
+    return label;
+}
 
 } // namespace
 
@@ -27,25 +46,15 @@ std::string lengthText(const Attributes& s, float length)
 
 DimensionLabel labelOfLine(Point p3, Point p4, float size, float width)
 {
-    double angle = directionAngle(p4, p3, 0);
-    Point from = p4;
-    Point to = p3;
-    if (angle >= lastUpright && angle <= firstUpright) {
-        std::swap(from, to);
-        angle += halfTurn;
-        if (angle > fullTurn) angle -= fullTurn;
-    }
-    const double length = distance(from, to);
-    double ux = 1;
-    double uy = 0;
-    keep(ux, quotient(to.x - from.x, length));
-    keep(uy, quotient(from.y - to.y, length));
-    const double along = length / 2 - width * textShare / 2;
-    const double off = offLine * size;
-    DimensionLabel label{from, angle * degreesPerRadian};
-    keep(label.at.x, from.x + along * ux - off * uy);
-    keep(label.at.y, from.y - along * uy - off * ux);
-    return label;
+    return labelAt(directionAngle(p4, p3, 0), wayBetween(p4, p3), {p4, p3}, size, width);
+}
+
+DimensionLabel labelAlong(Way way, Point p3, Point p4, float size, float width)
+{
+    Point ahead; // of length 1
+    keep(ahead.x, way.x);
+    keep(ahead.y, way.y);
+    return labelAt(directionAngle({}, ahead, 0), way, {p4, p3}, size, width);
 }
 
 } // namespace mirtane

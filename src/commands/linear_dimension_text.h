@@ -21,4 +21,8 @@ struct DimensionLabel {
 // counts as level.
 DimensionLabel labelOfLine(Point p3, Point p4, float size, float width);
 
+// The same of a line of which it is known how it runs, from p4 to p3: it may be short, and its ends are
+// rounded. With no direction it counts as level.
+DimensionLabel labelAlong(Way way, Point p3, Point p4, float size, float width);
+
 } // namespace mirtane

@@ -8,6 +8,36 @@
 #include <cmath>
 
 namespace mirtane {
+namespace {
+
+// By which the end of a leg may lie off the axis that it was laid on, level and upright together.
+constexpr double halfStepsOfAnEnd = 2;
+
+// Of length 1, y downward.
+struct Axis {
+    double x = noAngle, y = noAngle;
+};
+
+// None outside sectors 1 to 4.
+Axis axisOf(std::int16_t sector, double orthoAngle)
+{
+    const double c = std::cos(orthoAngle);
+    const double s = std::sin(orthoAngle);
+    switch (sector) {
+    case 1:
+        return {c, -s};
+    case 2:
+        return {-s, -c};
+    case 3:
+        return {-c, s};
+    case 4:
+        return {s, c};
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 std::int16_t sectorOfDirection(double direction, double orthoAngle)
 {
@@ -23,18 +53,21 @@ std::int16_t sectorOfDirection(double direction, double orthoAngle)
 
 Point pointOnAxis(Point origin, double d, std::int16_t sector, double orthoAngle, Point fallback)
 {
-    if (sector < 1 || sector > 4) return fallback;
-    struct Axis {
-        int cosInX, sinInX, cosInY, sinInY;
-    };
-    static constexpr Axis axes[] = {{1, 0, 0, -1}, {0, -1, -1, 0}, {-1, 0, 0, 1}, {0, 1, 1, 0}};
-    const Axis& axis = axes[sector - 1];
-    const double c = d * std::cos(orthoAngle);
-    const double s = d * std::sin(orthoAngle);
+    const Axis axis = axisOf(sector, orthoAngle);
     Point p = fallback;
-    keep(p.x, origin.x + axis.cosInX * c + axis.sinInX * s);
-    keep(p.y, origin.y + axis.cosInY * c + axis.sinInY * s);
+    keep(p.x, origin.x + d * axis.x);
+    keep(p.y, origin.y + d * axis.y);
     return p;
+}
+
+Direction directionByOrtho(Point from, Point to, std::int16_t sector, double orthoAngle)
+{
+    const Direction leg = directionOf(from, to);
+    const Axis axis = axisOf(sector, orthoAngle);
+    const double offAxis = std::abs(leg.x * axis.y - leg.y * axis.x);
+    if (!(offAxis <= halfStepsOfAnEnd * leg.rounding)) return leg;
+    const double sign = leg.x * axis.x + leg.y * axis.y < 0 ? -1 : 1;
+    return {sign * axis.x, sign * axis.y, 0};
 }
 
 } // namespace mirtane

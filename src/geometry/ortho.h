@@ -1,6 +1,6 @@
 #pragma once
 
-#include "geometry/point.h"
+#include "geometry/direction.h"
 
 #include <cstdint>
 
@@ -16,5 +16,9 @@ std::int16_t sectorOfDirection(double direction, double orthoAngle);
 // The point at distance d (world units, negative runs backward) from origin on the axis of sector.
 // A sector outside 1 to 4 and a coordinate that overflows leave fallback's.
 Point pointOnAxis(Point origin, double d, std::int16_t sector, double orthoAngle, Point fallback);
+
+// Where a leg runs that ortho may have laid on the axis of sector. Its end is rounded, and a short leg leans
+// by that: as long as it lies on the axis up to the rounding of its points it runs as the axis does, exactly.
+Direction directionByOrtho(Point from, Point to, std::int16_t sector, double orthoAngle);
 
 } // namespace mirtane

@@ -80,6 +80,7 @@ struct ScratchPoints {
     Point pickLast;  // each later click, after ortho and snap, and each move
     Point mousePos;  // the latest click, before ortho and snap
     Way lastWay;     // of the last leg of a chain, none before there is one
+    Way dimWay;      // of the line of a dimension, which a chain keeps
     Point ptA, ptB, ptC, ptD, ptE, ptF, ptG, ptH;
     float workRadius = 0;
     double workAngle = 0; // 25 while the selection follows the pointer

@@ -1,6 +1,7 @@
 #include "geometry/ortho.h"
 
 #include "geometry/angle.h"
+#include "slanted.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -8,6 +9,8 @@
 
 namespace mirtane {
 namespace {
+
+using fake::Slanted;
 
 TEST(Ortho, EachUpperLimitBelongsToItsSector)
 {
@@ -122,6 +125,44 @@ TEST(Ortho, WhatCannotBeComputedLeavesTheFallback)
     EXPECT_EQ(pointOnAxis({1, 2}, 10, -1, 0, fallback), fallback);
     EXPECT_EQ(pointOnAxis({1, 2}, std::numeric_limits<double>::quiet_NaN(), 1, 0, fallback), fallback);
     EXPECT_EQ(pointOnAxis({3e38f, 2}, 3e38, 1, 0, fallback), (Point{7, 2})); // x alone overflows
+}
+
+// However short the leg: its end is rounded, and between its points it leans.
+TEST(Ortho, ALegThatItLaidRunsAlongTheAxisItself)
+{
+    Slanted dice(71);
+    for (int i = 0; i < 20000; ++i) {
+        const double reach = dice.anySize(10, 2000000);
+        const Point from = dice.pointWithin({0, 0}, reach);
+        const double angle = dice.between(-6.3, 6.3);
+        const auto sector = static_cast<std::int16_t>(1 + dice.below(4));
+        const double length = dice.anySize(reach / 1e5, reach) * (dice.chance() ? 1 : -1);
+        const Direction leg =
+            directionByOrtho(from, pointOnAxis(from, length, sector, angle, from), sector, angle);
+        const double turn = angle + (sector - 1) * std::acos(0.0);
+        const double sign = length < 0 ? -1 : 1;
+        ASSERT_NEAR(leg.x, sign * std::cos(turn), 1e-12) << i;
+        ASSERT_NEAR(leg.y, -sign * std::sin(turn), 1e-12) << i;
+        ASSERT_EQ(leg.rounding, 0) << i;
+    }
+}
+
+TEST(Ortho, ALegBesideTheAxisRunsAsItsPointsLie)
+{
+    Slanted dice(72);
+    for (int i = 0; i < 20000; ++i) {
+        const double reach = dice.anySize(10, 2000000);
+        const Point from = dice.pointWithin({0, 0}, reach);
+        const double angle = dice.between(0, 6.28);
+        const double off = dice.anySize(1e-4, 0.7) * (dice.chance() ? 1 : -1);
+        const Point to = pointOnAxis(from, dice.between(reach / 100, reach), 2, angle + off, from);
+        const Direction leg = directionByOrtho(from, to, 2, angle);
+        const Direction free = directionOf(from, to);
+        ASSERT_EQ(leg.x, free.x) << i;
+        ASSERT_EQ(leg.y, free.y) << i;
+    }
+    EXPECT_TRUE(std::isnan(directionByOrtho({5, 6}, {5, 6}, 1, 0).x));
+    EXPECT_EQ(directionByOrtho({0, 0}, {3, 4}, 0, 0).x, 0.6) << "no axis";
 }
 
 } // namespace
