@@ -5,6 +5,7 @@
 #include "geometry/fault.h"
 #include "geometry/foot.h"
 #include "geometry/nearest.h"
+#include "geometry/parallel.h"
 
 namespace mirtane {
 namespace {
@@ -71,19 +72,20 @@ std::optional<Point> meetingOfObjects(const EntityStore& store, std::int32_t fir
 }
 
 std::optional<Point> meetingWithLeg(const EntityStore& store, std::int32_t slot, Point snapped,
-                                    const Leg& leg)
+                                    const KeptLeg& leg)
 {
     const Slot at = EntityStore::at(slot);
     const Point p1 = store.p1[at];
+    const ParallelLine line = lineThrough(leg.from, leg.along);
     switch (store.kind[at]) {
     case Kind::line: {
-        const Crossings c = crossLines(leg.from, leg.to, p1, store.p2[at]);
+        const Crossings c = crossParallels(line, lineThrough(p1, directionOf(p1, store.p2[at])));
         return c.count == 1 ? std::optional(c.points[0]) : std::nullopt;
     }
     case Kind::circle:
     case Kind::arc:
-        if (leg.from == p1) return pointTowards(p1, store.rad[at], leg.from, leg.to);
-        return nearerOf(crossLineCircle(leg.from, leg.to, p1, store.rad[at]), leg.to);
+        if (leg.from == p1) return pointTowards(p1, store.rad[at], leg.along);
+        return nearerOf(crossParallelCircle(line, p1, store.rad[at]), leg.to);
     case Kind::ellipse:
     case Kind::point:
     case Kind::text:
@@ -96,12 +98,11 @@ std::optional<Point> meetingWithLeg(const EntityStore& store, std::int32_t slot,
     return snapped;
 }
 
-Point pointTowards(Point centre, double radius, Point a, Point b)
+Point pointTowards(Point centre, double radius, const Direction& along)
 {
-    const double length = distance(a, b);
     Point p = centre;
-    keep(p.x, centre.x + quotient(b.x - a.x, length) * radius);
-    keep(p.y, centre.y + quotient(b.y - a.y, length) * radius);
+    keep(p.x, centre.x + along.x * radius);
+    keep(p.y, centre.y + along.y * radius);
     return p;
 }
 

@@ -20,9 +20,9 @@ std::optional<Point> meetingOfObjects(const EntityStore& store, std::int32_t fir
 // itself for kinds other than line, circle and arc. None where the leg misses the object or both points are
 // equally near.
 std::optional<Point> meetingWithLeg(const EntityStore& store, std::int32_t slot, Point snapped,
-                                    const Leg& leg);
+                                    const KeptLeg& leg);
 
-// The point at radius from centre in the direction from a to b; the centre where there is none.
-Point pointTowards(Point centre, double radius, Point a, Point b);
+// The point at radius from centre in a direction; the centre where there is none.
+Point pointTowards(Point centre, double radius, const Direction& along);
 
 } // namespace mirtane

@@ -5,6 +5,8 @@
 #include "geometry/fault.h"
 #include "geometry/foot.h"
 #include "geometry/nearest.h"
+#include "geometry/parallel.h"
+#include "geometry/rounding.h"
 #include "geometry/tangent.h"
 #include "snap/meeting.h"
 #include "snap/object_search.h"
@@ -38,7 +40,7 @@ ObjectHit findObject(Session& s, float radius, KindSet kinds, ArcReach arcs)
 void writeOnLeg(Session& s, Point found)
 {
     const auto leg = legKeptByPoint(s);
-    writeSnapped(s, leg ? footOfPerpendicular(found, leg->from, leg->to, leg->from) : found);
+    writeSnapped(s, leg ? footOnLine(found, lineThrough(leg->from, leg->along), leg->from) : found);
 }
 
 Point middleOf(Point a, Point b)
@@ -139,12 +141,13 @@ Point shareOfObject(const EntityStore& store, std::size_t i, double share, Point
 }
 
 // The point of a circle nearest to the pointer on the line through its centre and click 1; hit where neither
-// is.
-Point perpendicularToCircle(const ScratchPoints& s, Point centre, double radius, Point hit)
+// is. A click 1 that is the centre but for rounding tells no line: the leg does.
+Point perpendicularToCircle(const Session& s, Point centre, double radius, Point hit)
 {
-    if (s.pickFirst == centre) return pointTowards(centre, radius, s.pickFirst, s.pickLast);
-    const Point nearSide = pointTowards(centre, radius, centre, s.pickFirst);
-    const Point farSide = pointTowards(centre, -radius, centre, s.pickFirst);
+    if (areOnePoint(s.pickFirst, centre)) return pointTowards(centre, radius, directionOfLeg(s));
+    const Direction along = directionOf(centre, s.pickFirst);
+    const Point nearSide = pointTowards(centre, radius, along);
+    const Point farSide = pointTowards(centre, -radius, along);
     if (isNearer(s.mousePos, nearSide, farSide)) return nearSide;
     return isNearer(s.mousePos, farSide, nearSide) ? farSide : hit;
 }

@@ -1,5 +1,6 @@
 #include "snap/snapped_point.h"
 
+#include "geometry/ortho.h"
 #include "tables/functions.h"
 
 namespace mirtane {
@@ -10,14 +11,19 @@ bool givesItself(SnapGives snap, std::int16_t stepNo)
     return snap == SnapGives::itself || (snap == SnapGives::itselfBeforeStep4 && stepNo < 4);
 }
 
-std::optional<Leg> keptLeg(const Session& s, SnapGives snap)
+KeptLeg legBetween(const CanvasInput& s, Point from, Point to)
+{
+    return {from, to, directionByOrtho(from, to, s.orthoSector, s.orthoAngle)};
+}
+
+std::optional<KeptLeg> keptLeg(const Session& s, SnapGives snap)
 {
     if (drawsConstructionLine(s)) {
-        if (s.blankStep == 2) return Leg{s.blankStart, s.blankEnd};
+        if (s.blankStep == 2) return legBetween(s, s.blankStart, s.blankEnd);
         return std::nullopt;
     }
     if (!orthoIsOn(s.controls) || s.stepNo <= 1 || givesItself(snap, s.stepNo)) return std::nullopt;
-    return Leg{s.pickFirst, s.pickLast};
+    return legBetween(s, s.pickFirst, s.pickLast);
 }
 
 Point* pointUnderWay(Session& s)
@@ -37,14 +43,20 @@ bool drawsConstructionLine(const FunctionState& s)
     return functionRow(s.curFunc).clicks == Clicks::layConstructionLine;
 }
 
-std::optional<Leg> legKeptByPoint(const Session& s)
+std::optional<KeptLeg> legKeptByPoint(const Session& s)
 {
     return keptLeg(s, functionRow(s.curFunc).snaps.atPoints);
 }
 
-std::optional<Leg> legKeptByObject(const Session& s)
+std::optional<KeptLeg> legKeptByObject(const Session& s)
 {
     return keptLeg(s, functionRow(s.curFunc).snaps.onObjects);
+}
+
+Direction directionOfLeg(const Session& s)
+{
+    if (!orthoIsOn(s.controls)) return directionOf(s.pickFirst, s.pickLast);
+    return directionByOrtho(s.pickFirst, s.pickLast, s.orthoSector, s.orthoAngle);
 }
 
 void writeSnapped(Session& s, Point p)

@@ -2,11 +2,14 @@
 
 #include "click_desk.h"
 
+#include "slanted.h"
+
 namespace mirtane {
 namespace {
 
 using fake::ClickDesk;
 using fake::expectPoint;
+using fake::Slanted;
 
 EntityRecord withAngles(EntityRecord r, double a1, double a2)
 {
@@ -279,6 +282,31 @@ TEST(SnapTangent, PassesOverLinesAndOtherFunctions)
     desk.s.curFunc = "Measure Distance";
     EXPECT_EQ(desk.snappedSecond("st", {400, 300}, {338, 250}), (Point{338, 250}));
     EXPECT_EQ(desk.armed(), "");
+}
+
+// Circles about one centre are so up to rounding once they were drawn through points, or turned.
+TEST(SnapPerpendicular, FromACentreThatIsOffByRoundingGoesAlongTheLeg)
+{
+    Slanted dice(61);
+    ClickDesk desk;
+    for (int i = 0; i < 2000; ++i) {
+        const double reach = dice.anySize(1000, 300000);
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        Point first = centre;
+        for (int step = dice.below(3); step > 0; --step)
+            first.x = std::nextafter(first.x, dice.chance() ? 1e9F : -1e9F);
+        for (int step = dice.below(3); step > 0; --step)
+            first.y = std::nextafter(first.y, dice.chance() ? 1e9F : -1e9F);
+        const auto radius = static_cast<float>(dice.between(reach / 50, reach / 5)); // as stored
+        const double turn = dice.between(0, 6.28);
+        const double away = radius + dice.between(-15, 15);
+        const Point mouse{static_cast<float>(first.x + away * std::cos(turn)), // as stored
+                          static_cast<float>(first.y + away * std::sin(turn))};
+        desk.s.store.entCount = 1;
+        desk.circle(centre, radius);
+        const Point landed = desk.snappedSecond("sn", first, mouse);
+        EXPECT_NEAR(distance(landed, mouse), std::abs(radius - away), reach * 1e-5) << i;
+    }
 }
 
 } // namespace
