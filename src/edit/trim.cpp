@@ -115,7 +115,8 @@ ObjectHit findBoundary(const Session& s, const Canvas& pic1)
                                    .radius = searchRadius(pic1),
                                    .kinds = lineCircleArc,
                                    .arcs = ArcReach::sweep,
-                                   .stats = inStat(Stat::on)});
+                                   .stats = inStat(Stat::on),
+                                   .fromCentre = FromCentre::aRadius});
 }
 
 } // namespace

@@ -96,7 +96,14 @@ class ObjectScan {
         const float radius = store_.rad[i];
         if (!mayMeetRing(centre, std::abs(radius), std::abs(radius))) return;
         if (store_.kind[i] == Kind::arc && !seesArc(i)) return;
-        offer(i, nearestOnCircle(search_.from, centre, radius));
+        offer(i, seesFromCentre(centre) ? polarPoint(centre, radius, 0)
+                                        : nearestOnCircle(search_.from, centre, radius));
+    }
+
+    // In no direction from the centre, which counts as to the right.
+    bool seesFromCentre(Point centre) const
+    {
+        return search_.from == centre && search_.fromCentre == FromCentre::aRadius;
     }
 
     void testEllipse(std::size_t i)
@@ -106,7 +113,7 @@ class ObjectScan {
         if (mayMeetRing(e.centre, axes.shorter, axes.longer)) offer(i, nearestOnEllipse(search_.from, e));
     }
 
-    // Whether a figure between two radii about centre can come within the limits. The centre itself stands
+    // Whether a figure between two radii about centre can come within the limits. The centre itself may stand
     // for a circle seen from there.
     bool mayMeetRing(Point centre, double inner, double outer) const
     {

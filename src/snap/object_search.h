@@ -39,6 +39,9 @@ inline constexpr StatSet shownStats = inStat(Stat::on) | inStat(Stat::sel);
 // itself.
 enum class ArcReach : std::uint8_t { wholeCircle, sweep, sweepAndJustBeyond };
 
+// How far a circle is from its own centre: the snaps meet it there, in the centre itself.
+enum class FromCentre : std::uint8_t { nothing, aRadius };
+
 struct ObjectSearch {
     Point from;
     float radius = 0; // world units
@@ -46,6 +49,7 @@ struct ObjectSearch {
     ArcReach arcs = ArcReach::wholeCircle;
     std::int32_t passOver = -1; // a slot that is not looked at
     StatSet stats = shownStats;
+    FromCentre fromCentre = FromCentre::nothing;
 };
 
 struct ObjectHit {

@@ -22,7 +22,8 @@ std::int32_t pickObject(Session& s, const Canvas& pic1)
     const ObjectHit hit = nearestObject(s.store, {.from = s.mousePos,
                                                   .radius = searchRadius(pic1),
                                                   .kinds = pickedKinds(s),
-                                                  .arcs = ArcReach::sweepAndJustBeyond});
+                                                  .arcs = ArcReach::sweepAndJustBeyond,
+                                                  .fromCentre = FromCentre::aRadius});
     s.snapBestIndex = hit.slot;
     s.snapRadius = hit.distance;
     s.pickedIndex = hit.found() ? hit.slot : PickResults::none;

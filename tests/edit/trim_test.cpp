@@ -457,5 +457,22 @@ TEST(Trim, WhatStaysEndsOnTheBoundaryAndHoldsThePickedPart)
     EXPECT_GT(made, 2000);
 }
 
+TEST(Trim, AClickOnTheCentreOfACircleIsARadiusFromIt)
+{
+    for (const bool withAxis : {false, true}) {
+        EditDesk desk;
+        desk.add(fake::lineFrom({-400, -150}, {300, 250}, {-400, -150}));
+        if (withAxis) desk.add(fake::lineFrom({37, -300}, {37, 300}), Stat::on);
+        desk.add(fake::circleAt({37, 21}, 190), Stat::on);
+        const std::int32_t drawn = desk.s.store.entCount;
+        desk.begin("Trim");
+        desk.click({37, 21});
+        EXPECT_EQ(desk.s.store.entCount, drawn + (withAxis ? 1 : 0));
+        EXPECT_EQ(desk.stat(1), withAxis ? Stat::out : Stat::sel);
+        if (!withAxis) continue;
+        EXPECT_NEAR(desk.last().p2.x, 37, 1e-3);
+    }
+}
+
 } // namespace
 } // namespace mirtane

@@ -39,6 +39,11 @@ TEST(Pick, EachKindIsPickedWhereItIs)
         {"a circle from outside", circle, {360, 300}, true},
         {"from within", circle, {300, 330}, true},
         {"near its centre", circle, {305, 300}, false},
+        {"from its very centre, a radius away", circle, {300, 300}, false},
+        {"a small one from its very centre", fake::circle({300, 300}, 20), {300, 300}, true},
+        {"one at the very limit from its centre", fake::circle({300, 300}, 24), {300, 300}, true},
+        {"an arc from its very centre", fake::arc({300, 300}, 50, 6, 1.5707963), {300, 300}, false},
+        {"a small arc from its very centre", fake::arc({300, 300}, 10, 6, 1.5707963), {300, 300}, true},
         {"an arc", quarter, {335, 265}, true},
         {"its circle elsewhere", quarter, {250, 300}, false},
         {"an ellipse", ellipse, {400, 255}, true},
@@ -244,6 +249,18 @@ TEST(SelectLast, SlotsThatDoNotExistArePassedOver)
     endGroup(desk.s.log);
     selectLast(desk.s);
     EXPECT_EQ(countWithStat(desk.s.store, Stat::sel), 0);
+}
+
+TEST(Pick, AnAxisLineIsPickedAtTheCentreWhereItLies)
+{
+    for (const bool lineIsFirst : {true, false}) {
+        ClickDesk desk;
+        if (lineIsFirst) desk.line({100, 300}, {700, 300});
+        desk.circle({431, 300}, 77);
+        if (!lineIsFirst) desk.line({100, 300}, {700, 300});
+        EXPECT_EQ(pickedAt(desk, {431, 300}), lineIsFirst ? 1 : 2);
+        EXPECT_EQ(desk.s.snapRadius, 0);
+    }
 }
 
 } // namespace

@@ -146,12 +146,14 @@ std::int32_t search(const EntityStore& store, const Rule& rule)
         const std::size_t i = EntityStore::at(slot);
         if (slot == rule.skipped || !isShown(store, i)) continue;
         if (std::ranges::find(rule.kinds, store.kind[i]) == rule.kinds.end()) continue;
-        const auto near = nearestOf(store, i, rule.from, rule.arcs);
+        auto near = nearestOf(store, i, rule.from, rule.arcs);
+        const bool fromCentre = isRound(store.kind[i]) && rule.from == store.p1[i];
+        if (near && fromCentre && rule.isPick) near->distance = std::abs(store.rad[i]);
         if (!near || near->distance > radius) continue;
         best = slot;
         radius = near->distance;
     }
-    return radius < rule.radius || rule.limitCounts ? best : -1;
+    return radius < rule.radius || rule.isPick ? best : -1;
 }
 
 std::vector<Point> offeredPoints(const EntityStore& store, std::size_t i)

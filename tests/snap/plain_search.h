@@ -35,7 +35,9 @@ struct Rule {
     std::span<const Kind> kinds;
     Arcs arcs;
     std::int32_t skipped = -1;
-    bool limitCounts = false; // an object at the very radius is a hit: so in a pick, not in a snap
+    // An object at the very radius is a hit, and from its own centre a circle is a radius away; a snap meets
+    // no object there, and the circle in its centre.
+    bool isPick = false;
 };
 
 // The slot of the nearest object, the last of equals, or -1.
