@@ -11,8 +11,8 @@ struct CircleThrough {
     float radius = 0; // world units
 };
 
-// The circle through three points, whatever the angles between them. (Circles and arcs that are drawn or
-// scaled come from three_point.h, which is exact for some only.) None if the points lie on one line as far as
+// The circle through three points, whatever the angles between them. (Circles and arcs that are drawn
+// come from three_point.h, which is exact for some only.) None if the points lie on one line as far as
 // they tell, two of them are one, or no coordinate can hold the centre.
 std::optional<CircleThrough> circleThrough(Point a, Point b, Point c);
 
