@@ -7,7 +7,9 @@
 #include "geometry/angle.h"
 #include "geometry/arc.h"
 #include "geometry/foot.h"
+#include "geometry/rounding.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -40,8 +42,8 @@ bool breakLine(const EntityRecord& line, const Cut& cut, Pieces& pieces)
     const Point farFoot = footOfPerpendicular(far, line.p1, line.p2, far);
     const double length = distance(line.p1, line.p2);
     // A click on the very end leaves nothing there, though its foot may be a rounding inside.
-    if (nearAt > 0 && nearFoot != line.p1) pieces.push_back(lineLike(line, line.p1, nearFoot));
-    if (farAt < length && farFoot != line.p2) pieces.push_back(lineLike(line, farFoot, line.p2));
+    if (nearAt > 0 && !areOnePoint(nearFoot, line.p1)) pieces.push_back(lineLike(line, line.p1, nearFoot));
+    if (farAt < length && !areOnePoint(farFoot, line.p2)) pieces.push_back(lineLike(line, farFoot, line.p2));
     return true;
 }
 
@@ -51,9 +53,19 @@ void takeAngles(const EntityRecord& round, Cut& cut)
     cut.secondAngle = directionAngle(round.p1, cut.second, cut.secondAngle);
 }
 
+// Whether an arc about the centre of round is no longer than the rounding of its ends.
+bool isNoLength(const EntityRecord& round, double angle)
+{
+    const double radius = std::abs(round.rad);
+    return angle * radius <= apartByRounding(std::max(largestCoordinate(round.p1), radius));
+}
+
+// None with both clicks in one direction from the centre: it can't be told what is cut.
 bool breakCircle(const EntityRecord& circle, Cut& cut, Pieces& pieces)
 {
     takeAngles(circle, cut);
+    const double kept = sweep(cut.firstAngle, cut.secondAngle);
+    if (isNoLength(circle, std::min(kept, fullTurn - kept))) return false;
     pieces.push_back(arcLike(circle, circle.p1, circle.rad, cut.firstAngle, cut.secondAngle));
     return true;
 }
@@ -71,11 +83,12 @@ bool breakArc(const EntityRecord& arc, Cut& cut, Pieces& pieces)
         cut.pieceStart = cut.firstAngle;
     }
     const double whole = sweep(arc.a1, arc.a2);
-    if (sweep(arc.a1, cut.pieceEnd) <= whole) {
+    const double toEnd = sweep(arc.a1, cut.pieceEnd);
+    if (toEnd <= whole && !isNoLength(arc, toEnd)) {
         pieces.push_back(arcLike(arc, arc.p1, arc.rad, arc.a1, cut.pieceEnd));
         pieces.back().p2 = arc.p2;
     }
-    if (sweep(arc.a1, cut.pieceStart) <= whole) {
+    if (sweep(arc.a1, cut.pieceStart) <= whole && !isNoLength(arc, sweep(cut.pieceStart, arc.a2))) {
         pieces.push_back(arcLike(arc, arc.p1, arc.rad, cut.pieceStart, arc.a2));
         pieces.back().p3 = arc.p3;
     }

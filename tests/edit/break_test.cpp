@@ -1,6 +1,7 @@
 #include "edit/break.h"
 
 #include "cut_desk.h"
+#include "slanted.h"
 
 namespace mirtane {
 namespace {
@@ -17,6 +18,7 @@ Pieces broken(EditDesk& desk, const EntityRecord& r, Point first, Point second)
 {
     fake::emptyDrawing(desk);
     desk.add(r);
+    parkPickLast(desk.s); // else a first click on the last one of before would be a cancel
     desk.begin("Break");
     desk.click(first);
     desk.click(second);
@@ -295,6 +297,78 @@ TEST(Break, PiecesLieOnTheObjectAndWithTheCutMakeItWhole)
         double cut = std::abs(to - from);
         if (r.kind == Kind::circle) cut = to > from ? 1 - cut : cut; // what runs on from the second click
         ASSERT_NEAR(whole + cut * lengthOf(r), lengthOf(r), 0.02) << i << " kind " << numberOf(r.kind);
+    }
+}
+
+// A point of a corner that was trimmed is off by some steps for the other line.
+Point someStepsOff(fake::Slanted& dice, Point p)
+{
+    for (int step = dice.below(3); step > 0; --step) p.x = std::nextafter(p.x, dice.chance() ? 1e9F : -1e9F);
+    for (int step = dice.below(3); step > 0; --step) p.y = std::nextafter(p.y, dice.chance() ? 1e9F : -1e9F);
+    return p;
+}
+
+TEST(Break, AFewStepsOfRoundingInsideTheEndOfALineLeavesNothingThere)
+{
+    fake::Slanted dice(13);
+    EditDesk desk;
+    for (int i = 0; i < 2000; ++i) {
+        const double reach = dice.anySize(50, 500000);
+        const Point from = dice.pointWithin({0, 0}, reach);
+        const EntityRecord line = lineFrom(from, dice.pointWithin({0, 0}, reach));
+        const Point inside = fake::pointOn(line, 0.4);
+        const Pieces atStart = broken(desk, line, someStepsOff(dice, line.p1), inside);
+        ASSERT_EQ(atStart.size(), 1U) << i;
+        EXPECT_EQ(atStart[0].p2, line.p2) << i;
+        const Pieces atEnd = broken(desk, line, inside, someStepsOff(dice, line.p2));
+        ASSERT_EQ(atEnd.size(), 1U) << i;
+        EXPECT_EQ(atEnd[0].p1, line.p1) << i;
+    }
+}
+
+TEST(Break, AtTheVeryEndOfAnArcLeavesNothingThere)
+{
+    fake::Slanted dice(14);
+    EditDesk desk;
+    for (int i = 0; i < 2000; ++i) {
+        const double reach = dice.anySize(50, 500000);
+        const auto radius = static_cast<float>(dice.anySize(reach / 50, reach)); // as stored
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        const double a1 = dice.between(0, 6.28);
+        const EntityRecord arc =
+            fake::arcOf(centre, radius, a1, std::fmod(a1 + dice.between(0.2, 3), fullTurn));
+        const Point inside = fake::pointOn(arc, 0.4);
+        const bool asStored = dice.chance(); // or as another object's end, beside it
+        const Point start = asStored ? arc.p2 : someStepsOff(dice, arc.p2);
+        const Point end = asStored ? arc.p3 : someStepsOff(dice, arc.p3);
+        for (const Pieces& made : {broken(desk, arc, start, inside), broken(desk, arc, inside, start)}) {
+            ASSERT_EQ(made.size(), 1U) << i;
+            EXPECT_EQ(made[0].p3, arc.p3) << i;
+        }
+        for (const Pieces& made : {broken(desk, arc, end, inside), broken(desk, arc, inside, end)}) {
+            ASSERT_EQ(made.size(), 1U) << i;
+            EXPECT_EQ(made[0].p2, arc.p2) << i;
+        }
+        EXPECT_EQ(broken(desk, arc, end, start).size(), 0U) << i << ": all of it is cut";
+    }
+}
+
+TEST(Break, InOneDirectionFromTheCentreLeavesACircleWhole)
+{
+    fake::Slanted dice(15);
+    EditDesk desk;
+    for (int i = 0; i < 1000; ++i) {
+        const double reach = dice.anySize(50, 500000);
+        const Point centre = dice.pointWithin({0, 0}, reach);
+        const auto radius = static_cast<float>(dice.between(reach / 50, reach)); // as stored
+        const double turn = i % 5 == 0 ? quarterTurn * dice.below(4) : dice.between(0, 6.28);
+        fake::emptyDrawing(desk);
+        desk.add(circleAt(centre, radius));
+        desk.begin("Break");
+        desk.click(polarPoint(centre, radius * 1.25, turn));
+        desk.click(polarPoint(centre, radius * 1.5, turn));
+        ASSERT_EQ(desk.s.store.entCount, 2) << i;
+        EXPECT_EQ(desk.stat(1), Stat::on) << i;
     }
 }
 
