@@ -22,7 +22,7 @@ class MirrorLine {
     {
     }
 
-    // A point on the line stays there; a line of no length leaves every point where it is.
+    // A point on the line stays there.
     Point of(Point p) const { return imageAbout(from_, p); }
 
     // The image of a direction, radians; NaN if there is none.
@@ -79,12 +79,23 @@ EntityRecord mirrored(Canvas& pic1, const MirrorLine& line, EntityRecord r)
     return r;
 }
 
+// As a second click on the first point does, which no construction line and no typed distance can be.
+void giveUp(Session& s, Canvas& pic1)
+{
+    turnSources(s, selectedSlots(s.store), Sources::comeOn);
+    s.editPending = 0;
+    returnToBase(s);
+    redrawAll(s, pic1);
+    setPrompt(s, pic1);
+}
+
 } // namespace
 
 void editMirror(Session& s, Canvas& pic1)
 {
     if (s.stepNo == 1) setPrompt(s, pic1);
     if (s.stepNo != 2) return;
+    if (s.pickFirst == s.pickLast) return giveUp(s, pic1);
     const MirrorLine line(s.pickFirst, s.pickLast);
     const auto rule = [&](EntityRecord r) { return mirrored(pic1, line, std::move(r)); };
     if (runOnSelection(s, Sources::comeOn, rule)) endRun(s, pic1);

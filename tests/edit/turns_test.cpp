@@ -77,16 +77,25 @@ TEST(Mirror, AtASlantExchangesTheAxes)
     expectNear(image.p2, {60, 40}, 1e-4, "p2");
 }
 
-TEST(Mirror, ByALineOfNoLengthIsTakenWithoutHarm)
+TEST(Mirror, ByALineOfNoLengthMakesNothingAndDropsTheSelection)
 {
     for (const Kind kind : everyKind) {
         EditDesk desk;
         desk.add(sample(kind));
+        const std::int32_t group = desk.s.log.undoGroupNext;
         desk.begin("Mirror Copy");
         desk.click(5, 5);
         desk.s.pickLast = {5, 5}; // as a construction line may lay it: a click there would be the cancel
+        desk.ops();
         desk.run(2);
-        EXPECT_EQ(desk.slot(2).p1, kind == Kind::text ? (Point{80, 50}) : sample(kind).p1) << numberOf(kind);
+        EXPECT_EQ(desk.s.store.entCount, 2) << numberOf(kind);
+        EXPECT_EQ(desk.stat(1), Stat::on) << numberOf(kind);
+        EXPECT_EQ(desk.s.log.undoGroupNext, group) << numberOf(kind);
+        EXPECT_EQ(desk.s.curFunc, "Object Select") << numberOf(kind);
+        EXPECT_EQ(desk.s.stepNo, 0) << numberOf(kind);
+        EXPECT_EQ(desk.s.editPending, 0) << numberOf(kind);
+        EXPECT_EQ(desk.s.promptText, "(Click near object:)") << numberOf(kind);
+        EXPECT_FALSE(fake::marks(desk.ops()).empty()) << numberOf(kind);
     }
 }
 
