@@ -2,6 +2,9 @@
 
 #include "geometry/angle.h"
 
+#include <cmath>
+#include <numbers>
+
 namespace mirtane {
 namespace {
 
@@ -13,6 +16,17 @@ double sweep(double a1, double a2)
 {
     const double s = a2 - a1;
     return s < 0 ? s + fullTurn : s;
+}
+
+double sweepSeen(double a1, double a2)
+{
+    constexpr double turn = 2 * std::numbers::pi;
+    constexpr double rounding = 1e-5; // of a turn in degrees, and of what was turned since
+    const double s = a2 - a1;
+    if (s >= 0 && s < turn) return s; // nearly all are, and the remainder is slow
+    if (s >= turn && s <= turn + rounding) return turn;
+    const double rest = std::fmod(s, turn);
+    return rest < 0 ? rest + turn : rest;
 }
 
 double middleAngle(double a1, double a2)

@@ -10,6 +10,10 @@ namespace mirtane {
 // The angle that the arc covers, 0 to a full turn.
 double sweep(double a1, double a2);
 
+// What is seen of an arc, 0 to a whole turn. One that is more than a turn by no more than the rounding of
+// angles that were sums of short literals is the whole turn, and not the little that is left of it.
+double sweepSeen(double a1, double a2);
+
 // The direction of the arc's middle, 0 to a full turn.
 double middleAngle(double a1, double a2);
 

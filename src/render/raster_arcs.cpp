@@ -3,6 +3,7 @@
 // counter-clockwise from the lower end of the right side. Of each side only the rows or columns of the image
 // are visited, so the greatest circle costs no more than the image's edges.
 
+#include "geometry/arc.h"
 #include "render/raster_dashes.h"
 
 #include <cmath>
@@ -15,8 +16,6 @@ namespace mirtane {
 namespace {
 
 constexpr double turn = 2 * std::numbers::pi;
-// A sweep no more than this above a full turn is one: full turns are sums of rounded angles.
-constexpr double nearlyNothing = 1e-6;
 // Pixels; beyond it coordinates of 32 bits say nothing about a place in the image.
 constexpr double farthestCentre = 1099511627776; // 2^40
 
@@ -185,9 +184,7 @@ void Raster::arc(double cx, double cy, double r, double a1, double a2, const Str
 {
     const std::optional<Ring> ring = ringOf(cx, cy, r);
     if (!ring || !std::isfinite(a1) || !std::isfinite(a2)) return;
-    double sweep = a2 - a1;
-    if (sweep < 0 || sweep > turn + nearlyNothing) sweep = std::fmod(sweep, turn);
-    if (sweep < 0) sweep += turn;
+    const double sweep = sweepSeen(a1, a2);
     const std::int64_t from = placeAt(*ring, a1);
     std::int64_t steps = placeAt(*ring, a2) - from;
     if (steps < 0) steps += ring->length();

@@ -23,6 +23,22 @@ TEST(Arc, SweepAndMiddlePassThroughAngleZero)
     }
 }
 
+TEST(Arc, AWholeTurnIsSeenAsOneWhateverItsAnglesWereAddedUpFrom)
+{
+    constexpr double turn = 6.283185307179586;
+    for (const double degrees : {0.0, 11.25, 90.0, 123.4, 270.0, 359.0}) {
+        const double a1 = degrees * 0.0174533, a2 = (degrees + 360) * 0.0174533;
+        EXPECT_DOUBLE_EQ(sweepSeen(a1, a2), turn) << degrees;
+        EXPECT_DOUBLE_EQ(sweepSeen(a1 + 0.7, a2 + 0.7), turn) << degrees;
+        const double a = degrees * 0.0174533;
+        EXPECT_NEAR(sweepSeen(a, a + 6.2831853), turn, 1e-7) << degrees;
+        EXPECT_NEAR(sweepSeen(a, a + 6.283), 6.283, 1e-7) << degrees;
+        EXPECT_NEAR(sweepSeen(a, a + 6.2842), 6.2842 - turn, 1e-7) << degrees;
+        EXPECT_NEAR(sweepSeen(a, a - 0.1), turn - 0.1, 1e-7) << degrees;
+        EXPECT_EQ(sweepSeen(a, a), 0) << degrees;
+    }
+}
+
 TEST(Arc, PointsThatLieOnAnAxisAreExact)
 {
     const ArcPoints points = arcPoints({7, 9}, 100, 4.712389, 1.5707963);

@@ -56,6 +56,18 @@ class Picture {
         return {found.x() * twips, found.y() * twips, found.width() * twips, found.height() * twips};
     }
 
+    // Where the row at y turns dark and light again, in twips.
+    std::vector<double> edgesAlong(double y) const
+    {
+        std::vector<double> edges;
+        const int row = static_cast<int>(y * pixelsPerTwip_);
+        for (int x = 1; x < image_.width(); ++x) {
+            const bool before = qGray(image_.pixel(x - 1, row)) < 160;
+            if ((qGray(image_.pixel(x, row)) < 160) != before) edges.push_back(x / pixelsPerTwip_);
+        }
+        return edges;
+    }
+
   private:
     QImage image_;
     double pixelsPerTwip_;
@@ -102,6 +114,98 @@ TEST(PagePicture, AnArcMayPassThroughAngleNought)
     EXPECT_NEAR(dark.right(), 7000, 15);
     EXPECT_NEAR(dark.top(), 7000, 15);
     EXPECT_NEAR(dark.bottom(), 9000, 15);
+}
+
+TEST(PagePicture, AnArcOfAWholeTurnOrNearlySoIsDrawn)
+{
+    for (const double start : {0.0, 0.7, 1.5707963, 4.4}) {
+        for (const double sweep : {6.2826, 6.283, 6.28318, 6.2831853, 2 * M_PI, 6.283188}) {
+            for (const double end : {start + sweep, start + sweep - 6.2831853}) {
+                if (end > start && end < start + 1) continue; // another arc
+                if (std::abs(end - start) < 1e-6) continue;
+                Picture picture(144);
+                picture.draw([&](Printer& p) {
+                    p.pen(0, 4);
+                    p.arc(6000, 8000, 1800, start, end);
+                });
+                const QRectF dark = picture.dark();
+                EXPECT_NEAR(dark.width(), 3600, 40) << start << " " << end;
+                EXPECT_NEAR(dark.height(), 3600, 40) << start << " " << end;
+            }
+        }
+    }
+}
+
+// The centre lies far off the page, where a sixteenth of a degree is a long way.
+TEST(PagePicture, AnArcBeginsAndEndsWhereItBelongs)
+{
+    constexpr double radius = 400000;
+    for (const double middle : {0.33, 1.234, 2.9, 4.1, 5.555}) {
+        for (const double half : {0.0002, 0.0004, 0.0031}) {
+            const double centreX = 6000 - radius * std::cos(middle);
+            const double centreY = 8000 + radius * std::sin(middle);
+            Picture picture(144);
+            picture.draw([&](Printer& p) {
+                p.pen(0, 4);
+                p.arc(centreX, centreY, radius, middle - half, middle + half);
+            });
+            const double wide = 2 * radius * half * std::abs(std::sin(middle));
+            const double high = 2 * radius * half * std::abs(std::cos(middle));
+            EXPECT_NEAR(picture.dark().width(), wide, 40) << middle << " " << half;
+            EXPECT_NEAR(picture.dark().height(), high, 40) << middle << " " << half;
+            EXPECT_NEAR(picture.dark().center().x(), 6000, 20) << middle << " " << half;
+            EXPECT_NEAR(picture.dark().center().y(), 8000, 20) << middle << " " << half;
+        }
+    }
+}
+
+TEST(PagePicture, WhatTheSurfaceDoesNotShowIsNotOnPaper)
+{
+    Picture picture(144);
+    picture.draw([](Printer& p) {
+        p.pen(0, 14);
+        for (const double radius : {-1.0, -350.0, -2600.5}) {
+            p.circle(6000, 8000, radius);
+            p.arc(4000, 5000, radius, 0.3, 2.9);
+            p.arc(4000, 5000, radius, 0, 6.2831853);
+        }
+        p.arc(6000, 8000, 1000, 1.1, 1.1);
+    });
+    EXPECT_TRUE(picture.dark().isEmpty());
+}
+
+// Lengths in pixels of the surface, of which 96 are an inch.
+struct DashRow {
+    std::int16_t style;
+    std::vector<int> runs;
+};
+
+// Where a level line is dark, in twips: from, to, from, to.
+std::vector<double> runsOfLine(std::int16_t style, int width)
+{
+    Picture picture(288);
+    picture.draw([&](Printer& p) {
+        p.pen(style, width);
+        p.line(1000, 2002.5, 2000, 2002.5);
+    });
+    return picture.edgesAlong(2002.5);
+}
+
+TEST(PagePicture, DashesAreAsLongInEveryPen)
+{
+    const DashRow rows[] = {{1, {18, 6}}, {2, {3, 3}}, {3, {9, 6, 3, 6}}, {4, {9, 3, 3, 3, 3, 3}},
+                            {0, {1000}},  {5, {1000}}};
+    for (const DashRow& row : rows) {
+        for (const int width : {1, 2, 4, 9, 14}) {
+            const std::vector<double> edges = runsOfLine(row.style, width);
+            double at = 1000;
+            for (std::size_t i = 0; at < 2000; ++i) {
+                ASSERT_LT(i, edges.size()) << row.style << " " << width;
+                EXPECT_NEAR(edges[i], at, 8) << row.style << " " << width << " " << i;
+                at += row.runs[i % row.runs.size()] * 15.0;
+            }
+        }
+    }
 }
 
 // The widest pen is 14 dots of 600 to the inch: 34 twips, one and a half pixels of a small picture.

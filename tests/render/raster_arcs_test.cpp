@@ -203,6 +203,15 @@ TEST(RasterArc, AFullTurnIsTheCircle)
     EXPECT_EQ(arced(70, 1.5707963, 1.5707963 + 6.2831853), ring);
 }
 
+// As degrees were turned into angles that are a little too large.
+TEST(RasterArc, AFullTurnInDegreesIsTheCircle)
+{
+    const Pixels ring = circled(200, 100, 100, 61.4);
+    for (const double degrees : {0.0, 33.3, 90.0, 215.0, 359.5}) {
+        EXPECT_EQ(arced(61.4, degrees * 0.0174533, (degrees + 360) * 0.0174533), ring) << degrees;
+    }
+}
+
 TEST(RasterArc, EqualAnglesAreOnePixel)
 {
     EXPECT_EQ(arced(70, 0, 0), (Pixels{{170, 100}}));

@@ -1,12 +1,15 @@
 #include "platform/qt/page_painter.h"
 
+#include "geometry/arc.h"
 #include "platform/posix/disk.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/whole.h"
+#include "render/raster_dashes.h"
 
 #include <QBuffer>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QPainterPath>
 #include <QPdfWriter>
 
 #include <algorithm>
@@ -19,14 +22,34 @@ constexpr double twipsPerInch = 1440;
 constexpr double twipsPerPoint = 20;
 constexpr int pdfDotsPerInch = 600;
 constexpr int pdfUnitsPerDot = 12;
-constexpr double degreesPerRadian = 57.29577951308232; // the toolkit's own degrees, not those of the drawing
-constexpr double sixteenthsPerDegree = 16;
 
-Qt::PenStyle penStyleOf(std::int16_t style)
+constexpr double twipsPerPixel = 15; // of a surface that has 96 to the inch
+
+// The runs of a dash pattern in widths of the pen; none for a solid line.
+QList<qreal> dashesOf(std::int16_t style, double widthsPerPixel)
 {
-    constexpr Qt::PenStyle styles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
-                                       Qt::DashDotDotLine};
-    return style >= 0 && style < std::ssize(styles) ? styles[style] : Qt::SolidLine;
+    QList<qreal> lengths;
+    if (style < 1 || style > std::ssize(dashPatterns)) return lengths;
+    const DashPattern& pattern = dashPatterns[static_cast<std::size_t>(style) - 1]; // as tested above
+    for (std::size_t i = 0; i < pattern.count; ++i) lengths.append(pattern.runs[i] * widthsPerPixel);
+    return lengths;
+}
+
+// In curves of an eighth of a turn at the most, which keep to the radius within a few millionths. All ends
+// lie where they belong: the toolkit's own arcs begin and end at sixteenths of a degree.
+QPainterPath arcPath(QPointF centre, double r, double from, double covered)
+{
+    const double pieces = std::max(std::ceil(covered / (M_PI / 4)), 1.0);
+    const double step = covered / pieces;
+    const double reach = 4.0 / 3 * std::tan(step / 4) * r;
+    const auto at = [=](double a) { return centre + r * QPointF(std::cos(a), -std::sin(a)); };
+    const auto along = [=](double a) { return reach * QPointF(-std::sin(a), -std::cos(a)); };
+    QPainterPath path(at(from));
+    for (int i = 0; i < pieces; ++i) {
+        const double a = from + i * step, b = a + step;
+        path.cubicTo(at(a) + along(a), at(b) - along(b), at(b));
+    }
+    return path;
 }
 
 float twips(double points)
@@ -38,12 +61,6 @@ float twips(double points)
 QSize wholeOf(const QPageSize& paper, QPageLayout::Orientation way)
 {
     return QPageLayout(paper, way, {}).fullRectPoints().size();
-}
-
-int sixteenths(double radians)
-{
-    constexpr int turns = 2 * 360 * 16; // more than any remainder of a turn
-    return wholeWithin(radians * degreesPerRadian * sixteenthsPerDegree, -turns, turns);
 }
 
 } // namespace
@@ -78,7 +95,11 @@ void PagePainter::text(double x, double y, std::string_view utf8)
 void PagePainter::pen(std::int16_t style, int width)
 {
     const double units = std::max(width * unitsPerDot_, leastWidth());
-    painter_.setPen(QPen(Qt::black, units, penStyleOf(style), Qt::FlatCap, Qt::RoundJoin));
+    QPen pen(Qt::black, units, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    // Dashes that grew with the pen would be too fine to be seen in the thin ones.
+    const QList<qreal> dashes = dashesOf(style, twipsPerPixel * unitsPerTwip_ / units);
+    if (!dashes.isEmpty()) pen.setDashPattern(dashes);
+    painter_.setPen(pen);
 }
 
 void PagePainter::line(double x1, double y1, double x2, double y2)
@@ -88,18 +109,16 @@ void PagePainter::line(double x1, double y1, double x2, double y2)
 
 void PagePainter::circle(double x, double y, double r)
 {
+    if (!(r >= 0)) return; // as little as on the surface
     painter_.drawEllipse(at(x, y), r * unitsPerTwip_, r * unitsPerTwip_);
 }
 
 void PagePainter::arc(double x, double y, double r, double a1, double a2)
 {
-    constexpr int fullTurn = 360 * 16;
-    const double d = r * unitsPerTwip_;
-    if (!std::isfinite(a1) || !std::isfinite(a2)) return;
-    int span = sixteenths(std::remainder(a2 - a1, 2 * M_PI));
-    if (span < 0) span += fullTurn;
-    const int start = sixteenths(std::remainder(a1, 2 * M_PI));
-    painter_.drawArc(QRectF(at(x, y) - QPointF(d, d), QSizeF(2 * d, 2 * d)), start, span);
+    const double radius = r * unitsPerTwip_;
+    const double covered = sweepSeen(a1, a2);
+    if (!(radius > 0 && covered > 0) || !std::isfinite(radius) || !std::isfinite(covered)) return;
+    painter_.drawPath(arcPath(at(x, y), radius, a1, covered));
 }
 
 // A square of the pen's width: a point drawn with a flat pen leaves no mark in a file.
