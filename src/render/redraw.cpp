@@ -9,7 +9,9 @@
 #include "tables/functions.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
+#include <span>
 
 namespace mirtane {
 namespace {
@@ -36,9 +38,50 @@ bool roundInView(const Slot& slot)
 bool ellipseInView(const Slot& slot)
 {
     const Point centre = slot.store.p2[slot.at];
+    const double longer = std::max(1.0, std::abs(double{slot.store.p3[slot.at].x}));
     float r = 0;
-    keep(r, distance(slot.store.p1[slot.at], centre));
+    keep(r, distance(slot.store.p1[slot.at], centre) * longer);
     return circleInView(slot.view, centre, r);
+}
+
+// Whether not all of the points lie beyond one side.
+bool anyInView(const View& view, std::span<const Point> points)
+{
+    const auto all = [points](auto beyond) { return std::ranges::all_of(points, beyond); };
+    return !all([&view](Point p) { return p.x < view.viewLeft; }) &&
+           !all([&view](Point p) { return p.x > view.viewRight; }) &&
+           !all([&view](Point p) { return p.y < view.viewTop; }) &&
+           !all([&view](Point p) { return p.y > view.viewBottom; });
+}
+
+// Of a line of text that is no wider than that.
+bool cellInView(const View& view, const Lettering& text, double width)
+{
+    constexpr double heightOfCell = 4.0 / 3; // sizes
+    const double angle = text.degrees * radiansPerDegree;
+    const auto corner = [&](double along, double below) {
+        Point p = text.at;
+        keep(p.x, p.x + along * std::cos(angle) + below * std::sin(angle));
+        keep(p.y, p.y - along * std::sin(angle) + below * std::cos(angle));
+        return p;
+    };
+    if (!std::isfinite(text.at.x) || !std::isfinite(text.at.y)) return false;
+    const double height = heightOfCell * text.size;
+    const Point corners[] = {text.at, corner(width, 0), corner(0, height), corner(width, height)};
+    return anyInView(view, corners);
+}
+
+// The radius is a fifth more than the line is wide, and knows nothing of how high it is. A short line, turned
+// and justified as it may be, reaches as far as its cell is across.
+bool textInView(const Slot& slot)
+{
+    constexpr double radiusOfWidth = 1.2;
+    constexpr double heightOfCell = 4.0 / 3; // sizes
+    const EntityStore& e = slot.store;
+    const float radius = e.rad[slot.at];
+    float across = 0;
+    keep(across, std::hypot(radius / radiusOfWidth, heightOfCell * e.p2[slot.at].x));
+    return circleInView(slot.view, e.p1[slot.at], std::max(radius, across));
 }
 
 bool alwaysInView(const Slot&)
@@ -90,18 +133,43 @@ void drawPointSlot(const Slot& slot)
     slot.pic1.point(p.x, p.y);
 }
 
-// Whether not all of a linear dimension lies beyond one side; its arrows may reach a little further.
+// Finds out whether a stroke may show.
+class StrokesInView final : public StrokeSink {
+  public:
+    explicit StrokesInView(const View& view) : view_(view) {}
+
+    void line(Point a, Point b) override { any = any || pieceInView(view_, a, b); }
+    void arc(Point, Point, float, double, double) override { any = true; }
+
+    bool any = false;
+
+  private:
+    const View& view_;
+};
+
+bool strokesInView(const Slot& slot)
+{
+    StrokesInView strokes(slot.view);
+    dimensionStrokes(shapeAt(slot.store, slot.at), strokes);
+    return strokes.any;
+}
+
+// Of the figures it is known only how many there are.
+bool figuresInView(const Slot& slot)
+{
+    constexpr double wideLetter = 0.9; // sizes, as capitals are
+    const Lettering figures = dimLetteringAt(slot.store, slot.at);
+    const double letters = static_cast<double>(figures.words.size()); // as many as bytes at the most
+    return cellInView(slot.view, figures, letters * wideLetter * figures.size);
+}
+
+// What hangs out beyond a linear dimension's five points is looked at only where these are out of view.
 bool dimensionInView(const Slot& slot)
 {
     const EntityStore& e = slot.store;
     const std::size_t i = slot.at;
     const Point points[] = {e.p1[i], e.p2[i], e.p3[i], e.p4[i], e.p5[i]};
-    const View& view = slot.view;
-    const auto all = [&points](auto beyond) { return std::ranges::all_of(points, beyond); };
-    return !all([&view](Point p) { return p.x < view.viewLeft; }) &&
-           !all([&view](Point p) { return p.x > view.viewRight; }) &&
-           !all([&view](Point p) { return p.y < view.viewTop; }) &&
-           !all([&view](Point p) { return p.y > view.viewBottom; });
+    return anyInView(slot.view, points) || figuresInView(slot) || strokesInView(slot);
 }
 
 void drawTextSlot(const Slot& slot)
@@ -132,7 +200,7 @@ constexpr KindRow kindRows[] = {
     {roundInView, drawArcSlot, true, white},
     {ellipseInView, drawEllipseSlot, true, selectedEllipse},
     {alwaysInView, drawPointSlot, true, white},
-    {roundInView, drawTextSlot, false, white},
+    {textInView, drawTextSlot, false, white},
     {dimensionInView, drawDimensionSlot, false, white},
     {alwaysInView, drawDimensionSlot, false, white},
     {alwaysInView, drawDimensionSlot, false, white},

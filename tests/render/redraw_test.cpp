@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace mirtane {
@@ -138,6 +139,78 @@ TEST_F(Redraw, CullsAnEllipseByItsFirstAxisAboutItsCentre)
     s.store.entCount = 1;
     add(Kind::ellipse, {-20, 100}, {-60, 100}); // radius 40 about (-60, 100): it ends at -20
     EXPECT_TRUE(fake::marks(painted()).empty());
+}
+
+// Its first axis is out of view, and the tip of the second in the middle of it.
+TEST_F(Redraw, PaintsAnEllipseWhoseLongerSecondAxisReachesIntoTheView)
+{
+    for (int degrees = 0; degrees < 360; degrees += 23) {
+        for (const float ratio : {-31.0F, 7.5F, 29.0F, 400.0F}) {
+            const double angle = degrees * 0.0174532925;
+            const double x = 20 * std::cos(angle), y = -20 * std::sin(angle);
+            const Point centre{500 + static_cast<float>(ratio * y), 400 - static_cast<float>(ratio * x)};
+            const Point end{centre.x + static_cast<float>(x), centre.y + static_cast<float>(y)};
+            s.store.entCount = 1;
+            DrawingDesk::add(fake::ellipse(end, centre, ratio));
+            look({480, 384, 40, 32});
+            EXPECT_FALSE(fake::marks(painted()).empty()) << degrees << " " << ratio;
+        }
+    }
+}
+
+// A text of that width and size, turned about its upper corner, and the view round one point of its cell.
+struct CellRow {
+    const char* what;
+    std::string words;
+    float size, width, along, below;
+    bool painted;
+};
+
+TEST_F(Redraw, PaintsATextAsFarAsItsCellReaches)
+{
+    const CellRow rows[] = {
+        {"the foot of a letter", "I", 48, 22, 11, 61, true},
+        {"the last letter", "Kitchen", 24, 140, 138, 16, true},
+        {"below the line", "Kitchen", 24, 140, 70, 260, false},
+        {"far behind the line", "Kitchen", 24, 140, 260, 16, false},
+    };
+    for (const CellRow& row : rows) {
+        for (int degrees = 0; degrees < 360; degrees += 19) {
+            const double angle = degrees * 0.0174532925;
+            const double x = row.along * std::cos(angle) + row.below * std::sin(angle);
+            const double y = -row.along * std::sin(angle) + row.below * std::cos(angle);
+            EntityRecord r = fake::text({9000.5F, -700.25F}, row.words, row.size);
+            r.rad = 1.2F * row.width;
+            r.a1 = degrees;
+            s.store.entCount = 1;
+            DrawingDesk::add(r);
+            look({9000.5F + static_cast<float>(x) - 1, -700.25F + static_cast<float>(y) - 1, 2, 1.6F});
+            EXPECT_EQ(!fake::only(painted(), "text").empty(), row.painted) << row.what << " " << degrees;
+        }
+    }
+}
+
+TEST_F(Redraw, PaintsADimensionAsFarAsItsFiguresAndArrowsReach)
+{
+    EntityRecord r = fake::record(Kind::linearDimension, {100, 500}, {130, 500}, {100, 400}, {130, 400});
+    r.p5 = {140, 380};
+    r = fake::dimension(r, "2'-6 1/2\"", 2, 20);
+    struct Row {
+        const char* what;
+        Scale view;
+        bool painted;
+    };
+    const Row rows[] = {
+        {"the last figures", {200, 385, 10, 8}, true}, {"the foot of the figures", {145, 402, 5, 4}, true},
+        {"the arrow outside", {66, 398, 5, 4}, true},  {"beside all of it", {20, 398, 5, 4}, false},
+        {"below all of it", {110, 520, 5, 4}, false},  {"far behind the figures", {700, 385, 10, 8}, false},
+    };
+    DrawingDesk::add(r);
+    for (const Row& row : rows) {
+        look(row.view);
+        const bool anything = fake::only(painted(), "text").size() + fake::only(painted(), "line").size() > 0;
+        EXPECT_EQ(anything, row.painted) << row.what;
+    }
 }
 
 TEST_F(Redraw, GoesStraightToTheSurfaceAfterZoomAllForLinesAndCirclesAlone)
