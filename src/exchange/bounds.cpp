@@ -15,7 +15,7 @@ void feedRound(Bounds& bounds, Vec centre, double radius)
 // By its ends and its middle: the centre of a flat arc lies far off.
 void feedArc(Bounds& bounds, const Made& made)
 {
-    for (const double angle : {made.from, (made.from + made.to) / 2, made.to})
+    for (const double angle : {made.from, made.from + turnOf(made) / 2, made.to})
         bounds.feed(made.p[0] + made.radius * wayAt(angle));
 }
 

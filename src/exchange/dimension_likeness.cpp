@@ -44,7 +44,7 @@ std::vector<Stroke> strokesOf(std::span<const Made> picture, Vec near)
         if (one.kind != Kind::arc) continue;
         const Vec centre = one.p[0] - near;
         strokes.push_back({centre + one.radius * wayAt(one.from), centre + one.radius * wayAt(one.to), centre,
-                           one.radius, one.to - one.from});
+                           one.radius, turnOf(one)});
     }
     return strokes;
 }

@@ -182,13 +182,11 @@ void DrawingMaker::arc(const EllipseArc& arc)
     add({.kind = Kind::ellipse, .p = {arc.centre + axes.major, arc.centre}, .ratio = axes.ratio});
 }
 
-// The ends of an arc with so small a part of a turn could not be told from its centre in 32 bits.
 void DrawingMaker::circular(const EllipseArc& arc)
 {
-    constexpr double leastTurn = 0.001;
     const double radius = length(arc.u);
     if (arc.isWhole()) return add({.kind = Kind::circle, .p = {arc.centre}, .radius = radius});
-    if (arc.to - arc.from < leastTurn) return line(arc.at(arc.from), arc.at(arc.to));
+    if (arc.to - arc.from < leastTurnOfArc) return line(arc.at(arc.from), arc.at(arc.to));
     const double start = directionOf(arc.u);
     const bool mirrored = cross(arc.u, arc.v) < 0;
     const double from = mirrored ? start - arc.to : start + arc.from;
@@ -374,13 +372,12 @@ void DrawingMaker::drawLines(std::span<const PatternLine> lines)
     }
 }
 
-// Layers that every file has to have, whatever is drawn on them.
 void DrawingMaker::leaveOutUnusedLayers()
 {
     std::vector<bool> stays(made_.layers.size());
     for (std::size_t i = 0; i < stays.size(); ++i) {
         const MadeLayer& layer = made_.layers[i];
-        stays[i] = layer.isOwn || (layer.name != "0" && !isSameName(layer.name, "DEFPOINTS"));
+        stays[i] = layer.isOwn || !isLayerOfEveryFile(layer.name);
     }
     for (const Made& one : made_.objects) stays[static_cast<std::size_t>(one.look.layer)] = true; // a row
     const bool allGo = std::ranges::none_of(stays, std::identity());

@@ -3,6 +3,7 @@
 #include "exchange/entities_out.h"
 #include "exchange/pictures_out.h"
 #include "exchange/tables_out.h"
+#include "exchange/words_out.h"
 
 #include <algorithm>
 
@@ -49,8 +50,9 @@ void writeWords(PairsOut& out, const FilePlan& plan, const DrawingOut& drawing)
     const Attributes& now = drawing.attributes;
     const std::string_view face = plan.faces().at(now.textFont).name;
     const Variable<std::string_view> variables[] = {
-        {"$ACADVER", 1, "AC1015"},  {"$DWGCODEPAGE", 3, "ANSI_1252"}, {"$CLAYER", 8, plan.workLayer()},
-        {"$CELTYPE", 6, "ByLayer"}, {"$TEXTSTYLE", 7, face},          {"$DIMSTYLE", 2, "Standard"},
+        {"$ACADVER", 1, writtenRelease},  {"$DWGCODEPAGE", 3, writtenCodePage},
+        {"$CLAYER", 8, plan.workLayer()}, {"$CELTYPE", 6, "ByLayer"},
+        {"$TEXTSTYLE", 7, face},          {"$DIMSTYLE", 2, "Standard"},
     };
     for (const auto& [name, code, value] : variables) {
         out.text(9, name);

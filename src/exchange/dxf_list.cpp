@@ -103,6 +103,7 @@ void Lister::takeRow(DxfRecord&& record)
 {
     const std::string_view name = record.name(2);
     if (const auto handle = record.name(5); !handle.empty()) list_.namesByHandle.emplace(handle, name);
+    if (isType(record, "APPID") && name == applicationName) list_.hasOurApplication = true;
     if (isType(record, "LAYER") && !name.empty()) list_.layers.push_back(std::move(record));
     if (isType(record, "LTYPE")) list_.lineTypes.emplace(name, std::move(record));
     if (isType(record, "STYLE")) list_.styles.emplace(name, std::move(record));

@@ -16,6 +16,9 @@
 
 namespace mirtane {
 
+// The name under which the program keeps data in files.
+inline constexpr std::string_view applicationName = "MIRTANE";
+
 // One record: its type as the file has it ("LWPOLYLINE") and its groups, and for a POLYLINE its VERTEX
 // records, for an INSERT its ATTRIB records. Where a code stands more than once, number(), point() and so on
 // take the first.
@@ -64,6 +67,8 @@ struct DxfList {
     std::string_view cutOff; // type of the record that it broke off in, which is not in the list
     // Written by our own Save DXF, which has numbers for the colours, heights and points of texts of its own.
     bool isOurs = false;
+
+    bool hasOurApplication = false; // what we write for others is in it, or was put into it
 
     TextCoding coding;
 

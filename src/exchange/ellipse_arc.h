@@ -32,6 +32,9 @@ EllipseArc wholeCircle(Vec centre, double radius);
 // counter-clockwise.
 EllipseArc arcOfBulge(Vec a, Vec b, double bulge);
 
+// The ends of an arc with a smaller part of a turn could not be told from its centre in 32 bits.
+inline constexpr double leastTurnOfArc = 0.001;
+
 // The same whole curve by its longer half axis and the one across it, which is turned left of it.
 struct PrincipalAxes {
     Vec major;

@@ -1,5 +1,6 @@
 #include "exchange/entities_out.h"
 
+#include "exchange/ellipse_arc.h"
 #include "exchange/made_of.h"
 #include "exchange/pens_out.h"
 #include "exchange/words_out.h"
@@ -39,6 +40,14 @@ constexpr DimensionKind dimensionKinds(Kind kind)
 double degreesBetween(Vec a, Vec b)
 {
     return a == b ? 0 : directionOf(b - a) / exactRadiansPerDegree;
+}
+
+// Whether a reader of the record has the arc again, to the bit. There are angles that no number of degrees
+// comes to, and of little of a turn a reader makes a line.
+bool comesBackByItself(const Made& arc)
+{
+    const auto isExact = [](double angle) { return degreesOf(angle) * exactRadiansPerDegree == angle; };
+    return isExact(arc.from) && isExact(arc.to) && turnOf(arc) > 2 * leastTurnOfArc;
 }
 
 } // namespace
@@ -92,6 +101,12 @@ void EntitiesOut::kept(int code, Vec p)
     kept_.push_back({code + step, p.y});
 }
 
+void EntitiesOut::keptDegrees(int code, double radians)
+{
+    out_.degrees(code, radians);
+    kept_.push_back({code, degreesOf(radians)});
+}
+
 void EntitiesOut::write(std::int32_t slot)
 {
     const EntityRecord r = drawing_.store.record(slot);
@@ -106,11 +121,7 @@ void EntitiesOut::write(std::int32_t slot)
         begin("CIRCLE", r);
         return round(made);
     case Kind::arc:
-        begin("ARC", r);
-        round(made);
-        out_.text(100, "AcDbArc");
-        out_.degrees(50, made.from);
-        return out_.degrees(51, made.to);
+        return arc(r, made);
     case Kind::ellipse:
         begin("ELLIPSE", r);
         return ellipse(made);
@@ -134,8 +145,22 @@ void EntitiesOut::write(std::int32_t slot)
 void EntitiesOut::round(const Made& made)
 {
     out_.text(100, "AcDbCircle");
-    out_.point(10, made.p[0]);
-    out_.number(40, made.radius);
+    kept(10, made.p[0]);
+    kept(40, made.radius);
+}
+
+// One that comes to a whole turn but for rounding is a circle to the eye. To a reader its ends would be one.
+void EntitiesOut::arc(const EntityRecord& r, const Made& made)
+{
+    constexpr double nearlyWhole = wholeTurn - 1e-9;
+    const bool isWhole = sweepSeen(r.a1, r.a2) >= nearlyWhole;
+    begin(isWhole ? "CIRCLE" : "ARC", r);
+    round(made);
+    if (isWhole) return;
+    out_.text(100, "AcDbArc");
+    keptDegrees(50, made.from);
+    keptDegrees(51, made.to);
+    if (!comesBackByItself(made)) writeOwnData(out_, made, kept_);
 }
 
 // The first axis of the format is the longer one, and its ratio has a least value; what is flatter is a line

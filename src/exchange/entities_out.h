@@ -10,9 +10,6 @@
 
 namespace mirtane {
 
-// The height of capitals, of a text's size.
-inline constexpr double capitals = 2.0 / 3;
-
 // Where a line of text stands: at the left end of its base line.
 Vec baselineOf(const Lettering& text, Vec corner);
 
@@ -30,7 +27,9 @@ class EntitiesOut {
     void look(const EntityRecord& r);
     void kept(int code, double value);
     void kept(int code, Vec p);
+    void keptDegrees(int code, double radians);
     void round(const Made& made);
+    void arc(const EntityRecord& r, const Made& made);
     void ellipse(const Made& made);
     void text(const EntityRecord& r, const Made& made);
     void dimension(std::int32_t slot, const EntityRecord& r, const Made& made);

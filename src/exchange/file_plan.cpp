@@ -1,6 +1,7 @@
 #include "exchange/file_plan.h"
 
 #include "exchange/pens_out.h"
+#include "geometry/arc.h"
 #include "render/dimension_strokes.h"
 #include "tables/kinds.h"
 
@@ -37,6 +38,7 @@ bool valuesAreFinite(const EntityRecord& r, std::uint16_t mask)
 
 bool hasSize(const EntityRecord& r)
 {
+    if (r.kind == Kind::arc) return r.rad > 0 && hasSweep(r.a1, r.a2);
     if (isRound(r.kind)) return r.rad > 0;
     if (r.kind == Kind::ellipse) return r.p1 != r.p2 && r.p3.x != 0;
     if (r.kind == Kind::text) return r.p2.x > 0 && !r.t1.empty();
@@ -63,6 +65,12 @@ bool canBeWritten(const EntityRecord& r)
 {
     const KindRow* const row = kindRow(r.kind);
     return row != nullptr && pointsAreFinite(r, row->mapped) && valuesAreFinite(r, row->values) && hasSize(r);
+}
+
+bool hasSweep(double a1, double a2)
+{
+    constexpr double leastSweep = 1e-10;
+    return sweepSeen(a1, a2) >= leastSweep;
 }
 
 std::optional<ArrowLook> arrowLookOf(const EntityRecord& r)

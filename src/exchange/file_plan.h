@@ -129,6 +129,9 @@ class FilePlan {
     DxfHandle next_ = fixed::firstFree;
 };
 
+// Whether an arc covers anything: to other programs equal ends are a whole circle.
+bool hasSweep(double a1, double a2);
+
 // Whether an object leaves a mark that a file can hold: all its numbers are finite, and it has a size.
 bool canBeWritten(const EntityRecord& r);
 

@@ -117,6 +117,18 @@ double toleranceOf(double worldPerFile)
     return hundredth / worldPerFile;
 }
 
+// Whether it is a drawing of ours, whatever others did to a few of its objects. It lies where it was drawn,
+// and no move would give it digits that it never had.
+bool isOfOurPlaces(const DxfList& list, const FullReading& reading)
+{
+    const double worldPerFile = reading.placing.worldPerFile;
+    if (!list.hasOurApplication || worldPerFile != worldPerInch) return false;
+    const auto& objects = reading.drawing.objects;
+    const auto held = std::ranges::count_if(
+        objects, [worldPerFile](const Made& one) { return isHeldAsItStands(one, worldPerFile); });
+    return 2 * held > std::ssize(objects);
+}
+
 void takeLayers(LayerTable& table, const MadeDrawing& drawing)
 {
     table.layerCount = 0;
@@ -169,7 +181,8 @@ FullReading readInFull(std::string_view bytes, UnitsIfNone unitsIfNone)
     DrawingMaker maker(list, toleranceOf(reading.placing.worldPerFile), handlerOf);
     drawEntities(list, maker);
     reading.drawing = maker.finish();
-    reading.placing.move = moveToOrigin(boundsOf(reading.drawing.objects), reading.placing.worldPerFile);
+    if (!isOfOurPlaces(list, reading))
+        reading.placing.move = moveToOrigin(boundsOf(reading.drawing.objects), reading.placing.worldPerFile);
     return reading;
 }
 

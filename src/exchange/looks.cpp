@@ -29,6 +29,11 @@ std::int32_t penOfOurs(int number)
 
 } // namespace
 
+bool isLayerOfEveryFile(std::string_view name)
+{
+    return name == commonLayer || isSameName(name, "DEFPOINTS");
+}
+
 Looks::Looks(const DxfList& list) : list_(list)
 {
     for (const DxfRecord& layer : list.layers) addRow(layer);

@@ -19,6 +19,9 @@ struct Inherited {
     bool hidesAll = false; // as its layer is frozen
 };
 
+// Layers that every file has to have, whatever is drawn on them.
+bool isLayerOfEveryFile(std::string_view name);
+
 class Looks {
   public:
     explicit Looks(const DxfList& list);

@@ -7,11 +7,15 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <numbers>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace mirtane {
+
+// The height of capitals of ours, of a text's size.
+inline constexpr double capitals = 2.0 / 3;
 
 struct MadeText {
     std::string words;              // UTF-8, one line, no codes left in it
@@ -37,6 +41,12 @@ struct Made {
     MadeText text{};
     Look look{};
 };
+
+// What an arc covers, whose end may be the smaller angle where it passes through 0.
+inline double turnOf(const Made& arc)
+{
+    return arc.to < arc.from ? arc.to - arc.from + 2 * std::numbers::pi : arc.to - arc.from;
+}
 
 struct MadeLayer {
     std::string name; // UTF-8

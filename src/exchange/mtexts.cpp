@@ -2,6 +2,7 @@
 
 #include "exchange/curve_records.h"
 #include "exchange/group_run.h"
+#include "exchange/own_data.h"
 #include "exchange/paragraphs_drawn.h"
 
 #include <algorithm>
@@ -71,7 +72,12 @@ void takeParagraphs(const DxfRecord& record, DrawingMaker& maker)
     form.exactSpacing = own.whole(73, 1) == 2;
     form.widthFactor = widthFactorOf(own.name(7), maker.list());
     form.columns = columnsIn(parts.from);
-    drawParagraphs(wordsOf(own, maker.list()), form, placeOf(own), maker);
+    ParagraphPlace place = placeOf(own);
+    if (isOfOwnText(record, maker.list())) {
+        form.height /= capitals;
+        place.at = place.at + (1 - capitals) * form.height * place.up; // from the top of the capitals
+    }
+    drawParagraphs(wordsOf(own, maker.list()), form, place, maker);
 }
 
 } // namespace mirtane

@@ -14,9 +14,6 @@
 
 namespace mirtane {
 
-// The name under which the program keeps data in files.
-inline constexpr std::string_view applicationName = "MIRTANE";
-
 // A group that a record was written with.
 struct KeptGroup {
     int code;
@@ -39,6 +36,10 @@ void writeOwnPart(PairsOut& out, const KeptGroups& kept);
 void writeOwnLayer(PairsOut& out, const std::string& name, const std::string& written);
 // The first of the two, if the second is still there.
 std::optional<std::string> ownLayerName(const DxfRecord& record, const DxfList& list);
+
+// Whether a record of words was written for a text of ours, which others may have changed since: its height
+// is that of the capitals.
+bool isOfOwnText(const DxfRecord& record, const DxfList& list);
 
 // The object that the first of the records is, if it is one of ours and unchanged: all but its look; and how
 // many of the records it takes.

@@ -180,6 +180,11 @@ std::optional<std::string> ownLayerName(const DxfRecord& record, const DxfList& 
     return name;
 }
 
+bool isOfOwnText(const DxfRecord& record, const DxfList& list)
+{
+    return DataReader(record, list).good();
+}
+
 std::optional<OwnObject> ownObject(std::span<const DxfRecord> records, const DxfList& list)
 {
     const DxfRecord& record = records.front();
@@ -192,7 +197,7 @@ std::optional<OwnObject> ownObject(std::span<const DxfRecord> records, const Dxf
     keep(number, *kind);
     made.kind = static_cast<Kind>(number); // any number is a kind, though none that is drawn
     if (!isFormed(record, made, list)) return std::nullopt;
-    if (made.kind == Kind::ellipse) return OwnObject{made};
+    if (made.kind == Kind::ellipse || made.kind == Kind::arc) return OwnObject{made};
     if (made.kind == Kind::leader && !isAnnotated(made)) return OwnObject{made};
     if (made.kind == Kind::leader) {
         if (records.size() < 2 || !isPart(records[1], made, list)) return std::nullopt;

@@ -67,26 +67,17 @@ void PairsOut::number(int group, double value, int digits)
     lines_ += lineEnd;
 }
 
-namespace {
-
-// Of the numbers around the quotient the one that a reader's product brings back to the same angle.
+// Of the numbers around the quotient, if it is not the nearest one itself.
 double degreesOf(double radians)
 {
-    const double nearest = radians / exactRadiansPerDegree;
+    constexpr double beyondTurns = 2 * std::numbers::pi * 1000; // an angle of a drawing has one at the most
+    const double angle = std::fmod(radians, beyondTurns);
+    const double nearest = angle / exactRadiansPerDegree;
     for (const double beside : {-1e9, 1e9}) {
         const double other = std::nextafter(nearest, beside);
-        if (nearest * exactRadiansPerDegree != radians && other * exactRadiansPerDegree == radians)
-            return other;
+        if (nearest * exactRadiansPerDegree != angle && other * exactRadiansPerDegree == angle) return other;
     }
     return nearest;
-}
-
-} // namespace
-
-void PairsOut::degrees(int code, double radians)
-{
-    constexpr double beyondTurns = 2 * std::numbers::pi * 1000; // an angle of a drawing has one at the most
-    exact(code, degreesOf(std::fmod(radians, beyondTurns)));
 }
 
 void PairsOut::point(int code, Vec p)

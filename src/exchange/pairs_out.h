@@ -14,6 +14,9 @@ namespace mirtane {
 double toInches(double world);
 Vec toInches(Point world);
 
+// As a file has an angle: the number that a reader's product brings back to it, if there is one.
+double degreesOf(double radians);
+
 // What one object of a file is called by another. 0 is none.
 using DxfHandle = std::uint32_t;
 
@@ -26,7 +29,7 @@ class PairsOut {
     // Both leave out no digit that a float has. The second keeps all that a double has.
     void number(int code, double value) { number(code, value, singleDigits); }
     void exact(int code, double value) { number(code, value, doubleDigits); }
-    void degrees(int code, double radians);
+    void degrees(int code, double radians) { exact(code, degreesOf(radians)); }
     void point(int code, Vec p); // code, code + 10, and code + 20 with 0
 
     std::string take() { return std::move(lines_); }

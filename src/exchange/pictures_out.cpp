@@ -25,7 +25,7 @@ class BlockStrokes final : public StrokeSink {
 
     void arc(Point centre, Point, float r, double a1, double a2) override
     {
-        if (!(r > 0)) return;
+        if (!(r > 0) || !hasSweep(a1, a2)) return;
         begin("ARC");
         out_.text(100, "AcDbCircle");
         out_.point(10, toInches(centre));

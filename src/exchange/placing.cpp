@@ -100,6 +100,21 @@ Vec moveToOrigin(const Bounds& bounds, double worldPerFile)
     return {};
 }
 
+bool isHeldAsItStands(const Made& made, double worldPerFile)
+{
+    constexpr double lastDigit = 1e-9; // of the ten that we write
+    const auto isHeld = [worldPerFile](double coordinate) {
+        float held = 0;
+        keep(held, coordinate * worldPerFile);
+        return std::abs(held - coordinate * worldPerFile) <= lastDigit * std::abs(held);
+    };
+    const KindRow* const row = kindRow(made.kind);
+    for (std::size_t i = 0; row != nullptr && i < made.p.size(); ++i) {
+        if ((row->mapped >> i & 1) != 0 && !(isHeld(made.p[i].x) && isHeld(made.p[i].y))) return false;
+    }
+    return true;
+}
+
 EntityRecord recordOf(const Made& made, const Placing& placing)
 {
     EntityRecord r;

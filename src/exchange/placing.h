@@ -15,6 +15,9 @@ struct Placing {
 // drawing: nothing where they do so as it is, or would not near the origin either.
 Vec moveToOrigin(const Bounds& bounds, double worldPerFile);
 
+// Whether 32 bits hold all its places as the file says them.
+bool isHeldAsItStands(const Made& made, double worldPerFile);
+
 // The one place where what a file gave is turned, scaled and narrowed. The width of a text is left to who can
 // measure it.
 EntityRecord recordOf(const Made& made, const Placing& placing);

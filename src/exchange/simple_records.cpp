@@ -1,8 +1,23 @@
 #include "exchange/simple_records.h"
 
-#include <numbers>
+#include <algorithm>
+#include <cmath>
 
 namespace mirtane {
+namespace {
+
+bool isUnturned(const Transform2& plane)
+{
+    return plane.x == Vec{1, 0} && plane.y == Vec{0, 1};
+}
+
+bool isInOneTurn(double from, double to)
+{
+    return from >= 0 && to >= 0 && std::max(from, to) < wholeTurn;
+}
+
+} // namespace
+
 void takeLine(const DxfRecord& record, DrawingMaker& maker)
 {
     maker.line(maker.flat(record.point(10)), maker.flat(record.point(11)));
@@ -20,14 +35,23 @@ void takeCircle(const DxfRecord& record, DrawingMaker& maker)
     maker.arc(transformed(wholeCircle({centre.x, centre.y}, radius), maker.plane(record)));
 }
 
+// Where nothing is turned the ends are as they are said: angles that are added up and taken apart again are
+// a bit off.
 void takeArc(const DxfRecord& record, DrawingMaker& maker)
 {
     const Vec3 centre = record.point(10);
     const double radius = std::abs(record.number(40));
-    const EllipseArc arc =
-        circularArc({centre.x, centre.y}, radius, record.number(50) * exactRadiansPerDegree,
-                    record.number(51, 360) * exactRadiansPerDegree);
-    maker.arc(transformed(arc, maker.plane(record)));
+    const double from = record.number(50) * exactRadiansPerDegree;
+    const double to = record.number(51, 360) * exactRadiansPerDegree;
+    const EllipseArc arc = circularArc({centre.x, centre.y}, radius, from, to);
+    const Transform2 plane = maker.plane(record);
+    if (!arc.isWhole() && arc.to - arc.from >= leastTurnOfArc && isUnturned(plane) && isInOneTurn(from, to))
+        return maker.add({.kind = Kind::arc,
+                          .p = {plane({centre.x, centre.y})},
+                          .radius = radius,
+                          .from = from,
+                          .to = to});
+    maker.arc(transformed(arc, plane));
 }
 
 // Its third and fourth corners are the other way round than one walks.

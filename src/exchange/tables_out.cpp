@@ -1,5 +1,6 @@
 #include "exchange/tables_out.h"
 
+#include "exchange/looks.h"
 #include "exchange/own_data.h"
 #include "exchange/pens_out.h"
 
@@ -162,8 +163,8 @@ void Tables::writeLayers()
         out_.text(6, lineTypesOut().front().name);
         out_.whole(370, pen.hundredths);
         out_.handle(390, fixed::plotStyle);
-        if (layer.own && (*layer.own != layer.name || layer.name == "0"))
-            writeOwnLayer(out_, *layer.own, layer.name);
+        if (layer.own && (*layer.own != layer.name || isLayerOfEveryFile(layer.name)))
+            writeOwnLayer(out_, *layer.own, nameAsRead(layer.name));
     }
     end();
 }

@@ -1,6 +1,7 @@
 // exchange/texts_in_place.cpp: single lines of text, and the attributes of blocks, which are such lines as
 // well.
 
+#include "exchange/own_data.h"
 #include "exchange/percent_codes.h"
 #include "exchange/simple_records.h"
 
@@ -57,7 +58,8 @@ void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& mak
     const Vec3 point = record.point(fromSecond ? 11 : 10);
     const Vec way = wayOf(record, betweenPoints);
     const Vec along = isBackward ? -way : way;
-    const double height = (ours ? 1.5 : 1) * record.number(40, 1);
+    const bool hasOurHeight = ours || isOfOwnText(record, maker.list());
+    const double height = (hasOurHeight ? 1 / capitals : 1) * record.number(40, 1);
     const Vec up = ((mirrors & upsideDown) != 0 ? -height : height) * turnedLeft(way);
     MadeText text = plainLine(maker.list().text(record, 1));
     text.face = maker.faceOf(record.name(7));

@@ -1,5 +1,7 @@
 #include "exchange/words_out.h"
 
+#include "exchange/code_pages.h"
+#include "exchange/folded_name.h"
 #include "text/ascii.h"
 #include "text/code_page.h"
 #include "text/utf8.h"
@@ -125,6 +127,17 @@ void addToNameBeyondAscii(std::string& to, char32_t code, std::string_view)
         addUnicode(to, code);
 }
 
+void addAsLetter(std::string& to, char32_t code, std::string_view)
+{
+    to += encodeUtf8(code);
+}
+
+std::string withoutBlanksAround(const std::string& name)
+{
+    const std::string_view bare = trimmed(name, " ");
+    return bare.empty() ? "_" : std::string(bare);
+}
+
 // The first letters of a text, as many as have room.
 std::string_view shortened(std::string_view utf8, std::size_t letters)
 {
@@ -166,11 +179,16 @@ std::string DxfNames::add(std::string_view utf8)
         kept = shortened(kept, utf8Length(kept) - 1);
         whole = encoded(kept, addToName, addToNameBeyondAscii);
     }
-    const std::string_view bare = trimmed(whole, " ");
-    const std::string base = bare.empty() ? "_" : std::string(bare);
-    std::string name = base;
-    for (int n = 2; !taken_.insert(inCapitals(name)).second; ++n) name = base + "-" + std::to_string(n);
-    return name;
+    const std::string base = withoutBlanksAround(whole);
+    const std::string read = withoutBlanksAround(encoded(kept, addToName, addAsLetter));
+    std::string more;
+    for (int n = 2; !taken_.insert(foldedName(read + more)).second; ++n) more = "-" + std::to_string(n);
+    return base + more;
+}
+
+std::string nameAsRead(std::string_view written)
+{
+    return TextCoding(writtenCodePage, writtenRelease).utf8(written);
 }
 
 int dxfSideOf(std::int16_t justification)

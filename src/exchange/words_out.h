@@ -11,6 +11,10 @@
 
 namespace mirtane {
 
+// As our files say of themselves.
+inline constexpr std::string_view writtenRelease = "AC1015";
+inline constexpr std::string_view writtenCodePage = "ANSI_1252";
+
 std::string dxfLineOfText(std::string_view utf8);
 std::string dxfParagraph(std::string_view utf8);
 
@@ -26,6 +30,9 @@ class DxfNames {
   private:
     std::set<std::string> taken_;
 };
+
+// What a reader makes of such a name.
+std::string nameAsRead(std::string_view written);
 
 // Where a text of that justification has its point, as the format counts: 0 left, 1 in the middle, 2 right.
 int dxfSideOf(std::int16_t justification);

@@ -195,6 +195,42 @@ TEST(DxfDrawing, LeavesOutWhatShowsNothingAndCountsIt)
     }
 }
 
+// Others take equal ends for a whole circle, and so do we.
+TEST(DxfDrawing, LeavesOutAnArcWithoutASweep)
+{
+    for (const double angle : {0.0, 0.3, 1.5707963, 4.712389, 6.2831853}) {
+        for (const double beside : {0.0, 1e-15, 3e-12}) {
+            const DxfDrawing written =
+                Drawing{fake::arc({-7125.5F, 31417.25F}, 325, angle, angle + beside)}.written();
+            EXPECT_EQ(written.leftOut, 1) << angle << " " << beside;
+            EXPECT_THAT(of(recordsOf(written.bytes), "ENTITIES"), IsEmpty()) << angle;
+        }
+        const DxfDrawing written = Drawing{fake::arc({0, 0}, 325, angle, angle + 1e-6)}.written();
+        EXPECT_EQ(written.leftOut, 0) << angle;
+    }
+}
+
+TEST(DxfDrawing, WritesARingOfTwoAnglesAsACircle)
+{
+    for (const double degrees : {0.0, 72.5, 90.0, 301.25}) {
+        EntityRecord r = fake::arc({120, -60}, 48, degrees * 0.0174533, (degrees + 360) * 0.0174533);
+        const auto entities = Drawing{r}.entities();
+        ASSERT_EQ(entities.size(), 1U);
+        EXPECT_EQ(entities[0].type, "CIRCLE") << degrees;
+        EXPECT_EQ(entities[0].number(40), 4) << degrees;
+    }
+}
+
+// Its picture is left without the arc, which others would take for a circle.
+TEST(DxfDrawing, PicturesAnAngleOfNothingWithoutItsArc)
+{
+    EntityRecord r = fake::sampleAngle();
+    for (const double angle : {0.0, 0.7, 4.712389}) {
+        r.a1 = r.a2 = angle;
+        EXPECT_THAT(of(Drawing{r}.records(), "BLOCKS", "ARC"), IsEmpty()) << angle;
+    }
+}
+
 TEST(DxfDrawing, IsWholeForNumbersOfEverySize)
 {
     fake::HostileNumbers numbers(7);

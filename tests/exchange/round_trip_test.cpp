@@ -93,6 +93,95 @@ TEST(RoundTrip, EveryKindComesBackAsItWas)
     }
 }
 
+// Beyond the place from which drawings of others are moved.
+TEST(RoundTrip, ADrawingFarFromTheOriginIsNotMoved)
+{
+    for (const Point far : {Point{1000000, -200000}, {-7654321, 45000.25F}, {140000, 0}, {3.3e7F, -2.1e8F}}) {
+        Drawing drawing;
+        for (const Kind kind : everyKind) {
+            EntityRecord r = movedFar(made(kind));
+            for (Point* p : {&r.p1, &r.p2, &r.p3, &r.p4, &r.p5}) {
+                if (r.kind == Kind::text && p != &r.p1 && p != &r.p4) continue;
+                if (r.kind == Kind::ellipse && p == &r.p3) continue;
+                *p = {p->x + far.x, p->y + far.y};
+            }
+            if (r.kind == Kind::arc)
+                r = fake::ofLooks(fake::arc(r.p1, r.rad, r.a1, r.a2), r.color, r.layer, r.style);
+            drawing.add(r);
+        }
+        expectSameObjects(drawing);
+    }
+}
+
+// What others put into it, or move, lies where they see it.
+TEST(RoundTrip, ADrawingFarFromTheOriginThatOthersEditedIsNotMoved)
+{
+    Drawing drawing;
+    for (int i = 0; i < 4; ++i) {
+        const auto x = 1000000.0F + 1200.0F * static_cast<float>(i); // few
+        drawing.add(fake::line({x, -200000}, {x + 600, -201000}));
+    }
+    std::string bytes = drawing.written().bytes;
+    const std::string end = " 11\r\n83383.33333\r\n";
+    ASSERT_NE(bytes.find(end), std::string::npos);
+    bytes.replace(bytes.find(end), end.size(), " 11\r\n83390.123456789\r\n");
+    const auto back = drawnObjects(readBack(bytes));
+    ASSERT_EQ(back.size(), 4U);
+    EXPECT_EQ(back[0].p1, (Point{1000000, -200000}));
+    EXPECT_NEAR(back[0].p2.x, 83390.123456789 * 12, 0.05);
+    EXPECT_EQ(back[3].p1, (Point{1003600, -200000}));
+}
+
+// A symbol of ours in their drawing does not make it ours.
+TEST(RoundTrip, ADrawingOfOthersWithOurNameInItIsMoved)
+{
+    std::string bytes = Drawing{fake::line({1, 2}, {3, 4})}.written().bytes;
+    const std::size_t line = bytes.rfind("AcDbLine\r\n");
+    for (const auto& [from, to] :
+         {std::pair<std::string, std::string>("\r\n0.08333333333\r\n", "\r\n531000.117\r\n"),
+          {"\r\n0.25\r\n", "\r\n531020.734\r\n"}}) {
+        const std::size_t at = bytes.find(from, line);
+        ASSERT_NE(at, std::string::npos) << from;
+        bytes.replace(at, from.size(), to);
+    }
+    EXPECT_NE(readInFull(bytes).placing.move, Vec{});
+}
+
+TEST(RoundTrip, ArcsComeBackBitForBit)
+{
+    const double ends[] = {0,        eighthTurn, quarterTurn,  halfTurn,        threeQuartersTurn,
+                           fullTurn, 0.1,        4.5531069183, 2.6179938779914, 3.14159265358979};
+    Drawing drawing;
+    for (int i = 0; i < 600; ++i) {
+        const double a = std::fmod(i * 0.739 + 0.1003, 6.28), b = std::fmod(i * 1.618 + 3.3, 6.28);
+        const Point centre{858.0F + static_cast<float>(i), -487.25F}; // few
+        for (const double end : ends) {
+            drawing.add(fake::arc(centre, 725, a, i % 3 == 0 ? end : b));
+            drawing.add(fake::arc(centre, 31.4F, i % 3 == 0 ? end : b, a));
+        }
+    }
+    for (std::int32_t i = 1; i < drawing.session->store.end(); ++i)
+        drawing.session->store.color[EntityStore::at(i)] = 0xFFFFFF;
+    const auto was = drawnObjects(drawing), back = drawnObjects(readBack(drawing.written().bytes));
+    ASSERT_EQ(back.size(), was.size());
+    for (std::size_t i = 0; i < was.size(); ++i) ASSERT_EQ(objectText(back[i]), objectText(was[i]));
+}
+
+TEST(RoundTrip, ArcsOfLittleSweepStayArcs)
+{
+    Drawing drawing;
+    for (const float radius : {12.0F, 3000.0F, 100000.0F, 2.5e6F}) {
+        for (const double sweep : {0.00099, 0.0005, 0.0000173, 1e-7}) {
+            for (const double start : {0.0, 0.77, 3.9, 6.2831853 - sweep / 2}) {
+                const double end = std::fmod(start + sweep, fullTurn);
+                const EntityRecord r = fake::arc({-4321.5F, 99000}, radius, start, end);
+                drawing.add(fake::ofLooks(r, 0xFFFFFF));
+            }
+        }
+    }
+    expectSameObjects(drawing);
+}
+
 TEST(RoundTrip, EveryPenStyleAndLayerComesBack)
 {
     Drawing drawing;
@@ -185,6 +274,85 @@ TEST(RoundTrip, LayersComeBackWithTheirNamesAndWhatIsHidden)
     EXPECT_EQ(back.session->store.stat[4], Stat::off);
 }
 
+std::vector<std::string> layerNamesOf(const Drawing& drawing)
+{
+    std::vector<std::string> names;
+    for (std::int32_t i = 0; i < drawing.session->layerTable.layerCount; ++i)
+        names.push_back(drawing.session->layerTable.find(i)->layerName);
+    return names;
+}
+
+// Names that others have a meaning for, that differ in case alone, and that become the same as they are
+// written: whatever is on them or not.
+TEST(RoundTrip, LayersKeepTheirNumbersWhateverTheyAreCalled)
+{
+    const std::vector<std::string> rows[] = {
+        {"1", "2", "Defpoints", "Walls"},
+        {"DEFPOINTS", "0", "defpoints", "x"},
+        {"\u00C4", "a", "\u00E4", "Walls"},
+        {"M\u00DCLL", "m\u00FCll", "M\u00FCll", "m\u00DCLL"},
+        {"\u0416\u0416", "\u0436\u0416", "\u0416_", "\u0436/"},
+        {"a/\u00D6", "a:\u00F6", "A?\u00D6-2", "x"},
+    };
+    for (const auto& names : rows) {
+        for (const bool used : {false, true}) {
+            Drawing drawing;
+            for (std::int32_t i = 0; i < std::ssize(names); ++i) {
+                drawing.layer(i).layerName = names[static_cast<std::size_t>(i)]; // of the row
+                if (used || i == 3)
+                    drawing.add(fake::ofLooks(fake::point({1, 2}), 0xFFFFFF, static_cast<std::int16_t>(i)));
+            }
+            const Drawing back = readBack(drawing.written().bytes);
+            EXPECT_EQ(layerNamesOf(back), names) << names[0] << used;
+            EXPECT_EQ(drawnObjects(back).back().layer, 3) << names[0] << used;
+        }
+    }
+}
+
+// Of its own size, which is more than the height of its capitals.
+TEST(RoundTrip, ATextThatOthersEditedKeepsItsSize)
+{
+    for (const float turn : {0.0F, 37.0F, 90.0F, 211.0F}) {
+        for (const float size : {6.0F, 48.0F, 13.7F}) {
+            EntityRecord r = fake::ofLooks(fake::text({1200, -340.5F}, "Kitchen", size), 0xFFFFFF);
+            r.a1 = turn;
+            const std::string bytes = Drawing{r}.written().bytes;
+            std::string other = bytes;
+            other.replace(other.find("  1\r\nKitchen"), 12, "  1\r\nBath");
+            const EntityRecord words = drawnObjects(readBack(other)).front();
+            EXPECT_EQ(words.t1, "Bath");
+            EXPECT_FLOAT_EQ(words.p2.x, size) << turn;
+            EXPECT_NEAR(words.p1.x, r.p1.x, 0.01) << turn << " " << size;
+            EXPECT_NEAR(words.p1.y, r.p1.y, 0.01) << turn << " " << size;
+            // Twice as high as they found it.
+            const std::size_t at = bytes.find("AcDbText\r\n"), height = bytes.find(" 40\r\n", at) + 5;
+            const std::size_t end = bytes.find('\r', height);
+            other = bytes;
+            other.replace(height, end - height, std::to_string(size / 9));
+            EXPECT_NEAR(drawnObjects(readBack(other)).front().p2.x, 2 * size, size * 1e-4) << turn;
+        }
+    }
+}
+
+TEST(RoundTrip, TheTextOfALeaderThatOthersMovedKeepsItsSize)
+{
+    EntityRecord r = made(Kind::leader);
+    r.s2 = 30;
+    r.a2 = 30;
+    std::string bytes = Drawing{r}.written().bytes;
+    const std::size_t at = bytes.find(" 10\r\n", bytes.find("AcDbLeader")) + 5;
+    bytes.replace(at, bytes.find('\r', at) - at, "-20.0");
+    int texts = 0;
+    for (const EntityRecord& one : drawnObjects(readBack(bytes))) {
+        if (one.kind != Kind::text) continue;
+        ++texts;
+        EXPECT_FLOAT_EQ(one.p2.x, 30);
+        EXPECT_NEAR(one.p1.x, r.p5.x, 0.01);
+        EXPECT_NEAR(one.p1.y, r.p5.y, 0.01);
+    }
+    EXPECT_EQ(texts, 1);
+}
+
 // An object that another program has changed is what that program made of it.
 TEST(RoundTrip, WhatWasChangedMeanwhileIsReadAsItStands)
 {
@@ -223,8 +391,7 @@ TEST(RoundTrip, AnotherFaceSideOrPlaneIsReadAsItStands)
     const std::size_t at = otherFace.find(style);
     ASSERT_NE(at, std::string::npos);
     otherFace.insert(at + style.size(), "Standard");
-    EXPECT_EQ(drawnObjects(readBack(otherFace)).front().p2.x,
-              32); // of its own size again: as high as capitals
+    EXPECT_EQ(drawnObjects(readBack(otherFace)).front().p2.x, 48);
 }
 
 } // namespace
