@@ -1,5 +1,7 @@
 #include "exchange/not_read.h"
 
+#include "exchange/pens_out.h"
+#include "tables/kinds.h"
 #include "text/numbers.h"
 
 #include <algorithm>
@@ -63,30 +65,52 @@ bool isSamePlace(const EntityRecord& a, const EntityRecord& b)
     return asItStands || turnedRound;
 }
 
-// Objects in the order of their leftmost coordinate, so that those at a place are found quickly.
+// Of a text, its words besides; how it is turned and justified is left to the eye.
+bool isSamePlaceAndSize(const EntityRecord& a, const EntityRecord& b)
+{
+    if (a.kind != Kind::text) return isSamePlace(a, b);
+    return a.t1 == b.t1 && isNear(a.p1, b.p1) && isNear(a.p2.x, b.p2.x);
+}
+
+// What objects have to share, besides their place. The grey that the letter has for white is white.
+struct Likeness {
+    Kind kind{};
+    std::int32_t pen = 0;
+    std::int16_t style = 0;
+
+    friend auto operator<=>(const Likeness&, const Likeness&) = default;
+};
+
+Likeness kindOf(const EntityRecord& r)
+{
+    return {r.kind};
+}
+
+Likeness lookOf(const EntityRecord& r)
+{
+    return {r.kind, penOut(r.color).color, hasLineStyle(r.kind) ? r.style : std::int16_t{0}};
+}
+
+// Objects of each likeness in the order of their leftmost coordinate, so that those at a place are found
+// quickly.
 class Places {
   public:
-    explicit Places(std::vector<EntityRecord> records) : records_(std::move(records))
+    Places(std::vector<EntityRecord> records, Likeness (*likenessOf)(const EntityRecord&))
+        : records_(std::move(records)), likenessOf_(likenessOf)
     {
-        for (std::size_t i = 0; i < records_.size(); ++i) {
-            const EntityRecord& r = records_[i];
-            if (r.kind == Kind::text)
-                words_.insert(r.t1);
-            else
-                places_.emplace(leftOf(r), i);
-        }
+        for (std::size_t i = 0; i < records_.size(); ++i)
+            places_[likenessOf_(records_[i])].emplace(leftOf(records_[i]), i);
     }
 
-    bool holds(const EntityRecord& r) const
+    bool hold(const EntityRecord& r) const
     {
-        if (r.kind == Kind::text) return words_.contains(r.t1);
+        const auto alike = places_.find(likenessOf_(r));
+        if (alike == places_.end()) return false;
         const float left = leftOf(r);
         const float room = 0.05F + 2e-5F * std::abs(left);
-        const auto end = places_.upper_bound(left + room);
-        return std::any_of(places_.lower_bound(left - room), end, [&](const auto& place) {
-            const EntityRecord& other = records_[place.second];
-            return other.kind == r.kind && isSamePlace(r, other);
-        });
+        const auto end = alike->second.upper_bound(left + room);
+        return std::any_of(alike->second.lower_bound(left - room), end,
+                           [&](const auto& place) { return isSamePlaceAndSize(r, records_[place.second]); });
     }
 
   private:
@@ -96,12 +120,26 @@ class Places {
     }
 
     std::vector<EntityRecord> records_;
-    std::multimap<float, std::size_t> places_;
-    std::set<std::string> words_;
+    Likeness (*likenessOf_)(const EntityRecord&);
+    std::map<Likeness, std::multimap<float, std::size_t>> places_;
 };
+
+std::set<std::string> wordsOf(const std::vector<EntityRecord>& records)
+{
+    std::set<std::string> words;
+    for (const EntityRecord& r : records) {
+        if (r.kind == Kind::text) words.insert(r.t1);
+    }
+    return words;
+}
 
 // What the reader by the letter makes of a file's units.
 constexpr Placing asByTheLetter;
+
+bool isAsByTheLetter(const Placing& placing)
+{
+    return placing.worldPerFile == asByTheLetter.worldPerFile && placing.move == asByTheLetter.move;
+}
 
 std::vector<EntityRecord> shownIn(const EntityStore& store)
 {
@@ -129,16 +167,20 @@ bool NotRead::isNothing() const
 NotRead notRead(const FullReading& reading, const EntityStore& store)
 {
     const std::vector<EntityRecord> now = shownIn(store);
-    std::vector<EntityRecord> full;
-    for (const Made& one : reading.drawing.objects) full.push_back(recordOf(one, asByTheLetter));
-    const Places placesNow(now);
+    const Places placesNow(now, kindOf);
+    const std::set<std::string> wordsNow = wordsOf(now);
+    std::vector<EntityRecord> shown;
     NotRead missing;
-    for (const EntityRecord& one : full) {
-        if (!placesNow.holds(one)) ++missing.counts[sortOf(one.kind)];
+    for (const Made& one : reading.drawing.objects) {
+        const EntityRecord r = recordOf(one, asByTheLetter);
+        const bool isThere = r.kind == Kind::text ? wordsNow.contains(r.t1) : placesNow.hold(r);
+        if (!isThere) ++missing.counts[sortOf(r.kind)];
+        if (!one.look.hidden) shown.push_back(r);
     }
-    const Places placesInFull(std::move(full));
-    missing.others =
-        std::ranges::count_if(now, [&](const EntityRecord& r) { return !placesInFull.holds(r); });
+    const Places placesInFull(std::move(shown), lookOf);
+    const bool isPlacedElsewhere = !isAsByTheLetter(reading.placing);
+    missing.others = std::ranges::count_if(
+        now, [&](const EntityRecord& r) { return isPlacedElsewhere || !placesInFull.hold(r); });
     return missing;
 }
 

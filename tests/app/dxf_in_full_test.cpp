@@ -1,6 +1,7 @@
 #include "desk.h"
 
 #include "app/files/dxf_flows.h"
+#include "tables/pens.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,6 +20,17 @@ std::string withUnits(const std::string& entities, const std::string& units = "1
 {
     return "0\nSECTION\n2\nHEADER\n9\n$INSUNITS\n70\n" + units + "\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" +
            entities + "0\nENDSEC\n0\nEOF\n";
+}
+
+// A pen that is one and the same however it is read, blue.
+constexpr const char* asInBoth = " 62\n170\n";
+
+// A line that the letter takes, with a few more groups.
+std::string padded(const std::string& units, const std::string& more)
+{
+    return "  0\nSECTION\n  2\nHEADER\n  9\n$INSUNITS\n 70\n" + units +
+           "\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n  8\n0\n" + more +
+           " 10\n1\n 20\n2\n 11\n7\n 21\n8\n  0\nENDSEC\n  0\nEOF\n";
 }
 
 // Two circles and a line, none of which the letter takes, as its codes are not padded.
@@ -104,12 +116,72 @@ TEST_F(DxfInFull, WhatWasDrawnMeanwhileIsNotLostToTheButton)
 
 TEST_F(DxfInFull, NothingIsOfferedForWhatCameWhole)
 {
-    const std::string padded =
-        "  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n  8\n0\n 10\n1\n 20\n2\n 11\n7\n 21\n8\n"
-        "  0\nENDSEC\n  0\nEOF\n";
-    desk.disk.files["/home/user/own.dxf"] = bytesOf(padded);
+    desk.disk.files["/home/user/own.dxf"] = bytesOf(padded("1", asInBoth));
     open("own");
     EXPECT_EQ(objects(), 1);
+    EXPECT_EQ(said(), "");
+}
+
+// As the letter has it all stands there, but not as the file shows it.
+TEST_F(DxfInFull, WhatTheLetterReadsOtherwiseIsOffered)
+{
+    struct Row {
+        const char* units;
+        const char* more;
+        Point end;
+        std::int32_t color;
+    };
+    const Row rows[] = {
+        {"4", asInBoth, {84 / 25.4F, -96 / 25.4F}, 0xFF0000},
+        {"6", asInBoth, {84 / 0.0254F, -96 / 0.0254F}, 0xFF0000},
+        {"1", " 62\n5\n", {84, -96}, 0xFF0000},
+    };
+    for (const Row& row : rows) {
+        desk.disk.files["/home/user/other.dxf"] = bytesOf(padded(row.units, row.more));
+        open("other");
+        EXPECT_EQ(desk.slot(1).p2, (Point{84, -96}));
+        EXPECT_EQ(said(), "1 object that was read is not what this file shows.") << row.units << row.more;
+        desk.press("notice.Command1"_c);
+        EXPECT_NEAR(desk.slot(1).p2.x, row.end.x, 1e-4 * row.end.x);
+        EXPECT_NEAR(desk.slot(1).p2.y, row.end.y, -1e-4 * row.end.y);
+        EXPECT_EQ(desk.slot(1).color, row.color);
+        EXPECT_EQ(said(), "");
+    }
+}
+
+TEST_F(DxfInFull, UnitsAreAskedForAfterTheLetterToo)
+{
+    desk.disk.files["/home/user/other.dxf"] = bytesOf(padded("0", asInBoth));
+    for (const auto& [button, x] :
+         {std::pair("notice.Command1"_c, 84 / 25.4), {"notice.Command2"_c, 84 / 0.0254}}) {
+        open("other");
+        EXPECT_EQ(said(), "other.dxf has no units: taken as inches.");
+        EXPECT_EQ(desk.slot(1).p2, (Point{84, -96}));
+        desk.press(button);
+        EXPECT_NEAR(desk.slot(1).p2.x, x, 1e-4 * x);
+        EXPECT_EQ(said(), "");
+    }
+    open("words");
+    EXPECT_EQ(said(), "");
+}
+
+TEST_F(DxfInFull, NothingIsOfferedForLinesOfOurOwn)
+{
+    for (const std::size_t pen : {0U, 3U, 7U}) {
+        desk.s.curColor = pens[pen].color;
+        desk.drawLine(100, 100, 400 + static_cast<float>(pen), 100); // small
+    }
+    desk.press("Command19"_c);
+    desk.click(50, 50);
+    desk.click(900, 900);
+    desk.cancel();
+    desk.press("dd4"_c);
+    desk.name("mine");
+    desk.enter();
+    desk.press("fil5"_c);
+    desk.press("frmfile.Command2"_c);
+    open("mine");
+    EXPECT_EQ(objects(), 3);
     EXPECT_EQ(said(), "");
 }
 

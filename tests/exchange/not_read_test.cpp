@@ -69,11 +69,83 @@ TEST(NotRead, CountsWhatTheFileDoesNotShow)
         EntityStore& store = session->store;
         for (const EntityRecord& one : row.store) {
             store.setStat(store.entCount, Stat::on);
-            store.setRecord(store.entCount++, one);
+            store.setRecord(store.entCount++, ofLooks(one, 0xFFFFFF));
         }
         const NotRead missing = notRead(r, store);
         EXPECT_EQ(missing.isNothing() ? "" : sentenceOf(missing), row.sentence);
     }
+}
+
+// Two lines and a text as the letter has them, of which a file says something else besides where they are.
+const std::string lineOfFile = dxf({{0, "LINE"}, {8, "A"}, {10, "100"}, {20, "-1"}, {11, "3"}, {21, "7"}});
+const std::string textOfFile = dxf({{0, "TEXT"}, {8, "A"}, {10, "50"}, {20, "60"}, {40, "2"}, {1, "here"}});
+
+std::string header(const std::string& units)
+{
+    return section("HEADER", dxf({{9, "$INSUNITS"}, {70, units}}));
+}
+
+std::string layerA(const std::string& flags, const std::string& color)
+{
+    return section("TABLES", dxf({{0, "TABLE"}, {2, "LAYER"}, {0, "LAYER"}, {2, "A"}, {70, flags}}) +
+                                 dxf({{62, color}, {0, "ENDTAB"}}));
+}
+
+TEST(NotRead, CountsWhatLooksOtherwiseOrStandsElsewhere)
+{
+    const std::string one = "1 object that was read is not what this file shows.";
+    const std::string two = "2 objects that were read are not what this file shows.";
+    struct Row {
+        const char* what;
+        std::string file;
+        std::string sentence;
+    };
+    const auto line = [](std::initializer_list<Pair> more) {
+        return entities(lineOfFile + dxf(more) + textOfFile);
+    };
+    const auto text = [](std::initializer_list<Pair> more) {
+        return entities(lineOfFile + textOfFile + dxf(more));
+    };
+    const Row rows[] = {
+        {"the same", header("1") + entities(lineOfFile + textOfFile), ""},
+        {"no units, which are inches", entities(lineOfFile + textOfFile), ""},
+        {"millimetres", header("4") + entities(lineOfFile + textOfFile), two},
+        {"metres", header("6") + entities(lineOfFile + textOfFile), two},
+        {"feet", header("2") + entities(lineOfFile + textOfFile), two},
+        {"a layer that is off", layerA("0", "-7") + entities(lineOfFile + textOfFile), two},
+        {"a layer that is frozen", layerA("1", "7") + entities(lineOfFile + textOfFile), two},
+        {"a pen", line({{62, "5"}}), one},
+        {"the pen of a layer", layerA("0", "3") + entities(lineOfFile + textOfFile), two},
+        {"a line style", line({{6, "CENTER"}}), one},
+        {"a text by its end", text({{72, "2"}, {11, "500"}, {21, "100"}}), one},
+        {"a text elsewhere",
+         entities(lineOfFile + dxf({{0, "TEXT"}, {10, "50"}, {20, "90"}, {40, "2"}, {1, "here"}})), one},
+        {"a text of another size",
+         entities(lineOfFile + dxf({{0, "TEXT"}, {10, "50"}, {20, "59"}, {40, "3"}, {1, "here"}})), one},
+    };
+    const auto session = std::make_unique<Session>();
+    EntityStore& store = session->store;
+    for (const EntityRecord& r : {fake::line({1200, 12}, {36, -84}), fake::text({600, -744}, "here", 24)}) {
+        store.setStat(store.entCount, Stat::on);
+        store.setRecord(store.entCount++, fake::ofLooks(r, 0xFFFFFF));
+    }
+    for (const Row& row : rows) {
+        const NotRead missing = notRead(readOf(row.file), store);
+        EXPECT_EQ(missing.isNothing() ? "" : sentenceOf(missing), row.sentence) << row.what;
+    }
+}
+
+// All of it lies elsewhere then.
+TEST(NotRead, CountsADrawingThatIsMoved)
+{
+    const auto session = std::make_unique<Session>();
+    session->store.setStat(1, Stat::on);
+    session->store.setRecord(session->store.entCount++,
+                             fake::ofLooks(fake::line({6372000, 2184000}, {6372240, 2183880}), 0xFFFFFF));
+    const FullReading far = readOf(
+        entities(dxf({{0, "LINE"}, {10, "531000"}, {20, "-182000"}, {11, "531020"}, {21, "-181990"}})));
+    EXPECT_EQ(sentenceOf(notRead(far, session->store)),
+              "1 object that was read is not what this file shows.");
 }
 
 TEST(NotRead, SentenceOfOneOfManyAndOfThousands)

@@ -37,6 +37,13 @@ void takeDxfName(App& app, const std::string& folder, const std::string& name, s
     setPrompt(app.s, app.pic1);
 }
 
+void askForUnits(Notices& notices, const std::string& name)
+{
+    notices.post({Matter::noUnits,
+                  name + " has no units: taken as inches.",
+                  {{"Millimetres", Offer::takeAsMillimetres}, {"Metres", Offer::takeAsMetres}}});
+}
+
 void tellOfReading(Notices& notices, const std::string& name, const FullReport& report)
 {
     FullReport types = report;
@@ -47,10 +54,16 @@ void tellOfReading(Notices& notices, const std::string& name, const FullReport& 
         notices.post({Matter::leftOut, name + ": " + left + ".", {{"Close", Offer::goOn}}});
     if (const std::string moved = sentenceOfMove(report); !moved.empty())
         notices.post({Matter::moved, name + ": " + moved + ".", {{"Close", Offer::goOn}}});
-    if (!report.hasUnits)
-        notices.post({Matter::noUnits,
-                      name + " has no units: taken as inches.",
-                      {{"Millimetres", Offer::takeAsMillimetres}, {"Metres", Offer::takeAsMetres}}});
+    if (!report.hasUnits) askForUnits(notices, name);
+}
+
+void offerFullReading(Session& s, const FullReading& reading, const std::string& name)
+{
+    const NotRead missing = notRead(reading, s.store);
+    if (!missing.isNothing())
+        s.notices.post({Matter::notRead, sentenceOf(missing), {{"Read all", Offer::readAll}}});
+    else if (!reading.hasUnits && !reading.drawing.objects.empty())
+        askForUnits(s.notices, name);
 }
 
 void takeInFull(App& app, const Bytes& file, const std::string& folder, const std::string& name,
@@ -82,16 +95,15 @@ void readAgain(App& app, Matter matter, UnitsIfNone units, bool unitsAreChosen)
 
 } // namespace
 
+// What found no room is told above what another reading would give.
 void openDxfByTheLetter(App& app, const Bytes& file, const std::string& folder, const std::string& name)
 {
-    Session& s = app.s;
-    endWhatIsBegun(s, app.pic1);
+    endWhatIsBegun(app.s, app.pic1);
     leaveWorkNobodyGaveUp(app, Goes::drawing);
-    takeDxfName(app, folder, name, openDxf(app, file));
+    const std::int64_t withoutRoom = openDxf(app, file);
+    offerFullReading(app.s, readInFull(textOf(file)), name);
+    takeDxfName(app, folder, name, withoutRoom);
     remember(app, file, folder, name);
-    const NotRead missing = notRead(readInFull(textOf(file)), s.store);
-    if (!missing.isNothing())
-        s.notices.post({Matter::notRead, sentenceOf(missing), {{"Read all", Offer::readAll}}});
 }
 
 bool openDxfInFull(App& app, const std::string& path)
