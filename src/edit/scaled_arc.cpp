@@ -167,8 +167,10 @@ Point Factors::of(Point p) const
     return p;
 }
 
+// Of nothing in one direction, every arc would be a line: it stays as it is.
 EntityRecord scaledArc(const EntityRecord& arc, const Factors& factors)
 {
+    if (factors.x == 0 || factors.y == 0) return arc;
     return std::abs(factors.x) == std::abs(factors.y) ? scaledAlike(arc, factors) : scaledApart(arc, factors);
 }
 

@@ -265,8 +265,8 @@ TEST(Scale, WithYOfZeroFlattens)
     EXPECT_EQ(flat.p2, (Point{40, 0}));
     EXPECT_EQ(scale(sample(Kind::circle), 1, 0).p1, (Point{100, 0}));
     EXPECT_FLOAT_EQ(scale(sample(Kind::circle), 1, 0).rad, 30);
-    EXPECT_EQ(scale(sample(Kind::arc), 0, 0).p1, (Point{0, 0}));
-    EXPECT_EQ(scale(sample(Kind::arc), 0, 0).rad, 0);
+    for (const auto& [x, y] : {std::pair{1.0F, 0.0F}, {0.0F, 1.0F}, {0.0F, 0.0F}, {-2.5F, 0.0F}})
+        EXPECT_EQ(scale(sample(Kind::arc), x, y), sample(Kind::arc));     // no arc goes through a line
     EXPECT_EQ(scale(sample(Kind::arc), 1e35F, 1e37F), sample(Kind::arc)); // it would overflow
 }
 
