@@ -16,8 +16,8 @@ struct Factors {
 
 // An arc scaled. With factors of one size it is the same part of a larger or smaller circle. With others it
 // goes through the images of start, middle and end, by the rule for an arc through three points; where these
-// lie on one line, as far as the rounding of so far a centre tells, it becomes that line. Where no coordinate
-// can hold it, it stays as it is.
+// lie on one line, as far as the rounding of so far a centre tells, it becomes that line. By a factor of 0,
+// and where no coordinate can hold it, it stays as it is.
 EntityRecord scaledArc(const EntityRecord& arc, const Factors& factors);
 
 } // namespace mirtane
