@@ -1,6 +1,7 @@
 #include "exchange/not_read.h"
 
 #include "exchange/pens_out.h"
+#include "geometry/rounding.h"
 #include "tables/kinds.h"
 #include "text/numbers.h"
 
@@ -91,37 +92,52 @@ Likeness lookOf(const EntityRecord& r)
     return {r.kind, penOut(r.color).color, hasLineStyle(r.kind) ? r.style : std::int16_t{0}};
 }
 
-// Objects of each likeness in the order of their leftmost coordinate, so that those at a place are found
-// quickly.
+// Objects of each likeness in an order of their places, so that those at a place are found quickly. The order
+// goes askew: by one coordinate all lines that begin at one edge of a sheet would stand in one place.
 class Places {
   public:
     Places(std::vector<EntityRecord> records, Likeness (*likenessOf)(const EntityRecord&))
         : records_(std::move(records)), likenessOf_(likenessOf)
     {
         for (std::size_t i = 0; i < records_.size(); ++i)
-            places_[likenessOf_(records_[i])].emplace(leftOf(records_[i]), i);
+            places_[likenessOf_(records_[i])].emplace(along(middleOf(records_[i])), i);
     }
 
     bool hold(const EntityRecord& r) const
     {
         const auto alike = places_.find(likenessOf_(r));
         if (alike == places_.end()) return false;
-        const float left = leftOf(r);
-        const float room = 0.05F + 2e-5F * std::abs(left);
-        const auto end = alike->second.upper_bound(left + room);
-        return std::any_of(alike->second.lower_bound(left - room), end,
+        const double at = along(middleOf(r));
+        const double room = roomOf(r);
+        const auto end = alike->second.upper_bound(at + room);
+        return std::any_of(alike->second.lower_bound(at - room), end,
                            [&](const auto& place) { return isSamePlaceAndSize(r, records_[place.second]); });
     }
 
   private:
-    static float leftOf(const EntityRecord& r)
+    struct Place {
+        double x, y;
+    };
+
+    // That of a line is the same whichever end comes first.
+    static Place middleOf(const EntityRecord& r)
     {
-        return r.kind == Kind::line ? std::min(r.p1.x, r.p2.x) : r.p1.x;
+        const Point end = r.kind == Kind::line ? r.p2 : r.p1;
+        return {(double{r.p1.x} + end.x) / 2, (double{r.p1.y} + end.y) / 2};
+    }
+
+    static double along(Place p) { return 0.54 * p.x + 0.84 * p.y; }
+
+    // More than two things that are near each other differ by in that order.
+    static double roomOf(const EntityRecord& r)
+    {
+        const double size = std::max(largestCoordinate(r.p1), largestCoordinate(r.p2));
+        return 0.05 + 2e-5 * size;
     }
 
     std::vector<EntityRecord> records_;
     Likeness (*likenessOf_)(const EntityRecord&);
-    std::map<Likeness, std::multimap<float, std::size_t>> places_;
+    std::map<Likeness, std::multimap<double, std::size_t>> places_;
 };
 
 std::set<std::string> wordsOf(const std::vector<EntityRecord>& records)

@@ -3,7 +3,9 @@
 #include "dxf_text.h"
 #include "records.h"
 
+#include <iterator>
 #include <memory>
+#include <utility>
 
 namespace mirtane {
 namespace {
@@ -146,6 +148,34 @@ TEST(NotRead, CountsADrawingThatIsMoved)
         entities(dxf({{0, "LINE"}, {10, "531000"}, {20, "-182000"}, {11, "531020"}, {21, "-181990"}})));
     EXPECT_EQ(sentenceOf(notRead(far, session->store)),
               "1 object that was read is not what this file shows.");
+}
+
+// Sheets of ruled lines, whose ends or middles have a coordinate in common, are compared in no time.
+TEST(NotRead, ComparesAFullTableOfLinesFromOneEdge)
+{
+    constexpr int count = 30'000;
+    const Point steps[] = {{0, 0.5F}, {0.5F, 0}, {0.3F, 0.4F}};
+    const Point ways[] = {{90, 0}, {0, -70}, {80, -60}};
+    for (std::size_t sort = 0; sort < std::size(steps); ++sort) {
+        FullReading r;
+        r.placing = Placing{};
+        const auto session = std::make_unique<Session>();
+        EntityStore& store = session->store;
+        for (int i = 0; i < count; ++i) {
+            const float n = static_cast<float>(i); // of thousands
+            const Point from{7 + n * steps[sort].x, 5 + n * steps[sort].y};
+            const Point to{from.x + ways[sort].x, from.y + ways[sort].y};
+            r.drawing.objects.push_back({.kind = Kind::line, .p = {Vec{from.x, from.y}, Vec{to.x, to.y}}});
+            EntityRecord made = recordOf(r.drawing.objects.back(), Placing{});
+            if (i % 3 == 1) std::swap(made.p1, made.p2);
+            if (i % 1000 == 2) made.p1.y += 40;
+            store.setStat(store.entCount, Stat::on);
+            store.setRecord(store.entCount++, made);
+        }
+        const NotRead missing = notRead(r, store);
+        EXPECT_EQ(missing.counts[3], count / 1000) << sort;
+        EXPECT_EQ(missing.others, count / 1000) << sort;
+    }
 }
 
 TEST(NotRead, SentenceOfOneOfManyAndOfThousands)
