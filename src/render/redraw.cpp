@@ -44,20 +44,21 @@ bool ellipseInView(const Slot& slot)
     return circleInView(slot.view, centre, r);
 }
 
-// Whether not all of the points lie beyond one side.
-bool anyInView(const View& view, std::span<const Point> points)
+constexpr double heightOfCell = 4.0 / 3; // sizes of a text
+
+// Whether not all of the points lie further than that beyond one side.
+bool anyInView(const View& view, std::span<const Point> points, double beyond = 0)
 {
-    const auto all = [points](auto beyond) { return std::ranges::all_of(points, beyond); };
-    return !all([&view](Point p) { return p.x < view.viewLeft; }) &&
-           !all([&view](Point p) { return p.x > view.viewRight; }) &&
-           !all([&view](Point p) { return p.y < view.viewTop; }) &&
-           !all([&view](Point p) { return p.y > view.viewBottom; });
+    const auto all = [points](auto isOut) { return std::ranges::all_of(points, isOut); };
+    return !all([&](Point p) { return p.x < view.viewLeft - beyond; }) &&
+           !all([&](Point p) { return p.x > view.viewRight + beyond; }) &&
+           !all([&](Point p) { return p.y < view.viewTop - beyond; }) &&
+           !all([&](Point p) { return p.y > view.viewBottom + beyond; });
 }
 
 // Of a line of text that is no wider than that.
 bool cellInView(const View& view, const Lettering& text, double width)
 {
-    constexpr double heightOfCell = 4.0 / 3; // sizes
     const double angle = text.degrees * radiansPerDegree;
     const auto corner = [&](double along, double below) {
         Point p = text.at;
@@ -76,7 +77,6 @@ bool cellInView(const View& view, const Lettering& text, double width)
 bool textInView(const Slot& slot)
 {
     constexpr double radiusOfWidth = 1.2;
-    constexpr double heightOfCell = 4.0 / 3; // sizes
     const EntityStore& e = slot.store;
     const float radius = e.rad[slot.at];
     float across = 0;
@@ -155,21 +155,31 @@ bool strokesInView(const Slot& slot)
 }
 
 // Of the figures it is known only how many there are.
-bool figuresInView(const Slot& slot)
+double widestOf(const Lettering& figures)
 {
     constexpr double wideLetter = 0.9; // sizes, as capitals are
-    const Lettering figures = dimLetteringAt(slot.store, slot.at);
-    const double letters = static_cast<double>(figures.words.size()); // as many as bytes at the most
-    return cellInView(slot.view, figures, letters * wideLetter * figures.size);
+    return static_cast<double>(figures.words.size()) * wideLetter *
+           figures.size; // as many as bytes at the most
 }
 
-// What hangs out beyond a linear dimension's five points is looked at only where these are out of view.
+// How far figures and arrows may reach beyond a dimension's points.
+double reachOf(const Lettering& figures)
+{
+    constexpr double ofArrows = 3; // sizes, with the stub that they stand on
+    return widestOf(figures) + std::max(ofArrows, heightOfCell) * figures.size;
+}
+
+// What hangs out beyond a linear dimension's five points is looked at only where these are out of view, but
+// near it.
 bool dimensionInView(const Slot& slot)
 {
     const EntityStore& e = slot.store;
     const std::size_t i = slot.at;
     const Point points[] = {e.p1[i], e.p2[i], e.p3[i], e.p4[i], e.p5[i]};
-    return anyInView(slot.view, points) || figuresInView(slot) || strokesInView(slot);
+    if (anyInView(slot.view, points)) return true;
+    const Lettering figures = dimLetteringAt(e, i);
+    if (!anyInView(slot.view, points, std::abs(reachOf(figures)))) return false;
+    return cellInView(slot.view, figures, widestOf(figures)) || strokesInView(slot);
 }
 
 void drawTextSlot(const Slot& slot)
