@@ -147,6 +147,10 @@ TEST(MouseDown, KeepsTheAnswerOfAFunctionInANearlyFullTable)
         desk.press("Command8"_c);
         desk.click(2000, 2000);
         EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.") << count;
+        setText(desk.s.controls["entry"_c], "what an earlier function has said");
+        desk.press("Command1"_c);
+        desk.click(2100, 2000);
+        EXPECT_EQ(desk.text("entry"_c), "You are out of memory! Save and exit now.") << count;
     }
 }
 

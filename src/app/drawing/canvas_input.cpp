@@ -71,16 +71,17 @@ void passNumberToEntry(Session& s, char32_t code)
     if (isPartOfNumber(code)) passToEntry(s, code);
 }
 
-// Near the table's end the gauge warns at each click. An answer of the function, which added nothing, says
-// more.
+// Near the table's end the gauge warns at each click. What the function has just answered, and added nothing,
+// says more.
 void callStepAndGauge(Session& s, Canvas& pic1)
 {
-    const std::int32_t before = s.store.entCount;
-    callStep(s, pic1);
     Control& entry = s.controls[ids::entry];
-    const std::string answer = s.store.entCount == before ? entry.text : "";
+    const std::string before = entry.text;
+    const std::int32_t count = s.store.entCount;
+    callStep(s, pic1);
+    const std::string after = entry.text;
     updateGauge(s);
-    if (!answer.empty()) setText(entry, answer);
+    if (s.store.entCount == count && after != before && !after.empty()) setText(entry, after);
 }
 
 void takeClick(Session& s, Canvas& pic1, const FunctionRow& row, int button, Point at)
