@@ -38,8 +38,8 @@ void joinNextArc(Session& s)
 // The circle that is tangent to the last arc at the junction J and goes through C.
 struct TangentCircle {
     Point junction, c;
-    Way towards;   // from J to the centre
-    double radius; // not to be had where C lies straight on
+    Way towards;       // from J to the centre
+    double radius = 0; // not to be had where C lies straight on
 };
 
 // The centre lies on the normal through J, as far from J as from C: |JC|^2 / (2 * how far C is beside the

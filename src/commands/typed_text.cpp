@@ -12,7 +12,7 @@ std::size_t filled(const Session& s)
     return std::min(static_cast<std::size_t>(std::max(s.textLength, 0)), s.textBuffer.size());
 }
 
-// Letters of a text that was loaded and is longer than the buffer. They stand in Text3 alone, from which
+// Letters of a text that was loaded and is longer than the buffer. They stand in workText alone, from which
 // Backspace takes them; none can be added.
 std::string beyondBuffer(const Session& s)
 {

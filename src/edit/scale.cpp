@@ -58,14 +58,14 @@ double scaleTextLine(const Scaling& scaling, EntityRecord& r)
     const double angle = r.*row->rotation * radiansPerDegree;
     const double right = scaling.x * std::cos(angle);
     const double up = scaling.y * std::sin(angle);
-    const double sign = scaling.mirror() ? -1 : 1;
+    const double sign = scaling.mirrors() ? -1 : 1;
     const Baseline old = baselineUnder(scaling.pic1, r, r.t1.empty() ? emptyTextStandIn : r.t1);
     scalePairs(scaling, r);
     Point towards;
     keep(towards.x, sign * right);
     keep(towards.y, -sign * up);
     const double degrees = directionAngle({}, towards, noAngle) * degreesPerRadian;
-    if (scaling.mirror()) {
+    if (scaling.mirrors()) {
         layText(r, {scaling.of(old.end), scaling.of(old.start)}, degrees);
     } else {
         keep(r.*row->rotation, degrees);
@@ -90,7 +90,7 @@ void scaleDimension(const Scaling& scaling, EntityRecord& r)
 void scaleAngularDimension(const Scaling& scaling, EntityRecord& r)
 {
     scalePairs(scaling, r);
-    if (scaling.mirror()) std::swap(r.p2, r.p3);
+    if (scaling.mirrors()) std::swap(r.p2, r.p3);
     keep(r.rad, distance(r.p1, r.p4));
     keep(r.a1, directionAngle(r.p1, r.p2, r.a1));
     keep(r.a2, directionAngle(r.p1, r.p3, r.a2));

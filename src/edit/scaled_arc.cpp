@@ -40,7 +40,7 @@ EntityRecord scaledAlike(const EntityRecord& arc, const Factors& f)
     keep(image.rad, std::abs(f.x) * arc.rad);
     keep(image.a1, imageOf(f, arc.a1));
     keep(image.a2, imageOf(f, arc.a2));
-    if (f.mirror()) {
+    if (f.mirrors()) {
         std::swap(image.a1, image.a2);
         std::swap(image.p2, image.p3);
     }
@@ -147,7 +147,7 @@ EntityRecord scaledApart(const EntityRecord& arc, const Factors& f)
     const auto about = stored(centre);
     EntityRecord scaled = arc;
     if (!start || !end || !about || !keep(scaled.rad, apart(centre, image.start))) return arc;
-    if (f.mirror()) std::swap(start, end);
+    if (f.mirrors()) std::swap(start, end);
     scaled.p1 = *about;
     scaled.a1 = directionAngle(*about, *start, arc.a1);
     scaled.a2 = directionAngle(*about, *end, arc.a2);

@@ -7,9 +7,9 @@ namespace mirtane {
 // Two factors about a base, below 0 where they mirror.
 struct Factors {
     Point base;
-    double x, y;
+    double x = 1, y = 1;
 
-    bool mirror() const { return x * y < 0; }
+    bool mirrors() const { return x * y < 0; }
     // A coordinate that overflows keeps its value.
     Point of(Point p) const;
 };

@@ -13,13 +13,9 @@ namespace {
 // By which the end of a leg may lie off the axis that it was laid on, level and upright together.
 constexpr double halfStepsOfAnEnd = 2;
 
-// Of length 1, y downward.
-struct Axis {
-    double x = noAngle, y = noAngle;
-};
+} // namespace
 
-// None outside sectors 1 to 4.
-Axis axisOf(std::int16_t sector, double orthoAngle)
+Way axisOf(std::int16_t sector, double orthoAngle)
 {
     const double c = std::cos(orthoAngle);
     const double s = std::sin(orthoAngle);
@@ -37,8 +33,6 @@ Axis axisOf(std::int16_t sector, double orthoAngle)
     }
 }
 
-} // namespace
-
 std::int16_t sectorOfDirection(double direction, double orthoAngle)
 {
     double d = direction - orthoAngle;
@@ -53,7 +47,8 @@ std::int16_t sectorOfDirection(double direction, double orthoAngle)
 
 Point pointOnAxis(Point origin, double d, std::int16_t sector, double orthoAngle, Point fallback)
 {
-    const Axis axis = axisOf(sector, orthoAngle);
+    const Way axis = axisOf(sector, orthoAngle);
+    if (!axis.isAny()) return fallback;
     Point p = fallback;
     keep(p.x, origin.x + d * axis.x);
     keep(p.y, origin.y + d * axis.y);
@@ -63,9 +58,9 @@ Point pointOnAxis(Point origin, double d, std::int16_t sector, double orthoAngle
 Direction directionByOrtho(Point from, Point to, std::int16_t sector, double orthoAngle)
 {
     const Direction leg = directionOf(from, to);
-    const Axis axis = axisOf(sector, orthoAngle);
+    const Way axis = axisOf(sector, orthoAngle);
     const double offAxis = std::abs(leg.x * axis.y - leg.y * axis.x);
-    if (!(offAxis <= halfStepsOfAnEnd * leg.rounding)) return leg;
+    if (!axis.isAny() || !(offAxis <= halfStepsOfAnEnd * leg.rounding)) return leg;
     const double sign = leg.x * axis.x + leg.y * axis.y < 0 ? -1 : 1;
     return {sign * axis.x, sign * axis.y, 0};
 }

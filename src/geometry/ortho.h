@@ -1,6 +1,7 @@
 #pragma once
 
 #include "geometry/direction.h"
+#include "geometry/way.h"
 
 #include <cstdint>
 
@@ -12,6 +13,9 @@ namespace mirtane {
 // The sector of direction (radians, 0 to a full turn) under orthoAngle; each upper limit belongs to its
 // sector.
 std::int16_t sectorOfDirection(double direction, double orthoAngle);
+
+// The axis of sector. None outside 1 to 4.
+Way axisOf(std::int16_t sector, double orthoAngle);
 
 // The point at distance d (world units, negative runs backward) from origin on the axis of sector.
 // A sector outside 1 to 4 and a coordinate that overflows leave fallback's.

@@ -6,7 +6,7 @@
 
 namespace mirtane {
 
-// The caption of snaplab that says that Zoom Window is on.
+// The caption of snapLabel that says that Zoom Window is on.
 inline constexpr std::string_view zoomWindowOn = "Zoom Window is on:";
 
 // The next clicks on the drawing are the corners of a window to zoom to, whatever function runs.

@@ -147,7 +147,7 @@ void saveAndOpenAgain(App& app)
 
 namespace {
 
-// Someone else may have saved a file there while the dialog stood.
+// What the button can't have said: someone else may have saved a file there while the dialog stood.
 bool isToBeToldFirst(App& app, const FileChoice& choice)
 {
     Session& s = app.s;
@@ -232,8 +232,10 @@ void confirmFileDialog(App& app, ControlId)
     normalisePath(app);
     const auto path = typedPath(app);
     if (path && !takePath(app, *path)) return;
+    // The button's warning comes with the name. Where the path that was typed leads to a file, nobody has
+    // seen it yet.
     const std::string& now = s.controls[ids::fileConfirm].caption;
-    if (now != before && now == "Overwrite?") return; // nobody has seen yet that a file stands there
+    if (now != before && now == "Overwrite?") return;
     std::string name = chosenName(s);
     if (name.empty()) {
         if (beginsWithPoint(typed)) tellFault(app, "A name can't begin with a point");

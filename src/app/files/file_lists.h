@@ -12,8 +12,10 @@ std::string& folderShown(Controls& controls);
 // The folder is a copy, since it may be one of the rows that are replaced here.
 void showFolder(App& app, std::string folder);
 
-// The file that is meant, wherever the name or the path that is typed leads, and whether there is one.
+// The file that is meant, wherever the name or the path that is typed leads.
 TypedPath meantFile(App& app);
+
+// Whether the file is there: in the folder that is shown by the list, in any other by the disk.
 bool standsThere(App& app, const TypedPath& file);
 
 // The one overwrite warning: the button says so while the name is that of a file that is there. The file is

@@ -11,6 +11,7 @@
 #include "commands/prompt.h"
 #include "edit/concentric.h"
 #include "geometry/fault.h"
+#include "geometry/ortho.h"
 #include "geometry/way.h"
 #include "model/room.h"
 #include "tables/functions.h"
@@ -18,8 +19,6 @@
 #include "text/measure.h"
 #include "text/numbers.h"
 #include "text/utf8.h"
-
-#include <cmath>
 
 namespace mirtane {
 namespace {
@@ -81,12 +80,6 @@ bool isOffset(const FunctionRow& row)
     return row.orthoOnClick == Ortho::onlyAtStep3;
 }
 
-// To the right along the ortho angle, as a distance runs that is typed in a fresh program.
-Way firstAxis(const CanvasInput& s)
-{
-    return {std::cos(s.orthoAngle), -std::sin(s.orthoAngle)};
-}
-
 // pickLast at distance d from pickFirst.
 void layAlong(ScratchPoints& s, Way way, float d)
 {
@@ -101,7 +94,8 @@ void layPoint(Session& s, Canvas& pic1, const FunctionRow& row, float d)
     if (d < leastInEmptyDrawing && s.store.entCount == 1) return backToDrawing(s, pic1);
     const bool ortho = orthoIsOn(s.controls);
     Way way = wayAhead(s);
-    if (!way.isAny() && !isOffset(row)) way = firstAxis(s);
+    // To the right, as a distance runs that is typed in a fresh program.
+    if (!way.isAny() && !isOffset(row)) way = axisOf(1, s.orthoAngle);
     if (ortho) {
         confinePickLast(s, d);
     } else {
