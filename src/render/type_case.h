@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/coverage.h"
+#include "render/set_line.h"
 
 #include <array>
 #include <functional>
@@ -9,13 +10,6 @@
 #include <unordered_map>
 
 namespace mirtane {
-
-// One letter of a line that has been set: which of all letters it is, and where its origin stands from the
-// line's beginning and its base line, in ems, x along the line and y down from it.
-struct SetLetter {
-    std::uint32_t letter;
-    float x, y;
-};
 
 // Where a line goes, and how large: its upper left corner, how far below it the base line runs, the em
 // (all in pixels) and the angle, whole degrees counter-clockwise.

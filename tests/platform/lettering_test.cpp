@@ -4,13 +4,17 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/surface.h"
 
+#include "hostile_numbers.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace mirtane {
 namespace {
@@ -129,6 +133,49 @@ TEST(Lettering, IsTheSameTheSecondTime)
         surface.text(at.x, at.y, row.degrees, row.words);
         EXPECT_EQ(levelsOf(surface.shown()), first) << row.words;
         EXPECT_EQ(levelsOf(written(row).shown()), first) << row.words;
+    }
+}
+
+// Letters that grow into one another in many faces, marks, and what stands on drawings.
+constexpr const char* pieces[] = {"fi", "ffl", "ff",     "Th",     "Qu",     "ct",      "st",      "tt",
+                                  "AV", "To",  "W.",     "12'",    "-6",     "\"",      "1/2",     "(7)",
+                                  " ",  " x ", "\u00E9", "\u00D8", "\u00BD", "\u00B0",  "...",     "--",
+                                  "->", "gj",  "Bed",    "room ",  "Ij",     "\u0141",  "f\u00EF", "fj",
+                                  "l'", "=",   "<=",     "1:50",   "No.",    "e\u0301", "\u03A9",  "\u00AD"};
+
+// A text of pieces that follow one another by chance.
+std::string piecedText(fake::HostileNumbers& numbers)
+{
+    std::string text;
+    for (std::uint32_t left = 1 + numbers.below(7); left > 0; --left)
+        text += pieces[numbers.below(static_cast<std::uint32_t>(std::size(pieces)))]; // some dozens
+    return text;
+}
+
+void writeOne(Surface& surface, const char* face, const std::string& words, int degrees)
+{
+    surface.setScale({0, 0, wide, high});
+    surface.setColor(0xFFFFFF);
+    surface.setFontName(face);
+    surface.setFontSize(15);
+    surface.clear();
+    surface.text(wide / 2.0F, high / 2.0F, degrees, words);
+}
+
+TEST(Lettering, IsTheSameAfterManyTextsOfAFaceAsInTheFirst)
+{
+    fake::HostileNumbers numbers(77);
+    for (const char* const face : {"Garamond", "DejaVu Sans", "DejaVu Serif", "No Such Face"}) {
+        Surface used(wide, high);
+        for (int i = 0; i < 60; ++i) writeOne(used, face, "Hall " + std::to_string(i), 0);
+        for (int round = 0; round < 250; ++round) {
+            const std::string words = piecedText(numbers);
+            Surface fresh(wide, high);
+            writeOne(fresh, face, words, 17);
+            writeOne(used, face, words, 17);
+            ASSERT_TRUE(std::ranges::equal(used.picture().pixels(), fresh.picture().pixels()))
+                << face << ": " << words;
+        }
     }
 }
 

@@ -66,6 +66,7 @@ void Typesetter::forget()
     newer_.clear();
     older_.clear();
     newerBytes_ = 0;
+    faces_.clear();
     fonts_.clear();
     known_.clear();
     numbers_.clear();
@@ -85,12 +86,37 @@ const SetLine& Typesetter::keep(Lines::node_type line)
     return newer_.insert(std::move(line)).position->second;
 }
 
+Typesetter::Face& Typesetter::faceNamed(std::string_view fontName)
+{
+    std::string name(fontName);
+    if (const auto found = faces_.find(name); found != faces_.end()) return found->second;
+    if (faces_.size() >= mostFonts) faces_.clear(); // a file may hold a new name for each text
+    QFont font = faceOf(textOf(fontName));
+    font.setPixelSize(setEm);
+    const auto setFew = [this, font](std::u16string_view letters) {
+        return setWhole(
+            font, QString::fromUtf16(letters.data(), static_cast<qsizetype>(letters.size()))); // one or two
+    };
+    return faces_.emplace(std::move(name), Face{font, PairSpacing(setFew)}).first->second;
+}
+
+// To ask for all pairs of a few texts would take longer than to ask for the texts.
 SetLine Typesetter::set(const Named& name)
 {
+    constexpr int few = 40;
+    Face& face = faceNamed(name.fontName);
+    const QString text = drawnText(name.utf8);
+    if (++face.lines > few) {
+        const std::u16string letters = text.toStdU16String();
+        if (auto line = face.spacing.line(letters)) return *std::move(line);
+    }
+    return setWhole(face.font, text);
+}
+
+SetLine Typesetter::setWhole(const QFont& font, const QString& text)
+{
     SetLine line;
-    QFont font = faceOf(textOf(name.fontName));
-    font.setPixelSize(setEm);
-    QTextLayout layout(drawnText(name.utf8), font);
+    QTextLayout layout(text, font);
     layout.beginLayout();
     const QTextLine set = layout.createLine();
     layout.endLayout();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "render/pair_spacing.h"
 #include "render/type_case.h"
 
 #include <QFont>
@@ -11,17 +12,8 @@
 
 namespace mirtane {
 
-// A text as the toolkit sets it.
-struct SetLine {
-    std::vector<SetLetter> letters;
-    double width = 0;     // ems
-    bool outlined = true; // no letter is a picture of its font's own
-
-    std::size_t bytes() const { return sizeof(SetLine) + letters.capacity() * sizeof(SetLetter); }
-};
-
-// Asks the toolkit once for each text and once for each letter, and keeps what it says: the lines that were
-// set, as long as they take no more than a bound, and the letters in its case.
+// Asks the toolkit once for each text, or for each pair of letters, and once for each letter, and keeps what
+// it says: the lines that were set, as long as they take no more than a bound, and the letters in its case.
 class Typesetter {
   public:
     Typesetter();
@@ -56,7 +48,15 @@ class Typesetter {
     };
     using Lines = std::unordered_map<Key, SetLine, Hash, Same>;
 
+    struct Face {
+        QFont font;
+        PairSpacing spacing;
+        int lines = 0; // that were set
+    };
+
+    Face& faceNamed(std::string_view fontName);
     SetLine set(const Named& name);
+    SetLine setWhole(const QFont& font, const QString& text);
     std::uint32_t letterOf(const QRawFont& font, std::uint32_t glyph);
     Coverage cast(const TypeCase::Order& order);
     const QRawFont& sized(std::size_t font, int em);
@@ -72,6 +72,7 @@ class Typesetter {
     // Lines move to the newer ones when they are asked for; once those are many, the older ones go.
     Lines newer_, older_;
     std::size_t newerBytes_ = 0;
+    std::unordered_map<std::string, Face> faces_;
     std::vector<QRawFont> fonts_;
     std::vector<Letter> known_;
     std::unordered_map<std::uint64_t, std::uint32_t> numbers_; // of the known, by font and glyph
