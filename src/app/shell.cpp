@@ -170,6 +170,11 @@ void Shell::keyUp(int)
     event([&](App&) { canvasKeyUp(s_); });
 }
 
+void Shell::keysHeld(bool shift, bool ctrl)
+{
+    canvasKeysHeld(s_, shift, ctrl);
+}
+
 void Shell::resized()
 {
     readViewLimits(s_, pic1_);

@@ -42,6 +42,8 @@ class Shell {
     // Key codes: 16 Shift, 17 Ctrl, 37 left, 38 up, 39 right, 40 down.
     void keyDown(int code);
     void keyUp(int code);
+    // Which of the two keys that snap are down while the pointer is over pic1. Moves no focus.
+    void keysHeld(bool shift, bool ctrl);
     // The surface has a new size in pixels; its scale width and height follow at the same units to the pixel.
     void resized();
     // Repaints; the window asks for it when a resize has come to rest.

@@ -406,6 +406,31 @@ TEST(HeldKeys, ShiftAndCtrlArmASnapUntilAnyKeyIsLetGo)
     EXPECT_EQ(desk.s.snapKey, 0);
 }
 
+struct HeldRow {
+    std::int16_t before;
+    bool shift, ctrl;
+    std::int16_t after;
+};
+
+constexpr HeldRow heldRows[] = {
+    {0, false, false, 0}, {0, true, false, 1}, {0, false, true, 2}, {0, true, true, 2},
+    {1, false, false, 0}, {1, true, false, 1}, {1, false, true, 2}, {1, true, true, 1},
+    {2, false, false, 0}, {2, true, false, 1}, {2, false, true, 2}, {2, true, true, 2},
+};
+
+// They went down or up in a field, and the pointer comes from there with the field still in use.
+TEST(HeldKeys, AreAsThePointerTellsThemAndMoveNoFocus)
+{
+    for (const HeldRow& row : heldRows) {
+        Desk desk;
+        desk.shell.giveFocus("Text8"_c);
+        desk.s.snapKey = row.before;
+        desk.shell.keysHeld(row.shift, row.ctrl);
+        EXPECT_EQ(desk.s.snapKey, row.after) << row.before << row.shift << row.ctrl;
+        EXPECT_EQ(desk.s.controls.focus, ControlId("Text8"_c));
+    }
+}
+
 struct PanRow {
     const char* what;
     int code;

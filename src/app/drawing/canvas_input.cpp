@@ -205,6 +205,14 @@ void canvasKeyUp(CanvasInput& s)
     s.snapKey = 0;
 }
 
+void canvasKeysHeld(CanvasInput& s, bool shift, bool ctrl)
+{
+    const bool asKnown = (s.snapKey == 1 && shift) || (s.snapKey == 2 && ctrl);
+    if (asKnown) return;
+    s.snapKey = ctrl ? 2 : 0;
+    if (shift && !ctrl) s.snapKey = 1;
+}
+
 void canvasKeyPress(Session& s, Canvas& pic1, char32_t code)
 {
     const FunctionRow* row = findFunction(s.curFunc);

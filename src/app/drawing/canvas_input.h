@@ -10,6 +10,9 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at);
 void canvasMouseMove(Session& s, Canvas& pic1, Point at);
 void canvasKeyDown(Session& s, Canvas& pic1, int code);
 void canvasKeyUp(CanvasInput& s);
+// Which of the keys that snap while they are held are down, as the pointer tells it: they may have gone down
+// or up where another control had the keys.
+void canvasKeysHeld(CanvasInput& s, bool shift, bool ctrl);
 void canvasKeyPress(Session& s, Canvas& pic1, char32_t code);
 
 // A right click, or a click on the last point: ends the action and returns to baseFunc.

@@ -159,6 +159,13 @@ QPointF SurfaceWidget::placeOf(Point world) const
     return {pixel.x / ratio, pixel.y / ratio};
 }
 
+// Ctrl and Shift may have gone down in a field, in the manual, or in another program.
+void SurfaceWidget::takeHeld(Qt::KeyboardModifiers keys)
+{
+    if (gate_.closed()) return;
+    gate_.shell().keysHeld(keys.testFlag(Qt::ShiftModifier), keys.testFlag(Qt::ControlModifier));
+}
+
 // The middle button is not yet known to click.
 void SurfaceWidget::mousePressEvent(QMouseEvent* event)
 {
@@ -169,6 +176,7 @@ void SurfaceWidget::mousePressEvent(QMouseEvent* event)
         grabbed_ = worldAt(event->position());
         return;
     }
+    takeHeld(event->modifiers());
     gate_.send([&](Shell& shell) { shell.mouseDown(button, worldAt(event->position())); });
 }
 
@@ -187,6 +195,7 @@ void SurfaceWidget::mouseMoveEvent(QMouseEvent* event)
         show(gate_.shell().session().controls[id_]);
     }
     if (!middle_.isHeld()) {
+        takeHeld(event->modifiers());
         gate_.send([&](Shell& shell) { shell.mouseMove(worldAt(at)); });
     } else if (middle_.move(at.x(), at.y())) {
         setCursor(Qt::ClosedHandCursor);

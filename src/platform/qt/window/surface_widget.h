@@ -46,6 +46,7 @@ class SurfaceWidget : public QWidget, public ControlView {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    void takeHeld(Qt::KeyboardModifiers keys);
     Point worldAt(QPointF at) const;
     QPointF placeOf(Point world) const;
     QRect markRect() const;
