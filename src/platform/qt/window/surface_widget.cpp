@@ -76,6 +76,8 @@ SurfaceWidget::SurfaceWidget(EventGate& gate, ControlId id, Surface& surface, QW
     sizeAtRest_.setSingleShot(true);
     sizeAtRest_.setInterval(rest);
     connect(&sizeAtRest_, &QTimer::timeout, this, [this] {
+        if (gate_.closed())
+            return sizeAtRest_.start(); // a dialog of the toolkit's is up, and the event goes on
         fitSurface();
         gate_.send([](Shell& shell) {
             shell.resized(); // again, for a size that changed while the gate was closed
