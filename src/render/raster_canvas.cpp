@@ -4,6 +4,7 @@
 
 #include "render/raster_canvas.h"
 
+#include "geometry/fault.h"
 #include "render/chords.h"
 
 #include <algorithm>
@@ -57,8 +58,8 @@ void RasterCanvas::resizePixels(int width, int height, double ratio)
     fresh_ = touched_ = dirty_ = image_.bounds();
     // From the units to the pixel, not from the last width, so that sizes there and back leave no rounding
     // behind.
-    scale_.width = static_cast<float>(image_.width() / perUnitX_); // the surface's scale is 32-bit
-    scale_.height = static_cast<float>(image_.height() / perUnitY_);
+    keep(scale_.width, image_.width() / perUnitX_);
+    keep(scale_.height, image_.height() / perUnitY_);
 }
 
 Point RasterCanvas::worldAt(double px, double py) const

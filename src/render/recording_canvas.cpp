@@ -3,6 +3,7 @@
 
 #include "render/recording_canvas.h"
 
+#include "geometry/fault.h"
 #include "render/chords.h"
 
 #include <algorithm>
@@ -122,8 +123,8 @@ void RecordingCanvas::takeOps(const std::function<void(const CanvasOp&)>& take)
 void RecordingCanvas::resizePixels(Size pixels)
 {
     // The scale is 32-bit; its factors aren't, so that nothing is lost between.
-    scale_.width = static_cast<float>(double{scale_.width} * pixels.width / pixels_.width);
-    scale_.height = static_cast<float>(double{scale_.height} * pixels.height / pixels_.height);
+    keep(scale_.width, double{scale_.width} * pixels.width / pixels_.width);
+    keep(scale_.height, double{scale_.height} * pixels.height / pixels_.height);
     pixels_ = pixels;
 }
 

@@ -255,6 +255,13 @@ TEST(RasterCanvas, AnyCoordinateAndAnyScaleIsHarmless)
     }
     canvas.resizePixels(-5, 0, 1);
     EXPECT_EQ(canvas.getPixelSize().width, 1);
+    for (const float side : {1e38F, 2.9e38F, 3.4e38F}) {
+        canvas.resizePixels(30, 20, 1);
+        canvas.setScale({-3e38F, -1e37F, side, side});
+        canvas.resizePixels(4570, 1010, 1);
+        const Scale seen = canvas.getScale();
+        EXPECT_TRUE(std::isfinite(seen.width) && std::isfinite(seen.height)) << side;
+    }
     canvas.setScale({0, 0, 1, 1});
     canvas.point(0, 0);
     EXPECT_EQ(inked(canvas.picture()).size(), 1U);

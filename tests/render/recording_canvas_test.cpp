@@ -129,6 +129,10 @@ TEST(RecordingCanvas, AloneANewSizeKeepsUnitsToThePixel)
     EXPECT_EQ(canvas.getScale().left, 5);
     EXPECT_EQ(canvas.getScale().width, 600);
     EXPECT_EQ(canvas.getScale().height, 100);
+    canvas.setScale({0, 0, 3e38F, 2e38F});
+    canvas.resizePixels({15000, 2500});
+    EXPECT_EQ(canvas.getScale().width, 3e38F) << "there is none so wide";
+    EXPECT_EQ(canvas.getScale().height, 2e38F);
 }
 
 } // namespace
