@@ -42,15 +42,18 @@ std::string folderThatExists(App& app, const FolderPair& folders)
 
 namespace {
 
-// The drawing's own file needs no warning, unless someone else was at it. Its folder may be gone with it.
+// The drawing's own file needs no warning, unless someone else was at it. Its folder may be gone with it;
+// what bears its name in the one that is shown instead is another drawing, and saving puts nothing back.
 void showWhatItWouldReplace(App& app)
 {
     Session& s = app.s;
+    std::string& button = s.controls[ids::fileConfirm].caption;
     const bool ownFile = proposesOwnFile(s);
     if (!ownFile) showWhetherItOverwrites(app);
-    const bool own = ownFile || (savesWholeDrawing(choiceOf(s, chosenName(s))) && ownFileIsGone(app));
-    if (isSaving(s.controls) && own && warnOfOwnFile(app))
-        s.controls[ids::fileConfirm].caption = "Overwrite?";
+    if (!isSaving(s.controls) || !savesWholeDrawing(choiceOf(s, chosenName(s)))) return;
+    const bool isElsewhere = !ownFile && ownFileIsGone(app);
+    if (isElsewhere && button == "Overwrite?") return tellThatOwnFolderIsGone(app);
+    if ((ownFile || isElsewhere) && warnOfOwnFile(app)) button = "Overwrite?";
 }
 
 const std::string& ownFolder(const App& app)
@@ -147,6 +150,13 @@ void saveAndOpenAgain(App& app)
 
 namespace {
 
+// Another drawing of the same name. What the button says may be taken for the own file, which is not as it
+// was.
+bool passesForOwnFile(App& app, const FileChoice& choice)
+{
+    return savesWholeDrawing(choice) && choice.name == app.s.drawingName && !ownFileIsAsSaved(app);
+}
+
 // What the button can't have said: someone else may have saved a file there while the dialog stood.
 bool isToBeToldFirst(App& app, const FileChoice& choice)
 {
@@ -154,6 +164,8 @@ bool isToBeToldFirst(App& app, const FileChoice& choice)
     if (savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile)
         return !ownFileIsAsSeen(app) && warnOfOwnFile(app);
     if (s.notices.tells(Matter::fileInTheWay)) return false;
+    if (passesForOwnFile(app, choice))
+        return warnOfFileInTheWay(app, pathOf(choice), "Another " + choice.name, false);
     const bool saidByButton = s.controls[ids::fileConfirm].caption == "Overwrite?";
     return warnOfFileInTheWay(app, pathOf(choice), choice.name, saidByButton);
 }
@@ -189,8 +201,7 @@ bool takePath(App& app, TypedPath path)
         return false;
     }
     setText(app.s.controls[ids::fileName], path.name);
-    showFolder(app, path.folder);
-    showWhetherItOverwrites(app);
+    goToFolder(app, path.folder);
     return true;
 }
 

@@ -1,5 +1,8 @@
 #include "app/files/file_lists.h"
 
+#include "app/files/file_flows.h"
+#include "app/files/own_file.h"
+
 #include <algorithm>
 
 namespace mirtane {
@@ -28,6 +31,12 @@ int driveOf(const std::vector<std::string>& drives, const std::string& folder)
         found = static_cast<int>(i); // a machine has few drives
     }
     return found;
+}
+
+bool savesTheDrawing(const Session& s)
+{
+    return isSaving(s.controls) &&
+           savesWholeDrawing({{}, {}, s.controls[ids::fileForm].caption, s.filePattern});
 }
 
 } // namespace
@@ -97,19 +106,24 @@ void chooseFile(App& app, int row)
     if (button.caption == "Save") button.caption = "Overwrite?";
 }
 
+void goToFolder(App& app, const std::string& folder)
+{
+    showFolder(app, folder);
+    if (savesTheDrawing(app.s)) takeBackWhatWasTold(app);
+    showWhetherItOverwrites(app);
+}
+
 void chooseFolder(App& app, int row)
 {
     const std::string chosen = app.s.controls[ids::folderList].rows[static_cast<std::size_t>(row)]; // checked
     const std::string shown = folderShown(app.s.controls);
-    showFolder(app, chosen == ".." ? parentOf(shown) : (shown == "/" ? "" : shown) + "/" + chosen);
-    showWhetherItOverwrites(app);
+    goToFolder(app, chosen == ".." ? parentOf(shown) : (shown == "/" ? "" : shown) + "/" + chosen);
 }
 
 void chooseDrive(App& app, int row)
 {
-    showFolder(app,
-               app.s.controls[ids::driveList].rows[static_cast<std::size_t>(row)]); // the shell checks rows
-    showWhetherItOverwrites(app);
+    const std::string drive = app.s.controls[ids::driveList].rows[static_cast<std::size_t>(row)]; // checked
+    goToFolder(app, drive);
 }
 
 } // namespace mirtane

@@ -22,6 +22,9 @@ bool standsThere(App& app, const TypedPath& file);
 // lit in the list, and what was said of an earlier one goes.
 void showWhetherItOverwrites(App& app);
 
+// The user went to another folder.
+void goToFolder(App& app, const std::string& folder);
+
 // Rows of the lists.
 void chooseFile(App& app, int row);
 void chooseFolder(App& app, int row);

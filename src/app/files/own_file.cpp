@@ -62,6 +62,19 @@ bool warnOfOwnFile(App& app)
     return warnOfChange(app, now) || others; // the change comes in front: saving would replace it
 }
 
+void tellThatOwnFolderIsGone(App& app)
+{
+    Session& s = app.s;
+    say(s.notices, Matter::fileChanged,
+        s.drawingName + " is no longer on the disk: there is no folder " + s.drawingFolder + ".");
+}
+
+void takeBackWhatWasTold(App& app)
+{
+    app.s.notices.settle(Matter::fileChanged);
+    app.s.seenStamp = app.s.savedStamp;
+}
+
 void reviewOthers(App& app)
 {
     const Session& s = app.s;
@@ -73,6 +86,12 @@ void reviewOthers(App& app)
 bool ownFileIsGone(App& app)
 {
     return !app.s.drawingFile.empty() && !app.ports.disk.stamp(app.s.drawingFile);
+}
+
+bool ownFileIsAsSaved(App& app)
+{
+    const Session& s = app.s;
+    return s.drawingFile.empty() || app.ports.disk.stamp(s.drawingFile) == s.savedStamp;
 }
 
 bool warnOfFileInTheWay(App& app, const std::string& path, const std::string& name, bool toldBefore)

@@ -16,11 +16,21 @@ void watchOwnFile(App& app, std::optional<FileStamp> stamp = {});
 // it is no longer there, or another program of ours has it open. Gives whether there was anything to say.
 bool warnOfOwnFile(App& app);
 
+// Says in the strip that it is gone with its folder, for a dialog that stands in another one.
+void tellThatOwnFolderIsGone(App& app);
+
+// What was said of saving to it is true no longer, as the dialog went to another folder; it is said again
+// before it is saved there.
+void takeBackWhatWasTold(App& app);
+
 // The other program that had it open may have ended.
 void reviewOthers(App& app);
 
 // Whether the drawing has a file that is no longer on the disk.
 bool ownFileIsGone(App& app);
+
+// Whether what the drawing was opened from or saved to holds it still; true of a drawing without a file.
+bool ownFileIsAsSaved(App& app);
 
 // Says what else stands at the path to which something is to be saved: a drawing that another program has
 // open, or, if the user was not told of it before, any file. Gives whether there was anything to say.
