@@ -40,12 +40,15 @@ void takeFile(App& app, const FileChoice& choice, const std::optional<FileStamp>
 bool saveDrawingFile(App& app, const FileChoice& choice, SaveWhat what)
 {
     Session& s = app.s;
+    const bool isPartOfItself = what != SaveWhat::drawing && pathOf(choice) == s.drawingFile;
     if (what == SaveWhat::drawing) keepBeforeSave(app); // its file may not be whole for a moment
+    if (isPartOfItself) keepBeforePartReplacesIt(app);
     if (!app.ports.disk.writeWhole(pathOf(choice), drawingBytes(s, what))) return false;
     endWhatIsBegun(s, app.pic1);
     const bool marksGo = what != SaveWhat::layer && countWithStat(s.store, Stat::sel) > 0;
     afterSave(s, what);
     if (what == SaveWhat::drawing) takeFile(app, choice, app.ports.disk.stamp(pathOf(choice)));
+    if (isPartOfItself) tellThatPartIsInOwnFile(app);
     if (marksGo) redrawAll(s, app.pic1);
     return true;
 }

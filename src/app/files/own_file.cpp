@@ -94,6 +94,13 @@ bool ownFileIsAsSaved(App& app)
     return s.drawingFile.empty() || app.ports.disk.stamp(s.drawingFile) == s.savedStamp;
 }
 
+void tellThatPartIsInOwnFile(App& app)
+{
+    Session& s = app.s;
+    say(s.notices, Matter::fileChanged,
+        s.drawingName + " holds only what you just saved: save the drawing to have all of it there again.");
+}
+
 bool warnOfFileInTheWay(App& app, const std::string& path, const std::string& name, bool toldBefore)
 {
     const std::optional<OpenElsewhere> other =

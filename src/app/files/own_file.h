@@ -32,6 +32,9 @@ bool ownFileIsGone(App& app);
 // Whether what the drawing was opened from or saved to holds it still; true of a drawing without a file.
 bool ownFileIsAsSaved(App& app);
 
+// Says in the strip that a part of the drawing was saved in the place of the whole.
+void tellThatPartIsInOwnFile(App& app);
+
 // Says what else stands at the path to which something is to be saved: a drawing that another program has
 // open, or, if the user was not told of it before, any file. Gives whether there was anything to say.
 bool warnOfFileInTheWay(App& app, const std::string& path, const std::string& name, bool toldBefore);

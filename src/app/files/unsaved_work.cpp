@@ -44,6 +44,13 @@ std::optional<KeptWork> workOnOffer(App& app)
     return bytes ? readKeptWork(*bytes) : std::nullopt;
 }
 
+// "12 changes since 14:32."
+std::string sentenceOfChanges(const Session& s, std::int32_t changes, Clock* clock)
+{
+    const std::string counted = withThousands(changes) + (changes == 1 ? " change" : " changes");
+    return counted + (s.savedTime.empty() ? "" : " since " + shortTime(s.savedTime, nowBy(clock))) + ".";
+}
+
 // It is told once, and until it goes well again.
 void tellWhetherItFails(Notices& notices, const WorkKeeper& keeper)
 {
@@ -84,6 +91,21 @@ void takeAsUnsaved(Session& s, const KeptAbout& about)
     s.keptNames = inNoFile(s);
 }
 
+void keepAsItIs(App& app, LibraryNames names)
+{
+    Session& s = app.s;
+    app.ports.work->keep(keptWork(s, aboutDrawing(s, app.ports), librariesOf(s, names)));
+    s.keptMark = workMark(s);
+    s.keptNames = std::move(names);
+    tellWhetherItFails(s.notices, *app.ports.work);
+}
+
+bool isGivenUp(App& app)
+{
+    const Session& s = app.s;
+    return s.givenUpStamp && s.givenUpStamp == app.ports.disk.stamp(s.drawingFile);
+}
+
 bool differsFromSaved(const Session& s)
 {
     return livingSlots(s.store) != s.savedLiving || workMark(s).layerNames != s.savedMark.layerNames;
@@ -96,6 +118,16 @@ bool hasUnsavedWork(const Session& s)
     return s.savedCount < s.store.entCount;
 }
 
+bool isToBeAskedAbout(App& app)
+{
+    return hasUnsavedWork(app.s) || (!ownFileIsAsSaved(app) && !ownFileIsGone(app));
+}
+
+void giveUpWork(App& app)
+{
+    app.s.givenUpStamp = app.ports.disk.stamp(app.s.drawingFile);
+}
+
 void keepUnsavedWork(App& app)
 {
     Session& s = app.s;
@@ -105,10 +137,9 @@ void keepUnsavedWork(App& app)
     tellWhetherItFails(s.notices, *keeper);
     LibraryNames names = inNoFile(s);
     if (mark == s.keptMark && names == s.keptNames && !keeper->fails()) return;
-    if (mark == s.savedMark && isNone(names) && !hasUnsavedWork(s))
-        keeper->forget(); // what was kept is in files by now
-    else
-        keeper->keep(keptWork(s, aboutDrawing(s, app.ports), librariesOf(s, names)));
+    if (mark != s.savedMark || !isNone(names) || hasUnsavedWork(s) || !ownFileIsAsSaved(app))
+        return keepAsItIs(app, std::move(names));
+    keeper->forget(); // what was kept is in files by now
     s.keptMark = mark;
     s.keptNames = std::move(names);
     tellWhetherItFails(s.notices, *keeper);
@@ -117,10 +148,10 @@ void keepUnsavedWork(App& app)
 void leaveWorkNobodyGaveUp(App& app, Goes goes)
 {
     const Session& s = app.s;
-    if (app.ports.work == nullptr || hasUnsavedWork(s)) return; // which was asked about
-    const bool isNothing = !differsFromSaved(s) && isNone(lostWith(goes, inNoFile(s)));
-    if (isNothing) return;
-    keepUnsavedWork(app);
+    if (app.ports.work == nullptr || hasUnsavedWork(s) || isGivenUp(app)) return; // which was asked about
+    LibraryNames names = inNoFile(s);
+    if (ownFileIsAsSaved(app) && !differsFromSaved(s) && isNone(lostWith(goes, names))) return;
+    keepAsItIs(app, std::move(names));
     app.ports.work->leave();
 }
 
@@ -128,6 +159,13 @@ void keepBeforeSave(App& app)
 {
     if (app.ports.work == nullptr) return;
     keepUnsavedWork(app);
+    app.ports.work->flush();
+}
+
+void keepBeforePartReplacesIt(App& app)
+{
+    if (app.ports.work == nullptr) return;
+    keepAsItIs(app, inNoFile(app.s));
     app.ports.work->flush();
 }
 
@@ -147,10 +185,11 @@ std::string whatIsUnsaved(const Session& s, Goes goes, Clock* clock)
 {
     const std::string_view button = goes == Goes::program ? "End" : "Close";
     const std::int32_t changes = unsavedChanges(s);
-    std::string text =
-        s.drawingName + ": " + withThousands(changes) + (changes == 1 ? " change" : " changes");
-    if (!s.savedTime.empty()) text += " since " + shortTime(s.savedTime, nowBy(clock));
-    text += ". \"" + std::string(button) + "\" gives " + (changes == 1 ? "it" : "them") + " up.";
+    const bool isOne = changes == 1 || !hasUnsavedWork(s);
+    std::string text = s.drawingName + ": ";
+    text +=
+        hasUnsavedWork(s) ? sentenceOfChanges(s, changes, clock) : "its file holds something else by now.";
+    text += " \"" + std::string(button) + "\" gives " + (isOne ? "it" : "them") + " up.";
     const std::string libraries = sentenceOfNoFile(lostWith(goes, inNoFile(s)));
     return libraries.empty() ? text : text + " " + libraries;
 }

@@ -9,11 +9,21 @@ namespace mirtane {
 
 bool hasUnsavedWork(const Session& s);
 
+// Whether the user is to be asked before the drawing goes: it is not saved, or its file holds something else
+// by now. Where the file is no longer there nothing is asked.
+bool isToBeAskedAbout(App& app);
+
+// The user was asked.
+void giveUpWork(App& app);
+
 // Keeps the drawing if something was done since it was last kept or saved.
 void keepUnsavedWork(App& app);
 
 // Keeps it on the disk before its file is written.
 void keepBeforeSave(App& app);
+
+// The same before a part takes the place of the whole in its file: saved or not, it is in no file then.
+void keepBeforePartReplacesIt(App& app);
 
 // The drawing goes, and what of it differs from its file stays for the next run, unless the user was asked
 // and gave it up: he is not asked about all of it.
