@@ -13,11 +13,12 @@ struct FileStamp {
     std::uint64_t device = 0;
     std::string clock; // when it was modified, by the clock on the wall: "14:32"
 
-    // The clock on the wall is set forward and back.
+    // The clock on the wall is set forward and back. A disk that was plugged in or mounted again may be
+    // another device with other inodes, and holds the same file.
     bool operator==(const FileStamp& other) const
     {
-        return size == other.size && modified == other.modified && inode == other.inode &&
-               device == other.device;
+        return size == other.size && modified == other.modified &&
+               (inode == other.inode || device != other.device);
     }
 };
 

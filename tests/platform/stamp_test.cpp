@@ -86,6 +86,55 @@ TEST_F(StampTest, OfAFileThatIsReplacedIsAnother)
     EXPECT_NE(stamp(), replaced) << "saved once more by us";
 }
 
+// Disks are numbered anew when they are plugged in or mounted again, and some number their files anew with
+// it.
+TEST(Stamp, OfADiskThatCameBackIsThatOfTheSameFile)
+{
+    struct Row {
+        const char* what;
+        FileStamp seen, now;
+        bool isSame;
+    };
+    const Row rows[] = {
+        {"untouched",
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         true},
+        {"the disk under another number",
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         {460, 1'700'000'000'123'456'789, 12, 1793, "19:17"},
+         true},
+        {"its files numbered anew as well",
+         {98'304, 1'700'000'002'000'000'000, 71, 2065, "08:00"},
+         {98'304, 1'700'000'002'000'000'000, 5, 2081, "08:00"},
+         true},
+        {"a network folder",
+         {1, -3, 18'446'744'073'709'551'615U, 44, ""},
+         {1, -3, 18'446'744'073'709'551'615U, 51, ""},
+         true},
+        {"another file on the same disk",
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         {460, 1'700'000'000'123'456'789, 13, 1792, "19:17"},
+         false},
+        {"changed, on the same disk",
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         {460, 1'700'000'000'123'456'790, 12, 1792, "19:17"},
+         false},
+        {"changed elsewhere, by a nanosecond",
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         {460, 1'700'000'000'123'456'790, 12, 1793, "19:17"},
+         false},
+        {"changed elsewhere, by a byte",
+         {460, 1'700'000'000'123'456'789, 12, 1792, "19:17"},
+         {461, 1'700'000'000'123'456'789, 12, 1793, "19:17"},
+         false},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(row.seen == row.now, row.isSame) << row.what;
+        EXPECT_EQ(row.now == row.seen, row.isSame) << row.what;
+    }
+}
+
 TEST_F(StampTest, IsNoneWhereThereIsNoFile)
 {
     ASSERT_TRUE(QDir().mkpath(folder_.filePath("folder.mtd")));
