@@ -387,6 +387,42 @@ TEST(PrintDialog, AFilePageOfAnotherFolderIsAnotherFile)
     EXPECT_EQ(office.printer.lastFile, "/plans/untitled-2.pdf");
 }
 
+// Whatever went elsewhere in the meantime.
+TEST(PrintDialog, AFilePageGoesToTheFolderOfTheDrawing)
+{
+    struct Row {
+        const char* what;
+        const char* own;
+        const char* last;
+        const char* chosen;
+        const char* written;
+    };
+    const Row rows[] = {
+        {"a part was saved elsewhere", "/plans/north", "/parts", "", "/plans/north/mill.pdf"},
+        {"nothing was", "/parts", "/parts", "", "/parts/mill.pdf"},
+        {"the user chose another", "/plans/north", "/parts", "/plots", "/plots/mill.pdf"},
+        {"what the user chose went", "/plans/north", "/parts", "/gone", "/plans/north/mill.pdf"},
+        {"the drawing's own went", "/gone", "/parts", "", "/parts/mill.pdf"},
+        {"it has none yet", "", "/parts", "", "/parts/mill.pdf"},
+        {"the root", "/", "/parts", "", "/mill.pdf"},
+    };
+    for (const Row& row : rows) {
+        PrintDesk office;
+        office.folders.folders.insert({"/plans/north", "/parts", "/plots"});
+        office.printer.toFile = true;
+        office.printer.place = row.chosen;
+        office.s.drawingName = "mill.mtd";
+        office.s.drawingFolder = row.own;
+        office.s.drawings.last = row.last;
+        office.addLine();
+        office.ask();
+        EXPECT_EQ(office.caption("frmprintset.Label2"_c), std::string("Goes to the file ") + row.written)
+            << row.what;
+        office.press(printButton);
+        EXPECT_EQ(office.printer.lastFile, row.written) << row.what;
+    }
+}
+
 TEST(PrintDialog, AFilePageThatFailedIsNoneOfThisSession)
 {
     PrintDesk office;

@@ -39,8 +39,9 @@ bool isFree(App& app, const std::string& file)
 // A drawing is printed beside the place where it is kept, unless the user chose another.
 std::string folderOfPage(App& app, const Printer& printer)
 {
-    const std::string chosen = printer.folder();
-    return app.ports.folders.exists(chosen) ? chosen : folderThatExists(app, app.s.drawings);
+    for (const std::string& folder : {printer.folder(), app.s.drawingFolder})
+        if (app.ports.folders.exists(folder)) return folder;
+    return folderThatExists(app, app.s.drawings);
 }
 
 std::string fileOfPage(App& app, const Printer& printer)
