@@ -302,5 +302,40 @@ TEST(LibraryFolders, BeginWithWhatCameWithTheProgramUntilOneIsStored)
     EXPECT_EQ(start(used, {{"wkmthp", "/home/user/own"}}), "/home/user/own");
 }
 
+// Where an installed program stands nobody writes.
+TEST(LastFolders, ThatAreGoneGiveWayToTheUsersOwn)
+{
+    struct Row {
+        const char* what;
+        std::map<std::string, std::string> stored;
+        ControlId menu;
+        const char* shown;
+    };
+    const std::string program = "/usr/share/mirtane";
+    const Row rows[] = {
+        {"a stick", {{"wkp", "/media/stick"}}, "fil7"_c, fake::home},
+        {"a stick, a selection", {{"wkp", "/media/stick"}}, "fil9"_c, fake::home},
+        {"a stick, an export", {{"wkdxfp", "/media/stick"}}, "dd4"_c, fake::home},
+        {"a stick, with a working folder", {{"wkp", "/media/stick"}, {"wkd", "/plans"}}, "fil7"_c, "/plans"},
+        {"both", {{"wkp", "/media/stick"}, {"wkd", "/media/other"}}, "fil7"_c, fake::home},
+        {"no absolute path", {{"wkp", "plans"}}, "fil7"_c, fake::home},
+        {"one that is there", {{"wkp", "/plans"}}, "fil7"_c, "/plans"},
+        {"the program's, chosen by the user", {{"wkp", program}}, "fil7"_c, "/usr/share/mirtane"},
+        {"what is opened", {{"wkp", "/media/stick"}}, "fil4"_c, "/usr/share/mirtane"},
+    };
+    for (const Row& row : rows) {
+        Desk desk;
+        desk.folders.folders.insert({program, "/plans"});
+        desk.settings.values = row.stored;
+        Shell shell(desk.s, desk.pic1,
+                    Ports{desk.disk, desk.folders, desk.settings, program, nullptr, nullptr, fake::home});
+        shell.start();
+        desk.add(fake::record(Kind::line, {30, -7}, {1200, 455}), Stat::sel);
+        desk.s.savedCount = desk.s.store.entCount;
+        shell.click(row.menu);
+        EXPECT_EQ(desk.caption("frmfile.Label3"_c), row.shown) << row.what;
+    }
+}
+
 } // namespace
 } // namespace mirtane

@@ -41,7 +41,7 @@ std::string folderOfPage(App& app, const Printer& printer)
 {
     for (const std::string& folder : {printer.folder(), app.s.drawingFolder})
         if (app.ports.folders.exists(folder)) return folder;
-    return folderThatExists(app, app.s.drawings);
+    return folderToSaveIn(app, app.s.drawings);
 }
 
 std::string fileOfPage(App& app, const Printer& printer)

@@ -29,8 +29,8 @@ bool proposesOwnFile(const Session& s)
     return savesWholeDrawing(choice) && pathOf(choice) == s.drawingFile;
 }
 
-} // namespace
-
+// Of the two the first that is there, the one of the last file before the other; the program's own where
+// neither is.
 std::string folderThatExists(App& app, const FolderPair& folders)
 {
     for (const std::string& folder : {folders.last, folders.working}) {
@@ -38,6 +38,22 @@ std::string folderThatExists(App& app, const FolderPair& folders)
         if (isAbsolute && app.ports.folders.exists(folder)) return folder;
     }
     return app.s.programFolder;
+}
+
+const std::string& ownFolder(const App& app)
+{
+    return app.ports.ownFolder.empty() ? app.s.programFolder : app.ports.ownFolder;
+}
+
+} // namespace
+
+// Nobody writes where an installed program stands, or the libraries that came with it: the former is gone to
+// only where the user chose it.
+std::string folderToSaveIn(App& app, const FolderPair& folders)
+{
+    std::string folder = folderThatExists(app, folders);
+    const bool isPrograms = folder == app.s.programFolder && folder != folders.last;
+    return isPrograms || folder == app.ports.libraryFolder ? ownFolder(app) : folder;
 }
 
 namespace {
@@ -56,11 +72,6 @@ void showWhatItWouldReplace(App& app)
     if ((ownFile || isElsewhere) && warnOfOwnFile(app)) button = "Overwrite?";
 }
 
-const std::string& ownFolder(const App& app)
-{
-    return app.ports.ownFolder.empty() ? app.s.programFolder : app.ports.ownFolder;
-}
-
 // The drawing itself is saved where it is from, wherever parts of it or others went meanwhile.
 std::string firstFolder(App& app, const FileFlow& flow)
 {
@@ -69,9 +80,8 @@ std::string firstFolder(App& app, const FileFlow& flow)
     const bool savesIt = flow.button == "Save" && savesWholeDrawing(choice);
     if (savesIt && !s.drawingFolder.empty() && app.ports.folders.exists(s.drawingFolder))
         return s.drawingFolder;
-    const std::string folder = folderThatExists(app, s.*patternOf(s).folders);
-    const bool isOthers = flow.button == "Save" && folder == app.ports.libraryFolder; // nobody writes there
-    return isOthers ? ownFolder(app) : folder;
+    const FolderPair& folders = s.*patternOf(s).folders;
+    return flow.button == "Save" ? folderToSaveIn(app, folders) : folderThatExists(app, folders);
 }
 
 } // namespace

@@ -19,9 +19,9 @@ struct FileFlow {
 // Shows the dialog in the folder of the flow's pattern, with a name to begin with. Nothing follows the flow.
 void openFileDialog(App& app, const FileFlow& flow, const std::string& name);
 
-// Of the two folders the first that is there, the one of the last file before the other; the program's own
-// where neither is.
-std::string folderThatExists(App& app, const FolderPair& folders);
+// Of the two folders the first that is there, the one of the last file before the other; the user's own where
+// neither is.
+std::string folderToSaveIn(App& app, const FolderPair& folders);
 
 // Opens the drawing at an absolute path as if it had been chosen in "Open Drawing"; the dialog stays up with
 // the name where that fails. A DXF file is read in full. A name with no "." gets ".mtd"; one with another
