@@ -339,6 +339,47 @@ TEST(LibraryMenus, ASecondSaveAfterOneThatFailedWritesNothing)
     }
 }
 
+// The dialog has nothing to save any more, wherever it is tried: it says what helps, and that does.
+TEST(LibraryMenus, ASaveThatFailedIsDoneFromTheListAgain)
+{
+    for (const LibraryCase& library : libraries) {
+        LibraryDesk desk;
+        desk.create(library, "two rows");
+        desk.disk.refusesWrites = true;
+        desk.saveFirst(library);
+        const ControlId fault = "frmfile.Label5"_c;
+        EXPECT_EQ(desk.caption(fault), "File not saved! Choose it from the list once more.")
+            << library.select;
+        desk.disk.refusesWrites = false;
+        for (const char* name : {"two rows", "elsewhere"}) {
+            desk.name(name);
+            EXPECT_EQ(desk.caption(fault), "") << library.select;
+            desk.enter();
+            EXPECT_EQ(desk.caption(fault), "File not saved! Choose it from the list once more.");
+        }
+        desk.press("frmfile.Command2"_c);
+        desk.saveFirst(library);
+        EXPECT_FALSE(desk.visible("frmfile"_c)) << library.select;
+        EXPECT_TRUE(desk.disk.files.contains(desk.path(library, "two rows"))) << library.select;
+    }
+}
+
+// It is not spent there.
+TEST(LibraryMenus, AHatchThatIsBeingPlacedIsSavedAtTheSecondTry)
+{
+    LibraryDesk desk;
+    desk.create(hatches, "tiles");
+    desk.press(hatches.place);
+    desk.choose(0);
+    desk.disk.refusesWrites = true;
+    desk.saveFirst(hatches);
+    EXPECT_EQ(desk.caption("frmfile.Label5"_c), "File not saved!");
+    desk.disk.refusesWrites = false;
+    desk.enter();
+    EXPECT_FALSE(desk.visible("frmfile"_c));
+    EXPECT_TRUE(desk.disk.files.contains(desk.path(hatches, "tiles")));
+}
+
 TEST(LibraryMenus, UnderTheDialogTheListOfAnotherUseCannotBeShown)
 {
     LibraryDesk desk;

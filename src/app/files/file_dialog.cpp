@@ -4,6 +4,7 @@
 #include "app/files/file_flows.h"
 #include "app/files/file_lists.h"
 #include "app/files/file_names.h"
+#include "app/files/library_flows.h"
 #include "app/files/library_rows.h"
 #include "app/files/own_file.h"
 #include "app/files/unsaved_work.h"
@@ -228,13 +229,20 @@ void confirmOpen(App& app, const FileChoice& choice)
     tellFault(app, whyNotOpened(app, choice));
 }
 
+// What the dialog was to save may be gone from it, so that no other name and no other folder helps.
+std::string whyNotSaved(Session& s)
+{
+    const std::string& told = s.controls[ids::entry].text;
+    return isNameSpent(s, s.filePattern) ? told + " Choose it from the list once more." : told;
+}
+
 void confirmSave(App& app, const FileChoice& choice)
 {
     Session& s = app.s;
     if (isToBeToldFirst(app, choice)) {
         s.controls[ids::fileConfirm].caption = "Overwrite?";
     } else if (!saveFile(app, choice)) {
-        tellFault(app, s.controls[ids::entry].text);
+        tellFault(app, whyNotSaved(s));
     } else if (savesWholeDrawing(choice)) {
         carryOutFollowUp(app);
     } else {

@@ -61,6 +61,12 @@ bool saveLibraryFile(App& app, const FileChoice& choice)
     return saved;
 }
 
+bool isNameSpent(Session& s, const std::string& pattern)
+{
+    const LibraryRow* row = rowWith(&LibraryRow::pattern, pattern);
+    return row != nullptr && !isLiveName(nameToSave(s, row->library));
+}
+
 bool openLibraryFile(App& app, const FileChoice& choice)
 {
     const LibraryRow* row = rowWith(&LibraryRow::pattern, choice.pattern);

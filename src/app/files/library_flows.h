@@ -8,4 +8,8 @@ namespace mirtane {
 bool saveLibraryFile(App& app, const FileChoice& choice);
 bool openLibraryFile(App& app, const FileChoice& choice);
 
+// Whether the pattern is that of a library of which the name to save is spent, as it is by a save that
+// failed.
+bool isNameSpent(Session& s, const std::string& pattern);
+
 } // namespace mirtane
