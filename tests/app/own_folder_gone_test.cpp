@@ -140,6 +140,24 @@ TEST(OwnFileThatIsGone, IsToldAgainWhereTheDialogComesBackToItsFolder)
     }
 }
 
+// Nothing can be put back there.
+TEST(OwnFileThatIsGone, IsToldWhereAFolderStandsInItsPlace)
+{
+    for (const PlaceRow& place : places) {
+        WanderedDesk desk(place);
+        desk.disk.files.erase(desk.own);
+        desk.folders.folders.insert(desk.own);
+        desk.press("fil7"_c);
+        EXPECT_EQ(desk.button(), "Overwrite?") << place.name;
+        EXPECT_EQ(desk.strip(), "A folder stands where " + std::string(place.name) +
+                                    ".mtd was: save the drawing under another name.");
+        desk.name("elsewhere");
+        desk.enter();
+        EXPECT_TRUE(desk.disk.files.contains(std::string(place.folder) + "/elsewhere.mtd")) << place.name;
+        EXPECT_EQ(desk.strip(), "") << place.name;
+    }
+}
+
 // A drawing of another name is what the button says it is.
 TEST(OwnFolderThatIsGone, LeavesTheButtonItsWordForOtherNames)
 {

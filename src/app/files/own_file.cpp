@@ -13,14 +13,23 @@ std::string since(const OpenElsewhere& other)
     return other.clock.empty() ? "" : " since " + other.clock;
 }
 
+std::string sentenceOfChange(App& app, const std::optional<FileStamp>& now)
+{
+    const FileState& s = app.s;
+    if (now)
+        return s.drawingName + " was changed on the disk at " + now->clock +
+               ": saving replaces what is there.";
+    if (app.ports.folders.exists(s.drawingFile))
+        return "A folder stands where " + s.drawingName + " was: save the drawing under another name.";
+    return s.drawingName + " is no longer on the disk: saving puts it back.";
+}
+
 bool warnOfChange(App& app, const std::optional<FileStamp>& now)
 {
     Session& s = app.s;
     s.notices.settle(Matter::fileChanged);
     if (now == s.savedStamp) return false;
-    say(s.notices, Matter::fileChanged,
-        now ? s.drawingName + " was changed on the disk at " + now->clock + ": saving replaces what is there."
-            : s.drawingName + " is no longer on the disk: saving puts it back.");
+    say(s.notices, Matter::fileChanged, sentenceOfChange(app, now));
     return true;
 }
 
