@@ -6,6 +6,7 @@
 #include "platform/posix/keeper_thread.h"
 #include "platform/posix/kept_files.h"
 #include "platform/posix/open_marks.h"
+#include "platform/posix/size_limit.h"
 #include "platform/posix/wall_clock.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
@@ -91,6 +92,7 @@ const char* answerTo(std::string_view word)
 
 int main(int argc, char* argv[])
 {
+    outliveSizeLimit();
     if (const char* const answer = argc == 2 ? answerTo(argv[1]) : nullptr)
         return std::fputs(answer, stdout) >= 0 && std::fflush(stdout) == 0 ? 0 : 1;
     int toolkitArguments = 1; // the toolkit's own options would be names of drawings

@@ -3,6 +3,7 @@
 #include "convert/compare.h"
 #include "convert/convert.h"
 #include "convert/workers.h"
+#include "platform/posix/size_limit.h"
 
 #include <QGuiApplication>
 
@@ -138,6 +139,7 @@ int run(const std::vector<std::string>& words, Toolkit& toolkit)
 
 int main(int argc, char* argv[])
 {
+    mirtane::outliveSizeLimit();
     const std::vector<std::string> words(argv + 1, argv + argc); // before the toolkit takes words of its own
     Toolkit toolkit{argc, argv};
     return run(words, toolkit);

@@ -4,6 +4,7 @@
 #include "platform/posix/end_signals.h"
 #include "platform/posix/kept_files.h"
 #include "platform/posix/open_marks.h"
+#include "platform/posix/size_limit.h"
 #include "platform/posix/wall_clock.h"
 #include "platform/qt/folders.h"
 #include "platform/qt/fonts.h"
@@ -172,6 +173,7 @@ std::optional<int> answered(const std::string& word)
 
 int main(int argc, char* argv[])
 {
+    outliveSizeLimit();
     if (argc == 2) {
         if (const auto status = answered(argv[1])) return *status;
     }

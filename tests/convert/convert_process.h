@@ -65,6 +65,11 @@ class ConvertProcess {
     {
         return runLine("'" + std::string(MIRTANE_CONVERT) + "' " + words);
     }
+    // No file may become larger than so many blocks of 512 bytes.
+    Converted runWithin(int blocks, const std::string& words) const
+    {
+        return runLine("ulimit -f " + std::to_string(blocks) + " && '" + MIRTANE_CONVERT + "' " + words);
+    }
     Converted runOnTerminal(const std::string& words) const
     {
         return runLine("script -qec \"'" + std::string(MIRTANE_CONVERT) + "' " + words + "\" seen");

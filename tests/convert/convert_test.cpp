@@ -333,6 +333,19 @@ TEST_F(Convert, OutputThatCannotBeWrittenIsToldOf)
         expectRefused("house.mtd -o nowhere/" + std::string(name), 1, "house.mtd: can't be written: ", name);
 }
 
+TEST_F(Convert, OutputBeyondTheLimitOfFileSizesIsToldOf)
+{
+    p.makeFolder("pages");
+    for (const char* words : {"-o house.dxf", "-o house.png", "-o house.svg", "-o house.pdf",
+                              "-o pages --to dxf -j 2", "-o pages --to pdf -j 1"}) {
+        const fake::Converted got = p.runWithin(2, "house.mtd " + std::string(words));
+        EXPECT_EQ(got.status, 1) << words;
+        EXPECT_THAT(got.err, HasSubstr("house.mtd: can't be written: ")) << words;
+        EXPECT_EQ(std::count(got.err.begin(), got.err.end(), '\n'), 1) << got.err;
+    }
+    EXPECT_EQ(p.runWithin(0, "house.mtd -o - --to txt").status, 1);
+}
+
 TEST_F(Convert, DimensionThatDxfCannotHoldEndsTheFileAndIsToldOf)
 {
     EntityRecord odd;

@@ -134,6 +134,69 @@ TEST_P(Refusing, SaveOfASelectionKeepsTheSelection)
 INSTANTIATE_TEST_SUITE_P(AFullDisk, Refusing, testing::Values("full"));
 INSTANTIATE_TEST_SUITE_P(AReadOnlyDisk, Refusing, testing::Values("read-only"));
 
+// -- a limit on the size of files, in blocks of 512 bytes --
+
+std::string manyLines(int count)
+{
+    std::string lines;
+    for (int i = 0; i < count; ++i) {
+        const std::string y = std::to_string(93 + 17 * i);
+        lines += "click 211.5 " + y + "\nclick 733 " + y + "\ncancel 0 0\n";
+    }
+    return lines;
+}
+
+struct BeyondRow {
+    const char* limit;
+    int lines;
+    const char* act;
+    const char* said;
+};
+
+constexpr const char* notKept =
+    "expect get notice.caption == \"What you draw is not kept for the case that the "
+    "machine goes down: the disk takes nothing. Save often.\"\n";
+
+constexpr BeyondRow beyondRows[] = {
+    {"0", 1, "idle", notKept},
+    {"1", 6, "idle", notKept},
+    {"9", 61, "idle", notKept},
+    {"0", 2, "press fil7\nput frmfile.Text1 barn\nenter",
+     "expect get entry.text == \"Drawing not saved!\"\nexpect get frmfile.visible == true\n"},
+    {"3", 29, "press fil7\nput frmfile.Text1 barn\nenter",
+     "expect get entry.text == \"Drawing not saved!\"\nexpect get frmfile.visible == true\n"},
+    {"2", 17, "press Command19\nclick 20 30\nclick 999 1999\npress fil9\nput frmfile.Text1 part\nenter",
+     "expect get entry.text == \"Drawing not saved!\"\nexpect get frmfile.visible == true\n"},
+    {"4", 31, "press Command19\nclick 20 30\nclick 999 1999\npress dd4\nput frmfile.Text1 barn\nenter",
+     "expect get entry.text == \"File not saved!\"\nexpect get frmfile.visible == true\n"},
+};
+
+TEST(RefusedSize, EndsNoProgramAndIsToldAsAFullDiskIs)
+{
+    for (const BeyondRow& row : beyondRows) {
+        const PlayProcess process;
+        const std::string count = std::to_string(row.lines + 1);
+        const fake::Outcome ran =
+            process.run(manyLines(row.lines) + row.act + "\n" + row.said +
+                            "expect get session.entCount == " + count + "\nexpect alive == true\n",
+                        "ulimit -f " + std::string(row.limit));
+        EXPECT_EQ(ran.status, 0) << row.limit << ", " << row.act << ": " << ran.err;
+    }
+}
+
+TEST(RefusedSize, OfTheSettingsLetsTheProgramEndAllTheSame)
+{
+    const PlayProcess process;
+    const fake::Outcome ran = process.run("close\nexpect alive == false\n", "ulimit -f 0");
+    EXPECT_EQ(ran.status, 0) << ran.err;
+}
+
+TEST(RefusedSize, OfTheAnswersIsComplainedOf)
+{
+    const PlayProcess process;
+    EXPECT_EQ(process.run("get notice.caption\n", "ulimit -f 0").status, 2);
+}
+
 TEST(RefusedName, OfAFolderSavesNothing)
 {
     const PlayProcess process;
