@@ -17,6 +17,8 @@ inline constexpr LayerMenu listingMenus[] = {
 };
 
 struct LayerDesk : Desk {
+    using Desk::Desk;
+
     // A line on that layer.
     std::int32_t add(std::int16_t layer, Stat stat = Stat::on, Kind kind = Kind::line)
     {

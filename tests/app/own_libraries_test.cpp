@@ -2,9 +2,12 @@
 
 #include "layer_desk.h"
 
+#include "files/kept_work.h"
 #include "library/libraries.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace mirtane {
 namespace {
@@ -162,6 +165,64 @@ TEST(OwnLibraries, AreBroughtBackWithTheWork)
     started.press("fil14"_c);
     EXPECT_NE(started.caption("frmfile.Label4"_c).find("2 associates, 2 hatches and 2 sets"),
               std::string::npos);
+}
+
+// What a run leaves that makes these of its one line and dies.
+void makeAll(LayerDesk& desk, const OwnShelf& row, const std::vector<std::string>& names, float slant = 230)
+{
+    desk.drawLine(100, 103, 400, 103 + slant);
+    for (const std::string& name : names) makeOf(desk, row, name);
+}
+
+Bytes workWith(const OwnShelf& row, const std::vector<std::string>& names)
+{
+    LayerDesk desk;
+    makeAll(desk, row, names);
+    desk.shell.rest();
+    return desk.work.kept.value();
+}
+
+std::set<std::string> namesKept(const Desk& desk)
+{
+    std::set<std::string> names;
+    const KeptWork work = desk.work.kept ? readKeptWork(*desk.work.kept).value() : KeptWork();
+    for (const KeptLibrary& library : work.libraries) names.insert(library.name);
+    return names;
+}
+
+struct BesideRow {
+    std::vector<std::string> restored, own;
+    std::set<std::string> kept;
+};
+
+const BesideRow besideRows[] = {
+    {{}, {"tiles"}, {"tiles"}},
+    {{"brick"}, {"tiles"}, {"brick", "tiles"}},
+    {{"brick", "slate 7"}, {"a", "zz top"}, {"a", "brick", "slate 7", "zz top"}},
+    {{"brick"}, {}, {"brick"}},
+    {{"brick", "tiles"}, {"tiles"}, {"brick", "tiles"}},
+};
+
+// The program may die at once.
+TEST(OwnLibraries, AreKeptAlongWithTheWorkThatIsRestored)
+{
+    for (const OwnShelf& row : {ofHatches, ofLines}) {
+        for (const BesideRow& names : besideRows) {
+            LayerDesk desk({}, fake::MemoryWork({{"a", workWith(row, names.restored)}}));
+            makeAll(desk, row, names.own);
+            desk.saveAs("second");
+            desk.shell.rest();
+            desk.press("notice.Command1"_c);
+            EXPECT_EQ(namesKept(desk), names.kept);
+            desk.shell.rest();
+            EXPECT_EQ(namesKept(desk), names.kept);
+            ASSERT_TRUE(desk.work.kept);
+            Desk next({}, fake::MemoryWork({{"b", *desk.work.kept}}));
+            next.press("notice.Command1"_c);
+            const std::vector<std::string> back = listedNames(next.s, row.library);
+            EXPECT_EQ(std::set(back.begin(), back.end()), names.kept);
+        }
+    }
 }
 
 // What came back is unsaved as a whole until the drawing is saved.

@@ -231,6 +231,25 @@ TEST_F(KilledRuns, MayBeKilledAgain)
     EXPECT_EQ(last.ask("get notice.caption"), "\"\"");
 }
 
+// What was made in a run before the work of another came back is in no file either.
+TEST_F(KilledRuns, LoseNoHatchForWhatTheyRestored)
+{
+    session(ends[1]);
+    {
+        TypedRun run(home());
+        run.type("press freecurs\nclick 1000 1010\nclick 1377 1010\ncancel 0 0\npress Command20\n"
+                 "click 1200 1010\npress ht5\ntype slates\nenter\nclick 1000 1000\nclick 1420 1040\n"
+                 "press fil7\nput frmfile.Text1 roof\nenter\nidle\npress notice.Command1\n");
+        EXPECT_EQ(run.count("get session.entCount"), sure + 1);
+        run.end(SIGKILL);
+    }
+    TypedRun next(home());
+    next.type("press notice.Command1\n");
+    EXPECT_EQ(next.count("get session.entCount"), sure + 1);
+    next.type("press ht7\n");
+    EXPECT_EQ(next.ask("get List1.rows"), "[\"slates\"]");
+}
+
 // What a living program keeps is its own.
 TEST_F(KilledRuns, AreNotThoseThatGoOn)
 {

@@ -95,6 +95,16 @@ std::vector<KeptLibrary> librariesOf(const Session& s, const LibraryNames& names
     return all;
 }
 
+LibraryNames namesOf(const std::vector<KeptLibrary>& libraries)
+{
+    LibraryNames names;
+    for (const KeptLibrary& kept : libraries) {
+        const LibraryRow* const row = rowWith(&LibraryRow::extension, kept.extension);
+        if (row != nullptr) namesOf(names, row->library).insert(kept.name);
+    }
+    return names;
+}
+
 void giveBack(Session& s, const std::vector<KeptLibrary>& libraries)
 {
     for (const KeptLibrary& kept : libraries) {

@@ -25,6 +25,7 @@ std::string sentenceOfNoFile(const LibraryNames& names);
 
 // They go along with the work that is kept, and come back with it.
 std::vector<KeptLibrary> librariesOf(const Session& s, const LibraryNames& names);
+LibraryNames namesOf(const std::vector<KeptLibrary>& libraries);
 void giveBack(Session& s, const std::vector<KeptLibrary>& libraries);
 
 } // namespace mirtane

@@ -79,8 +79,9 @@ void offerNext(App& app)
 }
 
 // It is unsaved, whatever its objects count to.
-void takeAsUnsaved(Session& s, const KeptAbout& about)
+void takeAsUnsaved(Session& s, const KeptWork& work)
 {
+    const KeptAbout& about = work.about;
     s.drawingName = about.drawingName;
     s.drawingFile = about.drawingFile;
     s.drawingFolder = about.folder;
@@ -88,7 +89,7 @@ void takeAsUnsaved(Session& s, const KeptAbout& about)
     s.savedTime = about.since;
     s.changesBefore = about.changes;
     s.savedMark = s.keptMark = workMark(s);
-    s.keptNames = inNoFile(s);
+    s.keptNames = namesOf(work.libraries);
 }
 
 void keepAsItIs(App& app, LibraryNames names)
@@ -219,8 +220,9 @@ void restoreLeftWork(App& app)
         openDrawing(app, work->drawing);
         giveBack(s, work->libraries);
         updateGauge(s);
-        takeAsUnsaved(s, work->about);
+        takeAsUnsaved(s, *work);
         watchOwnFile(app, work->about.stamp); // as that run knew it: what others did since is told
+        keepUnsavedWork(app);                 // what this run had kept has gone
         setPrompt(s, app.pic1);
     }
     offerNext(app);
