@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 namespace mirtane {
@@ -171,6 +172,7 @@ TEST(OwnLibraries, AreBroughtBackWithTheWork)
 void makeAll(LayerDesk& desk, const OwnShelf& row, const std::vector<std::string>& names, float slant = 230)
 {
     desk.drawLine(100, 103, 400, 103 + slant);
+    desk.s.store.color[EntityStore::at(1)] = static_cast<std::int32_t>(slant); // small
     for (const std::string& name : names) makeOf(desk, row, name);
 }
 
@@ -223,6 +225,159 @@ TEST(OwnLibraries, AreKeptAlongWithTheWorkThatIsRestored)
             EXPECT_EQ(std::set(back.begin(), back.end()), names.kept);
         }
     }
+}
+
+// What of the rows of that name does not change with the name, or with their use.
+std::vector<float> shapeOf(const Session& s, Library library, const std::string& name)
+{
+    std::vector<float> shape;
+    for (const HatchRow& row : s.hatchLibrary.used()) {
+        if (library == Library::hatches && row.hatchName == name)
+            shape.insert(shape.end(), {row.h1.x, row.h1.y, row.h2.x, row.h2.y, row.hatchTileH});
+    }
+    for (const MultipleLine& row : s.multipleLinesLibrary.used()) {
+        if (library == Library::multipleLines && row.name == name)
+            shape.push_back(static_cast<float>(row.colour)); // small
+    }
+    return shape;
+}
+
+struct InUseRow {
+    std::vector<std::string> restored, own;
+    std::map<std::string, std::string> back; // what was restored, by the name that it has now
+};
+
+const InUseRow inUseRows[] = {
+    {{"brick"}, {"brick"}, {{"brick-2", "brick"}}},
+    {{"brick"}, {"Brick"}, {{"brick", "brick"}}},
+    {{"a b", "slate"}, {"a b"}, {{"a b-2", "a b"}, {"slate", "slate"}}},
+    {{"brick"}, {"brick", "brick-2", "brick-3"}, {{"brick-4", "brick"}}},
+    {{"brick", "brick-2"}, {"brick"}, {{"brick-3", "brick"}, {"brick-2", "brick-2"}}},
+    {{"brick", "brick-2"}, {"brick", "brick-2"}, {{"brick-3", "brick"}, {"brick-2-2", "brick-2"}}},
+};
+
+TEST(OwnLibraries, WhoseNameIsInUseComeBackUnderAFreeOne)
+{
+    for (const OwnShelf& row : {ofHatches, ofLines}) {
+        for (const InUseRow& names : inUseRows) {
+            const Bytes work = workWith(row, names.restored);
+            LayerDesk desk({}, fake::MemoryWork({{"a", work}}));
+            makeAll(desk, row, names.own, 777);
+            desk.saveAs("second");
+            const std::vector<float> own = shapeOf(desk.s, row.library, names.own.front());
+            desk.press("notice.Command1"_c);
+            Desk alone({}, fake::MemoryWork({{"a", work}}));
+            alone.press("notice.Command1"_c);
+            for (const auto& [now, before] : names.back) {
+                const std::vector<float> shape = shapeOf(desk.s, row.library, now);
+                EXPECT_EQ(shape, shapeOf(alone.s, row.library, before)) << now;
+                EXPECT_NE(shape, own) << now;
+                EXPECT_TRUE(namesKept(desk).contains(now)) << now;
+            }
+            for (const std::string& name : names.own)
+                EXPECT_EQ(shapeOf(desk.s, row.library, name), own) << name;
+            EXPECT_EQ(listedNames(desk.s, row.library).size(), names.own.size() + names.back.size());
+            EXPECT_EQ(desk.caption("notice"_c), "");
+        }
+    }
+}
+
+TEST(OwnLibraries, ThatAreThereAlreadyComeBackOnce)
+{
+    for (const OwnShelf& row : {ofHatches, ofLines}) {
+        LayerDesk desk({}, fake::MemoryWork({{"a", workWith(row, {"brick", "tiles 5"})}}));
+        makeAll(desk, row, {"tiles 5"});
+        desk.saveAs("second");
+        for (MultipleLine& line : desk.s.multipleLinesLibrary.used()) line.legEnd = {17, -23.5F}; // of a use
+        desk.press("notice.Command1"_c);
+        EXPECT_EQ(listedNames(desk.s, row.library), (std::vector<std::string>{"tiles 5", "brick"}));
+        EXPECT_EQ(namesKept(desk), (std::set<std::string>{"brick", "tiles 5"}));
+    }
+}
+
+void fillUpTo(Session& s, const OwnShelf& row, std::int32_t room)
+{
+    HatchRow hatch;
+    hatch.hatchName = "full";
+    MultipleLine line;
+    line.name = "full";
+    while (row.library == Library::hatches && s.hatchLibrary.count < HatchLibrary::rowLimit - room)
+        s.hatchLibrary.add(hatch);
+    while (row.library == Library::multipleLines &&
+           s.multipleLinesLibrary.count < MultipleLinesLibrary::rowLimit - room)
+        s.multipleLinesLibrary.add(line);
+}
+
+struct NoRoomRow {
+    const OwnShelf* library;
+    std::vector<std::string> restored;
+    std::int32_t room;
+    std::vector<std::string> back;
+    const char* said;
+};
+
+const NoRoomRow noRoomRows[] = {
+    {&ofHatches, {"brick"}, 0, {}, "There is no room for 1 hatch: the next start offers this work again."},
+    {&ofHatches,
+     {"brick", "slate", "tiles"},
+     1,
+     {"brick"},
+     "There is no room for 2 hatches: the next start offers this work again."},
+    {&ofHatches, {"brick", "tiles"}, 2, {"brick", "tiles"}, ""},
+    {&ofLines,
+     {"wall30"},
+     0,
+     {},
+     "There is no room for 1 set of multiple lines: the next start offers this work again."},
+    {&ofLines,
+     {"a", "b", "c"},
+     1,
+     {"a"},
+     "There is no room for 2 sets of multiple lines: the next start offers this work again."},
+};
+
+TEST(OwnLibraries, WithoutRoomStayForTheNextStart)
+{
+    for (const NoRoomRow& row : noRoomRows) {
+        const Library library = row.library->library;
+        const bool stays = *row.said != '\0';
+        LayerDesk desk({}, fake::MemoryWork({{"a", workWith(*row.library, row.restored)}}));
+        makeAll(desk, *row.library, {"own"}, 777);
+        desk.saveAs("second");
+        desk.shell.rest();
+        fillUpTo(desk.s, *row.library, row.room);
+        desk.press("notice.Command1"_c);
+        EXPECT_EQ(desk.caption("notice"_c), row.said);
+        std::vector<std::string> here = {"own", "full"};
+        here.insert(here.end(), row.back.begin(), row.back.end());
+        EXPECT_EQ(listedNames(desk.s, library), here);
+        std::set<std::string> kept(row.back.begin(), row.back.end());
+        kept.insert("own");
+        EXPECT_EQ(namesKept(desk), kept) << "of this run";
+        EXPECT_EQ(desk.s.store.entCount, 2) << "the drawing is here in any case";
+        ASSERT_EQ(desk.work.leftBehind.size(), stays ? 1U : 0U);
+        if (!stays) continue;
+        Desk next({}, fake::MemoryWork(desk.work.leftBehind));
+        next.press("notice.Command1"_c);
+        EXPECT_EQ(listedNames(next.s, library), row.restored);
+        EXPECT_EQ(next.s.store.entCount, 2);
+        EXPECT_EQ(next.caption("notice"_c), "");
+    }
+}
+
+// It is not for this run to take away what it could not take.
+TEST(OwnLibraries, WithoutRoomStayWhereTheWorkCannotBeTakenOver)
+{
+    LayerDesk desk({}, fake::MemoryWork({{"a", workWith(ofHatches, {"brick"})}}));
+    makeAll(desk, ofHatches, {"own"}, 777);
+    desk.saveAs("second");
+    desk.shell.rest();
+    fillUpTo(desk.s, ofHatches, 0);
+    desk.work.refusesAdoption = true;
+    desk.press("notice.Command1"_c);
+    EXPECT_NE(desk.caption("notice"_c), "");
+    EXPECT_EQ(desk.work.leftBehind.size(), 1U);
+    EXPECT_EQ(namesKept(desk), std::set<std::string>{"own"});
 }
 
 // What came back is unsaved as a whole until the drawing is saved.

@@ -1,6 +1,7 @@
 #include "app/files/own_libraries.h"
 
 #include "app/files/library_rows.h"
+#include "model/room.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,6 +35,85 @@ std::string listOf(const std::vector<std::string>& parts)
         list += parts[i];
     }
     return list;
+}
+
+struct Counted {
+    std::size_t all = 0;
+    std::string text;
+};
+
+Counted countOf(const LibraryNames& names)
+{
+    std::vector<std::string> parts;
+    std::size_t all = 0;
+    for (const Shelf& shelf : shelves) {
+        const std::size_t count = (names.*shelf.names).size();
+        all += count;
+        if (count > 0)
+            parts.push_back(std::to_string(count) + " " + std::string(count == 1 ? shelf.one : shelf.many));
+    }
+    return {all, listOf(parts)};
+}
+
+// Where the last legs ended that were drawn with a set is no part of it, though its file tells it.
+Bytes withoutLegs(const Bytes& file, const std::string& name)
+{
+    MultipleLinesLibrary lines;
+    addMultipleLines(lines, file);
+    for (MultipleLine& line : lines.used()) line.legStart = line.legEnd = {};
+    return multipleLinesBytes(lines, name);
+}
+
+bool isThere(const Session& s, Library library, const KeptLibrary& kept)
+{
+    if (!hasName(s, library, kept.name)) return false;
+    const Bytes file = fileOf(s, library, kept.name);
+    if (library != Library::multipleLines) return file == kept.file;
+    return withoutLegs(file, kept.name) == withoutLegs(kept.file, kept.name);
+}
+
+// The names of those that come back beside it are not free either.
+std::string freeName(const Session& s, Library library, const std::string& name,
+                     const std::set<std::string>& comingBack)
+{
+    std::string free = name;
+    for (int number = 2; hasName(s, library, free) || (free != name && comingBack.contains(free)); ++number)
+        free = name + "-" + std::to_string(number);
+    return free;
+}
+
+template <class Row> bool addRows(LibraryTable<Row>& table, LibraryTable<Row> rows, const std::string& name)
+{
+    if (table.end() + rows.end() > table.rows.size()) return false;
+    for (Row& row : rows.used()) {
+        nameOf(row) = name;
+        table.add(std::move(row));
+    }
+    return true;
+}
+
+template <class Row>
+LibraryTable<Row> rowsOf(Untaken (*add)(LibraryTable<Row>&, const Bytes&), const Bytes& file)
+{
+    LibraryTable<Row> rows;
+    add(rows, file);
+    return rows;
+}
+
+// All of it, or nothing where the table has no room for all.
+bool addWhole(Session& s, Library library, const Bytes& file, const std::string& name)
+{
+    switch (library) {
+    case Library::multipleLines:
+        return addRows(s.multipleLinesLibrary, rowsOf(addMultipleLines, file), name);
+    case Library::hatches:
+        return addRows(s.hatchLibrary, rowsOf(addHatch, file), name);
+    case Library::associates:
+        break;
+    }
+    if (piecesIn(file) > slotsLeft(s.store)) return false;
+    addAssociate(s, file, name);
+    return true;
 }
 
 } // namespace
@@ -71,17 +151,16 @@ bool isNone(const LibraryNames& names)
 
 std::string sentenceOfNoFile(const LibraryNames& names)
 {
-    std::vector<std::string> parts;
-    std::size_t all = 0;
-    for (const Shelf& shelf : shelves) {
-        const std::size_t count = (names.*shelf.names).size();
-        all += count;
-        if (count > 0)
-            parts.push_back(std::to_string(count) + " " + std::string(count == 1 ? shelf.one : shelf.many));
-    }
-    if (all == 0) return {};
-    return listOf(parts) + (all == 1 ? " is in no file: save it from its menu."
-                                     : " are in no file: save them from their menus.");
+    const Counted counted = countOf(names);
+    if (counted.all == 0) return {};
+    return counted.text + (counted.all == 1 ? " is in no file: save it from its menu."
+                                            : " are in no file: save them from their menus.");
+}
+
+std::string sentenceOfNoRoom(const LibraryNames& names)
+{
+    if (isNone(names)) return {};
+    return "There is no room for " + countOf(names).text + ": the next start offers this work again.";
 }
 
 std::vector<KeptLibrary> librariesOf(const Session& s, const LibraryNames& names)
@@ -105,14 +184,20 @@ LibraryNames namesOf(const std::vector<KeptLibrary>& libraries)
     return names;
 }
 
-void giveBack(Session& s, const std::vector<KeptLibrary>& libraries)
+LibraryNames giveBack(Session& s, const std::vector<KeptLibrary>& libraries)
 {
+    LibraryNames comingBack = namesOf(libraries);
+    LibraryNames withoutRoom;
     for (const KeptLibrary& kept : libraries) {
         const LibraryRow* const row = rowWith(&LibraryRow::extension, kept.extension);
-        if (row == nullptr || hasName(s, row->library, kept.name)) continue;
-        addFile(s, row->library, kept.file, kept.name);
-        takeAsNew(s, row->library, kept.name);
+        if (row == nullptr || isThere(s, row->library, kept)) continue;
+        const std::string name = freeName(s, row->library, kept.name, namesOf(comingBack, row->library));
+        if (addWhole(s, row->library, kept.file, name))
+            takeAsNew(s, row->library, name);
+        else
+            namesOf(withoutRoom, row->library).insert(kept.name);
     }
+    return withoutRoom;
 }
 
 } // namespace mirtane

@@ -26,6 +26,11 @@ std::string sentenceOfNoFile(const LibraryNames& names);
 // They go along with the work that is kept, and come back with it.
 std::vector<KeptLibrary> librariesOf(const Session& s, const LibraryNames& names);
 LibraryNames namesOf(const std::vector<KeptLibrary>& libraries);
-void giveBack(Session& s, const std::vector<KeptLibrary>& libraries);
+// Gives the names of those that have no room, of which nothing is taken. One whose name is in use by another
+// is called "rows-2".
+LibraryNames giveBack(Session& s, const std::vector<KeptLibrary>& libraries);
+
+// "There is no room for 1 hatch: the next start offers this work again."; empty for none.
+std::string sentenceOfNoRoom(const LibraryNames& names);
 
 } // namespace mirtane

@@ -107,6 +107,17 @@ bool isGivenUp(App& app)
     return s.givenUpStamp && s.givenUpStamp == app.ports.disk.stamp(s.drawingFile);
 }
 
+// What has no room stays for the next run as it was kept. If that was taken over, it is this run's no more.
+void leaveWhatHasNoRoom(App& app, const LibraryNames& names, bool isTakenOver)
+{
+    if (isNone(names)) return;
+    if (isTakenOver) {
+        app.ports.work->leave();
+        app.s.keptMark = {};
+    }
+    app.s.notices.post({Matter::leftOut, sentenceOfNoRoom(names), {{"Close", Offer::goOn}}});
+}
+
 bool differsFromSaved(const Session& s)
 {
     return livingSlots(s.store) != s.savedLiving || workMark(s).layerNames != s.savedMark.layerNames;
@@ -213,16 +224,18 @@ void restoreLeftWork(App& app)
     }
     // Of two runs one takes it over. Where the folder takes nothing it is brought back all the same, and
     // stays there.
-    const bool ours = work && (app.ports.work->adopt(s.leftWork.back()) || workOnOffer(app));
+    const bool isTakenOver = work && app.ports.work->adopt(s.leftWork.back());
+    const bool ours = isTakenOver || (work && workOnOffer(app));
     s.leftWork.pop_back();
     if (ours) {
         forgetOwners(s.store);
         openDrawing(app, work->drawing);
-        giveBack(s, work->libraries);
+        const LibraryNames withoutRoom = giveBack(s, work->libraries);
         updateGauge(s);
         takeAsUnsaved(s, *work);
         watchOwnFile(app, work->about.stamp); // as that run knew it: what others did since is told
-        keepUnsavedWork(app);                 // what this run had kept has gone
+        leaveWhatHasNoRoom(app, withoutRoom, isTakenOver);
+        keepUnsavedWork(app); // what this run had kept has gone
         setPrompt(s, app.pic1);
     }
     offerNext(app);
