@@ -297,12 +297,15 @@ bool Shell::takesInput(ControlId id) const
     return canBeUsed(s_.controls, id);
 }
 
-void Shell::rest()
+bool Shell::rest()
 {
-    event([](App& app) {
+    bool again = false;
+    event([&again](App& app) {
         keepUnsavedWork(app);
         reviewOthers(app);
+        again = isKeepingUnsure(app);
     });
+    return again;
 }
 
 void Shell::settle(ControlId focusBefore)

@@ -73,8 +73,8 @@ class Shell {
     void closeForm(ControlId form);
 
     // Nobody has touched the program for a moment, or it is about to be ended from outside: work that is not
-    // saved is kept.
-    void rest();
+    // saved is kept. Gives whether that is to be seen to again soon, though nobody touches the program.
+    bool rest();
 
     // Draws on a surface of its own what the file holds that is lit in the file dialog; false where that is
     // left out.

@@ -17,6 +17,8 @@ class WorkKeeper {
     virtual void keep(Bytes work) = 0;
     // Whether the last work could not be put there, or is no longer there.
     virtual bool fails() const = 0;
+    // Whether something is still on its way to the disk, so that nothing is known of it yet.
+    virtual bool isUnderWay() const = 0;
     // Waits until what was to be kept, or forgotten, is.
     virtual void flush() = 0;
     // Nothing of this run is unsaved any more.

@@ -199,6 +199,52 @@ TEST(UnsavedWork, ThatCannotBeKeptIsToldAndTriedAgain)
     EXPECT_EQ(readKeptWork(*desk.work.kept)->drawing, drawingBytes(desk.s, SaveWhat::drawing));
 }
 
+// Nothing else may come for hours: who drew the last line has gone to lunch.
+TEST(UnsavedWork, IsSeenToUntilItIsKept)
+{
+    Desk desk;
+    EXPECT_FALSE(desk.shell.rest());
+    desk.work.isSlow = true;
+    desk.work.refuses = true;
+    desk.drawLine(100, 200, 300, 411);
+    EXPECT_TRUE(desk.shell.rest()) << "it is on its way";
+    expectNotice(desk, "");
+    desk.work.flush();
+    EXPECT_TRUE(desk.shell.rest()) << "it is tried again";
+    EXPECT_TRUE(desk.visible("notice"_c));
+    desk.work.refuses = false;
+    desk.work.flush();
+    EXPECT_FALSE(desk.shell.rest());
+    expectNotice(desk, "");
+    EXPECT_FALSE(desk.shell.rest());
+    ASSERT_TRUE(desk.work.kept);
+    EXPECT_EQ(readKeptWork(*desk.work.kept)->drawing, drawingBytes(desk.s, SaveWhat::drawing));
+    EXPECT_EQ(desk.work.keeps, 2);
+}
+
+TEST(UnsavedWork, IsSeenToOnlyWhereThatIsNotSure)
+{
+    for (const bool isSlow : {false, true}) {
+        for (const ChangeRow& change : changes) {
+            Desk desk;
+            desk.work.isSlow = isSlow;
+            desk.drawLine(100, 200, 300, 411);
+            desk.saveAs("house");
+            change.act(desk);
+            EXPECT_EQ(desk.shell.rest(), isSlow) << change.what;
+            desk.work.flush();
+            EXPECT_FALSE(desk.shell.rest()) << change.what;
+        }
+        Desk ended;
+        ended.work.refuses = true;
+        ended.drawLine(100, 200, 300, 411);
+        EXPECT_TRUE(ended.shell.rest());
+        ended.press("fil14"_c);
+        ended.press("frmfile.Command2"_c);
+        EXPECT_FALSE(ended.shell.rest());
+    }
+}
+
 // -- bringing back --
 
 TEST(LeftWork, IsOfferedAndBroughtBackUnderItsOwnName)

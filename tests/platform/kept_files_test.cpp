@@ -14,6 +14,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <mutex>
 #include <utility>
 
 namespace mirtane {
@@ -177,11 +179,14 @@ class SlowKeeper : public WorkKeeper {
   public:
     void keep(Bytes work) override
     {
+        ++begun;
+        const std::scoped_lock lock(standsStill);
         usleep(30'000);
         kept = std::move(work);
         ++keeps;
     }
     bool fails() const override { return false; }
+    bool isUnderWay() const override { return false; }
     void flush() override {}
     void forget() override { kept.reset(); }
     void leave() override { leftThere = std::exchange(kept, {}); }
@@ -196,6 +201,8 @@ class SlowKeeper : public WorkKeeper {
     std::optional<Bytes> kept;
     std::optional<Bytes> leftThere;
     int keeps = 0;
+    std::atomic<int> begun = 0;
+    std::mutex standsStill; // while it is held nothing gets on
 };
 
 TEST(KeeperThreadTest, WritesTheLastOfMany)
@@ -232,6 +239,24 @@ TEST(KeeperThreadTest, LeavesWhatIsStillOnItsWay)
     thread.forget();
     thread.flush();
     EXPECT_EQ(slow.leftThere, (Bytes{2}));
+}
+
+TEST(KeeperThreadTest, TellsWhatIsStillOnItsWay)
+{
+    SlowKeeper slow;
+    KeeperThread thread(slow);
+    EXPECT_FALSE(thread.isUnderWay());
+    for (std::uint8_t i = 1; i <= 3; ++i) {
+        {
+            const std::scoped_lock lock(slow.standsStill);
+            thread.keep({i});
+            EXPECT_TRUE(thread.isUnderWay());
+            while (slow.begun < i) usleep(1'000);
+            EXPECT_TRUE(thread.isUnderWay()) << "it is being written";
+        }
+        thread.flush();
+        EXPECT_FALSE(thread.isUnderWay());
+    }
 }
 
 TEST(KeeperThreadTest, EndsWhenAllIsWritten)

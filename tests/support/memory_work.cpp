@@ -10,23 +10,38 @@ MemoryWork::~MemoryWork() = default;
 void MemoryWork::keep(Bytes work)
 {
     ++keeps;
-    if (!refuses) kept = std::move(work);
+    onItsWay_ = std::move(work);
+    if (!isSlow) flush();
 }
 
 bool MemoryWork::fails() const
 {
-    return refuses && keeps > 0;
+    return failed_;
 }
 
-void MemoryWork::flush() {}
+bool MemoryWork::isUnderWay() const
+{
+    return onItsWay_.has_value();
+}
+
+void MemoryWork::flush()
+{
+    if (!onItsWay_) return;
+    failed_ = refuses;
+    if (!refuses) kept = std::move(onItsWay_);
+    onItsWay_.reset();
+}
 
 void MemoryWork::forget()
 {
+    onItsWay_.reset();
+    failed_ = false;
     kept.reset();
 }
 
 void MemoryWork::leave()
 {
+    flush();
     if (kept) leftBehind["run " + std::to_string(leftBehind.size() + 1)] = *kept;
     kept.reset();
 }

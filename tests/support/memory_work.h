@@ -16,6 +16,7 @@ class MemoryWork : public WorkKeeper {
 
     void keep(Bytes work) override;
     bool fails() const override;
+    bool isUnderWay() const override;
     void flush() override;
     void forget() override;
     void leave() override;
@@ -28,7 +29,12 @@ class MemoryWork : public WorkKeeper {
     std::map<std::string, Bytes> leftBehind; // by name
     int keeps = 0;
     bool refuses = false;
+    bool isSlow = false; // what is to be kept is on its way until it is flushed
     bool refusesAdoption = false;
+
+  private:
+    std::optional<Bytes> onItsWay_;
+    bool failed_ = false;
 };
 
 class MemoryClock : public Clock {

@@ -157,6 +157,13 @@ void keepUnsavedWork(App& app)
     tellWhetherItFails(s.notices, *keeper);
 }
 
+bool isKeepingUnsure(const App& app)
+{
+    const WorkKeeper* const keeper = app.ports.work;
+    if (keeper == nullptr || app.s.ended) return false;
+    return keeper->isUnderWay() || keeper->fails() || app.s.notices.tells(Matter::workNotKept);
+}
+
 void leaveWorkNobodyGaveUp(App& app, Goes goes)
 {
     const Session& s = app.s;

@@ -19,6 +19,10 @@ void giveUpWork(App& app);
 // Keeps the drawing if something was done since it was last kept or saved.
 void keepUnsavedWork(App& app);
 
+// Whether it is to be called again soon, though nobody touches the drawing: the disk has taken nothing, or
+// has yet to tell how it took what was to be kept.
+bool isKeepingUnsure(const App& app);
+
 // Keeps it on the disk before its file is written.
 void keepBeforeSave(App& app);
 

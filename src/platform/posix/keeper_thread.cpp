@@ -36,10 +36,16 @@ void KeeperThread::forget()
     ask(Wanted::forget, {});
 }
 
+bool KeeperThread::isUnderWay() const
+{
+    const std::scoped_lock lock(mutex_);
+    return !isIdle();
+}
+
 void KeeperThread::flush()
 {
     std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return wanted_ == Wanted::nothing && !busy_; });
+    changed_.wait(lock, [this] { return isIdle(); });
 }
 
 // What is still wanted is done before the end.

@@ -23,6 +23,7 @@ class KeeperThread : public WorkKeeper {
 
     void keep(Bytes work) override;
     bool fails() const override { return keeper_.fails(); }
+    bool isUnderWay() const override;
     void forget() override;
     void flush() override;
 
@@ -36,11 +37,12 @@ class KeeperThread : public WorkKeeper {
   private:
     enum class Wanted { nothing, keep, forget };
 
+    bool isIdle() const { return wanted_ == Wanted::nothing && !busy_; } // for who holds the mutex
     void ask(Wanted wanted, Bytes work);
     void run();
 
     WorkKeeper& keeper_;
-    std::mutex mutex_;
+    mutable std::mutex mutex_;
     std::condition_variable changed_;
     Wanted wanted_ = Wanted::nothing;
     Bytes work_;

@@ -22,6 +22,7 @@ class KeptFiles : public WorkKeeper {
 
     void keep(Bytes work) override;
     bool fails() const override;
+    bool isUnderWay() const override { return false; }
     void flush() override {}
     void forget() override;
     void leave() override;

@@ -43,6 +43,9 @@ void takeAsCopy(QDropEvent& event)
 constexpr int restBegins = 1000;
 constexpr qint64 longestWithoutRest = 1900;
 
+// Until a rest follows in which nobody has touched anything, where it is not sure yet that the work is kept.
+constexpr int untilRestAgain = 2000;
+
 constexpr QSize wishedSize(1280, 800);
 
 // The line under the drawing: the prompt, which may need all of the width, and the pointer's position.
@@ -89,6 +92,9 @@ MainWindow::MainWindow(Shell& shell, Surface& surface) : gate_(shell), surface_(
     rest_.setSingleShot(true);
     rest_.setInterval(restBegins);
     rest_.callOnTimeout(this, [this] { rest(); });
+    restAgain_.setSingleShot(true);
+    restAgain_.setInterval(untilRestAgain);
+    restAgain_.callOnTimeout(this, [this] { rest(); });
     sinceRest_.start();
     gate_.setCopying([this] {
         copyControls();
@@ -198,7 +204,8 @@ void MainWindow::waitForRest()
 void MainWindow::rest()
 {
     rest_.stop();
-    gate_.shell().rest();
+    restAgain_.stop();
+    if (gate_.shell().rest()) restAgain_.start();
     copyControls(); // not by the gate, whose events begin the wait anew
 }
 

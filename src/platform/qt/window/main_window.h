@@ -58,6 +58,7 @@ class MainWindow : public QMainWindow, public ControlView {
     Surface& surface_;
     SurfaceWidget* drawing_ = nullptr; // belongs to the window
     QTimer rest_;
+    QTimer restAgain_;
     QElapsedTimer sinceRest_;       // since the first event that no rest has followed
     bool isBegun_ = false;          // the window has been on the screen
     std::string toOpen_;            // when it is; empty if nothing is
