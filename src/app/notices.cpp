@@ -17,7 +17,7 @@ void goOn(App& app)
 // What is being drawn is not thrown away for what was left: it can be saved first.
 void restore(App& app)
 {
-    if (isToBeAskedAbout(app) && leftWorkIsThere(app)) return offerToSave(app, follow::restoreWork);
+    if (hasUnsavedWork(app.s) && leftWorkIsThere(app)) return offerToSave(app, follow::restoreWork);
     restoreLeftWork(app);
 }
 

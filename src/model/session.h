@@ -196,7 +196,6 @@ struct FileState {
     std::string drawingFile; // full path of what was opened or saved as this drawing, if anything was
     std::optional<FileStamp> savedStamp;   // of that file as it was opened or saved, if it is there
     std::optional<FileStamp> seenStamp;    // as it was when it was last looked at
-    std::optional<FileStamp> givenUpStamp; // as it was when the user was asked and let the drawing go
     std::string markedFile;                // the one that other programs know to be open here
     std::string drawingFolder;             // the drawing's own; empty while it has none
     std::int32_t changesBefore = 0;        // not saved either, of the run that the work was restored from

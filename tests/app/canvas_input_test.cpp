@@ -423,11 +423,11 @@ TEST(HeldKeys, AreAsThePointerTellsThemAndMoveNoFocus)
 {
     for (const HeldRow& row : heldRows) {
         Desk desk;
-        desk.shell.giveFocus("Text8"_c);
+        desk.shell.giveFocus("angle"_c);
         desk.s.snapKey = row.before;
         desk.shell.keysHeld(row.shift, row.ctrl);
         EXPECT_EQ(desk.s.snapKey, row.after) << row.before << row.shift << row.ctrl;
-        EXPECT_EQ(desk.s.controls.focus, ControlId("Text8"_c));
+        EXPECT_EQ(desk.s.controls.focus, ControlId("angle"_c));
     }
 }
 

@@ -186,7 +186,6 @@ TEST(FileNames, WithTwoPointsAreTakenAsTheyStandInTheList)
     Desk desk;
     desk.drawLine(100, 100, 400, 100);
     desk.saveAs("plan");
-    desk.press("fil5"_c); // the file that is open is not replaced without a question
     desk.disk.files["/home/user/plan.two.mtd"] = desk.disk.files["/home/user/plan.mtd"];
     desk.disk.files["/home/user/plan.mtd"] = other;
     desk.press("fil4"_c);

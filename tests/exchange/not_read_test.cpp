@@ -162,7 +162,7 @@ TEST(NotRead, ComparesAFullTableOfLinesFromOneEdge)
         const auto session = std::make_unique<Session>();
         EntityStore& store = session->store;
         for (int i = 0; i < count; ++i) {
-            const float n = static_cast<float>(i); // of thousands
+            const auto n = static_cast<float>(i); // of thousands
             const Point from{7 + n * steps[sort].x, 5 + n * steps[sort].y};
             const Point to{from.x + ways[sort].x, from.y + ways[sort].y};
             r.drawing.objects.push_back({.kind = Kind::line, .p = {Vec{from.x, from.y}, Vec{to.x, to.y}}});

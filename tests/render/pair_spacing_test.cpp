@@ -28,7 +28,7 @@ class FakeSetter {
             x += pair == u"AV" ? 0.25 : 0.5;
             if (i + 1 < text.size() || text[i] != u' ') line.width = x;
         }
-        line.outlined = text.find(u'%') == text.npos;
+        line.outlined = text.find(u'%') == std::u16string_view::npos;
         return line;
     }
 

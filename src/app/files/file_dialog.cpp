@@ -342,16 +342,15 @@ void openDroppedFile(App& app, const std::string& path, std::ptrdiff_t others)
     const PatternRow* const pattern = patternOfFile(path);
     const bool replacesDrawing =
         pattern != nullptr && (pattern->pattern == "*.mtd" || pattern->pattern == "*.dxf");
-    if (!replacesDrawing || !isToBeAskedAbout(app)) return openFileAt(app, path);
+    if (!replacesDrawing || !hasUnsavedWork(app.s)) return openFileAt(app, path);
     app.s.droppedFile = path;
     offerToSave(app, follow::openDropped);
 }
 
 void dismissFileDialog(App& app, ControlId)
 {
-    if (app.s.controls[ids::fileForm].caption != "Save Changes") return closeFileDialog(app);
-    giveUpWork(app);
-    carryOutFollowUp(app);
+    if (app.s.controls[ids::fileForm].caption == "Save Changes") return carryOutFollowUp(app);
+    closeFileDialog(app);
 }
 
 void closeFileDialog(App& app)

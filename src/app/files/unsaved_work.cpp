@@ -44,13 +44,6 @@ std::optional<KeptWork> workOnOffer(App& app)
     return bytes ? readKeptWork(*bytes) : std::nullopt;
 }
 
-// "12 changes since 14:32."
-std::string sentenceOfChanges(const Session& s, std::int32_t changes, Clock* clock)
-{
-    const std::string counted = withThousands(changes) + (changes == 1 ? " change" : " changes");
-    return counted + (s.savedTime.empty() ? "" : " since " + shortTime(s.savedTime, nowBy(clock))) + ".";
-}
-
 // It is told once, and until it goes well again.
 void tellWhetherItFails(Notices& notices, const WorkKeeper& keeper)
 {
@@ -101,12 +94,6 @@ void keepAsItIs(App& app, LibraryNames names)
     tellWhetherItFails(s.notices, *app.ports.work);
 }
 
-bool isGivenUp(App& app)
-{
-    const Session& s = app.s;
-    return s.givenUpStamp && s.givenUpStamp == app.ports.disk.stamp(s.drawingFile);
-}
-
 // What has no room stays for the next run as it was kept. If that was taken over, it is this run's no more.
 void leaveWhatHasNoRoom(App& app, const LibraryNames& names, bool isTakenOver)
 {
@@ -128,16 +115,6 @@ bool differsFromSaved(const Session& s)
 bool hasUnsavedWork(const Session& s)
 {
     return s.savedCount < s.store.entCount;
-}
-
-bool isToBeAskedAbout(App& app)
-{
-    return hasUnsavedWork(app.s) || (!ownFileIsAsSaved(app) && !ownFileIsGone(app));
-}
-
-void giveUpWork(App& app)
-{
-    app.s.givenUpStamp = app.ports.disk.stamp(app.s.drawingFile);
 }
 
 void keepUnsavedWork(App& app)
@@ -167,7 +144,7 @@ bool isKeepingUnsure(const App& app)
 void leaveWorkNobodyGaveUp(App& app, Goes goes)
 {
     const Session& s = app.s;
-    if (app.ports.work == nullptr || hasUnsavedWork(s) || isGivenUp(app)) return; // which was asked about
+    if (app.ports.work == nullptr || hasUnsavedWork(s)) return; // which was asked about
     LibraryNames names = inNoFile(s);
     if (ownFileIsAsSaved(app) && !differsFromSaved(s) && isNone(lostWith(goes, names))) return;
     keepAsItIs(app, std::move(names));
@@ -204,11 +181,10 @@ std::string whatIsUnsaved(const Session& s, Goes goes, Clock* clock)
 {
     const std::string_view button = goes == Goes::program ? "End" : "Close";
     const std::int32_t changes = unsavedChanges(s);
-    const bool isOne = changes == 1 || !hasUnsavedWork(s);
-    std::string text = s.drawingName + ": ";
-    text +=
-        hasUnsavedWork(s) ? sentenceOfChanges(s, changes, clock) : "its file holds something else by now.";
-    text += " \"" + std::string(button) + "\" gives " + (isOne ? "it" : "them") + " up.";
+    std::string text =
+        s.drawingName + ": " + withThousands(changes) + (changes == 1 ? " change" : " changes");
+    if (!s.savedTime.empty()) text += " since " + shortTime(s.savedTime, nowBy(clock));
+    text += ". \"" + std::string(button) + "\" gives " + (changes == 1 ? "it" : "them") + " up.";
     const std::string libraries = sentenceOfNoFile(lostWith(goes, inNoFile(s)));
     return libraries.empty() ? text : text + " " + libraries;
 }

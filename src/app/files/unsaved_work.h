@@ -9,13 +9,6 @@ namespace mirtane {
 
 bool hasUnsavedWork(const Session& s);
 
-// Whether the user is to be asked before the drawing goes: it is not saved, or its file holds something else
-// by now. Where the file is no longer there nothing is asked.
-bool isToBeAskedAbout(App& app);
-
-// The user was asked.
-void giveUpWork(App& app);
-
 // Keeps the drawing if something was done since it was last kept or saved.
 void keepUnsavedWork(App& app);
 

@@ -77,7 +77,7 @@ void openFileFlow(App& app, ControlId entry)
         setText(app.s.controls[ids::entry], "Nothing Selected!");
         return;
     }
-    if (row->afterUnsavedWork != follow::nothing && isToBeAskedAbout(app)) {
+    if (row->afterUnsavedWork != follow::nothing && hasUnsavedWork(app.s)) {
         return offerToSave(app, row->afterUnsavedWork);
     }
     openFileDialog(app, row->flow, row->name(app.s));
@@ -94,7 +94,7 @@ void openNamedFlow(App& app, std::string_view caption, const std::string& name)
 
 void closeDrawing(App& app, ControlId)
 {
-    if (isToBeAskedAbout(app)) return offerToSave(app, follow::clear);
+    if (hasUnsavedWork(app.s)) return offerToSave(app, follow::clear);
     clearDrawing(app);
 }
 
@@ -102,7 +102,7 @@ void leaveProgram(App& app)
 {
     endWhatIsBegun(app.s, app.pic1);
     app.s.saveFollowUp = follow::exit;
-    if (isToBeAskedAbout(app)) {
+    if (hasUnsavedWork(app.s)) {
         offerToSave(app, follow::exit);
     } else {
         endProgram(app);

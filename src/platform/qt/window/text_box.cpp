@@ -96,7 +96,8 @@ bool TextBox::event(QEvent* event)
     // A line edit drops its selection a moment after its window came in front, unless it has the keys by
     // then. Where another window gave way just before, it hasn't, and the name that is proposed would no
     // longer be typed over.
-    if (event->type() == QEvent::WindowActivate) return QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call): that is what is passed over
     // The box's own undo would be a second history; the keys are the drawing's.
     if (event->type() == QEvent::ShortcutOverride &&
         isUndoKey(*static_cast<QKeyEvent*>(event))) { // told by its type
