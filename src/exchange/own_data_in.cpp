@@ -139,7 +139,8 @@ bool isSeenFromAbove(const DxfRecord& record)
 bool hasFace(const DxfRecord& record, const Made& made, const DxfList& list)
 {
     const auto style = list.styles.find(record.name(7));
-    return style != list.styles.end() && isSameName(faceOfStyle(list, style->second), made.text.face);
+    return style != list.styles.end() &&
+           isSameName(faceOfStyle(list, style->second), list.text(dxfFirstPiece(made.text.face)));
 }
 
 // What others can change of an object besides the numbers that were kept: how it is justified, mirrored and

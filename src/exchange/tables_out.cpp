@@ -182,7 +182,7 @@ void Tables::writeStyle(const FaceOut& face)
     out_.text(3, DxfNames().add(face.face) + ".ttf");
     out_.text(4, "");
     out_.text(1001, "ACAD");
-    out_.text(1000, dxfPieces(face.face).front());
+    out_.text(1000, dxfFirstPiece(face.face));
     out_.whole(1071, 0);
 }
 

@@ -170,6 +170,18 @@ std::vector<std::string> dxfPieces(std::string_view utf8)
     return pieces;
 }
 
+std::string dxfFirstPiece(std::string_view utf8)
+{
+    constexpr std::size_t longest = 255; // bytes
+    std::string_view kept = shortened(utf8, longest);
+    std::string piece = encoded(kept, addAsItIs);
+    while (piece.size() > longest) {
+        kept = shortened(kept, utf8Length(kept) - 1);
+        piece = encoded(kept, addAsItIs);
+    }
+    return piece;
+}
+
 std::string DxfNames::add(std::string_view utf8)
 {
     constexpr std::size_t longest = 240; // bytes, of 255 that a name may have

@@ -20,6 +20,8 @@ std::string dxfParagraph(std::string_view utf8);
 
 // What no one reads as a text, in pieces, since a file bounds how long one may be.
 std::vector<std::string> dxfPieces(std::string_view utf8);
+// The start of such a text that goes into one piece: most names of faces are in it whole.
+std::string dxfFirstPiece(std::string_view utf8);
 
 // The names of a table: each with no sign that a name may not have, and none like another, in letters small
 // or large.

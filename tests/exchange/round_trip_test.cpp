@@ -240,6 +240,34 @@ TEST(RoundTrip, WordsComeBackLetterForLetter)
     }
 }
 
+std::string repeated(const std::string& letters, int times)
+{
+    std::string all;
+    for (; times > 0; --times) all += letters;
+    return all;
+}
+
+// Some of them alike for longer than a piece of text in the file.
+TEST(RoundTrip, FacesComeBackHoweverLongTheirNamesAre)
+{
+    Drawing drawing;
+    for (const std::string& face :
+         {std::string("Arial"), std::string("Franklin Gothic Medium Cond"),
+          std::string("Franklin Gothic Medium Italic"), std::string("twenty letters long,"),
+          std::string("twenty letters long, and one"), repeated("\u0416", 31), repeated("\u6F22\u5B57", 18),
+          repeated("\U0001F58B", 25), std::string("Nimbus\\U+0041 Sans L Condensed"),
+          "Ledger " + repeated("wide ", 60) + "face"}) {
+        for (const Kind kind : {Kind::text, Kind::leader, Kind::linearDimension, Kind::radialDimension,
+                                Kind::angularDimension}) {
+            EntityRecord r = made(kind);
+            r.t1 = "Words";
+            r.t2 = face;
+            drawing.add(r);
+        }
+    }
+    expectSameObjects(drawing);
+}
+
 TEST(RoundTrip, JustifiedTextComesBackByThePointThatWasEntered)
 {
     for (const float side : {0.0F, 1.0F, 2.0F}) {
