@@ -65,10 +65,10 @@ class DataReader {
 };
 
 // Other programs write numbers with more digits or fewer.
-bool isAsKept(const DxfGroup& group, double value)
+bool isAsKept(double found, double value)
 {
     constexpr double allowance = 1e-8;
-    return std::abs(dxfNumber(group.value) - value) <= allowance * std::max(1.0, std::abs(value));
+    return std::abs(found - value) <= allowance * std::max(1.0, std::abs(value));
 }
 
 // The groups of a record by their codes, those of one code in the order of the record.
@@ -89,6 +89,20 @@ class GroupsInOrder {
     std::map<int, std::size_t> begun_;
 };
 
+// What a group stands for that a program may leave out: an angle of nothing, and the way of a paragraph.
+std::optional<double> valueLeftOut(const DxfRecord& record, int code)
+{
+    constexpr int turn = 50, turnOfDimensionText = 53, lengthOfRadialLeader = 40, wayX = 11, wayY = 21;
+    if (isSameName(record.type, "MTEXT") && (code == wayX || code == wayY)) {
+        const Vec way = wayAt(record.number(turn) * exactRadiansPerDegree);
+        return code == wayX ? way.x : way.y;
+    }
+    const bool isDimension = isSameName(record.type, "DIMENSION");
+    const bool isOptional =
+        code == turn || (isDimension && (code == turnOfDimensionText || code == lengthOfRadialLeader));
+    return isOptional ? std::optional(0.0) : std::nullopt;
+}
+
 // The kind that is named, if all the groups stand as they were written.
 std::optional<int> unchangedKind(DataReader& in, const DxfRecord& record)
 {
@@ -96,9 +110,12 @@ std::optional<int> unchangedKind(DataReader& in, const DxfRecord& record)
     bool same = true;
     GroupsInOrder groups(record.groups);
     for (int left = in.whole(); left > 0 && in.good(); --left) {
-        const DxfGroup* const group = groups.next(in.whole());
+        const int code = in.whole();
+        const DxfGroup* const group = groups.next(code);
+        const std::optional<double> found =
+            group != nullptr ? dxfNumber(group->value) : valueLeftOut(record, code);
         const double value = in.number();
-        same = same && group != nullptr && isAsKept(*group, value);
+        same = same && found && isAsKept(*found, value);
     }
     if (!in.good() || !same) return std::nullopt;
     return kind;

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <fstream>
+#include <functional>
 
 namespace mirtane {
 namespace {
@@ -396,6 +397,80 @@ TEST(RoundTrip, WhatWasChangedMeanwhileIsReadAsItStands)
     replace("  1\r\nHall\r\n", "  1\r\nRoom\r\n");
     EXPECT_EQ(drawnObjects(readBack(bytes)).front().t1, "Room");
     EXPECT_EQ(drawnObjects(readBack(bytes)).front().p1.x, 120);
+}
+
+// Has of each record, by its type, a group of it; gives what is to stand there, or nothing.
+using Edit = std::function<std::optional<std::string>(const std::string& type, const WrittenPair& group)>;
+
+std::string edited(const std::string& bytes, const Edit& edit)
+{
+    std::string all, type;
+    for (const WrittenPair& pair : pairsOf(bytes)) {
+        if (pair.code == 0) type = pair.value;
+        const std::optional<std::string> value = pair.code == 0 ? pair.value : edit(type, pair);
+        if (value) all += std::to_string(pair.code) + "\r\n" + *value + "\r\n";
+    }
+    return all;
+}
+
+std::vector<EntityRecord> annotationsTurnedBy(double degrees)
+{
+    std::vector<EntityRecord> objects;
+    for (const Kind kind :
+         {Kind::text, Kind::linearDimension, Kind::radialDimension, Kind::angularDimension, Kind::leader}) {
+        EntityRecord r = made(kind);
+        (kind == Kind::angularDimension ? r.a3 : r.a1) = degrees;
+        if (kind == Kind::linearDimension && degrees == 0) r.p3.y = r.p4.y;
+        objects.push_back(inWhite(r));
+    }
+    return objects;
+}
+
+// Groups that say what would be so without them.
+TEST(RoundTrip, WhatOthersLeaveOutOrSayInAnotherWayIsNoChange)
+{
+    const auto isTurn = [](const std::string& type, const WrittenPair& group) {
+        const bool isDimension = type == "DIMENSION" && (group.code == 50 || group.code == 53);
+        return isDimension || (type == "TEXT" && group.code == 50) ||
+               (type == "MTEXT" && (group.code == 11 || group.code == 21 || group.code == 31));
+    };
+    const auto withoutNoughts = [&](const std::string& type, const WrittenPair& group) {
+        const bool saysNothing = group.value == "0.0" || (group.code == 11 && group.value == "1.0");
+        return isTurn(type, group) && saysNothing ? std::nullopt : std::optional(group.value);
+    };
+    const auto byAngle = [](const std::string& type, const WrittenPair& group) -> std::optional<std::string> {
+        if (type == "MTEXT" && group.code == 11) return std::nullopt;
+        if (type == "MTEXT" && group.code == 21) return std::nullopt;
+        if (type == "MTEXT" && group.code == 31) return "0\r\n 50\r\n36.87";
+        return group.value;
+    };
+    const auto withoutTurns = [&](const std::string& type, const WrittenPair& group) {
+        return isTurn(type, group) ? std::nullopt : std::optional(group.value);
+    };
+    struct Row {
+        const char* what;
+        double degrees;
+        Edit edit;
+        bool comesBack;
+    };
+    const Row rows[] = {
+        {"level, noughts left out", 0, withoutNoughts, true},
+        {"turned, noughts left out", 36.87, withoutNoughts, true},
+        {"turned, a paragraph's way as its angle", 36.87, byAngle, true},
+        {"turned, the turn left out", 36.87, withoutTurns, false},
+    };
+    for (const Row& row : rows) {
+        for (const EntityRecord& r : annotationsTurnedBy(row.degrees)) {
+            if (!row.comesBack && r.kind == Kind::leader) continue; // its paragraph alone is turned
+            const auto back = drawnObjects(readBack(edited(Drawing{r}.written().bytes, row.edit)));
+            ASSERT_FALSE(back.empty());
+            const std::string kind = row.what + std::to_string(numberOf(r.kind));
+            if (row.comesBack)
+                EXPECT_EQ(objectText(back.front()), objectText(drawnObjects(Drawing{r}).front())) << kind;
+            else
+                EXPECT_NE(objectText(back.front()), objectText(drawnObjects(Drawing{r}).front())) << kind;
+        }
+    }
 }
 
 // What is not a number of its place can be changed as well.
