@@ -2,6 +2,7 @@
 
 #include "exchange/own_data.h"
 
+#include "exchange/dimension_variables.h"
 #include "exchange/faces.h"
 #include "exchange/own_data_codes.h"
 #include "exchange/words_out.h"
@@ -160,6 +161,15 @@ bool hasFace(const DxfRecord& record, const Made& made, const DxfList& list)
            isSameName(faceOfStyle(list, style->second), list.text(dxfFirstPiece(made.text.face)));
 }
 
+// Whether the style that it is drawn by still has its sizes. The arrows of leaders and angles may be of
+// another size than their text, which is not told.
+bool hasSizes(const DxfRecord& record, const Made& made, const DxfList& list)
+{
+    const DimensionVariables now = dimensionVariables(record, list);
+    const bool isOfOneSize = made.kind == Kind::linearDimension || made.kind == Kind::radialDimension;
+    return isAsKept(now.text, made.size * capitals) && (!isOfOneSize || isAsKept(now.arrow, made.size));
+}
+
 // What others can change of an object besides the numbers that were kept: how it is justified, mirrored and
 // seen, and its face.
 bool isFormed(const DxfRecord& record, const Made& made, const DxfList& list)
@@ -173,7 +183,11 @@ bool isFormed(const DxfRecord& record, const Made& made, const DxfList& list)
     case Kind::ellipse:
         return record.number(41) == 0 && std::abs(record.number(42, wholeTurn) - wholeTurn) < little;
     case Kind::leader:
-        return record.whole(71, 1) == 1 && record.whole(72) == 0;
+        return record.whole(71, 1) == 1 && record.whole(72) == 0 && hasSizes(record, made, list);
+    case Kind::linearDimension:
+    case Kind::radialDimension:
+    case Kind::angularDimension:
+        return hasSizes(record, made, list);
     default:
         return true;
     }

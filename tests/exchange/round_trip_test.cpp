@@ -4,6 +4,7 @@
 
 #include "exchange/full_reading.h"
 #include "files/drawing_text.h"
+#include "tables/kinds.h"
 #include "tables/pens.h"
 
 #include <cmath>
@@ -469,6 +470,47 @@ TEST(RoundTrip, WhatOthersLeaveOutOrSayInAnotherWayIsNoChange)
                 EXPECT_EQ(objectText(back.front()), objectText(drawnObjects(Drawing{r}).front())) << kind;
             else
                 EXPECT_NE(objectText(back.front()), objectText(drawnObjects(Drawing{r}).front())) << kind;
+        }
+    }
+}
+
+// Sizes of text and arrows are the style's, and of the picture that other programs draw by it.
+TEST(RoundTrip, ADimensionThatOthersMadeLargerOrSmallerIsReadAsItStands)
+{
+    for (const EntityRecord& r : annotationsTurnedBy(0)) {
+        if (r.kind == Kind::text) continue;
+        for (const double factor : {3.0, 0.5, 1.02}) {
+            const auto grow = [factor](const std::string& type, const WrittenPair& group) {
+                const bool isText = (type == "TEXT" || type == "MTEXT") && group.code == 40;
+                const bool isStyle = type == "DIMSTYLE" && (group.code == 140 || group.code == 41);
+                return std::optional(isText || isStyle ? std::to_string(std::stod(group.value) * factor)
+                                                       : group.value);
+            };
+            for (const EntityRecord& one : drawnObjects(readBack(edited(Drawing{r}.written().bytes, grow)))) {
+                const bool isShown = one.kind == Kind::text || isDimension(one.kind);
+                if (!isShown || one.t1.empty()) continue;
+                const double size = one.kind == Kind::text ? one.p2.x : one.s2;
+                const bool isOwnSize = one.kind == Kind::text && r.kind == Kind::leader;
+                EXPECT_NEAR(size, r.s2 * factor * (isOwnSize ? 1 : 2.0 / 3), 1e-3)
+                    << numberOf(r.kind) << " " << factor;
+            }
+        }
+    }
+}
+
+// One of the two is enough, and so is the factor of all sizes.
+TEST(RoundTrip, AnyOtherSizeOfADimensionsStyleIsAChange)
+{
+    for (const int code : {140, 41, 40}) {
+        const auto grow = [code](const std::string& type, const WrittenPair& group) {
+            return std::optional(type == "DIMSTYLE" && group.code == code ? "17.5" : group.value);
+        };
+        for (const Kind kind : {Kind::linearDimension, Kind::radialDimension}) {
+            const EntityRecord r = inWhite(made(kind));
+            const auto back = drawnObjects(readBack(edited(Drawing{r}.written().bytes, grow)));
+            EXPECT_TRUE(back.size() > 1 ||
+                        objectText(back.front()) != objectText(drawnObjects(Drawing{r}).front()))
+                << code << " " << numberOf(kind);
         }
     }
 }
