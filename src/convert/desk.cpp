@@ -19,7 +19,7 @@ void tell(const FullReport& report, Outcome& outcome)
     const std::string came = sentenceOfWhatCame(report);
     if (!left.empty()) outcome.remarks.push_back(left + (came.empty() ? "" : "; " + came + " came"));
     if (!report.hasUnits) outcome.remarks.emplace_back("no units: taken as inches");
-    if (const std::string moved = sentenceOfMove(report); !moved.empty()) outcome.remarks.push_back(moved);
+    if (const std::string place = sentenceOfPlace(report); !place.empty()) outcome.remarks.push_back(place);
 }
 
 // That there was no room is told by who writes what came.

@@ -1,5 +1,6 @@
 #include "exchange/full_reading.h"
 
+#include "exchange/far_drawings.h"
 #include "exchange/handlers.h"
 #include "exchange/own_data.h"
 #include "geometry/angle.h"
@@ -129,6 +130,15 @@ bool isOfOurPlaces(const DxfList& list, const FullReading& reading)
     return 2 * held > std::ssize(objects);
 }
 
+void placeFarDrawing(const DxfList& list, FullReading& reading)
+{
+    const auto& objects = reading.drawing.objects;
+    const double worldPerFile = reading.placing.worldPerFile;
+    if (!isFar(objects, worldPerFile)) return;
+    if (!isOfOurPlaces(list, reading)) reading.placing.move = moveToOrigin(objects, worldPerFile);
+    reading.inexact = countOfInexact(objects, reading.placing);
+}
+
 void takeLayers(LayerTable& table, const MadeDrawing& drawing)
 {
     table.layerCount = 0;
@@ -181,8 +191,7 @@ FullReading readInFull(std::string_view bytes, UnitsIfNone unitsIfNone)
     DrawingMaker maker(list, toleranceOf(reading.placing.worldPerFile), handlerOf);
     drawEntities(list, maker);
     reading.drawing = maker.finish();
-    if (!isOfOurPlaces(list, reading))
-        reading.placing.move = moveToOrigin(boundsOf(reading.drawing.objects), reading.placing.worldPerFile);
+    placeFarDrawing(list, reading);
     return reading;
 }
 

@@ -20,6 +20,7 @@ struct UnitsIfNone {
 struct FullReading {
     MadeDrawing drawing;
     Placing placing;
+    std::int64_t inexact = 0; // objects too far off for 32 bits to hold a hundredth of a unit
     bool hasUnits = true;
     bool isDxf = true;
     bool isCut = false; // the file has no end

@@ -13,12 +13,6 @@
 namespace mirtane {
 namespace {
 
-// A multiple of step that takes low close to 0, so that a user can tell the old coordinates from the new.
-double roundMove(double low, double step)
-{
-    return -std::floor(low / step) * step;
-}
-
 Point placed(Vec p, const Placing& placing)
 {
     Point point;
@@ -78,27 +72,7 @@ void placeText(EntityRecord& r, const Made& made, float size)
     r.style = 0;
 }
 
-// Whether numbers of 32 bits hold it better once it is moved.
-bool isFiner(const Bounds& bounds, Vec move, double worldPerFile)
-{
-    const Bounds moved{bounds.low + move, bounds.high + move, true};
-    return std::ilogb(moved.reach() * worldPerFile) < std::ilogb(bounds.reach() * worldPerFile);
-}
-
 } // namespace
-
-Vec moveToOrigin(const Bounds& bounds, double worldPerFile)
-{
-    constexpr double farthest = 131072; // from here on neighbouring numbers are more than a hundredth apart
-    if (!bounds.fed || bounds.reach() * worldPerFile < farthest) return {};
-    const double size = std::max(bounds.size(), 1e-9 * bounds.reach());
-    const double step = std::pow(10, std::ceil(std::log10(size)) - 1);
-    for (const double one : {step, step / 10}) {
-        const Vec move{roundMove(bounds.low.x, one), roundMove(bounds.low.y, one)};
-        if (isFiner(bounds, move, worldPerFile)) return move;
-    }
-    return {};
-}
 
 bool isHeldAsItStands(const Made& made, double worldPerFile)
 {

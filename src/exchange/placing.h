@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exchange/bounds.h"
+#include "exchange/made.h"
 #include "tables/entity_record.h"
 
 namespace mirtane {
@@ -10,10 +10,6 @@ struct Placing {
     double worldPerFile = 12;
     Vec move; // before, in the file's units
 };
-
-// What has to be added to what lies within the bounds so that 32 bits hold a hundredth of a unit of the
-// drawing: nothing where they do so as it is, or would not near the origin either.
-Vec moveToOrigin(const Bounds& bounds, double worldPerFile);
 
 // Whether 32 bits hold all its places as the file says them.
 bool isHeldAsItStands(const Made& made, double worldPerFile);

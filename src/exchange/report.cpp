@@ -68,8 +68,9 @@ void append(std::string& sentence, const std::string& part)
 
 FullReport reportOf(const FullReading& reading, const TakenReading& taken)
 {
-    FullReport report{reading.drawing.leftOut, taken.withoutRoom, {},           reading.placing.move,
-                      reading.hasUnits,        reading.isDxf,     reading.isCut};
+    FullReport report{reading.drawing.leftOut, taken.withoutRoom, {},
+                      reading.placing.move,    reading.inexact,   reading.hasUnits,
+                      reading.isDxf,           reading.isCut};
     for (const Made& one : std::span(reading.drawing.objects).first(taken.objects)) ++report.came[one.kind];
     return report;
 }
@@ -115,6 +116,14 @@ std::string sentenceOfMove(const FullReport& report)
 {
     if (report.moved == Vec{}) return {};
     return "moved by " + plainNumber(report.moved.x) + ", " + plainNumber(report.moved.y);
+}
+
+std::string sentenceOfPlace(const FullReport& report)
+{
+    std::string sentence = sentenceOfMove(report);
+    if (report.inexact == 0) return sentence;
+    if (!sentence.empty()) sentence += "; ";
+    return sentence + withName(report.inexact, "object", "objects") + " too far off to be exact";
 }
 
 } // namespace mirtane

@@ -11,7 +11,8 @@ struct FullReport {
     LeftOut leftOut;
     std::int64_t withoutRoom = 0;
     std::map<Kind, std::int64_t> came;
-    Vec moved; // by so much, in the file's units
+    Vec moved;                // by so much, in the file's units
+    std::int64_t inexact = 0; // objects too far off to be held exactly
     bool hasUnits = true;
     bool isDxf = true;
     bool isCut = false;
@@ -31,5 +32,7 @@ std::string sentenceOfLeftOut(const FullReport& report);
 
 // "moved by -531000, -182000"; empty if it was not.
 std::string sentenceOfMove(const FullReport& report);
+// The same, and what is so far off all the same that it is not exact.
+std::string sentenceOfPlace(const FullReport& report);
 
 } // namespace mirtane

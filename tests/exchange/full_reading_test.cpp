@@ -120,6 +120,99 @@ TEST(FarDrawings, OnePointFarOffIsMoved)
     EXPECT_NEAR(moved.y, 8000000.25, 1);
 }
 
+// Posts of a fence, a quarter of a unit of the file apart, each with a knob.
+std::string fence(double x, double y, int posts, const std::string& layer = "0")
+{
+    std::string all;
+    for (int i = 0; i < posts; ++i) {
+        const std::string at = std::to_string(x + 0.25 * i), foot = std::to_string(y);
+        all += dxf({{0, "LINE"}, {8, layer}, {10, at}, {20, foot}, {11, at}, {21, std::to_string(y + 0.2)}});
+        all += dxf({{0, "CIRCLE"}, {8, layer}, {10, at}, {20, foot}, {40, "0.05"}});
+    }
+    return all;
+}
+
+std::string hiddenLayer()
+{
+    return section("TABLES", dxf({{0, "LAYER"}, {2, "off"}, {62, "-3"}}));
+}
+
+TEST(FarDrawings, AFewObjectsElsewhereDoNotCostTheOthersTheirExactness)
+{
+    const std::string mark = lineOf("0.3", "0.7", "1.1", "9.7") + lineOf("1.1", "9.7", "2.3", "0.1");
+    const std::string title =
+        dxf({{0, "TEXT"}, {8, "off"}, {10, "3.3"}, {20, "4.1"}, {40, "2.5"}, {1, "Site"}});
+    struct Row {
+        const char* what;
+        std::string units, others;
+        double x, y;
+        int posts;
+        const char* said;
+    };
+    const Row rows[] = {
+        {"a point at the origin", "6", dxf({{0, "POINT"}, {10, "0"}, {20, "0"}}), 692417.3, 5336014.8, 1,
+         "moved by -692417.2, -5336014.7; 1 object too far off to be exact"},
+        {"a mark at the origin", "6", mark, 692417.3, 5336014.8, 30,
+         "moved by -692417, -5336014; 2 objects too far off to be exact"},
+        {"a hidden title", "6", title, 31204.6, 94881.2, 12,
+         "moved by -31204, -94881; 1 object too far off to be exact"},
+        {"on the other side of the world", "4", mark + lineOf("77.7", "3e7", "88.8", "3.1e7"), -8123456.7,
+         -7654321.3, 400, "moved by 8123460, 7654330; 3 objects too far off to be exact"},
+        {"two heaps, one of them larger", "6", fence(5000.1, 104000.2, 20), 904000.3, 7000.4, 25,
+         "moved by -904000, -7000; 40 objects too far off to be exact"},
+        {"three heaps, none of them half", "6", fence(5000.1, 104000.2, 20) + fence(504000.1, 4.7, 20),
+         904000.3, 7000.4, 25, "moved by -904000, -7000; 80 objects too far off to be exact"},
+        {"one far off a drawing near the origin", "1", lineOf("400000.3", "0", "499999.9", "10.7"), 17.1,
+         33.3, 30, "1 object too far off to be exact"},
+    };
+    for (const Row& row : rows) {
+        for (const bool othersFirst : {true, false}) {
+            const std::string heap = fence(row.x, row.y, row.posts);
+            const FullReading r = readOf(units(row.units) + hiddenLayer() +
+                                         entities(othersFirst ? row.others + heap : heap + row.others));
+            EXPECT_EQ(sentenceOfPlace(reportOf(r, {})), row.said) << row.what;
+            const auto objects = objectsOf(r);
+            const std::size_t first =
+                othersFirst ? objects.size() - 2 * static_cast<std::size_t>(row.posts) : 0;
+            const EntityRecord& post = objects.at(first); // in the file's order
+            EXPECT_NEAR(post.p1.y - post.p2.y, 0.2 * r.placing.worldPerFile, 0.02) << row.what;
+            EXPECT_NEAR(post.p1.x, (row.x + r.placing.move.x) * r.placing.worldPerFile, 0.01) << row.what;
+        }
+    }
+}
+
+// Nor would a move gain much, where the drawing is large all over.
+TEST(FarDrawings, WhatIsNotExactIsSaidWhereNothingIsMoved)
+{
+    struct Row {
+        const char* what;
+        double step;
+        bool isExact;
+    };
+    const Row rows[] = {
+        {"a street", 33.3, true},
+        {"a town", 1333.3771, false},
+        {"as large, in whole units, all of which are held", 2000, true},
+    };
+    for (const Row& row : rows) {
+        std::string lines;
+        std::vector<double> ends;
+        for (int i = -50; i < 50; ++i) {
+            ends.push_back(row.step * i);
+            lines += lineOf(std::to_string(ends.back()), "17", std::to_string(ends.back()), "20");
+        }
+        const FullReading r = readOf(units("1") + entities(lines));
+        std::int64_t inexact = 0;
+        for (const double end : ends)
+            inexact += std::abs(static_cast<float>(12 * end) - 12 * end) > 0.01 ? 1 : 0;
+        EXPECT_EQ(inexact == 0, row.isExact) << row.what;
+        EXPECT_EQ(reportOf(r, {}).inexact, inexact) << row.what;
+        EXPECT_EQ(sentenceOfPlace(reportOf(r, {})),
+                  inexact == 0 ? "" : std::to_string(inexact) + " objects too far off to be exact")
+            << row.what;
+    }
+}
+
 TEST(PaperSpace, ComesOnlyWhereTheModelIsEmpty)
 {
     const std::string paper = dxf({{0, "LINE"}, {67, "1"}, {11, "4"}}) + dxf({{0, "VIEWPORT"}, {67, "1"}});

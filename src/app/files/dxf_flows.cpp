@@ -52,8 +52,8 @@ void tellOfReading(Notices& notices, const std::string& name, const FullReport& 
     if (report.isCut) left += (left.empty() ? "" : ", ") + std::string("the file is cut off");
     if (!left.empty() && report.withoutRoom == 0)
         notices.post({Matter::leftOut, name + ": " + left + ".", {{"Close", Offer::goOn}}});
-    if (const std::string moved = sentenceOfMove(report); !moved.empty())
-        notices.post({Matter::moved, name + ": " + moved + ".", {{"Close", Offer::goOn}}});
+    if (const std::string place = sentenceOfPlace(report); !place.empty())
+        notices.post({Matter::moved, name + ": " + place + ".", {{"Close", Offer::goOn}}});
     if (!report.hasUnits) askForUnits(notices, name);
 }
 
