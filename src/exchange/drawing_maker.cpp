@@ -82,6 +82,23 @@ bool hasSubstance(const DxfRecord& record, const RecordHandler& row)
     return row.shownBy[0] == 0 || std::ranges::any_of(row.shownBy, isThere);
 }
 
+// Of places x and y: how high a point lies is seldom seen.
+constexpr CodeSet placeCodes =
+    codes({10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29});
+
+bool isReadable(const DxfRecord& record, CodeSet numbers)
+{
+    const auto isBad = [numbers](const DxfGroup& group) {
+        return group.code >= 10 && group.code < 60 && (numbers >> group.code & 1) != 0 &&
+               isNoNumber(group.value);
+    };
+    if (std::ranges::any_of(record.groups, isBad)) return false;
+    const bool hasVertices = isSameName(record.type, "POLYLINE"); // other parts are records of their own
+    return !hasVertices || std::ranges::all_of(record.parts, [&](const DxfRecord& part) {
+        return isReadable(part, numbers);
+    });
+}
+
 bool losesLetters(const DxfRecord& record, const DxfList& list)
 {
     constexpr int words = 1, pieceOfWords = 3, wordsOfLeader = 304;
@@ -277,6 +294,7 @@ void DrawingMaker::record(const DxfRecord& record)
     const RecordHandler* const row = handlerOf_(record.type);
     if (row == nullptr) return leftOut(record.type);
     if (!hasSubstance(record, *row)) return leftOut(record.type, "not whole");
+    if (!isReadable(record, placeCodes | row->numbers)) return leftOut(record.type, "not whole");
     if (losesLetters(record, list_)) leftOut("TEXT", lettersLost);
     const Lent lookKept(look, looks_.of(record, insert_));
     const Lent recordKept(record_, &record);

@@ -13,6 +13,8 @@
 #include "exchange/transform.h"
 
 #include <array>
+#include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -21,11 +23,23 @@ namespace mirtane {
 
 class DrawingMaker;
 
-// What draws the records of a type, and the codes of which a record has at least one, or it shows nothing.
+// Codes below 64, a bit each.
+using CodeSet = std::uint64_t;
+
+constexpr CodeSet codes(std::initializer_list<int> all)
+{
+    CodeSet set = 0;
+    for (const int code : all) set |= CodeSet{1} << code;
+    return set;
+}
+
+// What draws the records of a type, the codes of which a record has at least one, or it shows nothing, and
+// those of numbers, besides its places, without which it can't be drawn.
 struct RecordHandler {
     std::string_view type;
     void (*take)(const DxfRecord& record, DrawingMaker& maker);
     std::array<int, 2> shownBy{};
+    CodeSet numbers{};
 };
 
 // Dots and lines, and the outline that stands for them; both are drawn where the outline is seen.

@@ -304,6 +304,87 @@ TEST(Report, RecordsThatSayNothingAreCounted)
     for (const auto& [what, count] : r.drawing.leftOut) EXPECT_EQ(what.second, "not whole") << what.first;
 }
 
+// Some programs write numbers as their user's country does.
+TEST(Numbers, ACommaCanStandForThePoint)
+{
+    struct Row {
+        const char* number;
+        double value;
+    };
+    const Row rows[] = {
+        {"7,25", 7.25},       {"-0,5", -0.5}, {",75", 0.75},     {"3,", 3},
+        {" 41,125 ", 41.125}, {"+2,5", 2.5},  {"1,25e1", 12.5},  {"123456,0000000000001", 123456},
+        {"2.5E+0", 2.5},      {"1e-400", 0},  {"-6.125", -6.125}};
+    for (const Row& row : rows) {
+        const FullReading r = readOf(units("1") + entities(lineOf(row.number, "3,5", "8", row.number)));
+        ASSERT_EQ(r.drawing.objects.size(), 1U) << row.number;
+        EXPECT_EQ(r.drawing.objects[0].p[0], (Vec{row.value, 3.5})) << row.number;
+        EXPECT_EQ(r.drawing.objects[0].p[1], (Vec{8, row.value})) << row.number;
+        EXPECT_TRUE(r.drawing.leftOut.empty()) << row.number;
+    }
+}
+
+// It would be drawn to the origin, or without a size.
+TEST(Numbers, ARecordWithOneThatCanNotBeReadIsLeftOut)
+{
+    const std::string vertices =
+        dxf({{0, "VERTEX"}, {10, "1"}, {20, "2"}, {0, "VERTEX"}, {10, "5"}, {20, "?"}});
+    struct Row {
+        std::string records;
+        const char* leftOut;
+    };
+    const Row rows[] = {
+        {lineOf("3", "4", "nan", "5"), "1 line (not whole) left out"},
+        {lineOf("3", "1e400", "7", "5"), "1 line (not whole) left out"},
+        {lineOf("3", "4", "7", "1,234,567"), "1 line (not whole) left out"},
+        {lineOf("3", "****", "7", "5"), "1 line (not whole) left out"},
+        {lineOf("3", "4", "7", "#######.###"), "1 line (not whole) left out"},
+        {lineOf("3", "4", "7", "1,234.5"), "1 line (not whole) left out"},
+        {lineOf("12 feet and a half", "4", "7", "5"), "1 line (not whole) left out"},
+        {lineOf("1.2345678901234567890123q", "4", "7", "5"), "1 line (not whole) left out"},
+        {dxf({{0, "CIRCLE"}, {10, "1"}, {20, "2"}, {40, "-nan"}}), "1 circle (not whole) left out"},
+        {dxf({{0, "ARC"}, {10, "1"}, {20, "2"}, {40, "3"}, {50, "inf"}}), "1 arc (not whole) left out"},
+        {dxf({{0, "POINT"}, {10, "-inf"}}), "1 point (not whole) left out"},
+        {dxf({{0, "ELLIPSE"}, {10, "1"}, {11, "3"}, {40, "x"}}), "1 ellipse (not whole) left out"},
+        {dxf({{0, "TEXT"}, {10, "1"}, {40, "tall"}, {1, "Hall"}}), "1 text (not whole) left out"},
+        {dxf({{0, "MTEXT"}, {10, "1"}, {20, "NaN"}, {40, "2"}, {1, "Hall"}}),
+         "1 paragraph (not whole) left out"},
+        {dxf({{0, "LWPOLYLINE"}, {10, "1"}, {20, "2"}, {42, "1.#QNAN"}, {10, "4"}, {20, "7"}}),
+         "1 polyline (not whole) left out"},
+        {dxf({{0, "POLYLINE"}}) + vertices + dxf({{0, "SEQEND"}}), "1 polyline (not whole) left out"},
+        {dxf({{0, "INSERT"}, {2, "B"}, {10, "1"}, {20, "2"}, {41, "none"}}), "1 block (not whole) left out"},
+    };
+    const std::string blocks = section("BLOCKS", block("B", lineOf("0", "0", "1", "1")));
+    for (const Row& row : rows) {
+        const FullReading r =
+            readOf(units("1") + blocks + entities(lineOf("0", "1", "2", "3") + row.records));
+        EXPECT_EQ(r.drawing.objects.size(), 1U) << row.records;
+        EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {1, 0})), row.leftOut) << row.records;
+    }
+}
+
+// What shows nothing of it: thickness, height above the ground, widths, what was measured.
+TEST(Numbers, ThoseThatAreNotDrawnNeedNotBeReadable)
+{
+    const std::string records[] = {
+        lineOf("3", "4", "7", "5") + dxf({{39, "nan"}, {30, "nan"}, {48, "x"}, {1040, "nan"}}),
+        dxf({{0, "LWPOLYLINE"},
+             {43, "nan"},
+             {38, "-"},
+             {10, "1"},
+             {20, "2"},
+             {40, "q"},
+             {10, "4"},
+             {20, "7"}}),
+        dxf({{0, "TEXT"}, {10, "1"}, {40, "2"}, {1, "nan"}, {41, "nan"}}),
+    };
+    for (const std::string& record : records) {
+        const FullReading r = readOf(units("1") + entities(record));
+        EXPECT_EQ(r.drawing.objects.size(), 1U) << record;
+        EXPECT_TRUE(r.drawing.leftOut.empty()) << record;
+    }
+}
+
 TEST(Report, LinesInSpaceAreLines)
 {
     const FullReading r = readOf(entities(dxf({{0, "3DLINE"}, {8, "0"}, {10, "1"}, {20, "2"}, {30, "9"}}) +
