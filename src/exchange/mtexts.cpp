@@ -77,7 +77,9 @@ void takeParagraphs(const DxfRecord& record, DrawingMaker& maker)
         form.height /= capitals;
         place.at = place.at + (1 - capitals) * form.height * place.up; // from the top of the capitals
     }
-    drawParagraphs(wordsOf(own, maker.list()), form, place, maker);
+    const std::string words = wordsOf(own, maker.list());
+    if (form.height == 0 && !words.empty()) return maker.leftOut(record.type, "of no height");
+    drawParagraphs(words, form, place, maker);
 }
 
 } // namespace mirtane

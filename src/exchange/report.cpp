@@ -33,6 +33,7 @@ struct TypeName {
 
 // Types whose name with an "s" behind it would not do.
 constexpr TypeName typeNames[] = {
+    {"", "object", "objects"},
     {"3DFACE", "face", "faces"},
     {"3DSOLID", "solid body", "solid bodies"},
     {"ACAD_PROXY_ENTITY", "object of another program", "objects of other programs"},

@@ -62,6 +62,7 @@ void takeLineOfText(const DxfRecord& record, int verticalCode, DrawingMaker& mak
     const double height = (hasOurHeight ? 1 / capitals : 1) * record.number(40, 1);
     const Vec up = ((mirrors & upsideDown) != 0 ? -height : height) * turnedLeft(way);
     MadeText text = plainLine(maker.list().text(record, 1));
+    if (height == 0 && !trimmed(text.words).empty()) return maker.leftOut(record.type, "of no height");
     text.face = maker.faceOf(record.name(7));
     text.justification = bySecond || ours ? justificationOf(horizontal) : std::int16_t{0};
     const double below = bySecond ? belowPoint(horizontal, vertical) : 0;

@@ -385,6 +385,34 @@ TEST(Numbers, ThoseThatAreNotDrawnNeedNotBeReadable)
     }
 }
 
+// They would come as texts that no one sees.
+TEST(Report, TextsOfNoHeightAreLeftOut)
+{
+    struct Row {
+        std::string records;
+        const char* leftOut;
+    };
+    const Row rows[] = {
+        {dxf({{0, "TEXT"}, {10, "1"}, {40, "0"}, {1, "Attic"}}), "1 text (of no height) left out"},
+        {dxf({{0, "MTEXT"}, {10, "1"}, {40, "0.0"}, {1, "Attic\\Pand roof"}}),
+         "1 paragraph (of no height) left out"},
+        {dxf({{0, "TEXT"}, {10, "1"}, {40, "0"}, {1, "  "}}), ""},
+        {dxf({{0, "MTEXT"}, {10, "1"}, {40, "0"}, {1, ""}}), ""},
+    };
+    for (const Row& row : rows) {
+        const FullReading r = readOf(units("1") + entities(row.records));
+        EXPECT_TRUE(r.drawing.objects.empty()) << row.records;
+        EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {0, 0})), row.leftOut) << row.records;
+    }
+}
+
+TEST(Report, RecordsWithoutATypeAreObjects)
+{
+    const FullReading r =
+        readOf(entities(dxf({{0, ""}, {10, "1"}, {0, " "}, {10, "2"}}) + dxf({{0, "IMAGE"}})));
+    EXPECT_EQ(sentenceOfLeftOut(reportOf(r, {0, 0})), "2 objects, 1 image left out");
+}
+
 TEST(Report, LinesInSpaceAreLines)
 {
     const FullReading r = readOf(entities(dxf({{0, "3DLINE"}, {8, "0"}, {10, "1"}, {20, "2"}, {30, "9"}}) +
