@@ -57,22 +57,25 @@ void setTrueColor(LetterForm& form, std::string_view argument)
     form.color.reset();
 }
 
+enum class Argument { words, number, factor };
+
 struct FormCode {
     char letter;
+    Argument argument;
     void (*set)(LetterForm& form, std::string_view argument);
 };
 
-// Codes with an argument that ends with a semicolon.
+// Codes with an argument that ends with a semicolon, which some programs leave out behind a number.
 constexpr FormCode formCodes[] = {
-    {'f', [](LetterForm& form, std::string_view a) { form.face = faceIn(a); }},
-    {'F', [](LetterForm& form, std::string_view a) { form.face = faceIn(a); }},
-    {'H', [](LetterForm& form, std::string_view a) { setSize(form.height, a); }},
-    {'W', [](LetterForm& form, std::string_view a) { setSize(form.widthFactor, a); }},
-    {'C', setColor},
-    {'c', setTrueColor},
-    {'A', [](LetterForm&, std::string_view) {}}, // on what height small letters stand
-    {'Q', [](LetterForm&, std::string_view) {}}, // slanted
-    {'T', [](LetterForm&, std::string_view) {}}, // letters apart
+    {'f', Argument::words, [](LetterForm& form, std::string_view a) { form.face = faceIn(a); }},
+    {'F', Argument::words, [](LetterForm& form, std::string_view a) { form.face = faceIn(a); }},
+    {'H', Argument::factor, [](LetterForm& form, std::string_view a) { setSize(form.height, a); }},
+    {'W', Argument::factor, [](LetterForm& form, std::string_view a) { setSize(form.widthFactor, a); }},
+    {'C', Argument::number, setColor},
+    {'c', Argument::number, setTrueColor},
+    {'A', Argument::number, [](LetterForm&, std::string_view) {}}, // on what height small letters stand
+    {'Q', Argument::number, [](LetterForm&, std::string_view) {}}, // slanted
+    {'T', Argument::number, [](LetterForm&, std::string_view) {}}, // letters apart
 };
 
 // "xqc" and the like: of all that a paragraph is, where its lines stand.
@@ -97,6 +100,7 @@ class CodeReader {
     void formed(char letter);
     void stacked();
     std::string_view argument();
+    std::string_view argument(Argument sort);
     void put(std::string_view words) { words_.append(words); }
     void endRun(Break after = Break::none);
     void setLine(bool underlined);
@@ -152,6 +156,18 @@ std::string_view CodeReader::argument()
     return found;
 }
 
+std::string_view CodeReader::argument(Argument sort)
+{
+    std::size_t end = std::min(rest_.find_first_not_of("+-.0123456789"), rest_.size());
+    if (sort == Argument::words || end == 0) return argument();
+    const std::string_view behind = rest_.substr(end);
+    if (sort == Argument::factor && (behind.starts_with('x') || behind.starts_with('X'))) ++end;
+    const std::string_view found = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    if (rest_.starts_with(';')) rest_.remove_prefix(1);
+    return found;
+}
+
 // A caret and a letter are a control sign; what stands for a blank or a tab stays.
 void CodeReader::caret()
 {
@@ -172,7 +188,7 @@ void CodeReader::formed(char letter)
     for (const FormCode& row : formCodes) {
         if (row.letter != letter) continue;
         endRun();
-        row.set(form_, argument());
+        row.set(form_, argument(row.argument));
         return;
     }
     put("\\"); // no code

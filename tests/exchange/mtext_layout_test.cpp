@@ -51,6 +51,28 @@ TEST(Mtext, CodesBecomeWhatTheyStandFor)
     for (const Row& row : rows) EXPECT_EQ(wordsOf(row.text), row.words) << row.text;
 }
 
+// Some programs leave out the semicolon behind a number.
+TEST(Mtext, ACodeWithoutItsEndTakesItsNumberAlone)
+{
+    struct Row {
+        const char* text;
+        const char* words;
+    };
+    const Row rows[] = {
+        {R"(\T1.4wide words)", "wide words|"},
+        {R"(a\Q15b\W0.8c\Q-7.5d)", "abcd|"},
+        {R"(\H3.5tall; so)", "tall; so|"},
+        {R"({\C3red} and {\c255blue})", "red and blue|"},
+        {R"({\A1{\H0.5xlow}} high)", "low high|"},
+        {R"(\T1.4;\T+2;end;)", "end;|"},
+        {R"(\Tno; more)", " more|"},
+    };
+    for (const Row& row : rows) EXPECT_EQ(wordsOf(row.text), row.words) << row.text;
+    EXPECT_EQ(letterRuns(R"(\H0.5xlow)", {.height = 8})[0].form.height, 4);
+    EXPECT_EQ(letterRuns(R"(\H6.25low)", {.height = 8})[0].form.height, 6.25);
+    EXPECT_EQ(letterRuns(R"(\C5low; down)", {})[0].form.color, 5);
+}
+
 TEST(Mtext, FormsHoldUntilTheBraceCloses)
 {
     const auto runs = letterRuns(R"(a{\H2x;\LB{\C3;\fIsocpeur|b0;c}d}\H5;e\c16711935;f)", {.height = 3});
