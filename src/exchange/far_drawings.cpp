@@ -108,6 +108,7 @@ Bounds heapOf(std::span<const Vec> places, double reach)
 // By the corner of the heap, or by its middle if it is too large for that.
 Vec moveOfHeap(const Bounds& heap, double reach)
 {
+    if (heap.reach() == 0) return {};
     const Vec size = heap.high - heap.low;
     const Vec at = std::max(size.x, size.y) > reach ? 0.5 * (heap.low + heap.high) : heap.low;
     const double step = stepFor(heap);

@@ -44,6 +44,9 @@ struct DxfInFull : testing::Test {
         desk.disk.files["/home/user/bare.dxf"] = bytesOf(withUnits(shapes, "0"));
         desk.disk.files["/home/user/far.dxf"] =
             bytesOf(withUnits("0\nLINE\n10\n531000\n20\n-182000\n11\n531020\n21\n-181990\n0\nIMAGE\n8\n0\n"));
+        desk.disk.files["/home/user/stray.dxf"] =
+            bytesOf(withUnits("0\nLINE\n10\n531000.3\n20\n-182000.1\n11\n531020.7\n21\n-181990\n"
+                              "0\nPOINT\n10\n0.3\n20\n0\n"));
         desk.disk.files["/home/user/words.dxf"] = bytesOf("Dear Sir,\nno drawing.\n");
     }
 
@@ -219,6 +222,12 @@ TEST_F(DxfInFull, SaysWhatWasLeftOutAndThatItWasMoved)
     EXPECT_EQ(said(), "far.dxf: 1 image left out.");
     desk.press("notice.Command1"_c);
     EXPECT_EQ(said(), "");
+}
+
+TEST_F(DxfInFull, SaysWhatIsTooFarOffToBeExact)
+{
+    startWith("stray.dxf");
+    EXPECT_EQ(said(), "stray.dxf: moved by -531000, 182010; 1 object too far off to be exact.");
 }
 
 TEST_F(DxfInFull, WhatIsNoDxfFileLeavesTheDrawingAsItIs)

@@ -297,6 +297,14 @@ TEST_F(Convert, DxfWithoutUnitsIsTakenAsInchesAloud)
     expectDone("window.dxf -o back.mtd");
 }
 
+TEST_F(Convert, WhatIsTooFarOffToBeExactIsSaidAloud)
+{
+    p.write("far.dxf", inInches +
+                           "0\nSECTION\n2\nENTITIES\n0\nLINE\n10\n7531000.3\n20\n2\n11\n7531002.7\n21\n4.7\n"
+                           "0\nPOINT\n10\n0.3\n20\n0\n0\nENDSEC\n0\nEOF\n");
+    expectRefused("far.dxf -o in.mtd", 0, "far.dxf: moved by -7531000, -2; 1 object too far off to be exact");
+}
+
 TEST_F(Convert, DxfOfAnotherProgramByTheLetterHasNothingToConvert)
 {
     p.write("foreign.dxf", foreignDxf);

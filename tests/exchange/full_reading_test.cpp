@@ -181,6 +181,15 @@ TEST(FarDrawings, AFewObjectsElsewhereDoNotCostTheOthersTheirExactness)
     }
 }
 
+TEST(FarDrawings, WhereMostLieAtTheOriginNothingIsMoved)
+{
+    std::string points;
+    for (int i = 0; i < 5; ++i) points += dxf({{0, "POINT"}, {10, "0"}, {20, "0"}});
+    const FullReading r = readOf(units("6") + entities(points + fence(692417.3, 5336014.8, 1)));
+    EXPECT_EQ(sentenceOfPlace(reportOf(r, {})), "2 objects too far off to be exact");
+    EXPECT_EQ(objectsOf(r)[0].p1, (Point{0, 0}));
+}
+
 // Nor would a move gain much, where the drawing is large all over.
 TEST(FarDrawings, WhatIsNotExactIsSaidWhereNothingIsMoved)
 {
