@@ -153,8 +153,8 @@ TEST(ReplacedFile, LeavesTheDrawingToTheNextStart)
         for (const EndRow& end : ends) {
             const std::string where = std::string(row.what) + ", " + end.what;
             SavedDesk desk;
-            const std::int32_t objects = livingObjects(desk.s.store);
             row.act(desk);
+            const std::int32_t objects = livingObjects(desk.s.store);
             const Bytes replaced = desk.disk.files[mill];
             end.act(desk);
             EXPECT_FALSE(desk.visible("frmfile"_c)) << where;
