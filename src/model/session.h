@@ -194,15 +194,15 @@ struct FileState {
     std::int16_t saveFollowUp = follow::nothing;
     std::string drawingName = "untitled.mtd";
     std::string drawingFile; // full path of what was opened or saved as this drawing, if anything was
-    std::optional<FileStamp> savedStamp;   // of that file as it was opened or saved, if it is there
-    std::optional<FileStamp> seenStamp;    // as it was when it was last looked at
-    std::string markedFile;                // the one that other programs know to be open here
-    std::string drawingFolder;             // the drawing's own; empty while it has none
-    std::int32_t changesBefore = 0;        // not saved either, of the run that the work was restored from
-    WorkMark savedMark;                    // the work at the last load or save
-    std::vector<bool> savedLiving;         // the slots that were alive then (model/work_mark.h)
-    std::string savedTime;                 // of that, local, "2026-11-22 14:32"
-    WorkMark keptMark;                     // the work as it was last kept, in case the program dies
+    std::optional<FileStamp> savedStamp; // of that file as it was opened or saved, if it is there
+    std::optional<FileStamp> seenStamp;  // as it was when it was last looked at
+    std::string markedFile;              // the one that other programs know to be open here
+    std::string drawingFolder;           // the drawing's own; empty while it has none
+    std::int32_t changesBefore = 0;      // not saved either, of the run that the work was restored from
+    WorkMark savedMark;                  // the work at the last load or save
+    std::vector<bool> savedLiving;       // the slots that were alive then (model/work_mark.h)
+    std::string savedTime;               // of that, local, "2026-11-22 14:32"
+    WorkMark keptMark;                   // the work as it was last kept, in case the program dies
     LibraryNames namedHere; // given here to what may be in no file of its own; some may be in use no more
     LibraryNames keptNames; // of what was kept with the work
     std::vector<std::string> leftWork; // what other runs left, by name; the last one is on offer
