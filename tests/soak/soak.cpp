@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <sys/time.h>
 #include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -18,7 +19,7 @@ namespace mirtane::soak {
 namespace {
 
 constexpr int eventsBetweenChecks = 100;
-constexpr unsigned secondsForThem = 30;
+constexpr long secondsForThem = 30;
 
 // One start of the program and all that is done with it.
 class Play {
@@ -84,9 +85,16 @@ extern "C" void onSignal(int number)
     _exit(128 + number);
 }
 
+// Seconds of the processor, for others may use it meanwhile; 0 for any number.
+void allow(long seconds)
+{
+    const itimerval once{{0, 0}, {seconds, 0}};
+    setitimer(ITIMER_PROF, &once, nullptr);
+}
+
 void tellAtTheEnd()
 {
-    std::signal(SIGALRM, onSignal); // an event that does not end
+    std::signal(SIGPROF, onSignal); // an event that does not end
 #if defined(__SANITIZE_ADDRESS__)
     __sanitizer_set_death_callback(tellWhatWasUnderWay);
     std::signal(SIGABRT, onSignal);
@@ -104,10 +112,10 @@ std::string playSession(std::uint64_t seed, int events, std::int64_t& played)
     tellAtTheEnd();
     std::string fault;
     while (fault.empty() && !play->ended() && play->events() < static_cast<std::size_t>(events)) { // above 0
-        alarm(secondsForThem);
+        allow(secondsForThem);
         fault = play->goOn(play->events() + eventsBetweenChecks);
     }
-    alarm(0);
+    allow(0);
     underWay = nullptr;
     played += static_cast<std::int64_t>(play->events()); // some thousands
     return fault.empty() ? "" : play->keep(fault);
