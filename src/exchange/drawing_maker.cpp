@@ -56,58 +56,6 @@ bool isFinite(const Made& made)
            std::isfinite(made.from + made.to + made.ratio + made.rotation + made.radius + made.size);
 }
 
-// By its letters, as numbers cost them: those of texts are laid out one by one.
-std::size_t lettersOf(const DxfRecord& record)
-{
-    constexpr std::size_t ofCode = 8, ofTextLetter = 32;
-    std::size_t letters = 0;
-    for (const DxfGroup& group : record.groups) {
-        const bool isText = group.code == 1 || group.code == 3;
-        letters += group.value.size() * (isText ? ofTextLetter : 1) + ofCode;
-    }
-    for (const DxfRecord& part : record.parts) letters += lettersOf(part);
-    return letters;
-}
-
-// What it costs to go through a record, besides what is drawn of it; 1 for a short one.
-std::int64_t costOf(const DxfRecord& record)
-{
-    constexpr std::size_t lettersOfShort = 256;
-    return 1 + static_cast<std::int64_t>(lettersOf(record) / lettersOfShort); // far below what it holds
-}
-
-bool hasSubstance(const DxfRecord& record, const RecordHandler& row)
-{
-    const auto isThere = [&record](int code) { return code != 0 && record.has(code); };
-    return row.shownBy[0] == 0 || std::ranges::any_of(row.shownBy, isThere);
-}
-
-// Of places x and y: how high a point lies is seldom seen.
-constexpr CodeSet placeCodes =
-    codes({10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29});
-
-bool isReadable(const DxfRecord& record, CodeSet numbers)
-{
-    const auto isBad = [numbers](const DxfGroup& group) {
-        return group.code >= 10 && group.code < 60 && (numbers >> group.code & 1) != 0 &&
-               isNoNumber(group.value);
-    };
-    if (std::ranges::any_of(record.groups, isBad)) return false;
-    const bool hasVertices = isSameName(record.type, "POLYLINE"); // other parts are records of their own
-    return !hasVertices || std::ranges::all_of(record.parts, [&](const DxfRecord& part) {
-        return isReadable(part, numbers);
-    });
-}
-
-bool losesLetters(const DxfRecord& record, const DxfList& list)
-{
-    constexpr int words = 1, pieceOfWords = 3, wordsOfLeader = 304;
-    return std::ranges::any_of(record.groups, [&list](const DxfGroup& group) {
-        const bool isText = group.code == words || group.code == pieceOfWords || group.code == wordsOfLeader;
-        return isText && list.coding.losesLettersOf(group.value);
-    });
-}
-
 // A value that lasts until the end of a block of code, which puts the old one back.
 template <class Value> class Lent {
   public:
@@ -293,8 +241,7 @@ void DrawingMaker::record(const DxfRecord& record)
     if (record.whole(invisible) == 1) return leftOut(record.type, "invisible");
     const RecordHandler* const row = handlerOf_(record.type);
     if (row == nullptr) return leftOut(record.type);
-    if (!hasSubstance(record, *row)) return leftOut(record.type, "not whole");
-    if (!isReadable(record, placeCodes | row->numbers)) return leftOut(record.type, "not whole");
+    if (!isWhole(record, row->shownBy, row->numbers)) return leftOut(record.type, "not whole");
     if (losesLetters(record, list_)) leftOut("TEXT", lettersLost);
     const Lent lookKept(look, looks_.of(record, insert_));
     const Lent recordKept(record_, &record);

@@ -9,12 +9,12 @@
 #include "exchange/hatch_lines.h"
 #include "exchange/looks.h"
 #include "exchange/made.h"
+#include "exchange/record_checks.h"
 #include "exchange/tangent_arcs.h"
 #include "exchange/transform.h"
 
 #include <array>
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -22,16 +22,6 @@
 namespace mirtane {
 
 class DrawingMaker;
-
-// Codes below 64, a bit each.
-using CodeSet = std::uint64_t;
-
-constexpr CodeSet codes(std::initializer_list<int> all)
-{
-    CodeSet set = 0;
-    for (const int code : all) set |= CodeSet{1} << code;
-    return set;
-}
 
 // What draws the records of a type, the codes of which a record has at least one, or it shows nothing, and
 // those of numbers, besides its places, without which it can't be drawn.
