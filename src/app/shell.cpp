@@ -214,13 +214,13 @@ void Shell::type(std::u32string_view characters)
 
 void Shell::choose(ControlId entry)
 {
-    keyUp(0);
+    event([&](App&) { spendHeldKeys(s_); });
     click(entry);
 }
 
 void Shell::shortcut(const Shortcut& keys)
 {
-    keyUp(0);
+    event([&](App&) { spendHeldKeys(s_); });
     if (keys.onDrawing && !drawingTakesKeys(s_)) return;
     if (keys.deed == Deed::press) return click(keys.control);
     eventOf(ids::drawing, [&](App& app) { doDeed(app, keys.deed); });

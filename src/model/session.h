@@ -108,6 +108,7 @@ struct Leg {
 
 struct CanvasInput {
     std::int16_t snapKey = 0;     // 1 Shift held, 2 Ctrl held
+    bool snapKeyIsSpent = false;  // what is down was held for a shortcut
     std::int16_t orthoSector = 1; // 1 to 4, as the last move chose it
     double orthoAngle = 0;        // radians
     double orthoAngleSaved = 0;   // what a cancel restores

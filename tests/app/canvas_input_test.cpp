@@ -1,4 +1,5 @@
 #include "desk.h"
+#include "tables/shortcuts.h"
 
 #include <gtest/gtest.h>
 
@@ -429,6 +430,29 @@ TEST(HeldKeys, AreAsThePointerTellsThemAndMoveNoFocus)
         EXPECT_EQ(desk.s.snapKey, row.after) << row.before << row.shift << row.ctrl;
         EXPECT_EQ(desk.s.controls.focus, ControlId("angle"_c));
     }
+}
+
+// Held on after a shortcut, Ctrl snaps only once it was let go.
+TEST(HeldKeys, ThatMadeAShortcutSnapNoMoreUntilTheyAreLetGo)
+{
+    for (const Shortcut& row : shortcuts) {
+        Desk desk;
+        desk.drawLine(100, 200, 700, 500);
+        desk.shell.keyDown(17);
+        desk.shell.shortcut(row);
+        desk.shell.keysHeld(false, true);
+        EXPECT_EQ(desk.s.snapKey, 0) << row.keys;
+        desk.shell.keysHeld(true, true);
+        EXPECT_EQ(desk.s.snapKey, 0) << row.keys;
+        desk.shell.keysHeld(false, false);
+        desk.shell.keysHeld(false, true);
+        EXPECT_EQ(desk.s.snapKey, 2) << row.keys;
+    }
+    Desk desk;
+    desk.shell.choose("ly3"_c);
+    desk.shell.keyDown(17); // anew
+    desk.shell.keysHeld(false, true);
+    EXPECT_EQ(desk.s.snapKey, 2);
 }
 
 struct PanRow {

@@ -190,6 +190,7 @@ void canvasKeyDown(Session& s, Canvas& pic1, int code)
         double widths, heights;
     };
     static constexpr Pan pans[] = {{37, -0.1, 0}, {38, 0, -0.1}, {39, 0.1, 0}, {40, 0, 0.1}};
+    if (code == 16 || code == 17) s.snapKeyIsSpent = false;
     if (code == 16) s.snapKey = 1;
     if (code == 17) s.snapKey = 2;
     for (const Pan& p : pans) {
@@ -205,8 +206,16 @@ void canvasKeyUp(CanvasInput& s)
     s.snapKey = 0;
 }
 
+void spendHeldKeys(CanvasInput& s)
+{
+    s.snapKey = 0;
+    s.snapKeyIsSpent = true;
+}
+
 void canvasKeysHeld(CanvasInput& s, bool shift, bool ctrl)
 {
+    if (!shift && !ctrl) s.snapKeyIsSpent = false;
+    if (s.snapKeyIsSpent) return;
     const bool asKnown = (s.snapKey == 1 && shift) || (s.snapKey == 2 && ctrl);
     if (asKnown) return;
     s.snapKey = ctrl ? 2 : 0;

@@ -10,6 +10,8 @@ void canvasMouseDown(Session& s, Canvas& pic1, int button, Point at);
 void canvasMouseMove(Session& s, Canvas& pic1, Point at);
 void canvasKeyDown(Session& s, Canvas& pic1, int code);
 void canvasKeyUp(CanvasInput& s);
+// A shortcut was made with the keys that are down: until they are let go they snap no more.
+void spendHeldKeys(CanvasInput& s);
 // Which of the keys that snap while they are held are down, as the pointer tells it: they may have gone down
 // or up where another control had the keys.
 void canvasKeysHeld(CanvasInput& s, bool shift, bool ctrl);
